@@ -1,0 +1,43 @@
+#include <ZKStrings/catalogue/KeyRule.h>
+#include <ZKStrings/platform/UnicodeText.h>
+
+namespace zk {
+
+namespace {
+
+/// The letter that stands for `character` behind a backslash in source code; 0 for those written as they are.
+char escapeLetter(std::string_view character) {
+  if (character == "\n") return 'n';
+  if (character == "\t") return 't';
+  if (character == "\r") return 'r';
+  return 0;
+}
+
+}  // namespace
+
+std::string keyForText(std::string_view text) {
+  std::string key;
+  std::size_t length = 0;
+  const auto append = [&](std::string_view character) {
+    if (length == kLongestKey) return;
+    key += character;
+    ++length;
+  };
+  bool isBehindGap = false;
+  while (!text.empty()) {
+    const CodePoint next = firstCodePoint(text);
+    text.remove_prefix(next.bytes.size());
+    const char escape = escapeLetter(next.bytes);
+    const bool isKept = next.value && isLetterMarkOrDigit(*next.value);
+    if (!isKept) isBehindGap = true;  // also before the letter of an escape: there stands its backslash
+    if (!isKept && escape == 0) continue;
+
+    const bool beginsWithDigit = key.empty() && isKept && isDecimalDigit(*next.value);
+    if (beginsWithDigit || (isBehindGap && !key.empty())) append("_");
+    append(isKept ? next.bytes : std::string_view(&escape, 1));
+    isBehindGap = false;
+  }
+  return key;
+}
+
+}  // namespace zk

@@ -1,0 +1,2865 @@
+#pragma once
+
+// Generated from catalogue/entries.json by `zkstrings generate`. Do not edit: change the catalogue instead.
+// clang-format off
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include <ZKStrings/platform/Export.h>
+
+namespace zk {
+
+/// The catalogue: one accessor for each text of the app, named as the entry's key, giving the text in the user's
+/// language. Text arguments fill the placeholders of the same name; `count`, the last argument of counted entries,
+/// chooses the plural form and is filled in nowhere. Each comment shows the English text.
+///
+///     std::string title = zk::ZKStrings::badgeCount_Badges("4", 4);
+///
+/// Any thread may call any accessor, once `zk::Current::language` has been assigned.
+struct ZK_EXPORT ZKStrings {
+  ZKStrings() = delete;
+
+  /// "1st"
+  [[nodiscard]] static std::string _1st();
+
+  /// "2nd"
+  [[nodiscard]] static std::string _2nd();
+
+  /// "3rd"
+  [[nodiscard]] static std::string _3rd();
+
+  /// "A cashout request has already been submitted."
+  [[nodiscard]] static std::string A_cashout_request_has_already_been_submitted();
+
+  /// "A phone number is required"
+  [[nodiscard]] static std::string A_phone_number_is_required();
+
+  /// "A valid country is required"
+  [[nodiscard]] static std::string A_valid_country_is_required();
+
+  /// "A valid PayPal email address is required"
+  [[nodiscard]] static std::string A_valid_PayPal_email_address_is_required();
+
+  /// "About"
+  [[nodiscard]] static std::string About();
+
+  /// "Accept"
+  [[nodiscard]] static std::string Accept();
+
+  /// "Accept friend"
+  [[nodiscard]] static std::string Accept_friend();
+
+  /// "Account"
+  [[nodiscard]] static std::string Account();
+
+  /// "%{active}/%{limit} players"
+  [[nodiscard]] static std::string active_limit_players(std::string_view active, std::string_view limit);
+
+  /// "Add"
+  [[nodiscard]] static std::string Add();
+
+  /// "Add friend"
+  [[nodiscard]] static std::string Add_friend();
+
+  /// "Add Friends on ZK"
+  [[nodiscard]] static std::string Add_Friends_on_ZK();
+
+  /// "Add people you know"
+  [[nodiscard]] static std::string Add_people_you_know();
+
+  /// "Agree and Continue"
+  [[nodiscard]] static std::string Agree_and_Continue();
+
+  /// "Airing Soon"
+  [[nodiscard]] static std::string Airing_Soon();
+
+  /// "All shows have been reviewed! You’re all set for cashing out. Learn more"
+  [[nodiscard]] static std::string All_shows_have_been_reviewed_You_re_all_set_for_cashing_out_Learn_more();
+
+  /// "All time"
+  [[nodiscard]] static std::string All_time();
+
+  /// "Allow ZK access to your camera so you can take photos during the game."
+  [[nodiscard]] static std::string Allow_ZK_access_to_your_camera_so_you_can_take_photos_during_the_game();
+
+  /// "Already submitted"
+  [[nodiscard]] static std::string Already_submitted();
+
+  /// "An error occurred while accepting request."
+  [[nodiscard]] static std::string An_error_occurred_while_accepting_request();
+
+  /// "An error occurred while blocking user."
+  [[nodiscard]] static std::string An_error_occurred_while_blocking_user();
+
+  /// "An error occurred while cancelling request."
+  [[nodiscard]] static std::string An_error_occurred_while_cancelling_request();
+
+  /// "An error occurred while retrieving user."
+  [[nodiscard]] static std::string An_error_occurred_while_retrieving_user();
+
+  /// "An error occurred while retrieving your profile."
+  [[nodiscard]] static std::string An_error_occurred_while_retrieving_your_profile();
+
+  /// "An error occurred while sending friend request to user."
+  [[nodiscard]] static std::string An_error_occurred_while_sending_friend_request_to_user();
+
+  /// "An error occurred while unfriending user."
+  [[nodiscard]] static std::string An_error_occurred_while_unfriending_user();
+
+  /// "An update to the latest version of the app is required"
+  [[nodiscard]] static std::string An_update_to_the_latest_version_of_the_app_is_required();
+
+  /// "and <b>Rules</b>"
+  [[nodiscard]] static std::string and_b_Rules_b();
+
+  /// "Answer questions, think fast"
+  [[nodiscard]] static std::string Answer_questions_think_fast();
+
+  /// "Answer trivia questions to win rewards!"
+  [[nodiscard]] static std::string Answer_trivia_questions_to_win_rewards();
+
+  /// "Apple"
+  [[nodiscard]] static std::string Apple();
+
+  /// "Apply referral code"
+  [[nodiscard]] static std::string Apply_referral_code();
+
+  /// "Approved"
+  [[nodiscard]] static std::string Approved();
+
+  /// "Are you sure you want to block %{username}?"
+  [[nodiscard]] static std::string Are_you_sure_you_want_to_block_username(std::string_view username);
+
+  /// "Are you sure you want to cashout to PayPal account %{email}?"
+  [[nodiscard]] static std::string Are_you_sure_you_want_to_cashout_to_PayPal_account_email(std::string_view email);
+
+  /// "Are you sure you want to kick %{username}?"
+  [[nodiscard]] static std::string Are_you_sure_you_want_to_kick_username(std::string_view username);
+
+  /// "Are you sure you want to leave the game?"
+  [[nodiscard]] static std::string Are_you_sure_you_want_to_leave_the_game();
+
+  /// "Are you sure you want to logout?"
+  [[nodiscard]] static std::string Are_you_sure_you_want_to_logout();
+
+  /// "Art & Design"
+  [[nodiscard]] static std::string Art_Design();
+
+  /// "Available"
+  [[nodiscard]] static std::string Available();
+
+  /// "Available Balance"
+  [[nodiscard]] static std::string Available_Balance();
+
+  /// "<b>Back in the game!</b> You used an Extra Life."
+  [[nodiscard]] static std::string b_Back_in_the_game_b_You_used_an_Extra_Life();
+
+  /// "<b>Error loading schedule</b>"
+  [[nodiscard]] static std::string b_Error_loading_schedule_b();
+
+  /// "<b>Game now live</b>"
+  [[nodiscard]] static std::string b_Game_now_live_b();
+
+  /// "<b>No games scheduled</b>"
+  [[nodiscard]] static std::string b_No_games_scheduled_b();
+
+  /// "<b>Privacy Policy</b>,"
+  [[nodiscard]] static std::string b_Privacy_Policy_b();
+
+  /// "<b>Terms of Service</b>,"
+  [[nodiscard]] static std::string b_Terms_of_Service_b();
+
+  /// "<b>Terms of Use</b>,"
+  [[nodiscard]] static std::string b_Terms_of_Use_b();
+
+  /// "Back in the game!"
+  [[nodiscard]] static std::string Back_in_the_game();
+
+  /// "Back in the game! You used an Extra Life."
+  [[nodiscard]] static std::string Back_in_the_game_You_used_an_Extra_Life();
+
+  /// "Badge unlocked!"
+  [[nodiscard]] static std::string Badge_unlocked();
+
+  /// "%{badgeCount} Badges"
+  /// - 0: "No Badges yet"
+  /// - 1: "%{badgeCount} Badge"
+  /// - 2: "%{badgeCount} Badges"
+  /// - 3 to 5: "%{badgeCount} Badges"
+  /// - 6 and more: "%{badgeCount} Badges"
+  [[nodiscard]] static std::string badgeCount_Badges(std::string_view badgeCount, std::int64_t count);
+
+  /// "%{badgeCount} Badges unlocked!"
+  [[nodiscard]] static std::string badgeCount_Badges_unlocked(std::string_view badgeCount);
+
+  /// "%{badgeName} Level %{level}"
+  [[nodiscard]] static std::string badgeName_Level_level(std::string_view badgeName, std::string_view level);
+
+  /// "Badges"
+  [[nodiscard]] static std::string Badges();
+
+  /// "Badges in this set"
+  [[nodiscard]] static std::string Badges_in_this_set();
+
+  /// "Balance"
+  [[nodiscard]] static std::string Balance();
+
+  /// "Balance In Review"
+  [[nodiscard]] static std::string Balance_In_Review();
+
+  /// "Be prepared! Buy Extra Lives before the game begins."
+  [[nodiscard]] static std::string Be_prepared_Buy_Extra_Lives_before_the_game_begins();
+
+  /// "Be prepared! Buy Extra Lives for this game to help you win."
+  [[nodiscard]] static std::string Be_prepared_Buy_Extra_Lives_for_this_game_to_help_you_win();
+
+  /// "Be prepared! Buy more Extra Lives to help you win."
+  [[nodiscard]] static std::string Be_prepared_Buy_more_Extra_Lives_to_help_you_win();
+
+  /// "Beta"
+  [[nodiscard]] static std::string Beta();
+
+  /// "Block"
+  [[nodiscard]] static std::string Block();
+
+  /// "Block user"
+  [[nodiscard]] static std::string Block_user();
+
+  /// "Bonus:"
+  [[nodiscard]] static std::string Bonus();
+
+  /// "%{bonusStrikeCount} Bonus Strikes"
+  /// - 0: "%{bonusStrikeCount} Bonus Strikes"
+  /// - 1: "%{bonusStrikeCount} Bonus Strike"
+  /// - 2: "%{bonusStrikeCount} Bonus Strikes"
+  /// - 3 to 5: "%{bonusStrikeCount} Bonus Strikes"
+  /// - 6 and more: "%{bonusStrikeCount} Bonus Strikes"
+  [[nodiscard]] static std::string bonusStrikeCount_Bonus_Strikes(std::string_view bonusStrikeCount, std::int64_t count);
+
+  /// "Boost"
+  [[nodiscard]] static std::string Boost();
+
+  /// "Boosted"
+  [[nodiscard]] static std::string Boosted();
+
+  /// "Bundle"
+  [[nodiscard]] static std::string Bundle();
+
+  /// "Business"
+  [[nodiscard]] static std::string Business();
+
+  /// "Buy"
+  [[nodiscard]] static std::string Buy();
+
+  /// "Buy More Coins"
+  [[nodiscard]] static std::string Buy_More_Coins();
+
+  /// "By continuing, you agree to the %{terms} and %{pp}."
+  [[nodiscard]] static std::string By_continuing_you_agree_to_the_terms_and_pp(std::string_view terms, std::string_view pp);
+
+  /// "By entering you agree to the %{competition}"
+  [[nodiscard]] static std::string By_entering_you_agree_to_the_competition(std::string_view competition);
+
+  /// "By signing up you agree to the"
+  [[nodiscard]] static std::string By_signing_up_you_agree_to_the();
+
+  /// "By signing up you agree to the\n %{terms}, %{privacy}, and %{rules}"
+  [[nodiscard]] static std::string By_signing_up_you_agree_to_the_n_terms_privacy_and_rules(std::string_view terms, std::string_view privacy, std::string_view rules);
+
+  /// "By signing up you agree to the %{terms}, %{privacy}, and %{rules}"
+  [[nodiscard]] static std::string By_signing_up_you_agree_to_the_terms_privacy_and_rules(std::string_view terms, std::string_view privacy, std::string_view rules);
+
+  /// "By tapping Agree and continue you agree to the %{terms}, %{privacy}, and %{rules}"
+  [[nodiscard]] static std::string By_tapping_Agree_and_continue_you_agree_to_the_terms_privacy_and_rules(std::string_view terms, std::string_view privacy, std::string_view rules);
+
+  /// "By tapping Get Started, an SMS may be sent. Message & data rates may apply."
+  [[nodiscard]] static std::string By_tapping_Get_Started_an_SMS_may_be_sent_Message_data_rates_may_apply();
+
+  /// "By tapping Next, an SMS may be sent. Message & data rates may apply."
+  [[nodiscard]] static std::string By_tapping_Next_an_SMS_may_be_sent_Message_data_rates_may_apply();
+
+  /// "Calculating rewards"
+  [[nodiscard]] static std::string Calculating_rewards();
+
+  /// "Call me"
+  [[nodiscard]] static std::string Call_me();
+
+  /// "Camera Access Disabled"
+  [[nodiscard]] static std::string Camera_Access_Disabled();
+
+  /// "Can retry in %{seconds}"
+  [[nodiscard]] static std::string Can_retry_in_seconds(std::string_view seconds);
+
+  /// "Can't Cashout"
+  [[nodiscard]] static std::string Can_t_Cashout();
+
+  /// "Cancel"
+  [[nodiscard]] static std::string Cancel();
+
+  /// "Cashout"
+  [[nodiscard]] static std::string Cashout();
+
+  /// "Cashout %{amount}"
+  [[nodiscard]] static std::string Cashout_amount(std::string_view amount);
+
+  /// "Cashout Complete"
+  [[nodiscard]] static std::string Cashout_Complete();
+
+  /// "Cashout Currently Disabled"
+  [[nodiscard]] static std::string Cashout_Currently_Disabled();
+
+  /// "Cashout for one or more shows that you have won is temporarily disabled. Please try again later."
+  [[nodiscard]] static std::string Cashout_for_one_or_more_shows_that_you_have_won_is_temporarily_disabled_Please_try_again_later();
+
+  /// "Cashout with PayPal"
+  [[nodiscard]] static std::string Cashout_with_PayPal();
+
+  /// "Cashouts are currently disabled. Please try again later."
+  [[nodiscard]] static std::string Cashouts_are_currently_disabled_Please_try_again_later();
+
+  /// "Cashouts are disabled"
+  [[nodiscard]] static std::string Cashouts_are_disabled();
+
+  /// "Cashouts to PayPal are temporarily disabled. Please contact customer support."
+  [[nodiscard]] static std::string Cashouts_to_PayPal_are_temporarily_disabled_Please_contact_customer_support();
+
+  /// "Categories"
+  [[nodiscard]] static std::string Categories();
+
+  /// "Category"
+  [[nodiscard]] static std::string Category();
+
+  /// "Change username"
+  [[nodiscard]] static std::string Change_username();
+
+  /// "Charity donations are temporarily disabled. Please contact customer support."
+  [[nodiscard]] static std::string Charity_donations_are_temporarily_disabled_Please_contact_customer_support();
+
+  /// "Choose from camera roll"
+  [[nodiscard]] static std::string Choose_from_camera_roll();
+
+  /// "Choose from Photos"
+  [[nodiscard]] static std::string Choose_from_Photos();
+
+  /// "Choose the show you heard about and enter your friend’s referral code to earn a reward"
+  [[nodiscard]] static std::string Choose_the_show_you_heard_about_and_enter_your_friend_s_referral_code_to_earn_a_reward();
+
+  /// "Chosen username already exists"
+  [[nodiscard]] static std::string Chosen_username_already_exists();
+
+  /// "Close"
+  [[nodiscard]] static std::string Close();
+
+  /// "Code"
+  [[nodiscard]] static std::string Code();
+
+  /// "Code sent. Retry in %{seconds}"
+  [[nodiscard]] static std::string Code_sent_Retry_in_seconds(std::string_view seconds);
+
+  /// "Coins"
+  [[nodiscard]] static std::string Coins();
+
+  /// "Coins"
+  /// - 0: "Coins"
+  /// - 1: "Coin"
+  /// - 2: "Coins"
+  /// - 3 to 5: "Coins"
+  /// - 6 and more: "Coins"
+  [[nodiscard]] static std::string Coins(std::int64_t count);
+
+  /// "coins"
+  [[nodiscard]] static std::string coins();
+
+  /// "+%{coinsPurchased} coins"
+  [[nodiscard]] static std::string coinsPurchased_coins(std::string_view coinsPurchased);
+
+  /// "Cold"
+  [[nodiscard]] static std::string Cold();
+
+  /// "Collect"
+  [[nodiscard]] static std::string Collect();
+
+  /// "Color Test"
+  [[nodiscard]] static std::string Color_Test();
+
+  /// "Come back into the game for your chance to win."
+  [[nodiscard]] static std::string Come_back_into_the_game_for_your_chance_to_win();
+
+  /// "Coming Soon"
+  [[nodiscard]] static std::string Coming_Soon();
+
+  /// "Coming soon. To get in early, play near someone with access and their nearby setting enabled."
+  [[nodiscard]] static std::string Coming_soon_To_get_in_early_play_near_someone_with_access_and_their_nearby_setting_enabled();
+
+  /// "Complete!"
+  [[nodiscard]] static std::string Complete();
+
+  /// "Confirm"
+  [[nodiscard]] static std::string Confirm();
+
+  /// "Confirm email"
+  [[nodiscard]] static std::string Confirm_email();
+
+  /// "Congratulations!"
+  [[nodiscard]] static std::string Congratulations();
+
+  /// "Congratulations!\nTell your friends!"
+  [[nodiscard]] static std::string Congratulations_n_Tell_your_friends();
+
+  /// "Connect"
+  [[nodiscard]] static std::string Connect();
+
+  /// "Connect Address Book"
+  [[nodiscard]] static std::string Connect_Address_Book();
+
+  /// "Connect Contacts"
+  [[nodiscard]] static std::string Connect_Contacts();
+
+  /// "Connect Instagram"
+  [[nodiscard]] static std::string Connect_Instagram();
+
+  /// "Connect with your friends on ZK. See their status during games and more secret friend features coming soon!"
+  [[nodiscard]] static std::string Connect_with_your_friends_on_ZK_See_their_status_during_games_and_more_secret_friend_features_coming();
+
+  /// "Connect your account to discover new Instagram users and get new followers from ZKX"
+  [[nodiscard]] static std::string Connect_your_account_to_discover_new_Instagram_users_and_get_new_followers_from_ZKX();
+
+  /// "Connect your contacts to find your friends on ZK"
+  [[nodiscard]] static std::string Connect_your_contacts_to_find_your_friends_on_ZK();
+
+  /// "%{contactCount} contacts on ZK"
+  /// - 0: "No contacts on ZK yet"
+  /// - 1: "%{contactCount} contact on ZK"
+  /// - 2: "%{contactCount} contacts on ZK"
+  /// - 3 to 5: "%{contactCount} contacts on ZK"
+  /// - 6 and more: "%{contactCount} contacts on ZK"
+  [[nodiscard]] static std::string contactCount_contacts_on_ZK(std::string_view contactCount, std::int64_t count);
+
+  /// "Continue"
+  [[nodiscard]] static std::string Continue();
+
+  /// "Continue playing with an extra life! Earn extra lives by inviting your friends."
+  [[nodiscard]] static std::string Continue_playing_with_an_extra_life_Earn_extra_lives_by_inviting_your_friends();
+
+  /// "Continue watching"
+  [[nodiscard]] static std::string Continue_watching();
+
+  /// "Continue with"
+  [[nodiscard]] static std::string Continue_with();
+
+  /// "Correct"
+  [[nodiscard]] static std::string Correct();
+
+  /// "correct"
+  [[nodiscard]] static std::string correct();
+
+  /// "Correct Answer"
+  [[nodiscard]] static std::string Correct_Answer();
+
+  /// "Correctly answer more %{category} questions to unlock this badge."
+  [[nodiscard]] static std::string Correctly_answer_more_category_questions_to_unlock_this_badge(std::string_view category);
+
+  /// "Could not find any nearby letters!"
+  [[nodiscard]] static std::string Could_not_find_any_nearby_letters();
+
+  /// "%{count} Playing"
+  [[nodiscard]] static std::string count_Playing(std::string_view count);
+
+  /// "Country"
+  [[nodiscard]] static std::string Country();
+
+  /// "Create profile"
+  [[nodiscard]] static std::string Create_profile();
+
+  /// "Crop avatar"
+  [[nodiscard]] static std::string Crop_avatar();
+
+  /// "Daily\nChallenge"
+  [[nodiscard]] static std::string Daily_nChallenge();
+
+  /// "Daily Questions"
+  [[nodiscard]] static std::string Daily_Questions();
+
+  /// "Day"
+  [[nodiscard]] static std::string Day();
+
+  /// "Days"
+  [[nodiscard]] static std::string Days();
+
+  /// "%{days} day streak complete!"
+  [[nodiscard]] static std::string days_day_streak_complete(std::string_view days);
+
+  /// "*%{days}-day streak!* Here's an Extra Life for your next game."
+  [[nodiscard]] static std::string days_day_streak_Here_s_an_Extra_Life_for_your_next_game(std::string_view days);
+
+  /// "Debug Options"
+  [[nodiscard]] static std::string Debug_Options();
+
+  /// "Decide Later"
+  [[nodiscard]] static std::string Decide_Later();
+
+  /// "Delete Avatar"
+  [[nodiscard]] static std::string Delete_Avatar();
+
+  /// "Disconnect %{account}"
+  [[nodiscard]] static std::string Disconnect_account(std::string_view account);
+
+  /// "Discover People"
+  [[nodiscard]] static std::string Discover_People();
+
+  /// "Discoverable nearby"
+  [[nodiscard]] static std::string Discoverable_nearby();
+
+  /// "Dislike"
+  [[nodiscard]] static std::string Dislike();
+
+  /// "Do you want to unlink your %{account} account?"
+  [[nodiscard]] static std::string Do_you_want_to_unlink_your_account_account(std::string_view account);
+
+  /// "Don't miss a game!"
+  [[nodiscard]] static std::string Don_t_miss_a_game();
+
+  /// "Don't miss the next ZK show. We send push notifications to alert you when our shows are live."
+  [[nodiscard]] static std::string Don_t_miss_the_next_ZK_show_We_send_push_notifications_to_alert_you_when_our_shows_are_live();
+
+  /// "Don't miss the next ZK Trivia game. We send push notifications to alert you when the game is live."
+  [[nodiscard]] static std::string Don_t_miss_the_next_ZK_Trivia_game_We_send_push_notifications_to_alert_you_when_the_game_is_live();
+
+  /// "Donate"
+  [[nodiscard]] static std::string Donate();
+
+  /// "Donate %{amount}"
+  [[nodiscard]] static std::string Donate_amount(std::string_view amount);
+
+  /// "Donate Winnings"
+  [[nodiscard]] static std::string Donate_Winnings();
+
+  /// "Donation"
+  [[nodiscard]] static std::string Donation();
+
+  /// "Donation Request Submitted"
+  [[nodiscard]] static std::string Donation_Request_Submitted();
+
+  /// "Done"
+  [[nodiscard]] static std::string Done();
+
+  /// "Download on "
+  [[nodiscard]] static std::string Download_on();
+
+  /// "Drag into order"
+  [[nodiscard]] static std::string Drag_into_order();
+
+  /// "Earn a special reward per show by entering referral codes below."
+  [[nodiscard]] static std::string Earn_a_special_reward_per_show_by_entering_referral_codes_below();
+
+  /// "Earn *Erasers* by playing with %{cost} players"
+  [[nodiscard]] static std::string Earn_Erasers_by_playing_with_cost_players(std::string_view cost);
+
+  /// "Earn Power Ups when you refer friends"
+  [[nodiscard]] static std::string Earn_Power_Ups_when_you_refer_friends();
+
+  /// "Earned %{date}"
+  [[nodiscard]] static std::string Earned_date(std::string_view date);
+
+  /// "Earned this game"
+  [[nodiscard]] static std::string Earned_this_game();
+
+  /// "+%{earnedPoints} points"
+  [[nodiscard]] static std::string earnedPoints_points(std::string_view earnedPoints);
+
+  /// "Educational"
+  [[nodiscard]] static std::string Educational();
+
+  /// "eight"
+  [[nodiscard]] static std::string eight();
+
+  /// "Eliminated"
+  [[nodiscard]] static std::string Eliminated();
+
+  /// "Email"
+  [[nodiscard]] static std::string Email();
+
+  /// "Email address"
+  [[nodiscard]] static std::string Email_address();
+
+  /// "Email Support"
+  [[nodiscard]] static std::string Email_Support();
+
+  /// "Employees are not allowed to cashout"
+  [[nodiscard]] static std::string Employees_are_not_allowed_to_cashout();
+
+  /// "Enable"
+  [[nodiscard]] static std::string Enable();
+
+  /// "Enable Notifications"
+  [[nodiscard]] static std::string Enable_Notifications();
+
+  /// "Enable this setting to be discoverable to people playing ZK near you. It's fun!"
+  [[nodiscard]] static std::string Enable_this_setting_to_be_discoverable_to_people_playing_ZK_near_you_It_s_fun();
+
+  /// "Enable this setting to earn power ups by finding nearby people playing ZK!"
+  [[nodiscard]] static std::string Enable_this_setting_to_earn_power_ups_by_finding_nearby_people_playing_ZK();
+
+  /// "Enable this to automatically keep your contacts on ZK up to date."
+  [[nodiscard]] static std::string Enable_this_to_automatically_keep_your_contacts_on_ZK_up_to_date();
+
+  /// "Enter a friend's ZK username as your referral code."
+  [[nodiscard]] static std::string Enter_a_friend_s_ZK_username_as_your_referral_code();
+
+  /// "Enter a Referral Code"
+  [[nodiscard]] static std::string Enter_a_Referral_Code();
+
+  /// "Enter for %{prize}"
+  [[nodiscard]] static std::string Enter_for_prize(std::string_view prize);
+
+  /// "Enter Referral Code"
+  [[nodiscard]] static std::string Enter_Referral_Code();
+
+  /// "Enter Referral Codes"
+  [[nodiscard]] static std::string Enter_Referral_Codes();
+
+  /// "Enter the verification code sent to %{phoneNumber}"
+  [[nodiscard]] static std::string Enter_the_verification_code_sent_to_phoneNumber(std::string_view phoneNumber);
+
+  /// "Enter Verification Code"
+  [[nodiscard]] static std::string Enter_Verification_Code();
+
+  /// "Enter VIP Game"
+  [[nodiscard]] static std::string Enter_VIP_Game();
+
+  /// "Enter your phone number"
+  [[nodiscard]] static std::string Enter_your_phone_number();
+
+  /// "Entered"
+  [[nodiscard]] static std::string Entered();
+
+  /// "Entertainment"
+  [[nodiscard]] static std::string Entertainment();
+
+  /// "Entries closed"
+  [[nodiscard]] static std::string Entries_closed();
+
+  /// "Eraser"
+  [[nodiscard]] static std::string Eraser();
+
+  /// "*Eraser earned!* Use an Eraser to eliminate one wrong answer during a question."
+  [[nodiscard]] static std::string Eraser_earned_Use_an_Eraser_to_eliminate_one_wrong_answer_during_a_question();
+
+  /// "*Eraser earned!* Use it to eliminate a wrong answer during a question."
+  [[nodiscard]] static std::string Eraser_earned_Use_it_to_eliminate_a_wrong_answer_during_a_question();
+
+  /// "Erasers"
+  [[nodiscard]] static std::string Erasers();
+
+  /// "Erasers"
+  /// - 0: "Erasers"
+  /// - 1: "Eraser"
+  /// - 2: "Erasers"
+  /// - 3 to 5: "Erasers"
+  /// - 6 and more: "Erasers"
+  [[nodiscard]] static std::string Erasers(std::int64_t count);
+
+  /// "erasers"
+  [[nodiscard]] static std::string erasers();
+
+  /// "*Erasers* eliminate an answer. Use them during a question"
+  [[nodiscard]] static std::string Erasers_eliminate_an_answer_Use_them_during_a_question();
+
+  /// "Erasers hide a wrong answer. Tap the Eraser during a question to use one"
+  [[nodiscard]] static std::string Erasers_hide_a_wrong_answer_Tap_the_Eraser_during_a_question_to_use_one();
+
+  /// "Error Loading Media"
+  [[nodiscard]] static std::string Error_Loading_Media();
+
+  /// "Error loading schedule"
+  [[nodiscard]] static std::string Error_loading_schedule();
+
+  /// "EU Privacy Policy"
+  [[nodiscard]] static std::string EU_Privacy_Policy();
+
+  /// "Expires in %{time}"
+  [[nodiscard]] static std::string Expires_in_time(std::string_view time);
+
+  /// "Extra Life"
+  [[nodiscard]] static std::string Extra_Life();
+
+  /// "Extra Life earned!"
+  [[nodiscard]] static std::string Extra_Life_earned();
+
+  /// "Extra Life granted!"
+  [[nodiscard]] static std::string Extra_Life_granted();
+
+  /// "Extra Lives"
+  [[nodiscard]] static std::string Extra_Lives();
+
+  /// "Extra lives"
+  [[nodiscard]] static std::string Extra_lives();
+
+  /// "Extra Lives"
+  /// - 0: "Extra Lives"
+  /// - 1: "Extra Life"
+  /// - 2: "Extra Lives"
+  /// - 3 to 5: "Extra Lives"
+  /// - 6 and more: "Extra Lives"
+  [[nodiscard]] static std::string Extra_Lives(std::int64_t count);
+
+  /// "extra lives"
+  [[nodiscard]] static std::string extra_lives();
+
+  /// "Facebook"
+  [[nodiscard]] static std::string Facebook();
+
+  /// "Failed"
+  [[nodiscard]] static std::string Failed();
+
+  /// "Failed to accept friend request"
+  [[nodiscard]] static std::string Failed_to_accept_friend_request();
+
+  /// "Failed to reject friend request"
+  [[nodiscard]] static std::string Failed_to_reject_friend_request();
+
+  /// "Failed to send friend request"
+  [[nodiscard]] static std::string Failed_to_send_friend_request();
+
+  /// "FAQs"
+  [[nodiscard]] static std::string FAQs();
+
+  /// "Fetching nearby letters…"
+  [[nodiscard]] static std::string Fetching_nearby_letters();
+
+  /// "Finalists"
+  [[nodiscard]] static std::string Finalists();
+
+  /// "Find all the"
+  [[nodiscard]] static std::string Find_all_the();
+
+  /// "Finding nearby players to collect an *Eraser* power up"
+  [[nodiscard]] static std::string Finding_nearby_players_to_collect_an_Eraser_power_up();
+
+  /// "First, join the live game"
+  [[nodiscard]] static std::string First_join_the_live_game();
+
+  /// "five"
+  [[nodiscard]] static std::string five();
+
+  /// "Food & Drink"
+  [[nodiscard]] static std::string Food_Drink();
+
+  /// "Forfeited"
+  [[nodiscard]] static std::string Forfeited();
+
+  /// "Forfeited Balance"
+  [[nodiscard]] static std::string Forfeited_Balance();
+
+  /// "Found a player nearby!"
+  [[nodiscard]] static std::string Found_a_player_nearby();
+
+  /// "Found an ZK Words player nearby! You've unlocked the game."
+  [[nodiscard]] static std::string Found_an_ZK_Words_player_nearby_You_ve_unlocked_the_game();
+
+  /// "Found *%{name1}* and *%{name2}*"
+  [[nodiscard]] static std::string Found_name1_and_name2(std::string_view name1, std::string_view name2);
+
+  /// "Found *%{name1}* and *%{name2}* nearby"
+  [[nodiscard]] static std::string Found_name1_and_name2_nearby(std::string_view name1, std::string_view name2);
+
+  /// "Found *%{name}* nearby"
+  [[nodiscard]] static std::string Found_name_nearby(std::string_view name);
+
+  /// "Found *%{username}* nearby, looking for %{remaining} more players"
+  /// - 0: "Found *%{username}* nearby, looking for %{remaining} more players"
+  /// - 1: "Found *%{username}* nearby, looking for %{remaining} more player"
+  /// - 2: "Found *%{username}* nearby, looking for %{remaining} more players"
+  /// - 3 to 5: "Found *%{username}* nearby, looking for %{remaining} more players"
+  /// - 6 and more: "Found *%{username}* nearby, looking for %{remaining} more players"
+  [[nodiscard]] static std::string Found_username_nearby_looking_for_remaining_more_players(std::string_view username, std::string_view remaining, std::int64_t count);
+
+  /// "four"
+  [[nodiscard]] static std::string four();
+
+  /// "Free Pass"
+  [[nodiscard]] static std::string Free_Pass();
+
+  /// "Free Pass through Q%{level}"
+  [[nodiscard]] static std::string Free_Pass_through_Q_level(std::string_view level);
+
+  /// "Friend Requests"
+  [[nodiscard]] static std::string Friend_Requests();
+
+  /// "%{friendCount} friends"
+  /// - 0: "No friends yet"
+  /// - 1: "%{friendCount} friend"
+  /// - 2: "%{friendCount} friends"
+  /// - 3 to 5: "%{friendCount} friends"
+  /// - 6 and more: "%{friendCount} friends"
+  [[nodiscard]] static std::string friendCount_friends(std::string_view friendCount, std::int64_t count);
+
+  /// "%{friendCount} friends still in"
+  /// - 0: "No friends still in"
+  /// - 1: "%{friendCount} friend still in"
+  /// - 2: "%{friendCount} friends still in"
+  /// - 3 to 5: "%{friendCount} friends still in"
+  /// - 6 and more: "%{friendCount} friends still in"
+  [[nodiscard]] static std::string friendCount_friends_still_in(std::string_view friendCount, std::int64_t count);
+
+  /// "%{friendRequestCount} friend requests"
+  /// - 0: "No friend requests"
+  /// - 1: "%{friendRequestCount} friend request"
+  /// - 2: "%{friendRequestCount} friend requests"
+  /// - 3 to 5: "%{friendRequestCount} friend requests"
+  /// - 6 and more: "%{friendRequestCount} friend requests"
+  [[nodiscard]] static std::string friendRequestCount_friend_requests(std::string_view friendRequestCount, std::int64_t count);
+
+  /// "Friends"
+  [[nodiscard]] static std::string Friends();
+
+  /// "Full Name"
+  [[nodiscard]] static std::string Full_Name();
+
+  /// "Game now live"
+  [[nodiscard]] static std::string Game_now_live();
+
+  /// "Game over"
+  [[nodiscard]] static std::string Game_over();
+
+  /// "Games"
+  [[nodiscard]] static std::string Games();
+
+  /// "Geography"
+  [[nodiscard]] static std::string Geography();
+
+  /// "Get Coins"
+  [[nodiscard]] static std::string Get_Coins();
+
+  /// "Get Erasers"
+  [[nodiscard]] static std::string Get_Erasers();
+
+  /// "Get Extra Lives"
+  [[nodiscard]] static std::string Get_Extra_Lives();
+
+  /// "Get Help"
+  [[nodiscard]] static std::string Get_Help();
+
+  /// "Get help"
+  [[nodiscard]] static std::string Get_help();
+
+  /// "Get More"
+  [[nodiscard]] static std::string Get_More();
+
+  /// "Get more coins to buy Power Ups!"
+  [[nodiscard]] static std::string Get_more_coins_to_buy_Power_Ups();
+
+  /// "Get Notified"
+  [[nodiscard]] static std::string Get_Notified();
+
+  /// "Get notified when\n shows are live"
+  [[nodiscard]] static std::string Get_notified_when_n_shows_are_live();
+
+  /// "Get notified when\nZK is live?"
+  [[nodiscard]] static std::string Get_notified_when_nZK_is_live();
+
+  /// "Get notified when the shows are live:"
+  [[nodiscard]] static std::string Get_notified_when_the_shows_are_live();
+
+  /// "Get points"
+  [[nodiscard]] static std::string Get_points();
+
+  /// "Get Power Ups to help you win!"
+  [[nodiscard]] static std::string Get_Power_Ups_to_help_you_win();
+
+  /// "Get %{product}"
+  [[nodiscard]] static std::string Get_product(std::string_view product);
+
+  /// "Get %{productName}"
+  [[nodiscard]] static std::string Get_productName(std::string_view productName);
+
+  /// "Get Started"
+  [[nodiscard]] static std::string Get_Started();
+
+  /// "Get Super Spins"
+  [[nodiscard]] static std::string Get_Super_Spins();
+
+  /// "Get them all right and you win"
+  [[nodiscard]] static std::string Get_them_all_right_and_you_win();
+
+  /// "Gift Drop"
+  [[nodiscard]] static std::string Gift_Drop();
+
+  /// "Go to settings"
+  [[nodiscard]] static std::string Go_to_settings();
+
+  /// "Good luck!"
+  [[nodiscard]] static std::string Good_luck();
+
+  /// "Goodbye!"
+  [[nodiscard]] static std::string Goodbye();
+
+  /// "Google"
+  [[nodiscard]] static std::string Google();
+
+  /// "Grant Extra Life"
+  [[nodiscard]] static std::string Grant_Extra_Life();
+
+  /// "Guest"
+  [[nodiscard]] static std::string Guest();
+
+  /// "Have your photo seen by more people with a Boost"
+  [[nodiscard]] static std::string Have_your_photo_seen_by_more_people_with_a_Boost();
+
+  /// "Help us spread the word"
+  [[nodiscard]] static std::string Help_us_spread_the_word();
+
+  /// "Here's an Extra Life for your next game!"
+  [[nodiscard]] static std::string Here_s_an_Extra_Life_for_your_next_game();
+
+  /// "Hey"
+  [[nodiscard]] static std::string Hey();
+
+  /// "Hide details"
+  [[nodiscard]] static std::string Hide_details();
+
+  /// "High Score"
+  [[nodiscard]] static std::string High_Score();
+
+  /// "History"
+  [[nodiscard]] static std::string History();
+
+  /// "Hit us up on Twitter @zktrivia"
+  [[nodiscard]] static std::string Hit_us_up_on_Twitter_zktrivia();
+
+  /// "Hot"
+  [[nodiscard]] static std::string Hot();
+
+  /// "How it works"
+  [[nodiscard]] static std::string How_it_works();
+
+  /// "How to Play"
+  [[nodiscard]] static std::string How_to_Play();
+
+  /// "How to play"
+  [[nodiscard]] static std::string How_to_play();
+
+  /// "ZK is at capacity"
+  [[nodiscard]] static std::string ZK_is_at_capacity();
+
+  /// "ZK Shop"
+  [[nodiscard]] static std::string ZK_Shop();
+
+  /// "ZK Sports"
+  [[nodiscard]] static std::string ZK_Sports();
+
+  /// "ZK Trivia"
+  [[nodiscard]] static std::string ZK_Trivia();
+
+  /// "ZK Words"
+  [[nodiscard]] static std::string ZK_Words();
+
+  /// "I can’t believe I got this question wrong on ZK Trivia!"
+  [[nodiscard]] static std::string I_can_t_believe_I_got_this_question_wrong_on_ZK_Trivia();
+
+  /// "I can’t believe I got this question wrong on @zktrivia!"
+  [[nodiscard]] static std::string I_can_t_believe_I_got_this_question_wrong_on_zktrivia();
+
+  /// "I just got %{round} questions correct on ZK Trivia! That’s a new record for me! You should play too. Use my code \"%{username}\" to sign up: https://zktrivia.example"
+  [[nodiscard]] static std::string I_just_got_round_questions_correct_on_ZK_Trivia_That_s_a_new_record_for_me_You_should_play_too_Use_m(std::string_view round, std::string_view username);
+
+  /// "I just got %{round} questions correct on @zktrivia! That’s a new record for me! You should play too. Use my code \"%{username}\" to sign up: https://zktrivia.example"
+  [[nodiscard]] static std::string I_just_got_round_questions_correct_on_zktrivia_That_s_a_new_record_for_me_You_should_play_too_Use_my(std::string_view round, std::string_view username);
+
+  /// "I just unlocked the %{badge} badge on ZK Trivia! Sign up at https://zktrivia.example with my code \"%{code}\" and start your own collection."
+  [[nodiscard]] static std::string I_just_unlocked_the_badge_badge_on_ZK_Trivia_Sign_up_at_https_zktrivia_example_with_my_code_code_and(std::string_view badge, std::string_view code);
+
+  /// "I just unlocked the %{badge} badge on @zktrivia! Sign up at https://zktrivia.example with my code \"%{code}\" and start your own collection."
+  [[nodiscard]] static std::string I_just_unlocked_the_badge_badge_on_zktrivia_Sign_up_at_https_zktrivia_example_with_my_code_code_and_(std::string_view badge, std::string_view code);
+
+  /// "I just won %{prize} on %{twitterHandle}! You should play too. Use my code \"%{username}\""
+  [[nodiscard]] static std::string I_just_won_prize_on_twitterHandle_You_should_play_too_Use_my_code_username(std::string_view prize, std::string_view twitterHandle, std::string_view username);
+
+  /// "I just won %{prize} playing %{gameName}! Sign up at https://zktrivia.example with my code \"%{username}\" and play for the next prize."
+  [[nodiscard]] static std::string I_just_won_prize_playing_gameName_Sign_up_at_https_zktrivia_example_with_my_code_username_and_play_f(std::string_view prize, std::string_view gameName, std::string_view username);
+
+  /// "I just won %{prize} playing ZK Trivia! Play the next game with me: https://zktrivia.example"
+  [[nodiscard]] static std::string I_just_won_prize_playing_ZK_Trivia_Play_the_next_game_with_me_https_zktrivia_example(std::string_view prize);
+
+  /// "I just won %{prize} playing ZK Trivia! Sign up at https://zktrivia.example with my code \"%{username}\" and play for the next prize."
+  [[nodiscard]] static std::string I_just_won_prize_playing_ZK_Trivia_Sign_up_at_https_zktrivia_example_with_my_code_username_and_play_(std::string_view prize, std::string_view username);
+
+  /// "I just won %{prize} playing @zktrivia! Sign up at https://zktrivia.example with my code \"%{username}\" and play for the next prize."
+  [[nodiscard]] static std::string I_just_won_prize_playing_zktrivia_Sign_up_at_https_zktrivia_example_with_my_code_username_and_play_f(std::string_view prize, std::string_view username);
+
+  /// "I'm playing a game called %{appName}! You should play too."
+  [[nodiscard]] static std::string I_m_playing_a_game_called_appName_You_should_play_too(std::string_view appName);
+
+  /// "I won %{prize} playing\n%{zkNameVariant}"
+  [[nodiscard]] static std::string I_won_prize_playing_n_zkNameVariant(std::string_view prize, std::string_view zkNameVariant);
+
+  /// "If everyone gets eliminated, the\nprize rolls over to the next day."
+  [[nodiscard]] static std::string If_everyone_gets_eliminated_the_n_prize_rolls_over_to_the_next_day();
+
+  /// "If more than one person makes it to the end, then split the prize."
+  [[nodiscard]] static std::string If_more_than_one_person_makes_it_to_the_end_then_split_the_prize();
+
+  /// "If you tap an incorrect answer\nor you run out of time, you'll be\neliminated from winning the prize."
+  [[nodiscard]] static std::string If_you_tap_an_incorrect_answer_n_or_you_run_out_of_time_you_ll_be_n_eliminated_from_winning_the_priz();
+
+  /// "In order to cash out, please fill out all fields below."
+  [[nodiscard]] static std::string In_order_to_cash_out_please_fill_out_all_fields_below();
+
+  /// "In order to cash out, please fill out all fields below, even if email address and PayPal email address are the same."
+  [[nodiscard]] static std::string In_order_to_cash_out_please_fill_out_all_fields_below_even_if_email_address_and_PayPal_email_address();
+
+  /// "In order to cash out please fill out the form below. All fields are required."
+  [[nodiscard]] static std::string In_order_to_cash_out_please_fill_out_the_form_below_All_fields_are_required();
+
+  /// "In order to cash out, please input your PayPal email address."
+  [[nodiscard]] static std::string In_order_to_cash_out_please_input_your_PayPal_email_address();
+
+  /// "In order to donate your winnings, please fill out all fields below."
+  [[nodiscard]] static std::string In_order_to_donate_your_winnings_please_fill_out_all_fields_below();
+
+  /// "In Review"
+  [[nodiscard]] static std::string In_Review();
+
+  /// "In the meantime, warm up\nand win coins!"
+  [[nodiscard]] static std::string In_the_meantime_warm_up_nand_win_coins();
+
+  /// "Incorrect"
+  [[nodiscard]] static std::string Incorrect();
+
+  /// "incorrect"
+  [[nodiscard]] static std::string incorrect();
+
+  /// "Invalid email"
+  [[nodiscard]] static std::string Invalid_email();
+
+  /// "Invalid referral code!"
+  [[nodiscard]] static std::string Invalid_referral_code();
+
+  /// "Invite"
+  [[nodiscard]] static std::string Invite();
+
+  /// "Invite a friend"
+  [[nodiscard]] static std::string Invite_a_friend();
+
+  /// "Invite contacts"
+  [[nodiscard]] static std::string Invite_contacts();
+
+  /// "Invite your friends to play ZK!"
+  [[nodiscard]] static std::string Invite_your_friends_to_play_ZK();
+
+  /// "Join"
+  [[nodiscard]] static std::string Join();
+
+  /// "Join me on ZK Trivia! Use my code \"%{username}\" to sign up: https://zktrivia.example"
+  [[nodiscard]] static std::string Join_me_on_ZK_Trivia_Use_my_code_username_to_sign_up_https_zktrivia_example(std::string_view username);
+
+  /// "Joining game..."
+  [[nodiscard]] static std::string Joining_game();
+
+  /// "Keep playing?"
+  [[nodiscard]] static std::string Keep_playing();
+
+  /// "Keep playing for *%{amount}*!"
+  [[nodiscard]] static std::string Keep_playing_for_amount(std::string_view amount);
+
+  /// "Keep tapping!"
+  [[nodiscard]] static std::string Keep_tapping();
+
+  /// "Kick"
+  [[nodiscard]] static std::string Kick();
+
+  /// "Kicking %{username} failed"
+  [[nodiscard]] static std::string Kicking_username_failed(std::string_view username);
+
+  /// "Later"
+  [[nodiscard]] static std::string Later();
+
+  /// "Leaderboard"
+  [[nodiscard]] static std::string Leaderboard();
+
+  /// "Learn more"
+  [[nodiscard]] static std::string Learn_more();
+
+  /// "Leave"
+  [[nodiscard]] static std::string Leave();
+
+  /// "Legal"
+  [[nodiscard]] static std::string Legal();
+
+  /// "Letter Points"
+  [[nodiscard]] static std::string Letter_Points();
+
+  /// "Level"
+  [[nodiscard]] static std::string Level();
+
+  /// "%{level} Bonus Strikes"
+  [[nodiscard]] static std::string level_Bonus_Strikes(std::string_view level);
+
+  /// "Level %{level} rewards"
+  [[nodiscard]] static std::string Level_level_rewards(std::string_view level);
+
+  /// "Level %{levelNumber}"
+  [[nodiscard]] static std::string Level_levelNumber(std::string_view levelNumber);
+
+  /// "Level Unlock"
+  [[nodiscard]] static std::string Level_Unlock();
+
+  /// "Level Unlocks"
+  [[nodiscard]] static std::string Level_Unlocks();
+
+  /// "Levels"
+  [[nodiscard]] static std::string Levels();
+
+  /// "Lifetime Winnings"
+  [[nodiscard]] static std::string Lifetime_Winnings();
+
+  /// "Lifetime winnings"
+  [[nodiscard]] static std::string Lifetime_winnings();
+
+  /// "Like"
+  [[nodiscard]] static std::string Like();
+
+  /// "Link a social account"
+  [[nodiscard]] static std::string Link_a_social_account();
+
+  /// "Linked social accounts"
+  [[nodiscard]] static std::string Linked_social_accounts();
+
+  /// "Literature"
+  [[nodiscard]] static std::string Literature();
+
+  /// "Live"
+  [[nodiscard]] static std::string Live();
+
+  /// "Live Game Shows"
+  [[nodiscard]] static std::string Live_Game_Shows();
+
+  /// "Live game shows"
+  [[nodiscard]] static std::string Live_game_shows();
+
+  /// "Live soon"
+  [[nodiscard]] static std::string Live_soon();
+
+  /// "Live sports trivia game show with cash prizes."
+  [[nodiscard]] static std::string Live_sports_trivia_game_show_with_cash_prizes();
+
+  /// "Live trivia game show"
+  [[nodiscard]] static std::string Live_trivia_game_show();
+
+  /// "Live trivia\ngame show"
+  [[nodiscard]] static std::string Live_trivia_n_game_show();
+
+  /// "Loading schedule"
+  [[nodiscard]] static std::string Loading_schedule();
+
+  /// "Locked"
+  [[nodiscard]] static std::string Locked();
+
+  /// "Log in or sign up"
+  [[nodiscard]] static std::string Log_in_or_sign_up();
+
+  /// "Logout"
+  [[nodiscard]] static std::string Logout();
+
+  /// "Love ZK?"
+  [[nodiscard]] static std::string Love_ZK();
+
+  /// "%{messageCount} new messages"
+  /// - 0: "No new messages"
+  /// - 1: "%{messageCount} new message"
+  /// - 2: "%{messageCount} new messages"
+  /// - 3 to 5: "%{messageCount} new messages"
+  /// - 6 and more: "%{messageCount} new messages"
+  [[nodiscard]] static std::string messageCount_new_messages(std::string_view messageCount, std::int64_t count);
+
+  /// "Mini-games"
+  [[nodiscard]] static std::string Mini_games();
+
+  /// "%{minPoints}-%{maxPoints} points"
+  [[nodiscard]] static std::string minPoints_maxPoints_points(std::string_view minPoints, std::string_view maxPoints);
+
+  /// "Month"
+  [[nodiscard]] static std::string Month();
+
+  /// "Months"
+  [[nodiscard]] static std::string Months();
+
+  /// "Movies"
+  [[nodiscard]] static std::string Movies();
+
+  /// "Multipliers"
+  /// - 0: "Multipliers"
+  /// - 1: "Multiplier"
+  /// - 2: "Multipliers"
+  /// - 3 to 5: "Multipliers"
+  /// - 6 and more: "Multipliers"
+  [[nodiscard]] static std::string Multipliers(std::int64_t count);
+
+  /// "Multiply your game points"
+  [[nodiscard]] static std::string Multiply_your_game_points();
+
+  /// "Music"
+  [[nodiscard]] static std::string Music();
+
+  /// "My new record on %{socialNetwork}"
+  [[nodiscard]] static std::string My_new_record_on_socialNetwork(std::string_view socialNetwork);
+
+  /// "Nah"
+  [[nodiscard]] static std::string Nah();
+
+  /// "Nature"
+  [[nodiscard]] static std::string Nature();
+
+  /// "%{nearbyCount} people nearby"
+  /// - 0: "No one nearby"
+  /// - 1: "%{nearbyCount} person nearby"
+  /// - 2: "%{nearbyCount} people nearby"
+  /// - 3 to 5: "%{nearbyCount} people nearby"
+  /// - 6 and more: "%{nearbyCount} people nearby"
+  [[nodiscard]] static std::string nearbyCount_people_nearby(std::string_view nearbyCount, std::int64_t count);
+
+  /// "New Feature:\nFind Friends on ZK"
+  [[nodiscard]] static std::string New_Feature_n_Find_Friends_on_ZK();
+
+  /// "New high score!"
+  [[nodiscard]] static std::string New_high_score();
+
+  /// "New Show"
+  [[nodiscard]] static std::string New_Show();
+
+  /// "Next"
+  [[nodiscard]] static std::string Next();
+
+  /// "Next Game"
+  [[nodiscard]] static std::string Next_Game();
+
+  /// "Next Game in %{timer}"
+  [[nodiscard]] static std::string Next_Game_in_timer(std::string_view timer);
+
+  /// "Next Game: %{showTitle}"
+  [[nodiscard]] static std::string Next_Game_showTitle(std::string_view showTitle);
+
+  /// "Next prize in %{questionCount} questions"
+  /// - 0: "Next prize in %{questionCount} questions"
+  /// - 1: "Next prize in %{questionCount} question"
+  /// - 2: "Next prize in %{questionCount} questions"
+  /// - 3 to 5: "Next prize in %{questionCount} questions"
+  /// - 6 and more: "Next prize in %{questionCount} questions"
+  [[nodiscard]] static std::string Next_prize_in_questionCount_questions(std::string_view questionCount, std::int64_t count);
+
+  /// "*Next prize*\nin %{questionCount} questions"
+  /// - 0: "*Next prize*\nin %{questionCount} questions"
+  /// - 1: "*Next prize*\nin %{questionCount} question"
+  /// - 2: "*Next prize*\nin %{questionCount} questions"
+  /// - 3 to 5: "*Next prize*\nin %{questionCount} questions"
+  /// - 6 and more: "*Next prize*\nin %{questionCount} questions"
+  [[nodiscard]] static std::string Next_prize_n_in_questionCount_questions(std::string_view questionCount, std::int64_t count);
+
+  /// "Next Round in %{time}"
+  [[nodiscard]] static std::string Next_Round_in_time(std::string_view time);
+
+  /// "Next time, continue playing with an Extra Life! Get Extra Lives by inviting friends."
+  [[nodiscard]] static std::string Next_time_continue_playing_with_an_Extra_Life_Get_Extra_Lives_by_inviting_friends();
+
+  /// "nine"
+  [[nodiscard]] static std::string nine();
+
+  /// "No"
+  [[nodiscard]] static std::string No();
+
+  /// "No account found with that number.\nPlease create one below."
+  [[nodiscard]] static std::string No_account_found_with_that_number_nPlease_create_one_below();
+
+  /// "No games scheduled"
+  [[nodiscard]] static std::string No_games_scheduled();
+
+  /// "No internet connection"
+  [[nodiscard]] static std::string No_internet_connection();
+
+  /// "No progress yet"
+  [[nodiscard]] static std::string No_progress_yet();
+
+  /// "No winners"
+  [[nodiscard]] static std::string No_winners();
+
+  /// "No winners? No worries"
+  [[nodiscard]] static std::string No_winners_No_worries();
+
+  /// "Not now"
+  [[nodiscard]] static std::string Not_now();
+
+  /// "Notification let you know when games are live."
+  [[nodiscard]] static std::string Notification_let_you_know_when_games_are_live();
+
+  /// "Notifications"
+  [[nodiscard]] static std::string Notifications();
+
+  /// "Now playing in Rewards Mode"
+  [[nodiscard]] static std::string Now_playing_in_Rewards_Mode();
+
+  /// "%{number} correct"
+  [[nodiscard]] static std::string number_correct(std::string_view number);
+
+  /// "%{number} incorrect"
+  [[nodiscard]] static std::string number_incorrect(std::string_view number);
+
+  /// "Oh no!"
+  [[nodiscard]] static std::string Oh_no();
+
+  /// "OK"
+  [[nodiscard]] static std::string OK();
+
+  /// "Okay, we'll call you with the verification code"
+  [[nodiscard]] static std::string Okay_we_ll_call_you_with_the_verification_code();
+
+  /// "Okay, we'll resend the verification code to %{phoneNumber}"
+  [[nodiscard]] static std::string Okay_we_ll_resend_the_verification_code_to_phoneNumber(std::string_view phoneNumber);
+
+  /// "Once you have won, you can cashout\ndirectly to your PayPal account."
+  [[nodiscard]] static std::string Once_you_have_won_you_can_cashout_n_directly_to_your_PayPal_account();
+
+  /// "one"
+  [[nodiscard]] static std::string one();
+
+  /// "One strike and you're out"
+  [[nodiscard]] static std::string One_strike_and_you_re_out();
+
+  /// "Oops, something went wrong. Please try again later."
+  [[nodiscard]] static std::string Oops_something_went_wrong_Please_try_again_later();
+
+  /// "Open It"
+  [[nodiscard]] static std::string Open_It();
+
+  /// "Option B"
+  [[nodiscard]] static std::string Option_B();
+
+  /// "Option C"
+  [[nodiscard]] static std::string Option_C();
+
+  /// "or"
+  [[nodiscard]] static std::string or_();
+
+  /// "or sign in via %{via}"
+  [[nodiscard]] static std::string or_sign_in_via_via(std::string_view via);
+
+  /// "Order It"
+  [[nodiscard]] static std::string Order_It();
+
+  /// "Out of time!"
+  [[nodiscard]] static std::string Out_of_time();
+
+  /// "P%{puzzleNumber} of %{puzzleCount}"
+  [[nodiscard]] static std::string P_puzzleNumber_of_puzzleCount(std::string_view puzzleNumber, std::string_view puzzleCount);
+
+  /// "Payment for one or more shows that this account has won is temporarily disabled. Please try again later."
+  [[nodiscard]] static std::string Payment_for_one_or_more_shows_that_this_account_has_won_is_temporarily_disabled_Please_try_again_lat();
+
+  /// "PayPal Email"
+  [[nodiscard]] static std::string PayPal_Email();
+
+  /// "Paypal email address"
+  [[nodiscard]] static std::string Paypal_email_address();
+
+  /// "Pending Balance"
+  [[nodiscard]] static std::string Pending_Balance();
+
+  /// "People nearby"
+  [[nodiscard]] static std::string People_nearby();
+
+  /// "%{percent} complete"
+  [[nodiscard]] static std::string percent_complete(std::string_view percent);
+
+  /// "phone number"
+  [[nodiscard]] static std::string phone_number();
+
+  /// "Photos"
+  [[nodiscard]] static std::string Photos();
+
+  /// "Pick username"
+  [[nodiscard]] static std::string Pick_username();
+
+  /// "Pick your favorite"
+  [[nodiscard]] static std::string Pick_your_favorite();
+
+  /// "Play"
+  [[nodiscard]] static std::string Play();
+
+  /// "Play a game tonight to win some cash!"
+  [[nodiscard]] static std::string Play_a_game_tonight_to_win_some_cash();
+
+  /// "Play again now for"
+  [[nodiscard]] static std::string Play_again_now_for();
+
+  /// "Play %{days} more days in a row"
+  /// - 0: "Play %{days} more days in a row"
+  /// - 1: "Play %{days} more day in a row"
+  /// - 2: "Play %{days} more days in a row"
+  /// - 3 to 5: "Play %{days} more days in a row"
+  /// - 6 and more: "Play %{days} more days in a row"
+  [[nodiscard]] static std::string Play_days_more_days_in_a_row(std::string_view days, std::int64_t count);
+
+  /// "Play %{days} more days in a row to earn an Extra Life!"
+  /// - 0: "Play %{days} more days in a row to earn an Extra Life!"
+  /// - 1: "Play %{days} more day in a row to earn an Extra Life!"
+  /// - 2: "Play %{days} more days in a row to earn an Extra Life!"
+  /// - 3 to 5: "Play %{days} more days in a row to earn an Extra Life!"
+  /// - 6 and more: "Play %{days} more days in a row to earn an Extra Life!"
+  [[nodiscard]] static std::string Play_days_more_days_in_a_row_to_earn_an_Extra_Life(std::string_view days, std::int64_t count);
+
+  /// "Play for points"
+  [[nodiscard]] static std::string Play_for_points();
+
+  /// "Play %{game} now with"
+  [[nodiscard]] static std::string Play_game_now_with(std::string_view game);
+
+  /// "Play %{gameCount} games"
+  /// - 0: "Play %{gameCount} games"
+  /// - 1: "Play %{gameCount} game"
+  /// - 2: "Play %{gameCount} games"
+  /// - 3 to 5: "Play %{gameCount} games"
+  /// - 6 and more: "Play %{gameCount} games"
+  [[nodiscard]] static std::string Play_gameCount_games(std::string_view gameCount, std::int64_t count);
+
+  /// "Play %{gameName} with me! Use my code \"%{username}\" to sign up: https://zktrivia.example"
+  [[nodiscard]] static std::string Play_gameName_with_me_Use_my_code_username_to_sign_up_https_zktrivia_example(std::string_view gameName, std::string_view username);
+
+  /// "Play ZK Trivia, ZK Sports, and ZK Words"
+  [[nodiscard]] static std::string Play_ZK_Trivia_ZK_Sports_and_ZK_Words();
+
+  /// "Play ZK Trivia & Sports"
+  [[nodiscard]] static std::string Play_ZK_Trivia_Sports();
+
+  /// "Play live game shows and win cash prizes with me on %{gameName}. Use my code '%{username}' to sign up! %{downloadUrl}"
+  [[nodiscard]] static std::string Play_live_game_shows_and_win_cash_prizes_with_me_on_gameName_Use_my_code_username_to_sign_up_downloa(std::string_view gameName, std::string_view username, std::string_view downloadUrl);
+
+  /// "Play live game shows with me on ZK Trivia! Sign up at https://zktrivia.example with my code \"%{username}\" and win cash prizes."
+  [[nodiscard]] static std::string Play_live_game_shows_with_me_on_ZK_Trivia_Sign_up_at_https_zktrivia_example_with_my_code_username_an(std::string_view username);
+
+  /// "Play Now"
+  [[nodiscard]] static std::string Play_Now();
+
+  /// "Play warm up game"
+  [[nodiscard]] static std::string Play_warm_up_game();
+
+  /// "Play with %{cost} nearby players and you'll each earn an Eraser"
+  [[nodiscard]] static std::string Play_with_cost_nearby_players_and_you_ll_each_earn_an_Eraser(std::string_view cost);
+
+  /// "%{players} in VIP Prize"
+  [[nodiscard]] static std::string players_in_VIP_Prize(std::string_view players);
+
+  /// "%{players} remain"
+  [[nodiscard]] static std::string players_remain(std::string_view players);
+
+  /// "%{playersCount} players"
+  /// - 0: "%{playersCount} players"
+  /// - 1: "%{playersCount} player"
+  /// - 2: "%{playersCount} players"
+  /// - 3 to 5: "%{playersCount} players"
+  /// - 6 and more: "%{playersCount} players"
+  [[nodiscard]] static std::string playersCount_players(std::string_view playersCount, std::int64_t count);
+
+  /// "Playing for points"
+  [[nodiscard]] static std::string Playing_for_points();
+
+  /// "Please do not comment repeatedly."
+  [[nodiscard]] static std::string Please_do_not_comment_repeatedly();
+
+  /// "Please enter a valid email address"
+  [[nodiscard]] static std::string Please_enter_a_valid_email_address();
+
+  /// "Please enter a valid name"
+  [[nodiscard]] static std::string Please_enter_a_valid_name();
+
+  /// "Please enter a valid phone number"
+  [[nodiscard]] static std::string Please_enter_a_valid_phone_number();
+
+  /// "Please enter a valid username in the referral code box."
+  [[nodiscard]] static std::string Please_enter_a_valid_username_in_the_referral_code_box();
+
+  /// "Please enter a valid verification code"
+  [[nodiscard]] static std::string Please_enter_a_valid_verification_code();
+
+  /// "Please enter the verification code sent to %{phoneNumber}"
+  [[nodiscard]] static std::string Please_enter_the_verification_code_sent_to_phoneNumber(std::string_view phoneNumber);
+
+  /// "Please tell us a bit about the bug:"
+  [[nodiscard]] static std::string Please_tell_us_a_bit_about_the_bug();
+
+  /// "Please try again later"
+  [[nodiscard]] static std::string Please_try_again_later();
+
+  /// "Please try again soon"
+  [[nodiscard]] static std::string Please_try_again_soon();
+
+  /// "Please try the next game"
+  [[nodiscard]] static std::string Please_try_the_next_game();
+
+  /// "Please try the next game: %{gameInfo}"
+  [[nodiscard]] static std::string Please_try_the_next_game_gameInfo(std::string_view gameInfo);
+
+  /// "Please verify that the email used above is a valid PayPal email account. Transfers to your account may take up to 15 days."
+  [[nodiscard]] static std::string Please_verify_that_the_email_used_above_is_a_valid_PayPal_email_account_Transfers_to_your_account_ma();
+
+  /// "Point"
+  [[nodiscard]] static std::string Point();
+
+  /// "Point Multiplier"
+  [[nodiscard]] static std::string Point_Multiplier();
+
+  /// "Point Multipliers"
+  /// - 0: "Point Multipliers"
+  /// - 1: "Point Multiplier"
+  /// - 2: "Point Multipliers"
+  /// - 3 to 5: "Point Multipliers"
+  /// - 6 and more: "Point Multipliers"
+  [[nodiscard]] static std::string Point_Multipliers(std::int64_t count);
+
+  /// "%{pointCount} pts away from Level %{level}"
+  /// - 0: "%{pointCount} pts away from Level %{level}"
+  /// - 1: "%{pointCount} pt away from Level %{level}"
+  /// - 2: "%{pointCount} pts away from Level %{level}"
+  /// - 3 to 5: "%{pointCount} pts away from Level %{level}"
+  /// - 6 and more: "%{pointCount} pts away from Level %{level}"
+  [[nodiscard]] static std::string pointCount_pts_away_from_Level_level(std::string_view pointCount, std::string_view level, std::int64_t count);
+
+  /// "points"
+  [[nodiscard]] static std::string points();
+
+  /// "Points"
+  [[nodiscard]] static std::string Points();
+
+  /// "Points on this game"
+  [[nodiscard]] static std::string Points_on_this_game();
+
+  /// "%{points} points"
+  [[nodiscard]] static std::string points_points(std::string_view points);
+
+  /// "%{pointsMultiplier}x Points"
+  [[nodiscard]] static std::string pointsMultiplier_x_Points(std::string_view pointsMultiplier);
+
+  /// "Power Ups"
+  [[nodiscard]] static std::string Power_Ups();
+
+  /// "Practice"
+  [[nodiscard]] static std::string Practice();
+
+  /// "Privacy"
+  [[nodiscard]] static std::string Privacy();
+
+  /// "Privacy Policy"
+  [[nodiscard]] static std::string Privacy_Policy();
+
+  /// "Prize"
+  [[nodiscard]] static std::string Prize();
+
+  /// "%{prizeAmount} prize"
+  [[nodiscard]] static std::string prizeAmount_prize(std::string_view prizeAmount);
+
+  /// "Profile"
+  [[nodiscard]] static std::string Profile();
+
+  /// "Pull down to leave the game"
+  [[nodiscard]] static std::string Pull_down_to_leave_the_game();
+
+  /// "Puzzle %{puzzleNumber}"
+  [[nodiscard]] static std::string Puzzle_puzzleNumber(std::string_view puzzleNumber);
+
+  /// "Q1 is about to start!"
+  [[nodiscard]] static std::string Q1_is_about_to_start();
+
+  /// "Q%{questionNumber} of %{questionCount}"
+  [[nodiscard]] static std::string Q_questionNumber_of_questionCount(std::string_view questionNumber, std::string_view questionCount);
+
+  /// "Question"
+  [[nodiscard]] static std::string Question();
+
+  /// "%{questionNumber} of %{questionCount}"
+  [[nodiscard]] static std::string questionNumber_of_questionCount(std::string_view questionNumber, std::string_view questionCount);
+
+  /// "%{questions} &\n%{players} remain"
+  [[nodiscard]] static std::string questions_n_players_remain(std::string_view questions, std::string_view players);
+
+  /// "%{questionsCount} questions"
+  /// - 0: "%{questionsCount} questions"
+  /// - 1: "%{questionsCount} question"
+  /// - 2: "%{questionsCount} questions"
+  /// - 3 to 5: "%{questionsCount} questions"
+  /// - 6 and more: "%{questionsCount} questions"
+  [[nodiscard]] static std::string questionsCount_questions(std::string_view questionsCount, std::int64_t count);
+
+  /// "R%{roundNumber} of %{roundCount}"
+  [[nodiscard]] static std::string R_roundNumber_of_roundCount(std::string_view roundNumber, std::string_view roundCount);
+
+  /// "Rank"
+  [[nodiscard]] static std::string Rank();
+
+  /// "Rate us"
+  [[nodiscard]] static std::string Rate_us();
+
+  /// "Recent Wins"
+  [[nodiscard]] static std::string Recent_Wins();
+
+  /// "%{recommendedCount} recommended friends"
+  /// - 0: "No recommended friends"
+  /// - 1: "%{recommendedCount} recommended friend"
+  /// - 2: "%{recommendedCount} recommended friends"
+  /// - 3 to 5: "%{recommendedCount} recommended friends"
+  /// - 6 and more: "%{recommendedCount} recommended friends"
+  [[nodiscard]] static std::string recommendedCount_recommended_friends(std::string_view recommendedCount, std::int64_t count);
+
+  /// "Reconnecting…"
+  [[nodiscard]] static std::string Reconnecting();
+
+  /// "Refer a friend"
+  [[nodiscard]] static std::string Refer_a_friend();
+
+  /// "Referral Code"
+  [[nodiscard]] static std::string Referral_Code();
+
+  /// "Referral code"
+  [[nodiscard]] static std::string Referral_code();
+
+  /// "Referral code confirmed"
+  [[nodiscard]] static std::string Referral_code_confirmed();
+
+  /// "Referral code (optional)"
+  [[nodiscard]] static std::string Referral_code_optional();
+
+  /// "Referral Codes"
+  [[nodiscard]] static std::string Referral_Codes();
+
+  /// "%{referralCount} referrals left"
+  /// - 0: "No referrals left"
+  /// - 1: "%{referralCount} referral left"
+  /// - 2: "%{referralCount} referrals left"
+  /// - 3 to 5: "%{referralCount} referrals left"
+  /// - 6 and more: "%{referralCount} referrals left"
+  [[nodiscard]] static std::string referralCount_referrals_left(std::string_view referralCount, std::int64_t count);
+
+  /// "Refresh contacts"
+  [[nodiscard]] static std::string Refresh_contacts();
+
+  /// "Related Badges"
+  [[nodiscard]] static std::string Related_Badges();
+
+  /// "Remind me"
+  [[nodiscard]] static std::string Remind_me();
+
+  /// "Remove existing photo"
+  [[nodiscard]] static std::string Remove_existing_photo();
+
+  /// "Remove friend"
+  [[nodiscard]] static std::string Remove_friend();
+
+  /// "Remove request"
+  [[nodiscard]] static std::string Remove_request();
+
+  /// "Report"
+  [[nodiscard]] static std::string Report();
+
+  /// "Report issue"
+  [[nodiscard]] static std::string Report_issue();
+
+  /// "Request cannot be completed"
+  [[nodiscard]] static std::string Request_cannot_be_completed();
+
+  /// "Request no longer exists."
+  [[nodiscard]] static std::string Request_no_longer_exists();
+
+  /// "Requested"
+  [[nodiscard]] static std::string Requested();
+
+  /// "Resend code"
+  [[nodiscard]] static std::string Resend_code();
+
+  /// "Resend code in %{timeLeft}"
+  [[nodiscard]] static std::string Resend_code_in_timeLeft(std::string_view timeLeft);
+
+  /// "Rest of World Privacy Policy"
+  [[nodiscard]] static std::string Rest_of_World_Privacy_Policy();
+
+  /// "Results"
+  [[nodiscard]] static std::string Results();
+
+  /// "Retake"
+  [[nodiscard]] static std::string Retake();
+
+  /// "Retry"
+  [[nodiscard]] static std::string Retry();
+
+  /// "Reverse camera"
+  [[nodiscard]] static std::string Reverse_camera();
+
+  /// "Review Us"
+  [[nodiscard]] static std::string Review_Us();
+
+  /// "Revived"
+  [[nodiscard]] static std::string Revived();
+
+  /// "Rewards"
+  [[nodiscard]] static std::string Rewards();
+
+  /// "Rewards Mode"
+  [[nodiscard]] static std::string Rewards_Mode();
+
+  /// "Round 1 is about to start!"
+  [[nodiscard]] static std::string Round_1_is_about_to_start();
+
+  /// "Round %{roundNumber}"
+  [[nodiscard]] static std::string Round_roundNumber(std::string_view roundNumber);
+
+  /// "Round %{roundNumber} Results"
+  [[nodiscard]] static std::string Round_roundNumber_Results(std::string_view roundNumber);
+
+  /// "Round Winners"
+  [[nodiscard]] static std::string Round_Winners();
+
+  /// "Rules"
+  [[nodiscard]] static std::string Rules();
+
+  /// "Save your Super Spin"
+  [[nodiscard]] static std::string Save_your_Super_Spin();
+
+  /// "Say something…"
+  [[nodiscard]] static std::string Say_something();
+
+  /// "Schedule"
+  [[nodiscard]] static std::string Schedule();
+
+  /// "Science"
+  [[nodiscard]] static std::string Science();
+
+  /// "Search for a friend by username to make your first connection"
+  [[nodiscard]] static std::string Search_for_a_friend_by_username_to_make_your_first_connection();
+
+  /// "Search ZK users"
+  [[nodiscard]] static std::string Search_ZK_users();
+
+  /// "Search results for \"%{searchTerm}\""
+  [[nodiscard]] static std::string Search_results_for_searchTerm(std::string_view searchTerm);
+
+  /// "Searching for %{cost} nearby players to collect an *Eraser* power up"
+  /// - 0: "Searching for %{cost} nearby players to collect an *Eraser* power up"
+  /// - 1: "Searching for %{cost} nearby player to collect an *Eraser* power up"
+  /// - 2: "Searching for %{cost} nearby players to collect an *Eraser* power up"
+  /// - 3 to 5: "Searching for %{cost} nearby players to collect an *Eraser* power up"
+  /// - 6 and more: "Searching for %{cost} nearby players to collect an *Eraser* power up"
+  [[nodiscard]] static std::string Searching_for_cost_nearby_players_to_collect_an_Eraser_power_up(std::string_view cost, std::int64_t count);
+
+  /// "Season Ended!"
+  [[nodiscard]] static std::string Season_Ended();
+
+  /// "Secure your ZK account by linking one of the below accounts:"
+  [[nodiscard]] static std::string Secure_your_ZK_account_by_linking_one_of_the_below_accounts();
+
+  /// "See all Badges"
+  [[nodiscard]] static std::string See_all_Badges();
+
+  /// "Select an avatar"
+  [[nodiscard]] static std::string Select_an_avatar();
+
+  /// "Send feedback"
+  [[nodiscard]] static std::string Send_feedback();
+
+  /// "Send notification"
+  [[nodiscard]] static std::string Send_notification();
+
+  /// "Sent"
+  [[nodiscard]] static std::string Sent();
+
+  /// "Set Reminder"
+  [[nodiscard]] static std::string Set_Reminder();
+
+  /// "Settings"
+  [[nodiscard]] static std::string Settings();
+
+  /// "seven"
+  [[nodiscard]] static std::string seven();
+
+  /// "Share"
+  [[nodiscard]] static std::string Share();
+
+  /// "Share answers"
+  [[nodiscard]] static std::string Share_answers();
+
+  /// "Share code"
+  [[nodiscard]] static std::string Share_code();
+
+  /// "Share code: %{username}"
+  [[nodiscard]] static std::string Share_code_username(std::string_view username);
+
+  /// "Share to Facebook"
+  [[nodiscard]] static std::string Share_to_Facebook();
+
+  /// "Share to Twitter"
+  [[nodiscard]] static std::string Share_to_Twitter();
+
+  /// "Share with friends"
+  [[nodiscard]] static std::string Share_with_friends();
+
+  /// "Share wrong answer"
+  [[nodiscard]] static std::string Share_wrong_answer();
+
+  /// "%{shareCount} shares left"
+  /// - 0: "No shares left"
+  /// - 1: "%{shareCount} share left"
+  /// - 2: "%{shareCount} shares left"
+  /// - 3 to 5: "%{shareCount} shares left"
+  /// - 6 and more: "%{shareCount} shares left"
+  [[nodiscard]] static std::string shareCount_shares_left(std::string_view shareCount, std::int64_t count);
+
+  /// "Show details"
+  [[nodiscard]] static std::string Show_details();
+
+  /// "Sign in"
+  [[nodiscard]] static std::string Sign_in();
+
+  /// "Sign in to play"
+  [[nodiscard]] static std::string Sign_in_to_play();
+
+  /// "Silent Kick"
+  [[nodiscard]] static std::string Silent_Kick();
+
+  /// "six"
+  [[nodiscard]] static std::string six();
+
+  /// "Solved"
+  [[nodiscard]] static std::string Solved();
+
+  /// "Solved Points"
+  [[nodiscard]] static std::string Solved_Points();
+
+  /// "Solving"
+  [[nodiscard]] static std::string Solving();
+
+  /// "Something went wrong"
+  [[nodiscard]] static std::string Something_went_wrong();
+
+  /// "Something went wrong.\nPlease try again."
+  [[nodiscard]] static std::string Something_went_wrong_nPlease_try_again();
+
+  /// "Sorry, erasers are not allowed on this question"
+  [[nodiscard]] static std::string Sorry_erasers_are_not_allowed_on_this_question();
+
+  /// "Sorry, something went wrong."
+  [[nodiscard]] static std::string Sorry_something_went_wrong();
+
+  /// "Sorry, that didn't work."
+  [[nodiscard]] static std::string Sorry_that_didn_t_work();
+
+  /// "Sorry, the box is empty."
+  [[nodiscard]] static std::string Sorry_the_box_is_empty();
+
+  /// "Sorry, we couldn't sign you in right now. Try again in a few?"
+  [[nodiscard]] static std::string Sorry_we_couldn_t_sign_you_in_right_now_Try_again_in_a_few();
+
+  /// "Sorry, you don’t have enough coins. You’ll be able to buy more soon."
+  [[nodiscard]] static std::string Sorry_you_don_t_have_enough_coins_You_ll_be_able_to_buy_more_soon();
+
+  /// "Sorry, you need a minimum balance of %{minBalance} to cashout. Win some more games!"
+  [[nodiscard]] static std::string Sorry_you_need_a_minimum_balance_of_minBalance_to_cashout_Win_some_more_games(std::string_view minBalance);
+
+  /// "Spin normal wheel"
+  [[nodiscard]] static std::string Spin_normal_wheel();
+
+  /// "Spin the Super Wheel!"
+  [[nodiscard]] static std::string Spin_the_Super_Wheel();
+
+  /// "Spin the wheel!"
+  [[nodiscard]] static std::string Spin_the_wheel();
+
+  /// "Spin the wheel for a free letter"
+  [[nodiscard]] static std::string Spin_the_wheel_for_a_free_letter();
+
+  /// "Sports"
+  [[nodiscard]] static std::string Sports();
+
+  /// "Start"
+  [[nodiscard]] static std::string Start();
+
+  /// "Start the Next Game"
+  [[nodiscard]] static std::string Start_the_Next_Game();
+
+  /// "Start the Next Round"
+  [[nodiscard]] static std::string Start_the_Next_Round();
+
+  /// "Starting shortly"
+  [[nodiscard]] static std::string Starting_shortly();
+
+  /// "Starting soon"
+  [[nodiscard]] static std::string Starting_soon();
+
+  /// "Stay in the game with an Extra Life"
+  [[nodiscard]] static std::string Stay_in_the_game_with_an_Extra_Life();
+
+  /// "Still have questions?"
+  [[nodiscard]] static std::string Still_have_questions();
+
+  /// "Strike Out"
+  [[nodiscard]] static std::string Strike_Out();
+
+  /// "%{strikeCount} strikes left"
+  /// - 0: "No strikes left"
+  /// - 1: "%{strikeCount} strike left"
+  /// - 2: "%{strikeCount} strikes left"
+  /// - 3 to 5: "%{strikeCount} strikes left"
+  /// - 6 and more: "%{strikeCount} strikes left"
+  [[nodiscard]] static std::string strikeCount_strikes_left(std::string_view strikeCount, std::int64_t count);
+
+  /// "%{strikeCount} strikes left this round!"
+  /// - 0: "No strikes left this round!"
+  /// - 1: "%{strikeCount} strike left this round!"
+  /// - 2: "%{strikeCount} strikes left this round!"
+  /// - 3 to 5: "%{strikeCount} strikes left this round!"
+  /// - 6 and more: "%{strikeCount} strikes left this round!"
+  [[nodiscard]] static std::string strikeCount_strikes_left_this_round(std::string_view strikeCount, std::int64_t count);
+
+  /// "Submit"
+  [[nodiscard]] static std::string Submit();
+
+  /// "Submit another"
+  [[nodiscard]] static std::string Submit_another();
+
+  /// "Submit trivia"
+  [[nodiscard]] static std::string Submit_trivia();
+
+  /// "Submitted"
+  [[nodiscard]] static std::string Submitted();
+
+  /// "Subscribe"
+  [[nodiscard]] static std::string Subscribe();
+
+  /// "Subscribe to games that you are interested in so you don’t miss out when we go live!"
+  [[nodiscard]] static std::string Subscribe_to_games_that_you_are_interested_in_so_you_don_t_miss_out_when_we_go_live();
+
+  /// "Subscribed"
+  [[nodiscard]] static std::string Subscribed();
+
+  /// "Success! You bought %{extraLifeCount} Extra Lives to help you win."
+  /// - 0: "Success! You bought %{extraLifeCount} Extra Lives to help you win."
+  /// - 1: "Success! You bought %{extraLifeCount} Extra Life to help you win."
+  /// - 2: "Success! You bought %{extraLifeCount} Extra Lives to help you win."
+  /// - 3 to 5: "Success! You bought %{extraLifeCount} Extra Lives to help you win."
+  /// - 6 and more: "Success! You bought %{extraLifeCount} Extra Lives to help you win."
+  [[nodiscard]] static std::string Success_You_bought_extraLifeCount_Extra_Lives_to_help_you_win(std::string_view extraLifeCount, std::int64_t count);
+
+  /// "Success! You have %{count} %{name}."
+  [[nodiscard]] static std::string Success_You_have_count_name(std::string_view count, std::string_view name);
+
+  /// "Suggested friends"
+  [[nodiscard]] static std::string Suggested_friends();
+
+  /// "%{suggestedCount} suggested friends"
+  /// - 0: "No suggested friends"
+  /// - 1: "%{suggestedCount} suggested friend"
+  /// - 2: "%{suggestedCount} suggested friends"
+  /// - 3 to 5: "%{suggestedCount} suggested friends"
+  /// - 6 and more: "%{suggestedCount} suggested friends"
+  [[nodiscard]] static std::string suggestedCount_suggested_friends(std::string_view suggestedCount, std::int64_t count);
+
+  /// "Super Spins"
+  [[nodiscard]] static std::string Super_Spins();
+
+  /// "Super Spins"
+  /// - 0: "Super Spins"
+  /// - 1: "Super Spin"
+  /// - 2: "Super Spins"
+  /// - 3 to 5: "Super Spins"
+  /// - 6 and more: "Super Spins"
+  [[nodiscard]] static std::string Super_Spins(std::int64_t count);
+
+  /// "Super Wheel"
+  [[nodiscard]] static std::string Super_Wheel();
+
+  /// "Swipe left to reveal comments"
+  [[nodiscard]] static std::string Swipe_left_to_reveal_comments();
+
+  /// "Swipe right to play mini games"
+  [[nodiscard]] static std::string Swipe_right_to_play_mini_games();
+
+  /// "Take New Photo"
+  [[nodiscard]] static std::string Take_New_Photo();
+
+  /// "Take Photo"
+  [[nodiscard]] static std::string Take_Photo();
+
+  /// "Tap here to buy an *Extra Life* to help you win!"
+  [[nodiscard]] static std::string Tap_here_to_buy_an_Extra_Life_to_help_you_win();
+
+  /// "Tap here to use an *Eraser* during a question"
+  [[nodiscard]] static std::string Tap_here_to_use_an_Eraser_during_a_question();
+
+  /// "Tap the answer you think is\ncorrect in under 10 seconds."
+  [[nodiscard]] static std::string Tap_the_answer_you_think_is_n_correct_in_under_10_seconds();
+
+  /// "Tap to enable *Nearby* to collect an Eraser power up"
+  [[nodiscard]] static std::string Tap_to_enable_Nearby_to_collect_an_Eraser_power_up();
+
+  /// "Tap to open"
+  [[nodiscard]] static std::string Tap_to_open();
+
+  /// "Tap to read"
+  [[nodiscard]] static std::string Tap_to_read();
+
+  /// "Tech"
+  [[nodiscard]] static std::string Tech();
+
+  /// "Tell us about your \n experience"
+  [[nodiscard]] static std::string Tell_us_about_your_n_experience();
+
+  /// "Terms"
+  [[nodiscard]] static std::string Terms();
+
+  /// "Terms of Service"
+  [[nodiscard]] static std::string Terms_of_Service();
+
+  /// "Terms of Use"
+  [[nodiscard]] static std::string Terms_of_Use();
+
+  /// "Thank you %{username}, your request to donate %{amount} to %{charityName} has been submitted."
+  [[nodiscard]] static std::string Thank_you_username_your_request_to_donate_amount_to_charityName_has_been_submitted(std::string_view username, std::string_view amount, std::string_view charityName);
+
+  /// "Thanks for being patient! \n Your game will resume shortly."
+  [[nodiscard]] static std::string Thanks_for_being_patient_n_Your_game_will_resume_shortly();
+
+  /// "That is not a valid email address."
+  [[nodiscard]] static std::string That_is_not_a_valid_email_address();
+
+  /// "That's your best so far."
+  [[nodiscard]] static std::string That_s_your_best_so_far();
+
+  /// "That worked!"
+  [[nodiscard]] static std::string That_worked();
+
+  /// "The email you provided is invalid"
+  [[nodiscard]] static std::string The_email_you_provided_is_invalid();
+
+  /// "The next question has already started"
+  [[nodiscard]] static std::string The_next_question_has_already_started();
+
+  /// "The show will\nstart soon"
+  [[nodiscard]] static std::string The_show_will_nstart_soon();
+
+  /// "The VIP Game is full"
+  [[nodiscard]] static std::string The_VIP_Game_is_full();
+
+  /// "The VIP Prize is cancelled"
+  [[nodiscard]] static std::string The_VIP_Prize_is_cancelled();
+
+  /// "There was a problem. Please try again soon."
+  [[nodiscard]] static std::string There_was_a_problem_Please_try_again_soon();
+
+  /// "There was an issue uploading your address book. Please try again soon."
+  [[nodiscard]] static std::string There_was_an_issue_uploading_your_address_book_Please_try_again_soon();
+
+  /// "Think of a subject that interests you, then think of one fact or specific thing you like. Now Google it and dig into the results until you have a fascinating nugget. Finally, work it into an intriguing question, with proper grammar and spelling."
+  [[nodiscard]] static std::string Think_of_a_subject_that_interests_you_then_think_of_one_fact_or_specific_thing_you_like_Now_Google_i();
+
+  /// "This account is not linked to this phone number. Continue to create a new account?"
+  [[nodiscard]] static std::string This_account_is_not_linked_to_this_phone_number_Continue_to_create_a_new_account();
+
+  /// "This account is not linked to this phone number. Continue to sign in?"
+  [[nodiscard]] static std::string This_account_is_not_linked_to_this_phone_number_Continue_to_sign_in();
+
+  /// "This account is under review for a violation of the Terms of Use and/or Rules. Payment is disabled until review is complete."
+  [[nodiscard]] static std::string This_account_is_under_review_for_a_violation_of_the_Terms_of_Use_and_or_Rules_Payment_is_disabled_un();
+
+  /// "This broadcast has ended"
+  [[nodiscard]] static std::string This_broadcast_has_ended();
+
+  /// "This email is already associated with another ZK Trivia account. Using the same email address on different accounts is against the Terms of Use."
+  [[nodiscard]] static std::string This_email_is_already_associated_with_another_ZK_Trivia_account_Using_the_same_email_address_on_diff();
+
+  /// "*This feature is not available in your area.*"
+  [[nodiscard]] static std::string This_feature_is_not_available_in_your_area();
+
+  /// "This party is at capacity. Try again in a few?"
+  [[nodiscard]] static std::string This_party_is_at_capacity_Try_again_in_a_few();
+
+  /// "This Season has ended. Check back soon for details on the next season."
+  [[nodiscard]] static std::string This_Season_has_ended_Check_back_soon_for_details_on_the_next_season();
+
+  /// "This version of ZK Trivia is no longer supported. To continue, please update the app in the App Store."
+  [[nodiscard]] static std::string This_version_of_ZK_Trivia_is_no_longer_supported_To_continue_please_update_the_app_in_the_App_Store();
+
+  /// "This version of ZK Trivia is outdated. Don't miss out on the latest features. Please update before continuing."
+  [[nodiscard]] static std::string This_version_of_ZK_Trivia_is_outdated_Don_t_miss_out_on_the_latest_features_Please_update_before_con();
+
+  /// "This week"
+  [[nodiscard]] static std::string This_week();
+
+  /// "three"
+  [[nodiscard]] static std::string three();
+
+  /// "Time"
+  [[nodiscard]] static std::string Time();
+
+  /// "Time Bonus"
+  [[nodiscard]] static std::string Time_Bonus();
+
+  /// "Time's up!"
+  [[nodiscard]] static std::string Time_s_up();
+
+  /// "Tip"
+  [[nodiscard]] static std::string Tip();
+
+  /// "Tips"
+  [[nodiscard]] static std::string Tips();
+
+  /// "To be reminded when ZK goes live please enable notifications in iOS settings."
+  [[nodiscard]] static std::string To_be_reminded_when_ZK_goes_live_please_enable_notifications_in_iOS_settings();
+
+  /// "To continue you must secure your ZK account by linking one of the below accounts"
+  [[nodiscard]] static std::string To_continue_you_must_secure_your_ZK_account_by_linking_one_of_the_below_accounts();
+
+  /// "Today"
+  [[nodiscard]] static std::string Today();
+
+  /// "Today’s Prize"
+  [[nodiscard]] static std::string Today_s_Prize();
+
+  /// "Tomorrow"
+  [[nodiscard]] static std::string Tomorrow();
+
+  /// "Tonight’s Jackpot"
+  [[nodiscard]] static std::string Tonight_s_Jackpot();
+
+  /// "Too many requests"
+  [[nodiscard]] static std::string Too_many_requests();
+
+  /// "Try Again"
+  [[nodiscard]] static std::string Try_Again();
+
+  /// "Try another photo"
+  [[nodiscard]] static std::string Try_another_photo();
+
+  /// "Turn on *Bluetooth* to collect an Eraser power up"
+  [[nodiscard]] static std::string Turn_on_Bluetooth_to_collect_an_Eraser_power_up();
+
+  /// "Turn On Camera in Settings"
+  [[nodiscard]] static std::string Turn_On_Camera_in_Settings();
+
+  /// "Turn on notifications"
+  [[nodiscard]] static std::string Turn_on_notifications();
+
+  /// "TV"
+  [[nodiscard]] static std::string TV();
+
+  /// "two"
+  [[nodiscard]] static std::string two();
+
+  /// "Type your question here…"
+  [[nodiscard]] static std::string Type_your_question_here();
+
+  /// "Unable to Cashout"
+  [[nodiscard]] static std::string Unable_to_Cashout();
+
+  /// "Unable to load image"
+  [[nodiscard]] static std::string Unable_to_load_image();
+
+  /// "Unable to load your balance. Please try again soon."
+  [[nodiscard]] static std::string Unable_to_load_your_balance_Please_try_again_soon();
+
+  /// "Unable to load your preferences"
+  [[nodiscard]] static std::string Unable_to_load_your_preferences();
+
+  /// "Under Review"
+  [[nodiscard]] static std::string Under_Review();
+
+  /// "Unknown period"
+  [[nodiscard]] static std::string Unknown_period();
+
+  /// "Unlock"
+  [[nodiscard]] static std::string Unlock();
+
+  /// "Unlock badges by getting\nquestions right in\ndifferent topics."
+  [[nodiscard]] static std::string Unlock_badges_by_getting_nquestions_right_in_ndifferent_topics();
+
+  /// "Unlock Next Game"
+  [[nodiscard]] static std::string Unlock_Next_Game();
+
+  /// "Unlocks"
+  /// - 0: "Unlocks"
+  /// - 1: "Unlock"
+  /// - 2: "Unlocks"
+  /// - 3 to 5: "Unlocks"
+  /// - 6 and more: "Unlocks"
+  [[nodiscard]] static std::string Unlocks(std::int64_t count);
+
+  /// "%{unlocks} Unlocks left"
+  [[nodiscard]] static std::string unlocks_Unlocks_left(std::string_view unlocks);
+
+  /// "Unsubscribe"
+  [[nodiscard]] static std::string Unsubscribe();
+
+  /// "Update Available"
+  [[nodiscard]] static std::string Update_Available();
+
+  /// "Update in App Store"
+  [[nodiscard]] static std::string Update_in_App_Store();
+
+  /// "Update in Play Store"
+  [[nodiscard]] static std::string Update_in_Play_Store();
+
+  /// "Update Location Settings to compete for the VIP Prize."
+  [[nodiscard]] static std::string Update_Location_Settings_to_compete_for_the_VIP_Prize();
+
+  /// "Update required."
+  [[nodiscard]] static std::string Update_required();
+
+  /// "Update Settings"
+  [[nodiscard]] static std::string Update_Settings();
+
+  /// "Upgrade to Super Spin"
+  [[nodiscard]] static std::string Upgrade_to_Super_Spin();
+
+  /// "Upgrade to Super Wheel"
+  [[nodiscard]] static std::string Upgrade_to_Super_Wheel();
+
+  /// "Uploading"
+  [[nodiscard]] static std::string Uploading();
+
+  /// "Use a Game Unlock"
+  [[nodiscard]] static std::string Use_a_Game_Unlock();
+
+  /// "Use a Super Spin"
+  [[nodiscard]] static std::string Use_a_Super_Spin();
+
+  /// "Use a Super Spin to get more letters and special Power Ups in ZK Words."
+  [[nodiscard]] static std::string Use_a_Super_Spin_to_get_more_letters_and_special_Power_Ups_in_ZK_Words();
+
+  /// "Use an Eraser to eliminate one wrong answer during a question."
+  [[nodiscard]] static std::string Use_an_Eraser_to_eliminate_one_wrong_answer_during_a_question();
+
+  /// "Use my code: "
+  [[nodiscard]] static std::string Use_my_code();
+
+  /// "Use my code \"%{code}\" to sign up %{url}"
+  [[nodiscard]] static std::string Use_my_code_code_to_sign_up_url(std::string_view code, std::string_view url);
+
+  /// "%{user} was kicked out."
+  [[nodiscard]] static std::string user_was_kicked_out(std::string_view user);
+
+  /// "%{userCount} others"
+  /// - 0: "%{userCount} others"
+  /// - 1: "%{userCount} other"
+  /// - 2: "%{userCount} others"
+  /// - 3 to 5: "%{userCount} others"
+  /// - 6 and more: "%{userCount} others"
+  [[nodiscard]] static std::string userCount_others(std::string_view userCount, std::int64_t count);
+
+  /// "%{userCount} others still in"
+  /// - 0: "%{userCount} others still in"
+  /// - 1: "%{userCount} other still in"
+  /// - 2: "%{userCount} others still in"
+  /// - 3 to 5: "%{userCount} others still in"
+  /// - 6 and more: "%{userCount} others still in"
+  [[nodiscard]] static std::string userCount_others_still_in(std::string_view userCount, std::int64_t count);
+
+  /// "%{userCount} people"
+  /// - 0: "%{userCount} people"
+  /// - 1: "%{userCount} person"
+  /// - 2: "%{userCount} people"
+  /// - 3 to 5: "%{userCount} people"
+  /// - 6 and more: "%{userCount} people"
+  [[nodiscard]] static std::string userCount_people(std::string_view userCount, std::int64_t count);
+
+  /// "%{userCount} VIPs"
+  /// - 0: "%{userCount} VIPs"
+  /// - 1: "%{userCount} VIP"
+  /// - 2: "%{userCount} VIPs"
+  /// - 3 to 5: "%{userCount} VIPs"
+  /// - 6 and more: "%{userCount} VIPs"
+  [[nodiscard]] static std::string userCount_VIPs(std::string_view userCount, std::int64_t count);
+
+  /// "%{userCount} VIPs still in"
+  /// - 0: "No VIPs still in"
+  /// - 1: "%{userCount} VIP still in"
+  /// - 2: "%{userCount} VIPs still in"
+  /// - 3 to 5: "%{userCount} VIPs still in"
+  /// - 6 and more: "%{userCount} VIPs still in"
+  [[nodiscard]] static std::string userCount_VIPs_still_in(std::string_view userCount, std::int64_t count);
+
+  /// "Username"
+  [[nodiscard]] static std::string Username();
+
+  /// "Username already taken!"
+  [[nodiscard]] static std::string Username_already_taken();
+
+  /// "%{username} and %{username2} were eliminated."
+  [[nodiscard]] static std::string username_and_username2_were_eliminated(std::string_view username, std::string_view username2);
+
+  /// "Username available!"
+  [[nodiscard]] static std::string Username_available();
+
+  /// "%{username} joined the game."
+  [[nodiscard]] static std::string username_joined_the_game(std::string_view username);
+
+  /// "Username unavailable!"
+  [[nodiscard]] static std::string Username_unavailable();
+
+  /// "%{username} used an Extra Life."
+  [[nodiscard]] static std::string username_used_an_Extra_Life(std::string_view username);
+
+  /// "%{username}, %{username2}, and %{friendCount} other friends were eliminated."
+  /// - 0: "%{username} and %{username2} were eliminated."
+  /// - 1: "%{username}, %{username2}, and %{friendCount} other friend were eliminated."
+  /// - 2: "%{username}, %{username2}, and %{friendCount} other friends were eliminated."
+  /// - 3 to 5: "%{username}, %{username2}, and %{friendCount} other friends were eliminated."
+  /// - 6 and more: "%{username}, %{username2}, and %{friendCount} other friends were eliminated."
+  [[nodiscard]] static std::string username_username2_and_friendCount_other_friends_were_eliminated(std::string_view username, std::string_view username2, std::string_view friendCount, std::int64_t count);
+
+  /// "%{username} was eliminated."
+  [[nodiscard]] static std::string username_was_eliminated(std::string_view username);
+
+  /// "%{username} was kicked successfully"
+  [[nodiscard]] static std::string username_was_kicked_successfully(std::string_view username);
+
+  /// "%{username} was silently kicked"
+  [[nodiscard]] static std::string username_was_silently_kicked(std::string_view username);
+
+  /// "%{username} won the game!"
+  [[nodiscard]] static std::string username_won_the_game(std::string_view username);
+
+  /// "Usernames must be 3-15 characters long and can contain only letters, numbers, - , or _ . Inappropriate language in usernames is a violation of the Terms of Use. Your username will also be your referral code."
+  [[nodiscard]] static std::string Usernames_must_be_3_15_characters_long_and_can_contain_only_letters_numbers_or_Inappropriate_languag();
+
+  /// "Using Extra Life in %{seconds}"
+  [[nodiscard]] static std::string Using_Extra_Life_in_seconds(std::string_view seconds);
+
+  /// "Valid referral code!"
+  [[nodiscard]] static std::string Valid_referral_code();
+
+  /// "Verify code"
+  [[nodiscard]] static std::string Verify_code();
+
+  /// "View all"
+  [[nodiscard]] static std::string View_all();
+
+  /// "View more"
+  [[nodiscard]] static std::string View_more();
+
+  /// "VIP Prize"
+  [[nodiscard]] static std::string VIP_Prize();
+
+  /// "VIP Prize Rules"
+  [[nodiscard]] static std::string VIP_Prize_Rules();
+
+  /// "%{votes} votes"
+  [[nodiscard]] static std::string votes_votes(std::string_view votes);
+
+  /// "Warm up & win coins"
+  [[nodiscard]] static std::string Warm_up_win_coins();
+
+  /// "Watch"
+  [[nodiscard]] static std::string Watch();
+
+  /// "Watch as a guest"
+  [[nodiscard]] static std::string Watch_as_a_guest();
+
+  /// "Watching Only"
+  [[nodiscard]] static std::string Watching_Only();
+
+  /// "Watching only"
+  [[nodiscard]] static std::string Watching_only();
+
+  /// "We are phasing out phone number logins. Please login with your linked account below."
+  [[nodiscard]] static std::string We_are_phasing_out_phone_number_logins_Please_login_with_your_linked_account_below();
+
+  /// "We are reviewing your information and will contact you if additional information is necessary."
+  [[nodiscard]] static std::string We_are_reviewing_your_information_and_will_contact_you_if_additional_information_is_necessary();
+
+  /// "We are still processing your Extra Lives. Please check back later."
+  /// - 0: "We are still processing your Extra Lives. Please check back later."
+  /// - 1: "We are still processing your Extra Life. Please check back later."
+  /// - 2: "We are still processing your Extra Lives. Please check back later."
+  /// - 3 to 5: "We are still processing your Extra Lives. Please check back later."
+  /// - 6 and more: "We are still processing your Extra Lives. Please check back later."
+  [[nodiscard]] static std::string We_are_still_processing_your_Extra_Lives_Please_check_back_later(std::int64_t count);
+
+  /// "We are still processing your payment. Please check back later."
+  [[nodiscard]] static std::string We_are_still_processing_your_payment_Please_check_back_later();
+
+  /// "We have updated our Privacy Policy"
+  [[nodiscard]] static std::string We_have_updated_our_Privacy_Policy();
+
+  /// "We'll send a push notification. Don't be late or you'll watch only."
+  [[nodiscard]] static std::string We_ll_send_a_push_notification_Don_t_be_late_or_you_ll_watch_only();
+
+  /// "We're having trouble connecting. Try again in a few?"
+  [[nodiscard]] static std::string We_re_having_trouble_connecting_Try_again_in_a_few();
+
+  /// "We’re sorry!"
+  [[nodiscard]] static std::string We_re_sorry();
+
+  /// "We review all submissions but don't make any promises to include them in games. We'll let you know if we use yours."
+  [[nodiscard]] static std::string We_review_all_submissions_but_don_t_make_any_promises_to_include_them_in_games_We_ll_let_you_know_if();
+
+  /// "We started the game without you. You can watch and chat only. Join earlier next time to play for the prize."
+  [[nodiscard]] static std::string We_started_the_game_without_you_You_can_watch_and_chat_only_Join_earlier_next_time_to_play_for_the_p();
+
+  /// "We use Location to show you nearby players and allow you to add them as friends on ZK"
+  [[nodiscard]] static std::string We_use_Location_to_show_you_nearby_players_and_allow_you_to_add_them_as_friends_on_ZK();
+
+  /// "We've updated our Privacy Policy."
+  [[nodiscard]] static std::string We_ve_updated_our_Privacy_Policy();
+
+  /// "We were unable to delete your avatar. Please try again later."
+  [[nodiscard]] static std::string We_were_unable_to_delete_your_avatar_Please_try_again_later();
+
+  /// "We were unable to process your purchase in time. Your Extra Life will be available in a future game"
+  [[nodiscard]] static std::string We_were_unable_to_process_your_purchase_in_time_Your_Extra_Life_will_be_available_in_a_future_game();
+
+  /// "We were unable to update your avatar. Please try again later."
+  [[nodiscard]] static std::string We_were_unable_to_update_your_avatar_Please_try_again_later();
+
+  /// "We were unable to update your referral code. Please try again later."
+  [[nodiscard]] static std::string We_were_unable_to_update_your_referral_code_Please_try_again_later();
+
+  /// "We were unable to update your username. Please try again later."
+  [[nodiscard]] static std::string We_were_unable_to_update_your_username_Please_try_again_later();
+
+  /// "Week"
+  [[nodiscard]] static std::string Week();
+
+  /// "Weekly rank"
+  [[nodiscard]] static std::string Weekly_rank();
+
+  /// "Weeks"
+  [[nodiscard]] static std::string Weeks();
+
+  /// "Welcome back."
+  [[nodiscard]] static std::string Welcome_back();
+
+  /// "*Welcome back.* You've been eliminated but can still watch."
+  [[nodiscard]] static std::string Welcome_back_You_ve_been_eliminated_but_can_still_watch();
+
+  /// "Win *%{amount}* now"
+  [[nodiscard]] static std::string Win_amount_now(std::string_view amount);
+
+  /// "Winner"
+  [[nodiscard]] static std::string Winner();
+
+  /// "Winner Take All"
+  [[nodiscard]] static std::string Winner_Take_All();
+
+  /// "%{winnerCount} Winners!"
+  /// - 0: "No Winners!"
+  /// - 1: "%{winnerCount} Winner!"
+  /// - 2: "%{winnerCount} Winners!"
+  /// - 3 to 5: "%{winnerCount} Winners!"
+  /// - 6 and more: "%{winnerCount} Winners!"
+  [[nodiscard]] static std::string winnerCount_Winners(std::string_view winnerCount, std::int64_t count);
+
+  /// "Winners"
+  [[nodiscard]] static std::string Winners();
+
+  /// "Wins"
+  [[nodiscard]] static std::string Wins();
+
+  /// "Withdrawn"
+  [[nodiscard]] static std::string Withdrawn();
+
+  /// "Word Search"
+  [[nodiscard]] static std::string Word_Search();
+
+  /// "%{words} words found"
+  [[nodiscard]] static std::string words_words_found(std::string_view words);
+
+  /// "Wrong answer? Continue playing with an Extra Life."
+  [[nodiscard]] static std::string Wrong_answer_Continue_playing_with_an_Extra_Life();
+
+  /// "Wrong answer? Continue playing with an Extra Life. Extra Lives are applied automatically and once per game."
+  [[nodiscard]] static std::string Wrong_answer_Continue_playing_with_an_Extra_Life_Extra_Lives_are_applied_automatically_and_once_per_();
+
+  /// "Wrong answer? Keep playing with an Extra Life. Get one every time a new ZK user signs up with your referral code and plays their first game. They can be used once per game, except on the last question."
+  [[nodiscard]] static std::string Wrong_answer_Keep_playing_with_an_Extra_Life_Get_one_every_time_a_new_ZK_user_signs_up_with_your_ref();
+
+  /// "Yay! You played %{days} days in a row!"
+  /// - 0: "Yay! You played %{days} days in a row!"
+  /// - 1: "Yay! You played %{days} day in a row!"
+  /// - 2: "Yay! You played %{days} days in a row!"
+  /// - 3 to 5: "Yay! You played %{days} days in a row!"
+  /// - 6 and more: "Yay! You played %{days} days in a row!"
+  [[nodiscard]] static std::string Yay_You_played_days_days_in_a_row(std::string_view days, std::int64_t count);
+
+  /// "Year"
+  [[nodiscard]] static std::string Year();
+
+  /// "Years"
+  [[nodiscard]] static std::string Years();
+
+  /// "Yep!"
+  [[nodiscard]] static std::string Yep();
+
+  /// "Yes"
+  [[nodiscard]] static std::string Yes();
+
+  /// "You and your friend will earn an Extra Life"
+  [[nodiscard]] static std::string You_and_your_friend_will_earn_an_Extra_Life();
+
+  /// "You are already friends."
+  [[nodiscard]] static std::string You_are_already_friends();
+
+  /// "You are unauthorized to cashout"
+  [[nodiscard]] static std::string You_are_unauthorized_to_cashout();
+
+  /// "You can't win the cash prize, but get %{pointsToGo} more points to earn an Extra Life!"
+  /// - 0: "You can't win the cash prize, but get %{pointsToGo} more points to earn an Extra Life!"
+  /// - 1: "You can't win the cash prize, but get %{pointsToGo} more point to earn an Extra Life!"
+  /// - 2: "You can't win the cash prize, but get %{pointsToGo} more points to earn an Extra Life!"
+  /// - 3 to 5: "You can't win the cash prize, but get %{pointsToGo} more points to earn an Extra Life!"
+  /// - 6 and more: "You can't win the cash prize, but get %{pointsToGo} more points to earn an Extra Life!"
+  [[nodiscard]] static std::string You_can_t_win_the_cash_prize_but_get_pointsToGo_more_points_to_earn_an_Extra_Life(std::string_view pointsToGo, std::int64_t count);
+
+  /// "You can use your purchased ticket for the next game."
+  [[nodiscard]] static std::string You_can_use_your_purchased_ticket_for_the_next_game();
+
+  /// "You didn’t enter a number yet"
+  [[nodiscard]] static std::string You_didn_t_enter_a_number_yet();
+
+  /// "You do not meet the minimum balance to cashout. Win some more games!"
+  [[nodiscard]] static std::string You_do_not_meet_the_minimum_balance_to_cashout_Win_some_more_games();
+
+  /// "You Earned"
+  [[nodiscard]] static std::string You_Earned();
+
+  /// "You earned an Eraser!"
+  [[nodiscard]] static std::string You_earned_an_Eraser();
+
+  /// "You earned an Eraser by playing with %{player1}!"
+  [[nodiscard]] static std::string You_earned_an_Eraser_by_playing_with_player1(std::string_view player1);
+
+  /// "You earned an Eraser by playing with %{player1} and %{player2}!"
+  [[nodiscard]] static std::string You_earned_an_Eraser_by_playing_with_player1_and_player2(std::string_view player1, std::string_view player2);
+
+  /// "You earned an Eraser by playing with %{player1}, %{player2}, and %{player3}!"
+  [[nodiscard]] static std::string You_earned_an_Eraser_by_playing_with_player1_player2_and_player3(std::string_view player1, std::string_view player2, std::string_view player3);
+
+  /// "You earned an Extra Life!"
+  [[nodiscard]] static std::string You_earned_an_Extra_Life();
+
+  /// "You found an Extra Life!"
+  [[nodiscard]] static std::string You_found_an_Extra_Life();
+
+  /// "You got a box!"
+  [[nodiscard]] static std::string You_got_a_box();
+
+  /// "You got a %{product}!"
+  [[nodiscard]] static std::string You_got_a_product(std::string_view product);
+
+  /// "You got an Extra Life!"
+  [[nodiscard]] static std::string You_got_an_Extra_Life();
+
+  /// "You got an Extra Life from ZK! ❤️"
+  [[nodiscard]] static std::string You_got_an_Extra_Life_from_ZK_️();
+
+  /// "You got %{coinCount} coins!"
+  /// - 0: "You got %{coinCount} coins!"
+  /// - 1: "You got %{coinCount} coin!"
+  /// - 2: "You got %{coinCount} coins!"
+  /// - 3 to 5: "You got %{coinCount} coins!"
+  /// - 6 and more: "You got %{coinCount} coins!"
+  [[nodiscard]] static std::string You_got_coinCount_coins(std::string_view coinCount, std::int64_t count);
+
+  /// "You got %{dollarCount} dollars!"
+  /// - 0: "You got %{dollarCount} dollars!"
+  /// - 1: "You got %{dollarCount} dollar!"
+  /// - 2: "You got %{dollarCount} dollars!"
+  /// - 3 to 5: "You got %{dollarCount} dollars!"
+  /// - 6 and more: "You got %{dollarCount} dollars!"
+  [[nodiscard]] static std::string You_got_dollarCount_dollars(std::string_view dollarCount, std::int64_t count);
+
+  /// "You got %{lifeCount} Extra Lives!"
+  /// - 0: "You got %{lifeCount} Extra Lives!"
+  /// - 1: "You got %{lifeCount} Extra Life!"
+  /// - 2: "You got %{lifeCount} Extra Lives!"
+  /// - 3 to 5: "You got %{lifeCount} Extra Lives!"
+  /// - 6 and more: "You got %{lifeCount} Extra Lives!"
+  [[nodiscard]] static std::string You_got_lifeCount_Extra_Lives(std::string_view lifeCount, std::int64_t count);
+
+  /// "You got %{lifeCount} Extra Lives from %{sender}!"
+  /// - 0: "You got %{lifeCount} Extra Lives from %{sender}!"
+  /// - 1: "You got %{lifeCount} Extra Life from %{sender}!"
+  /// - 2: "You got %{lifeCount} Extra Lives from %{sender}!"
+  /// - 3 to 5: "You got %{lifeCount} Extra Lives from %{sender}!"
+  /// - 6 and more: "You got %{lifeCount} Extra Lives from %{sender}!"
+  [[nodiscard]] static std::string You_got_lifeCount_Extra_Lives_from_sender(std::string_view lifeCount, std::string_view sender, std::int64_t count);
+
+  /// "You got %{number} %{products}!"
+  [[nodiscard]] static std::string You_got_number_products(std::string_view number, std::string_view products);
+
+  /// "You got %{points} more points!"
+  [[nodiscard]] static std::string You_got_points_more_points(std::string_view points);
+
+  /// "You got %{round} of %{totalAnswers} correct!"
+  [[nodiscard]] static std::string You_got_round_of_totalAnswers_correct(std::string_view round, std::string_view totalAnswers);
+
+  /// "You got the letter %{letter}!"
+  [[nodiscard]] static std::string You_got_the_letter_letter(std::string_view letter);
+
+  /// "You got the letter %{letter} and %{extraLifeCount} extra lives!"
+  /// - 0: "You got the letter %{letter} and %{extraLifeCount} extra lives!"
+  /// - 1: "You got the letter %{letter} and %{extraLifeCount} extra life!"
+  /// - 2: "You got the letter %{letter} and %{extraLifeCount} extra lives!"
+  /// - 3 to 5: "You got the letter %{letter} and %{extraLifeCount} extra lives!"
+  /// - 6 and more: "You got the letter %{letter} and %{extraLifeCount} extra lives!"
+  [[nodiscard]] static std::string You_got_the_letter_letter_and_extraLifeCount_extra_lives(std::string_view letter, std::string_view extraLifeCount, std::int64_t count);
+
+  /// "You got the letters %{letters}!"
+  /// - 0: "You got the letters %{letters}!"
+  /// - 1: "You got the letter %{letters}!"
+  /// - 2: "You got the letters %{letters}!"
+  /// - 3 to 5: "You got the letters %{letters}!"
+  /// - 6 and more: "You got the letters %{letters}!"
+  [[nodiscard]] static std::string You_got_the_letters_letters(std::string_view letters, std::int64_t count);
+
+  /// "You got the\n%{product}!"
+  [[nodiscard]] static std::string You_got_the_n_product(std::string_view product);
+
+  /// "You got to Level %{level}"
+  [[nodiscard]] static std::string You_got_to_Level_level(std::string_view level);
+
+  /// "*You have 0 Extra Lives*\nBuy some to help you win!"
+  /// - 0: "*You have 0 Extra Lives*\nBuy some to help you win!"
+  /// - 1: "*You have 1 Extra Life*\nBuy more to help you win!"
+  /// - 2: "*You have 2 Extra Lives*\nBuy more to help you win!"
+  /// - 3 to 5: "*You have a few Extra Lives*\nBuy more to help you win!"
+  /// - 6 and more: "*You have plenty of Extra Lives*\nBuy more to help you win!"
+  [[nodiscard]] static std::string You_have_0_Extra_Lives_nBuy_some_to_help_you_win(std::int64_t count);
+
+  /// "You have already applied a referral code. You may only do this once."
+  [[nodiscard]] static std::string You_have_already_applied_a_referral_code_You_may_only_do_this_once();
+
+  /// "You have an Extra Life!"
+  [[nodiscard]] static std::string You_have_an_Extra_Life();
+
+  /// "You have been removed from the game for a violation of ZK’s Terms of Service and Contest Rules."
+  [[nodiscard]] static std::string You_have_been_removed_from_the_game_for_a_violation_of_ZK_s_Terms_of_Service_and_Contest_Rules();
+
+  /// "You have %{extraLifeCount} Extra Lives!"
+  /// - 0: "You have no Extra Lives!"
+  /// - 1: "You have %{extraLifeCount} Extra Life!"
+  /// - 2: "You have %{extraLifeCount} Extra Lives!"
+  /// - 3 to 5: "You have %{extraLifeCount} Extra Lives!"
+  /// - 6 and more: "You have %{extraLifeCount} Extra Lives!"
+  [[nodiscard]] static std::string You_have_extraLifeCount_Extra_Lives(std::string_view extraLifeCount, std::int64_t count);
+
+  /// "You have reached the maximum number of Friends. We are working to increase this limit soon."
+  [[nodiscard]] static std::string You_have_reached_the_maximum_number_of_Friends_We_are_working_to_increase_this_limit_soon();
+
+  /// "You leveled up to Level %{level}"
+  [[nodiscard]] static std::string You_leveled_up_to_Level_level(std::string_view level);
+
+  /// "You'll receive an email with further instructions."
+  [[nodiscard]] static std::string You_ll_receive_an_email_with_further_instructions();
+
+  /// "You must be signed in to access this feature"
+  [[nodiscard]] static std::string You_must_be_signed_in_to_access_this_feature();
+
+  /// "You must keep at least one social account linked to play ZK."
+  [[nodiscard]] static std::string You_must_keep_at_least_one_social_account_linked_to_play_ZK();
+
+  /// "You must wait a short period between phone verification requests"
+  [[nodiscard]] static std::string You_must_wait_a_short_period_between_phone_verification_requests();
+
+  /// "You must wait a short period between verification code requests"
+  [[nodiscard]] static std::string You_must_wait_a_short_period_between_verification_code_requests();
+
+  /// "You need more Coins to buy that Power Up"
+  [[nodiscard]] static std::string You_need_more_Coins_to_buy_that_Power_Up();
+
+  /// "You ran out of time!"
+  [[nodiscard]] static std::string You_ran_out_of_time();
+
+  /// "*You’re back in the game!* No one was correct."
+  [[nodiscard]] static std::string You_re_back_in_the_game_No_one_was_correct();
+
+  /// "You're eliminated."
+  [[nodiscard]] static std::string You_re_eliminated();
+
+  /// "You're Incorrect!"
+  [[nodiscard]] static std::string You_re_Incorrect();
+
+  /// "You're late."
+  [[nodiscard]] static std::string You_re_late();
+
+  /// "*You're late.* We started the game but you can still watch."
+  [[nodiscard]] static std::string You_re_late_We_started_the_game_but_you_can_still_watch();
+
+  /// "You're out of the cash game, but you can keep playing for other rewards."
+  [[nodiscard]] static std::string You_re_out_of_the_cash_game_but_you_can_keep_playing_for_other_rewards();
+
+  /// "You're too late"
+  [[nodiscard]] static std::string You_re_too_late();
+
+  /// "You're too late to win the cash prize, but can still play for points to earn an Extra Life!"
+  [[nodiscard]] static std::string You_re_too_late_to_win_the_cash_prize_but_can_still_play_for_points_to_earn_an_Extra_Life();
+
+  /// "You're using an *Eraser*"
+  [[nodiscard]] static std::string You_re_using_an_Eraser();
+
+  /// "You reached Q%{reached} and got %{correctCount} of %{totalCount} Qs correct."
+  [[nodiscard]] static std::string You_reached_Q_reached_and_got_correctCount_of_totalCount_Qs_correct(std::string_view reached, std::string_view correctCount, std::string_view totalCount);
+
+  /// "You successfully linked your %{provider} account."
+  [[nodiscard]] static std::string You_successfully_linked_your_provider_account(std::string_view provider);
+
+  /// "You unlocked %{badgeCount} Badges"
+  /// - 0: "You unlocked %{badgeCount} Badges"
+  /// - 1: "You unlocked %{badgeCount} Badge"
+  /// - 2: "You unlocked %{badgeCount} Badges"
+  /// - 3 to 5: "You unlocked %{badgeCount} Badges"
+  /// - 6 and more: "You unlocked %{badgeCount} Badges"
+  [[nodiscard]] static std::string You_unlocked_badgeCount_Badges(std::string_view badgeCount, std::int64_t count);
+
+  /// "You've been eliminated from the game. You can watch and chat only."
+  [[nodiscard]] static std::string You_ve_been_eliminated_from_the_game_You_can_watch_and_chat_only();
+
+  /// "You've been kicked"
+  [[nodiscard]] static std::string You_ve_been_kicked();
+
+  /// "*You've entered to win the VIP Prize!*"
+  [[nodiscard]] static std::string You_ve_entered_to_win_the_VIP_Prize();
+
+  /// "You've got a bunch of letters!"
+  [[nodiscard]] static std::string You_ve_got_a_bunch_of_letters();
+
+  /// "You've got the letter %{firstLetter}!"
+  [[nodiscard]] static std::string You_ve_got_the_letter_firstLetter(std::string_view firstLetter);
+
+  /// "You've got the letters %{firstLetter} and %{secondLetter}!"
+  [[nodiscard]] static std::string You_ve_got_the_letters_firstLetter_and_secondLetter(std::string_view firstLetter, std::string_view secondLetter);
+
+  /// "You've got the letters %{firstLetter}, %{secondLetter}, and %{thirdLetter}!"
+  [[nodiscard]] static std::string You_ve_got_the_letters_firstLetter_secondLetter_and_thirdLetter(std::string_view firstLetter, std::string_view secondLetter, std::string_view thirdLetter);
+
+  /// "You've got the letters %{firstLetter}, %{secondLetter}, %{thirdLetter}, and %{fourthLetter}!"
+  [[nodiscard]] static std::string You_ve_got_the_letters_firstLetter_secondLetter_thirdLetter_and_fourthLetter(std::string_view firstLetter, std::string_view secondLetter, std::string_view thirdLetter, std::string_view fourthLetter);
+
+  /// "You've got the letters %{firstLetter}, %{secondLetter}, %{thirdLetter}, %{fourthLetter}, and %{fifthLetter}!"
+  [[nodiscard]] static std::string You_ve_got_the_letters_firstLetter_secondLetter_thirdLetter_fourthLetter_and_fifthLetter(std::string_view firstLetter, std::string_view secondLetter, std::string_view thirdLetter, std::string_view fourthLetter, std::string_view fifthLetter);
+
+  /// "You’ve violated the terms of service so you will not be able to cash out. If you think this may be a mistake, please contact support. Learn more"
+  [[nodiscard]] static std::string You_ve_violated_the_terms_of_service_so_you_will_not_be_able_to_cash_out_If_you_think_this_may_be_a_();
+
+  /// "You will receive an email with further instructions shortly."
+  [[nodiscard]] static std::string You_will_receive_an_email_with_further_instructions_shortly();
+
+  /// "You won!"
+  [[nodiscard]] static std::string You_won();
+
+  /// "You won %{level} points!"
+  [[nodiscard]] static std::string You_won_level_points(std::string_view level);
+
+  /// "You won the\nVIP Prize!"
+  [[nodiscard]] static std::string You_won_the_nVIP_Prize();
+
+  /// "Your account already exists"
+  [[nodiscard]] static std::string Your_account_already_exists();
+
+  /// "Your answer could not be accepted due to connectivity issues."
+  [[nodiscard]] static std::string Your_answer_could_not_be_accepted_due_to_connectivity_issues();
+
+  /// "Your available balance may be lower because a show you won is currently in review. Learn more"
+  [[nodiscard]] static std::string Your_available_balance_may_be_lower_because_a_show_you_won_is_currently_in_review_Learn_more();
+
+  /// "Your available balance may be lower because a show you won is currently in review. %{learnMore}"
+  [[nodiscard]] static std::string Your_available_balance_may_be_lower_because_a_show_you_won_is_currently_in_review_learnMore(std::string_view learnMore);
+
+  /// "Your Balance"
+  [[nodiscard]] static std::string Your_Balance();
+
+  /// "Your code has expired. We will try to send you a new one."
+  [[nodiscard]] static std::string Your_code_has_expired_We_will_try_to_send_you_a_new_one();
+
+  /// "Your code was invalid"
+  [[nodiscard]] static std::string Your_code_was_invalid();
+
+  /// "Your country code"
+  [[nodiscard]] static std::string Your_country_code();
+
+  /// "Your detailed feedback helps us make ZK Trivia better."
+  [[nodiscard]] static std::string Your_detailed_feedback_helps_us_make_ZK_Trivia_better();
+
+  /// "Your Extra Lives are on the way"
+  /// - 0: "Your Extra Lives are on the way"
+  /// - 1: "Your Extra Life is on the way"
+  /// - 2: "Your Extra Lives are on the way"
+  /// - 3 to 5: "Your Extra Lives are on the way"
+  /// - 6 and more: "Your Extra Lives are on the way"
+  [[nodiscard]] static std::string Your_Extra_Lives_are_on_the_way(std::int64_t count);
+
+  /// "Your forms have been received"
+  [[nodiscard]] static std::string Your_forms_have_been_received();
+
+  /// "Your friend has reached the maximum number of Friend Requests. We are working to increase this limit soon."
+  [[nodiscard]] static std::string Your_friend_has_reached_the_maximum_number_of_Friend_Requests_We_are_working_to_increase_this_limit_();
+
+  /// "Your friend has reached the maximum number of Friends. We are working to increase this limit soon."
+  [[nodiscard]] static std::string Your_friend_has_reached_the_maximum_number_of_Friends_We_are_working_to_increase_this_limit_soon();
+
+  /// "Your In App Purchase is on the way!"
+  [[nodiscard]] static std::string Your_In_App_Purchase_is_on_the_way();
+
+  /// "Your location is required to participate."
+  [[nodiscard]] static std::string Your_location_is_required_to_participate();
+
+  /// "Your money will be there in just a bit."
+  [[nodiscard]] static std::string Your_money_will_be_there_in_just_a_bit();
+
+  /// "Your phone"
+  [[nodiscard]] static std::string Your_phone();
+
+  /// "Your phone number"
+  [[nodiscard]] static std::string Your_phone_number();
+
+  /// "Your phone number is invalid"
+  [[nodiscard]] static std::string Your_phone_number_is_invalid();
+
+  /// "Your profile"
+  [[nodiscard]] static std::string Your_profile();
+
+  /// "Your purchase was not processed in time. Your Extra Life can be used in a future game, and an additional free Extra Life has been added to your account."
+  [[nodiscard]] static std::string Your_purchase_was_not_processed_in_time_Your_Extra_Life_can_be_used_in_a_future_game_and_an_addition();
+
+  /// "Your purchase was successful!"
+  [[nodiscard]] static std::string Your_purchase_was_successful();
+
+  /// "Your question has been submitted."
+  [[nodiscard]] static std::string Your_question_has_been_submitted();
+
+  /// "Your rating: %{percent}%"
+  [[nodiscard]] static std::string Your_rating_percent(std::string_view percent);
+
+  /// "Your referral can't be processed due to a possible violation of the Terms of Use. Please contact help at support@zktrivia.example if you have any questions."
+  [[nodiscard]] static std::string Your_referral_can_t_be_processed_due_to_a_possible_violation_of_the_Terms_of_Use_Please_contact_help();
+
+  /// "Your referral code"
+  [[nodiscard]] static std::string Your_referral_code();
+
+  /// "Your referral code can't be the same as your username"
+  [[nodiscard]] static std::string Your_referral_code_can_t_be_the_same_as_your_username();
+
+  /// "Your request to cash out %{amount} has been submitted"
+  [[nodiscard]] static std::string Your_request_to_cash_out_amount_has_been_submitted(std::string_view amount);
+
+  /// "Your Results"
+  [[nodiscard]] static std::string Your_Results();
+
+  /// "Your username can't be empty."
+  [[nodiscard]] static std::string Your_username_can_t_be_empty();
+
+  /// "Your username can't contain symbols."
+  [[nodiscard]] static std::string Your_username_can_t_contain_symbols();
+
+  /// "Your username must be at least 3 characters"
+  [[nodiscard]] static std::string Your_username_must_be_at_least_3_characters();
+
+  /// "Your verification code"
+  [[nodiscard]] static std::string Your_verification_code();
+};
+
+}  // namespace zk

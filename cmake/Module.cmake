@@ -1,0 +1,68 @@
+# The module: its objects, once, and the library made of them. Tests link the objects, to reach what the shared library hides.
+find_package(ICU REQUIRED COMPONENTS uc)
+find_package(nlohmann_json 3.11 REQUIRED)
+
+set(public_headers
+  ZKStrings.h
+  catalogue/ZKStrings.h
+  engine/BundleGlobals.h
+  engine/StringLookup.h
+  engine/Substitutions.h
+  platform/Bundle.h
+  platform/Dictionary.h
+  platform/Export.h
+  platform/Locale.h
+  platform/Resolver.h
+  platform/SharedArray.h
+  platform/ZKCommon.h
+  region/Country.h
+  region/CountryList.h
+  region/CurrentLanguage.h
+  region/Language.h)
+
+add_library(zk_objects OBJECT
+  catalogue/ZKStrings.cpp
+  engine/BundleGlobals.cpp
+  engine/PlaceholderSubstitution.cpp
+  engine/StringLookup.cpp
+  platform/Bundle.cpp
+  platform/CodeLocation.cpp
+  platform/File.cpp
+  platform/Json.cpp
+  platform/Locale.cpp
+  platform/Resolver.cpp
+  platform/StringTable.cpp
+  platform/StringTableReader.cpp
+  platform/TextEncoding.cpp
+  platform/TextSearch.cpp
+  platform/UnicodeText.cpp
+  platform/ZKCommon.cpp
+  region/Country.cpp
+  region/CountryList.cpp
+  region/CurrentLanguage.cpp
+  region/Language.cpp
+  region/LanguageDerivation.cpp)
+target_include_directories(zk_objects PUBLIC ${PROJECT_BINARY_DIR}/include)
+target_link_libraries(zk_objects PRIVATE zk_compile_options ICU::uc nlohmann_json::nlohmann_json)
+
+add_library(ZKStrings)
+add_library(ZKStrings::ZKStrings ALIAS ZKStrings)
+target_sources(ZKStrings PRIVATE $<TARGET_OBJECTS:zk_objects>)
+foreach(header IN LISTS public_headers)
+  list(APPEND public_header_files ${PROJECT_BINARY_DIR}/include/ZKStrings/${header})
+endforeach()
+target_sources(ZKStrings PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_BINARY_DIR}/include FILES ${public_header_files})
+target_compile_features(ZKStrings PUBLIC cxx_std_20)
+target_link_libraries(ZKStrings PRIVATE $<BUILD_INTERFACE:zk_compile_options> ICU::uc ${CMAKE_DL_LIBS})
+set_target_properties(ZKStrings PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR} LINKER_LANGUAGE CXX)
+if(BUILD_SHARED_LIBS)
+  # Hidden visibility does not reach the instances of the standard library's templates.
+  target_link_options(ZKStrings PRIVATE -Wl,--version-script=${PROJECT_SOURCE_DIR}/cmake/ExportedNames.map -Wl,--no-undefined)
+  set_target_properties(ZKStrings PROPERTIES LINK_DEPENDS ${PROJECT_SOURCE_DIR}/cmake/ExportedNames.map)
+endif()
+
+# The module as tools and tests link it: with its inner names.
+add_library(zk_module_for_development INTERFACE)
+target_sources(zk_module_for_development INTERFACE $<TARGET_OBJECTS:zk_objects>)
+target_include_directories(zk_module_for_development INTERFACE ${PROJECT_BINARY_DIR}/include)
+target_link_libraries(zk_module_for_development INTERFACE ICU::uc ${CMAKE_DL_LIBS})

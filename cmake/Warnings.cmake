@@ -1,0 +1,10 @@
+# How all targets of this project are compiled.
+add_library(zk_compile_options INTERFACE)
+target_compile_options(zk_compile_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow)
+if(DEFINED ENV{CI} OR ZK_WERROR)
+  target_compile_options(zk_compile_options INTERFACE -Werror)
+endif()
+if(ZK_SANITIZE)
+  target_compile_options(zk_compile_options INTERFACE -fsanitize=${ZK_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+  target_link_options(zk_compile_options INTERFACE -fsanitize=${ZK_SANITIZE})
+endif()

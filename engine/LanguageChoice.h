@@ -1,0 +1,50 @@
+#pragma once
+
+#include <ZKStrings/platform/SharedArray.h>
+#include <ZKStrings/platform/UnicodeText.h>
+
+#include <string>
+#include <string_view>
+
+namespace zk {
+
+/// The name of the directory for a language identifier such as "pt-BR": its first two characters, and "Base"
+/// for English.
+[[nodiscard]] inline std::string_view languageCode(std::string_view identifier) {
+  const std::string_view code = firstTwoCharacters(identifier);
+  return code == "en" ? "Base" : code;
+}
+
+/// The bundle of the language directory that `preferredLanguages` chooses among the resources of `bundle`:
+/// that of the first entry whose directory exists and opens, or else Base.lproj. Stops the process when that
+/// is missing or does not open.
+///
+/// `PlatformBundle` is the platform's bundle or a stand-in with the same operations. Nothing is remembered:
+/// an entry's directory is looked up once to see that it is there and once to open it, and the winner's steps
+/// are taken again to obtain its bundle. What was there at first must still be there then, or the process
+/// stops.
+template <class PlatformBundle>
+const PlatformBundle& chosenLanguageBundle(const PlatformBundle& bundle,
+                                           const SharedArray<std::string>& preferredLanguages) {
+  const auto openExisting = [&](std::string_view code) {
+    const auto* const path = bundle.pathForResource(code, "lproj");
+    if (!path) __builtin_trap();
+    return PlatformBundle::initWithPath(*path);
+  };
+  const auto open = [&](std::string_view identifier) -> const PlatformBundle* {
+    const std::string_view code = languageCode(identifier);
+    return bundle.pathForResource(code, "lproj") ? openExisting(code) : nullptr;
+  };
+  const PlatformBundle* chosen = nullptr;
+  for (const std::string& identifier : preferredLanguages) {
+    if (!open(identifier)) continue;
+    chosen = openExisting(languageCode(identifier));
+    if (!chosen) __builtin_trap();
+    return *chosen;
+  }
+  chosen = openExisting("Base");
+  if (!chosen) __builtin_trap();
+  return *chosen;
+}
+
+}  // namespace zk

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <ZKStrings/engine/Substitutions.h>
+
+#include <string>
+#include <string_view>
+
+namespace zk {
+
+/// `text` with every placeholder "%{name}" for which `substitutions` has a text replaced by it, one pair
+/// after the other in their order: a text that itself contains the placeholder of a later pair is filled in.
+/// Other placeholders stay as they are, and there is no way to escape one.
+[[nodiscard]] std::string applySubstitutions(std::string_view text, const Substitutions& substitutions);
+
+}  // namespace zk

@@ -1,0 +1,158 @@
+#include <ZKStrings/platform/Bundle.h>
+#include <ZKStrings/platform/CodeLocation.h>
+#include <ZKStrings/platform/StringTable.h>
+
+#include <map>
+#include <mutex>
+#include <optional>
+#include <utility>
+
+#include <dirent.h>
+#include <sys/stat.h>
+
+namespace zk {
+
+namespace {
+
+/// A hash of the file name `name`.`type` that needs only its length and its first two bytes: those are what
+/// tells the language directories apart.
+std::size_t hashOfName(std::string_view name, std::string_view type) {
+  const auto first = static_cast<unsigned char>(name[0]);
+  const auto second = static_cast<unsigned char>(name.size() > 1 ? name[1] : '.');
+  return (first * 31u + second) * 7u + name.size() + type.size();
+}
+
+bool isNamed(std::string_view fileName, std::string_view name, std::string_view type) {
+  return fileName.size() == name.size() + 1 + type.size() && fileName[name.size()] == '.' &&
+         fileName.starts_with(name) && fileName.ends_with(type);
+}
+
+bool isDirectoryEntry(const dirent& entry, const std::string& path) {
+  if (entry.d_type != DT_UNKNOWN && entry.d_type != DT_LNK) return entry.d_type == DT_DIR;
+  struct stat status {};
+  return stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
+}
+
+/// Everything in the directory at `path`; nothing when it cannot be listed.
+std::optional<std::vector<std::unique_ptr<const ResourcePath>>> listing(const std::string& path) {
+  const auto close = [](DIR* open) { closedir(open); };
+  const std::unique_ptr<DIR, decltype(close)> directory(opendir(path.c_str()), close);
+  if (!directory) return std::nullopt;
+  std::vector<std::unique_ptr<const ResourcePath>> resources;
+  while (const dirent* entry = readdir(directory.get())) {
+    const std::string_view name = entry->d_name;
+    if (name == "." || name == "..") continue;
+    std::string full = path + "/" + entry->d_name;
+    const bool isDirectory = isDirectoryEntry(*entry, full);
+    resources.push_back(std::make_unique<const ResourcePath>(std::move(full), isDirectory));
+  }
+  return resources;
+}
+
+/// Guards the opening of bundles and tables; those that are open are found without it.
+std::recursive_mutex& opening() {
+  static auto& mutex = *new std::recursive_mutex;  // never destroyed: a lookup may come as late as it likes
+  return mutex;
+}
+
+/// The nearest directory share/ZKStrings at or above `directory`.
+std::string resourceDirectory(std::string directory) {
+  constexpr int kLevels = 3;
+  for (int level = 0; level < kLevels; ++level, directory = directoryOf(directory)) {
+    const std::string candidate = directory + "/share/ZKStrings";
+    struct stat status {};
+    if (stat(candidate.c_str(), &status) == 0) return candidate;
+  }
+  return {};
+}
+
+}  // namespace
+
+ResourcePath::ResourcePath(std::string path, bool isDirectory)
+    : path_(std::move(path)), nameBegin_(path_.rfind('/') + 1), isDirectory_(isDirectory) {
+}
+
+ResourcePath::~ResourcePath() {
+  delete table_.load();
+}
+
+const StringTable& ResourcePath::table() const {
+  if (const StringTable* open = table_.load(std::memory_order_acquire)) return *open;
+  const std::lock_guard lock(opening());
+  if (!table_.load()) table_.store(new StringTable(StringTable::inFile(path_)), std::memory_order_release);
+  return *table_.load();
+}
+
+Bundle::Bundle(std::string path, Resources resources)
+    : path_(std::move(path)), resources_(std::move(resources)), defaultTable_(nullptr) {
+  std::size_t size = 64;
+  while (size < resources_.size() * 4) size *= 2;
+  index_.resize(size);
+  for (const auto& resource : resources_) {
+    const std::string_view name = resource->fileName();
+    const std::size_t dot = name.rfind('.');
+    if (dot == 0 || dot == std::string_view::npos) continue;  // without name or type, and so never asked for
+    std::size_t at = hashOfName(name.substr(0, dot), name.substr(dot + 1)) % size;
+    while (index_[at]) at = (at + 1) % size;
+    index_[at] = resource.get();
+  }
+  defaultTable_ = URLForResource("Localizable", "strings");
+}
+
+Bundle::~Bundle() = default;
+
+const Bundle* Bundle::initWithPath(const ResourcePath& path) {
+  if (const Bundle* open = path.bundle_.load(std::memory_order_acquire)) return open;
+  const Bundle* const opened = initWithPath(path.string());
+  path.bundle_.store(opened, std::memory_order_release);
+  return opened;
+}
+
+const Bundle* Bundle::initWithPath(const std::string& path) {
+  static auto& bundles =
+      *new std::map<std::string, std::unique_ptr<const Bundle>>;  // never destroyed, like the lock
+  const std::lock_guard lock(opening());
+  if (const auto open = bundles.find(path); open != bundles.end()) return open->second.get();
+  std::optional<Resources> resources = listing(path);
+  if (!resources) return nullptr;
+  return (bundles[path] = std::unique_ptr<const Bundle>(new Bundle(path, *std::move(resources)))).get();
+}
+
+const Bundle& Bundle::inDirectory(const std::string& path) {
+  const Bundle* const opened = initWithPath(path);
+  return opened ? *opened : *new Bundle(path, {});
+}
+
+const Bundle& Bundle::bundleForClass(const std::type_info& type) {
+  // The name of a type stands in the file that defines the type, like its code.
+  return inDirectory(resourceDirectory(directoryOf(fileHolding(type.name()))));
+}
+
+const Bundle& Bundle::mainBundle() {
+  return inDirectory(directoryOf(executablePath()));
+}
+
+const ResourcePath* Bundle::URLForResource(std::string_view name, std::string_view extension) const {
+  if (name.empty()) return nullptr;
+  std::size_t at = hashOfName(name, extension) & (index_.size() - 1);
+  while (const ResourcePath* resource = index_[at]) {
+    if (isNamed(resource->fileName(), name, extension)) return resource;
+    at = (at + 1) & (index_.size() - 1);
+  }
+  return nullptr;
+}
+
+const ResourcePath* Bundle::pathForResource(std::string_view name, std::string_view type) const {
+  const ResourcePath* const resource = URLForResource(name, type);
+  return resource && resource->isDirectory() ? resource : nullptr;
+}
+
+std::string_view Bundle::localizedStringForKey(std::string_view key, std::string_view value,
+                                               std::optional<std::string_view> table) const {
+  const ResourcePath* const file = table ? URLForResource(*table, "strings") : defaultTable_;
+  const std::optional<std::string_view> text = file ? file->table().find(key) : std::nullopt;
+  if (text) return *text;
+  return value.empty() ? key : value;
+}
+
+}  // namespace zk

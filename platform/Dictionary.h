@@ -1,0 +1,90 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <initializer_list>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <variant>
+#include <vector>
+
+namespace zk {
+
+class Value;
+
+/// What one JSON object holds: members by name, in the order in which they were written.
+///
+///     const zk::Dictionary country = {{"name", "Austria"}, {"phoneCode", 43}, {"iso", "AT"}};
+class Dictionary {
+ public:
+  using Member = std::pair<std::string, Value>;
+
+  Dictionary() = default;
+  Dictionary(std::initializer_list<Member> members);
+
+  void append(std::string name, Value value);
+
+  /// The value of the member `name`, compared byte for byte; null when there is none. Of several the last
+  /// counts.
+  [[nodiscard]] const Value* find(std::string_view name) const;
+  /// The same as `find`, and null also when the value is of another type than `Type`.
+  template <class Type>
+  [[nodiscard]] const Type* find(std::string_view name) const;
+
+ private:
+  std::vector<Member> members_;
+};
+
+/// One JSON value: null, a boolean, a number, a text, a list or a dictionary.
+class Value {
+ public:
+  using List = std::vector<Value>;
+
+  Value() = default;
+  Value(std::nullptr_t) {}
+  Value(bool value) : value_(value) {}
+  Value(int value) : value_(std::int64_t{value}) {}
+  Value(std::int64_t value) : value_(value) {}
+  Value(double value) : value_(value) {}
+  Value(const char* value) : value_(std::string(value)) {}
+  Value(std::string value) : value_(std::move(value)) {}
+  Value(List value) : value_(std::move(value)) {}
+  Value(Dictionary value) : value_(std::move(value)) {}
+
+  /// The value as `Type` (`bool`, `std::int64_t`, `double`, `std::string`, `List` or `Dictionary`); null when
+  /// it is of another type. Nothing is converted: the text "44" is no number and 44.0 is no integer.
+  template <class Type>
+  [[nodiscard]] const Type* as() const {
+    return std::get_if<Type>(&value_);
+  }
+  template <class Type>
+  [[nodiscard]] Type* as() {
+    return std::get_if<Type>(&value_);
+  }
+
+ private:
+  std::variant<std::nullptr_t, bool, std::int64_t, double, std::string, List, Dictionary> value_ = nullptr;
+};
+
+inline Dictionary::Dictionary(std::initializer_list<Member> members) : members_(members) {
+}
+
+inline void Dictionary::append(std::string name, Value value) {
+  members_.emplace_back(std::move(name), std::move(value));
+}
+
+inline const Value* Dictionary::find(std::string_view name) const {
+  for (auto member = members_.rbegin(); member != members_.rend(); ++member) {
+    if (member->first == name) return &member->second;
+  }
+  return nullptr;
+}
+
+template <class Type>
+const Type* Dictionary::find(std::string_view name) const {
+  const Value* value = find(name);
+  return value ? value->as<Type>() : nullptr;
+}
+
+}  // namespace zk

@@ -1,0 +1,110 @@
+#include <ZKStrings/platform/Locale.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <string_view>
+#include <utility>
+
+namespace zk {
+
+namespace {
+
+constexpr std::string_view kDefaultIdentifier = "en";
+
+/// The modifiers of POSIX locale names that name a script.
+constexpr std::pair<std::string_view, std::string_view> kScripts[] = {
+    {"latin", "Latn"}, {"cyrillic", "Cyrl"}, {"devanagari", "Deva"}, {"iqtelif", "Latn"}};
+
+std::string_view environment(const char* name) {
+  const char* const value = std::getenv(name);
+  return value ? value : "";
+}
+
+/// The script that the modifier stands for, for example "Latn" for "latin"; empty for other modifiers.
+std::string_view scriptOf(std::string_view modifier) {
+  const auto* const script =
+      std::ranges::find(kScripts, modifier, &std::pair<std::string_view, std::string_view>::first);
+  return script == std::end(kScripts) ? std::string_view() : script->second;
+}
+
+/// The identifier of a POSIX locale name, language[_region][.encoding][@modifier]; nothing for C, POSIX and a
+/// name without language.
+std::optional<std::string> identifierOf(std::string_view posixName) {
+  const std::string_view name = posixName.substr(0, posixName.find_first_of(".@"));
+  if (name.empty() || name == "C" || name == "POSIX") return std::nullopt;
+  const std::size_t at = posixName.find('@');
+  const std::string_view script = at == std::string_view::npos ? "" : scriptOf(posixName.substr(at + 1));
+
+  std::string identifier(name);
+  std::ranges::replace(identifier, '_', '-');
+  if (!script.empty())
+    identifier.insert(std::min(identifier.find('-'), identifier.size()), "-" + std::string(script));
+  return identifier;
+}
+
+void appendOnce(std::vector<std::string>& identifiers, std::string identifier) {
+  if (std::ranges::find(identifiers, identifier) == identifiers.end())
+    identifiers.push_back(std::move(identifier));
+}
+
+using Source = std::function<LocaleSettings()>;
+
+struct CurrentSource {
+  std::mutex mutex;
+  std::shared_ptr<const Source> source = std::make_shared<const Source>(settingsFromEnvironment);
+};
+
+CurrentSource& currentSource() {
+  static auto& current = *new CurrentSource;  // never destroyed: settings may be asked for at any time
+  return current;
+}
+
+LocaleSettings settings() {
+  CurrentSource& current = currentSource();
+  std::unique_lock lock(current.mutex);
+  const std::shared_ptr<const Source> source = current.source;
+  lock.unlock();
+  return (*source)();
+}
+
+}  // namespace
+
+LocaleSettings settingsFromEnvironment() {
+  std::string_view locale;
+  for (const char* variable : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
+    locale = environment(variable);
+    if (!locale.empty()) break;
+  }
+  const std::optional<std::string> identifier = identifierOf(locale);
+  if (!identifier) return {std::string(kDefaultIdentifier), {std::string(kDefaultIdentifier)}};
+
+  LocaleSettings settings{*identifier, {}};
+  for (std::string_view rest = environment("LANGUAGE"); !rest.empty();) {
+    const std::string_view name = rest.substr(0, rest.find(':'));
+    rest.remove_prefix(std::min(name.size() + 1, rest.size()));
+    if (!name.empty())
+      appendOnce(settings.preferredLanguages, identifierOf(name).value_or(std::string(kDefaultIdentifier)));
+  }
+  appendOnce(settings.preferredLanguages, *identifier);
+  return settings;
+}
+
+SharedArray<std::string> Locale::preferredLanguages() {
+  return settings().preferredLanguages;
+}
+
+void Locale::readSettingsFrom(Source source) {
+  auto replacement = std::make_shared<const Source>(source ? std::move(source) : settingsFromEnvironment);
+  CurrentSource& current = currentSource();
+  const std::lock_guard lock(current.mutex);
+  current.source.swap(replacement);
+}
+
+std::string Locale::identifier() const {
+  return settings().identifier;
+}
+
+}  // namespace zk

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <cstddef>
+#include <initializer_list>
+#include <memory>
+#include <utility>
+#include <vector>
+
+namespace zk {
+
+/// A list value: a copy costs one reference count, and no change in one copy ever shows in another.
+///
+///     zk::SharedArray<std::string> languages = {"de-DE", "fr-FR"};
+///     zk::SharedArray<std::string> copy = languages;   // shares the elements
+///     copy.append("en");                               // languages still has two
+///
+/// The elements themselves are never changed in place: `append` and `edit` give this copy new elements.
+/// Different copies may be used on different threads at once; one and the same object follows the rules of
+/// `std::vector`.
+template <class Element>
+class SharedArray {
+ public:
+  SharedArray() = default;
+  SharedArray(std::initializer_list<Element> elements) : SharedArray(std::vector<Element>(elements)) {}
+  SharedArray(std::vector<Element> elements)
+      : elements_(std::make_shared<const std::vector<Element>>(std::move(elements))) {}
+
+  [[nodiscard]] std::size_t size() const { return elements_ ? elements_->size() : 0; }
+  [[nodiscard]] bool empty() const { return size() == 0; }
+
+  /// The element at `index`, which must be less than `size()`.
+  [[nodiscard]] const Element& operator[](std::size_t index) const { return (*elements_)[index]; }
+
+  [[nodiscard]] const Element* begin() const { return elements_ ? elements_->data() : nullptr; }
+  [[nodiscard]] const Element* end() const { return begin() + size(); }
+
+  void append(Element element) {
+    edit([&](std::vector<Element>& elements) { elements.push_back(std::move(element)); });
+  }
+
+  /// Calls `change(std::vector<Element>&)` on a copy of the elements and takes the result over.
+  /// When `change` throws, the array is as it was before.
+  template <class Change>
+  void edit(Change&& change) {
+    std::vector<Element> elements(begin(), end());
+    std::forward<Change>(change)(elements);
+    *this = SharedArray(std::move(elements));
+  }
+
+ private:
+  std::shared_ptr<const std::vector<Element>> elements_;
+};
+
+}  // namespace zk

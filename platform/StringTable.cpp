@@ -1,0 +1,78 @@
+#include <ZKStrings/platform/File.h>
+#include <ZKStrings/platform/Hash.h>
+#include <ZKStrings/platform/StringTable.h>
+#include <ZKStrings/platform/StringTableReader.h>
+#include <ZKStrings/platform/TextEncoding.h>
+
+#include <cstring>
+#include <limits>
+#include <utility>
+
+namespace zk {
+
+namespace {
+
+constexpr std::uint32_t kFree = std::numeric_limits<std::uint32_t>::max();
+
+std::uint32_t shortHashOf(std::string_view key) {
+  return static_cast<std::uint32_t>(hashOf(key) >> 32);
+}
+
+/// The place among `slots` where the search for `hash` begins: the hash as a fraction of the whole.
+std::size_t placeOf(std::uint32_t hash, std::size_t slots) {
+  return static_cast<std::size_t>((std::uint64_t{hash} * slots) >> 32);
+}
+
+}  // namespace
+
+StringTable StringTable::inFile(const std::string& path) {
+  std::optional<std::string> bytes = contentsOfFile(path);
+  if (!bytes) return StringTable();
+  std::optional<std::string> text = decodedText(*std::move(bytes), UnmarkedText::isUtf8);
+  if (!text) return StringTable();
+
+  std::vector<Slot> entries;
+  entries.reserve(text->size() / 64);
+  const auto place = [](std::size_t offset) {
+    return static_cast<std::uint32_t>(offset);
+  };  // files end at 256 MiB
+  const auto unescaped = [&](const StringTableReader::Token& token) {
+    const std::size_t size = token.end - token.begin;
+    return token.hasEscapes ? unescape(text->data() + token.begin, size) : size;
+  };
+  StringTableReader reader(*text);
+  while (reader.next()) {
+    const std::size_t keySize = unescaped(reader.key());
+    const std::uint32_t hash = shortHashOf({text->data() + reader.key().begin, keySize});
+    entries.push_back({hash, place(reader.key().begin), place(keySize), place(reader.value().begin),
+                       place(unescaped(reader.value()))});
+  }
+  if (reader.fault()) return StringTable();
+  return StringTable(*std::move(text), entries);
+}
+
+StringTable::StringTable(std::string text, const std::vector<Slot>& entries)
+    : text_(std::move(text)), slots_(entries.size() * 5 / 4 + 1, Slot{0, kFree, 0, 0, 0}) {
+  for (const Slot& entry : entries) {
+    slots_[slotFor(entry.hash, {text_.data() + entry.key, entry.keySize})] = entry;
+  }
+}
+
+/// The place of the slot of `key`, or of the free slot where it belongs.
+std::size_t StringTable::slotFor(std::uint32_t hash, std::string_view key) const {
+  std::size_t at = placeOf(hash, slots_.size());
+  for (;; at = at + 1 == slots_.size() ? 0 : at + 1) {
+    const Slot& slot = slots_[at];
+    if (slot.key == kFree) return at;
+    if (slot.hash != hash || slot.keySize != key.size()) continue;
+    if (std::memcmp(text_.data() + slot.key, key.data(), key.size()) == 0) return at;
+  }
+}
+
+std::optional<std::string_view> StringTable::find(std::string_view key) const {
+  const Slot& slot = slots_[slotFor(shortHashOf(key), key)];
+  if (slot.key == kFree) return std::nullopt;
+  return std::string_view(text_.data() + slot.value, slot.valueSize);
+}
+
+}  // namespace zk

@@ -1,0 +1,195 @@
+#include <ZKStrings/platform/StringTableReader.h>
+#include <ZKStrings/platform/UnicodeText.h>
+
+#include <cstring>
+#include <utility>
+
+namespace zk {
+
+namespace {
+
+bool isBlank(char c) {
+  return c == ' ' || (c >= '\t' && c <= '\r');
+}
+
+bool isUnquoted(char c) {
+  const bool isLetter = (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
+  return isLetter || (c >= '0' && c <= '9') || (c != '\0' && std::strchr("_$/:.-", c) != nullptr);
+}
+
+}  // namespace
+
+bool StringTableReader::fail(std::size_t offset, std::string expected) {
+  fault_ = Fault{offset, std::move(expected)};
+  return false;
+}
+
+/// Skips a comment when one begins here; false when it has no end.
+bool StringTableReader::skipComment() {
+  const std::string_view rest = text_.substr(at_);
+  const bool isLine = rest.starts_with("//");
+  if (!isLine && !rest.starts_with("/*")) return true;
+  std::size_t length = rest.find(isLine ? "\n" : "*/", 2);
+  if (length == std::string_view::npos && !isLine)
+    return fail(at_, "the end \"*/\" of the comment that begins here");
+  if (length == std::string_view::npos) length = rest.size();
+  comments_.push_back({at_ + 2, at_ + length});
+  at_ += isLine ? length : length + 2;
+  return true;
+}
+
+bool StringTableReader::skipBlanks() {
+  for (;;) {
+    while (at_ < text_.size() && isBlank(text_[at_])) ++at_;
+    if (at_ >= text_.size() || text_[at_] != '/') return true;
+    const std::size_t before = at_;
+    if (!skipComment()) return false;
+    if (at_ == before) return true;
+  }
+}
+
+bool StringTableReader::readQuoted(Token& token) {
+  const std::size_t quote = at_++;
+  token = {at_, at_};
+  for (; at_ < text_.size(); ++at_) {
+    if (text_[at_] == '"') {
+      token.end = at_++;
+      return true;
+    }
+    if (text_[at_] != '\\') continue;
+    token.hasEscapes = true;
+    ++at_;
+  }
+  at_ = text_.size();
+  return fail(quote, "the closing quote of the text that begins here");
+}
+
+bool StringTableReader::readToken(Token& token, const char* expected) {
+  if (!skipBlanks()) return false;
+  if (at_ < text_.size() && text_[at_] == '"') return readQuoted(token);
+  token = {at_, at_};
+  // A slash belongs to the token, but an asterisk never does: a comment may stand right behind.
+  while (at_ < text_.size() && isUnquoted(text_[at_]) && text_.substr(at_, 2) != "/*") ++at_;
+  token.end = at_;
+  return token.begin < token.end || fail(at_, expected);
+}
+
+/// Reads "=" or ";" behind the token `after`. When another character stands there and the token runs over
+/// lines, it is that token's quote that was never closed.
+bool StringTableReader::readMark(char mark, const Token& after) {
+  if (!skipBlanks()) return false;
+  if (at_ < text_.size() && text_[at_] == mark) {
+    ++at_;
+    return true;
+  }
+  if (text_.substr(after.begin, after.end - after.begin).find('\n') != std::string_view::npos) {
+    return fail(after.begin - 1, "the closing quote of the text that begins here on the same line");
+  }
+  return fail(at_, mark == '=' ? "\"=\" and the text of the key" : "\";\" at the end of the entry before");
+}
+
+bool StringTableReader::next() {
+  comments_.clear();
+  if (fault_ || !skipBlanks() || at_ == text_.size()) return false;
+  entryBegin_ = at_;
+  return readToken(key_, "a key, in quotes") && readMark('=', key_) &&
+         readToken(value_, "the text of the key, in quotes") && readMark(';', value_);
+}
+
+void StringTableReader::recover() {
+  const std::size_t offset = std::exchange(fault_, std::nullopt)->offset;
+  const auto beginsEntry = [&](std::size_t line) {
+    while (line < text_.size() && (text_[line] == ' ' || text_[line] == '\t')) ++line;
+    return line < text_.size() &&
+           (text_[line] == '"' || text_.substr(line, 2) == "/*" || text_.substr(line, 2) == "//");
+  };
+  const auto lineAt = [&](std::size_t place) { return place == 0 ? 0 : text_.rfind('\n', place - 1) + 1; };
+  at_ = lineAt(offset);
+  while (at_ < text_.size() && (at_ <= entryBegin_ || !beginsEntry(at_))) {
+    at_ = text_.find('\n', at_);
+    at_ = at_ == std::string_view::npos ? text_.size() : at_ + 1;
+  }
+}
+
+namespace {
+
+/// The number that up to `most` digits of `base` at `text` spell, and how many digits those are.
+struct Number {
+  char32_t value = 0;
+  std::size_t digits = 0;
+};
+
+Number numberAt(std::string_view text, char32_t base, std::size_t most) {
+  constexpr std::string_view kDigits = "0123456789abcdef";
+  Number number;
+  while (number.digits < most && number.digits < text.size()) {
+    const char digit = text[number.digits];
+    const char lower = digit >= 'A' && digit <= 'F' ? static_cast<char>(digit - 'A' + 'a') : digit;
+    const std::size_t value = kDigits.find(lower);
+    if (value >= base) break;
+    number.value = number.value * base + static_cast<char32_t>(value);
+    ++number.digits;
+  }
+  return number;
+}
+
+bool isLead(char32_t unit) {
+  return unit >= 0xD800 && unit <= 0xDBFF;
+}
+
+bool isTrail(char32_t unit) {
+  return unit >= 0xDC00 && unit <= 0xDFFF;
+}
+
+/// What the escape whose backslash stands before `text` means, and how many bytes of `text` belong to it;
+/// nothing for an unknown one.
+struct Escape {
+  char32_t value;
+  std::size_t size;
+};
+
+std::optional<Escape> escapeAt(std::string_view text) {
+  constexpr std::string_view kLetters = "\"\\ntrabfv";
+  constexpr std::string_view kMeanings = "\"\\\n\t\r\a\b\f\v";
+  if (const std::size_t letter = kLetters.find(text[0]); letter != std::string_view::npos) {
+    return Escape{static_cast<unsigned char>(kMeanings[letter]), 1};
+  }
+  if (const Number octal = numberAt(text, 8, 3); octal.digits > 0)
+    return Escape{octal.value & 0xFF, octal.digits};
+  const Number unit = text[0] == 'U' ? numberAt(text.substr(1), 16, 4) : Number{};
+  if (unit.digits < 4) return std::nullopt;
+  if (isLead(unit.value) && text.substr(5, 2) == "\\U") {
+    const Number trail = numberAt(text.substr(7), 16, 4);
+    if (trail.digits == 4 && isTrail(trail.value)) {
+      return Escape{0x10000 + ((unit.value - 0xD800) << 10) + (trail.value - 0xDC00), 11};
+    }
+  }
+  return Escape{isLead(unit.value) || isTrail(unit.value) ? U'\uFFFD' : unit.value, 5};
+}
+
+}  // namespace
+
+std::size_t unescape(char* token, std::size_t size, std::vector<std::size_t>* unknown) {
+  const std::string_view text(token, size);
+  std::string character;
+  std::size_t written = 0;
+  for (std::size_t at = 0; at < size;) {
+    if (text[at] != '\\' || at + 1 == size) {
+      token[written++] = text[at++];
+      continue;
+    }
+    const std::optional<Escape> escape = escapeAt(text.substr(at + 1));
+    if (!escape) {
+      if (unknown) unknown->push_back(at);
+      ++at;
+      continue;
+    }
+    character.clear();
+    appendCodePoint(character, escape->value);
+    written += character.copy(token + written, character.size());
+    at += 1 + escape->size;
+  }
+  return written;
+}
+
+}  // namespace zk

@@ -1,0 +1,75 @@
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace zk {
+
+/// Reads the text of a string table, entry by entry:
+///
+///     /* a comment */
+///     "About" = "Über uns";     // quoted, with the escapes of `unescape`
+///     Cancel = Abbrechen;       // unquoted: letters, digits and _ $ / : . -
+///
+/// It copies and changes nothing: tokens are places in the text. One reader is used by one thread.
+class StringTableReader {
+ public:
+  /// A key, a value or a comment: the bytes [begin, end) of the text, without quotes and comment marks.
+  struct Token {
+    std::size_t begin = 0;
+    std::size_t end = 0;
+    bool hasEscapes = false;
+  };
+
+  /// What keeps the text from being a table: what was expected at the byte `offset`.
+  struct Fault {
+    std::size_t offset;
+    std::string expected;
+  };
+
+  /// Reads `text`, UTF-8 without a byte-order mark, which must outlive the reader.
+  explicit StringTableReader(std::string_view text) : text_(text) {}
+
+  /// Reads the next entry. False at the end of the text and at a fault.
+  [[nodiscard]] bool next();
+
+  /// After `next` gave true: the entry's parts, and the comments before it.
+  [[nodiscard]] const Token& key() const { return key_; }
+  [[nodiscard]] const Token& value() const { return value_; }
+  [[nodiscard]] const std::vector<Token>& comments() const { return comments_; }
+
+  /// After `next` gave false: the fault, or nothing at the end of the text.
+  [[nodiscard]] const std::optional<Fault>& fault() const { return fault_; }
+
+  /// Forgets the fault and goes on with what looks like the next entry, for tools that show all faults at
+  /// once.
+  void recover();
+
+ private:
+  bool skipBlanks();
+  bool skipComment();
+  bool readToken(Token& token, const char* expected);
+  bool readQuoted(Token& token);
+  bool readMark(char mark, const Token& after);
+  bool fail(std::size_t offset, std::string expected);
+
+  std::string_view text_;
+  std::size_t at_ = 0;
+  std::size_t entryBegin_ = 0;
+  Token key_;
+  Token value_;
+  std::vector<Token> comments_;
+  std::optional<Fault> fault_;
+};
+
+/// Replaces the escapes in the `size` bytes at `token` by what they stand for, which is never longer, and
+/// gives the new size:
+/// \" \\ \n \t \r \a \b \f \v, one to three octal digits, \U and four hexadecimal digits (of a surrogate pair
+/// both; a lone surrogate gives U+FFFD). Any other escaped character stands for itself; `unknown` receives
+/// the offsets of those.
+std::size_t unescape(char* token, std::size_t size, std::vector<std::size_t>* unknown = nullptr);
+
+}  // namespace zk

@@ -1,0 +1,87 @@
+#include <ZKStrings/platform/TextEncoding.h>
+#include <ZKStrings/platform/UnicodeText.h>
+
+#include <string_view>
+
+#include <unicode/utf.h>
+
+namespace zk {
+
+namespace {
+
+using namespace std::string_view_literals;
+
+struct Encoding {
+  std::size_t unit;  // bytes per code unit
+  bool bigEndian;
+};
+
+struct Mark {
+  std::string_view bytes;
+  Encoding encoding;
+};
+
+// The mark of UTF-32 begins with that of UTF-16, and so stands before it.
+constexpr Mark kMarks[] = {
+    {"\xEF\xBB\xBF"sv, {1, false}}, {"\xFF\xFE\0\0"sv, {4, false}}, {"\0\0\xFE\xFF"sv, {4, true}},
+    {"\xFF\xFE"sv, {2, false}},     {"\xFE\xFF"sv, {2, true}},
+};
+
+/// The encoding of a text that begins with an ASCII character, from the place of its zero bytes.
+Encoding unmarkedEncoding(std::string_view bytes) {
+  const auto isZero = [&](std::size_t at) { return at < bytes.size() && bytes[at] == '\0'; };
+  const bool longEnough = bytes.size() >= 4;
+  if (longEnough && isZero(0) && isZero(1) && isZero(2)) return {4, true};
+  if (longEnough && isZero(1) && isZero(2) && isZero(3)) return {4, false};
+  if (isZero(0)) return {2, true};
+  if (isZero(1)) return {2, false};
+  return {1, false};
+}
+
+char32_t codeUnit(std::string_view bytes, Encoding encoding) {
+  char32_t unit = 0;
+  for (std::size_t i = 0; i < encoding.unit; ++i) {
+    const char byte = bytes[encoding.bigEndian ? i : encoding.unit - 1 - i];
+    unit = unit << 8 | static_cast<unsigned char>(byte);
+  }
+  return unit;
+}
+
+std::optional<std::string> toUtf8(std::string_view bytes, Encoding encoding) {
+  if (bytes.size() % encoding.unit != 0) return std::nullopt;
+  std::string text;
+  text.reserve(bytes.size());
+  while (!bytes.empty()) {
+    char32_t codePoint = codeUnit(bytes, encoding);
+    bytes.remove_prefix(encoding.unit);
+    if (encoding.unit == 2 && U16_IS_LEAD(codePoint) && !bytes.empty()) {
+      const char32_t trail = codeUnit(bytes, encoding);
+      if (!U16_IS_TRAIL(trail)) return std::nullopt;
+      codePoint = static_cast<char32_t>(U16_GET_SUPPLEMENTARY(codePoint, trail));
+      bytes.remove_prefix(encoding.unit);
+    }
+    if (codePoint > 0x10FFFF || U_IS_SURROGATE(codePoint)) return std::nullopt;
+    appendCodePoint(text, codePoint);
+  }
+  return text;
+}
+
+}  // namespace
+
+std::optional<std::string> decodedText(std::string bytes, UnmarkedText unmarked) {
+  Encoding encoding{1, false};
+  std::size_t markSize = 0;
+  if (unmarked == UnmarkedText::mayBeUtf16Or32) encoding = unmarkedEncoding(bytes);
+  for (const Mark& mark : kMarks) {
+    if (!std::string_view(bytes).starts_with(mark.bytes)) continue;
+    encoding = mark.encoding;
+    markSize = mark.bytes.size();
+    break;
+  }
+  if (encoding.unit > 1) return toUtf8(std::string_view(bytes).substr(markSize), encoding);
+  if (!isUtf8(bytes)) return std::nullopt;
+  bytes.erase(0, markSize);
+  return bytes;
+}
+
+}  // namespace zk

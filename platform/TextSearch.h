@@ -1,0 +1,58 @@
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace zk {
+
+/// Replaces every occurrence of `target` in `text` by `replacement`, from the beginning on, without overlaps;
+/// inserted text is not searched again. All three are UTF-8; bytes that are not equal only themselves.
+///
+/// Canonically equivalent sequences are equal: é and e + U+0301, K and the Kelvin sign. Letters that differ
+/// in case, in accents or by compatibility are not, and a letter is never found without the accents that
+/// follow it. An empty `target` occurs nowhere.
+void replaceOccurrences(std::string& text, std::string_view target, std::string_view replacement);
+
+/// Where a target was found: the bytes [begin, end) of the text.
+struct Occurrence {
+  std::size_t begin;
+  std::size_t end;
+};
+
+/// Finds one occurrence after the other, by the rules above, for every text and target.
+class CanonicalSearch {
+ public:
+  CanonicalSearch(std::string_view text, std::string_view target);
+  std::optional<Occurrence> next();
+
+  /// A code point of a canonically decomposed text.
+  struct Unit {
+    char32_t value;          // a byte that is not UTF-8 stands above all code points
+    std::size_t begin, end;  // the bytes of the text whose decomposition it belongs to
+  };
+
+ private:
+  const std::vector<Unit> text_;
+  const std::vector<Unit> target_;
+  std::size_t at_ = 0;
+};
+
+/// Finds the same as `CanonicalSearch`, at the speed of a comparison of bytes, for targets that `serves`
+/// accepts.
+class AsciiSearch {
+ public:
+  AsciiSearch(std::string_view text, std::string_view target) : text_(text), target_(target) {}
+  std::optional<Occurrence> next();
+
+  [[nodiscard]] static bool serves(std::string_view target);
+
+ private:
+  std::string_view text_;
+  std::string_view target_;
+  std::size_t at_ = 0;
+};
+
+}  // namespace zk

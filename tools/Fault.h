@@ -1,0 +1,39 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace zk::tools {
+
+enum class Severity { error, warning, note };
+
+/// Something wrong in a file of the project, as a compiler would report it.
+struct Fault {
+  Severity severity = Severity::error;
+  std::string file;        ///< relative to the project's root
+  std::size_t line = 1;    ///< from 1
+  std::size_t column = 1;  ///< from 1, in characters
+  std::string rule;        ///< the name under which the rule can be switched off; empty when it cannot
+  std::string message;     ///< what is wrong; what to do
+};
+
+using Faults = std::vector<Fault>;
+
+/// The line and column, both from 1, of the byte `offset` of the UTF-8 text `text`.
+struct Position {
+  std::size_t line;
+  std::size_t column;
+};
+[[nodiscard]] Position positionOf(std::string_view text, std::size_t offset);
+
+/// The fault as one line, "file:line:column: error: message [rule]", with colours when `coloured`.
+[[nodiscard]] std::string formatted(const Fault& fault, bool coloured);
+
+/// Thrown by a command that cannot go on; the program prints the faults and ends with a failure.
+struct CommandFailed {
+  Faults faults;
+};
+
+}  // namespace zk::tools

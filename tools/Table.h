@@ -1,0 +1,50 @@
+#pragma once
+
+#include <ZKStrings/tools/Fault.h>
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace zk::tools {
+
+/// One entry of a string table, with the places in its file that faults are reported for.
+struct TableEntry {
+  std::string key;
+  std::string text;
+  Position keyAt;
+  Position textAt;                       ///< of the first character within the quotes
+  std::size_t lastLine;                  ///< the line on which the entry ends
+  std::vector<std::string> comments;     ///< the comments before the entry, without their marks
+  std::vector<Position> unknownEscapes;  ///< the places of escapes that stand for no special character
+};
+
+/// A string table as the tools see it: all entries that can be read, and all that keeps the file from being a
+/// table.
+struct Table {
+  std::string file;  ///< relative to the project's root
+  std::vector<TableEntry> entries;
+  Faults faults;
+
+  /// Reads the table of `language` ("Base", "de") of the project at `root`. A file that cannot be read is a
+  /// fault too.
+  [[nodiscard]] static Table read(const std::string& root, std::string_view language);
+  /// The same of the bytes of such a file.
+  [[nodiscard]] static Table parse(std::string bytes, std::string file);
+
+  /// The entry of `key` that counts, the last; null when there is none.
+  [[nodiscard]] const TableEntry* find(std::string_view key) const;
+};
+
+/// The path of a language's table below the project's root: "resources/de.lproj/Localizable.strings".
+[[nodiscard]] std::string tablePath(std::string_view language);
+
+/// `text` with the characters that cannot stand between quotes as they are escaped: \" \\ \n \t. Serves for
+/// string tables and for C++ alike.
+[[nodiscard]] std::string escaped(std::string_view text);
+
+/// A table's line for one entry, with its line break.
+[[nodiscard]] std::string tableLine(std::string_view key, std::string_view text);
+
+}  // namespace zk::tools
