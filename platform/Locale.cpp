@@ -40,8 +40,10 @@ std::optional<std::string> identifierOf(std::string_view posixName) {
 
   std::string identifier(name);
   std::ranges::replace(identifier, '_', '-');
-  if (!script.empty())
-    identifier.insert(std::min(identifier.find('-'), identifier.size()), "-" + std::string(script));
+  if (!script.empty()) {
+    const std::size_t end = std::min(identifier.find('-'), identifier.size());
+    identifier.insert(end, 1, '-').insert(end + 1, script);
+  }
   return identifier;
 }
 

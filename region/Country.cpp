@@ -44,7 +44,7 @@ std::string Country::titleFormatted() const {
 }
 
 std::string Country::codeFormatted() const {
-  return "+" + std::to_string(phoneCode_);
+  return std::string("+").append(std::to_string(phoneCode_));
 }
 
 std::string Country::displayName() const {

@@ -1,4 +1,5 @@
 #include <ZKStrings/catalogue/KeyRule.h>
+#include <ZKStrings/platform/TextSearch.h>
 #include <ZKStrings/tools/CatalogueCommands.h>
 #include <ZKStrings/tools/Fault.h>
 #include <ZKStrings/tools/Files.h>
@@ -16,8 +17,7 @@ using namespace zk::tools;
 
 /// What the shell passes as \n inside quotes is meant as a line break.
 std::string withLineBreaks(std::string text) {
-  for (std::size_t at = text.find("\\n"); at != std::string::npos; at = text.find("\\n", at))
-    text.replace(at, 2, "\n");
+  zk::replaceOccurrences(text, "\\n", "\n");
   return text;
 }
 

@@ -1,0 +1,81 @@
+#include <ZKStrings/engine/BundleGlobals.h>
+#include <ZKStrings/platform/Bundle.h>
+#include <ZKStrings/tests/TemporaryDirectory.h>
+
+#include <thread>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+namespace zk {
+namespace {
+
+using testing::TemporaryDirectory;
+
+TEST(Bundle, ListsItsDirectoryByExactNames) {
+  const TemporaryDirectory directory;
+  directory.write("de.lproj/Localizable.strings", "");
+  directory.write("fr.lproj", "a file");
+  directory.write("countries.json", "[]");
+  directory.write(".lproj/x", "");
+  const Bundle* const bundle = Bundle::initWithPath(directory.path());
+  ASSERT_NE(bundle, nullptr);
+  ASSERT_NE(bundle->pathForResource("de", "lproj"), nullptr);
+  EXPECT_EQ(bundle->pathForResource("de", "lproj")->string(), directory.path() + "/de.lproj");
+  EXPECT_NE(bundle->URLForResource("countries", "json"), nullptr);
+  EXPECT_NE(bundle->URLForResource("fr", "lproj"), nullptr);
+  const std::pair<std::string_view, std::string_view> absent[] = {{"fr", "lproj"},
+                                                                  {"DE", "lproj"},
+                                                                  {"", "lproj"},
+                                                                  {"d", "lproj"},
+                                                                  {"de", ""},
+                                                                  {"de.lproj", ""},
+                                                                  {"../x", "lproj"},
+                                                                  {"de.lproj/Localizable", "strings"},
+                                                                  {std::string_view("de\0", 3), "lproj"},
+                                                                  {".", "."}};
+  for (const auto& [name, type] : absent)
+    EXPECT_EQ(bundle->pathForResource(name, type), nullptr) << name << " " << type;
+}
+
+TEST(Bundle, OpensDirectoriesOnly) {
+  const TemporaryDirectory directory;
+  EXPECT_EQ(Bundle::initWithPath(directory.write("file", "")), nullptr);
+  EXPECT_EQ(Bundle::initWithPath(directory.path() + "/missing"), nullptr);
+  EXPECT_EQ(Bundle::initWithPath(directory.path()), Bundle::initWithPath(directory.path()));
+}
+
+TEST(Bundle, GivesTheValueAndThenTheKeyForAMissingText) {
+  const TemporaryDirectory directory;
+  directory.write("Localizable.strings", "\"a\" = \"text\"; \"empty\" = \"\";");
+  directory.write("Other.strings", "\"a\" = \"other\";");
+  const Bundle& bundle = *Bundle::initWithPath(directory.path());
+  EXPECT_EQ(bundle.localizedStringForKey("a", "value"), "text");
+  EXPECT_EQ(bundle.localizedStringForKey("a", "value", "Other"), "other");
+  EXPECT_EQ(bundle.localizedStringForKey("a", "value", "Missing"), "value");
+  EXPECT_EQ(bundle.localizedStringForKey("b", "value"), "value");
+  EXPECT_EQ(bundle.localizedStringForKey("b", ""), "b");
+  EXPECT_EQ(bundle.localizedStringForKey("empty", "value"), "");
+}
+
+TEST(Bundle, ThreadsOpenOneTableAtOnce) {
+  const TemporaryDirectory directory;
+  directory.write("Localizable.strings", "\"a\" = \"text\";");
+  const Bundle& bundle = *Bundle::initWithPath(directory.path());
+  std::vector<const char*> found(8);
+  std::vector<std::thread> threads;
+  for (const char*& text : found)
+    threads.emplace_back([&] { text = bundle.localizedStringForKey("a", "").data(); });
+  for (std::thread& thread : threads) thread.join();
+  for (const char* text : found) EXPECT_EQ(text, found[0]);
+}
+
+TEST(Bundle, GlobalsAreTheModulesResourcesAndTheAppsDirectory) {
+  EXPECT_NE(bundle().pathForResource("Base", "lproj"), nullptr);
+  EXPECT_EQ(&bundle(), &bundle());
+  EXPECT_EQ(mainBundle().path(), std::filesystem::read_symlink("/proc/self/exe").parent_path());
+  EXPECT_EQ(&mainBundle(), &mainBundle());
+}
+
+}  // namespace
+}  // namespace zk

@@ -1,0 +1,130 @@
+#include <ZKStrings/platform/StringTable.h>
+#include <ZKStrings/platform/StringTableReader.h>
+#include <ZKStrings/tests/TemporaryDirectory.h>
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+namespace zk {
+namespace {
+
+using namespace std::string_literals;
+using testing::TemporaryDirectory;
+
+std::string utf16(const std::u16string& text, bool bigEndian) {
+  std::string bytes;
+  for (const char16_t unit : text) {
+    const char high = static_cast<char>(unit >> 8);
+    const char low = static_cast<char>(unit & 0xFF);
+    bytes += bigEndian ? high : low;
+    bytes += bigEndian ? low : high;
+  }
+  return bytes;
+}
+
+struct Case {
+  std::string file;
+  std::string key;
+  std::optional<std::string> text;
+};
+
+TEST(StringTable, FindsTheTextThatTheFileSpells) {
+  const std::u16string marked = u"\uFEFF\"a\" = \"ü 🎉\";";
+  const std::vector<Case> cases = {
+      {"\"a\" = \"b\";", "a", "b"},
+      {"\xEF\xBB\xBF\"a\" = \"ü\";", "a", "ü"},
+      {utf16(marked, false), "a", "ü 🎉"},
+      {utf16(marked, true), "a", "ü 🎉"},
+      {"\"a\"=\"1\";\r\n\"b\"=\"2\";\r\n", "b", "2"},
+      {"/* x */ \"a\" /* = */ = // ;\n \"b\" /**/ ; // end", "a", "b"},
+      {"key/* c */=v;", "key", "v"},
+      {"a_$/:.-9 = http://x.y;", "a_$/:.-9", "http://x.y"},
+      {"\"a\" = \"line\nbreak\";", "a", "line\nbreak"},
+      {"\"a\" = \"1\"; \"b\" = \"2\"; \"a\" = \"3\";", "a", "3"},
+      {R"("a\"b" = "\"\\\n\t\r\a\b\f\v";)", "a\"b", "\"\\\n\t\r\a\b\f\v"},
+      {R"("a" = "\101\7x\0";)", "a", "A\ax\0"s},
+      {R"("a" = "\U00e9\Ud83c\Udf89\Ud83c!";)", "a", "é🎉\uFFFD!"},
+      {R"("a" = "\q\U12\é";)", "a", "qU12é"},
+      {"\"\" = \"\";", "", ""},
+      {"\"a_one\" = \"1\";", "a", std::nullopt},
+      {"", "a", std::nullopt},
+      // Not well-formed as a whole, and so without any text.
+      {"\"a\" = \"b\";\n\"c\" = \"d\"", "a", std::nullopt},
+      {"\"a\" = \"b\"; \"c\" \"d\";", "a", std::nullopt},
+      {"\"a\" = \"b\"; /* open", "a", std::nullopt},
+      {"\"a\" = \"b\"; \"open", "a", std::nullopt},
+      {"\"a\" = \"b\"; ü = x;", "a", std::nullopt},
+      {"\"a\" = \"b\"; \"c\" = \"\xFF\";", "a", std::nullopt},
+      {utf16(u"\uFEFF\"a\" = \"b\";", false) + "x", "a", std::nullopt},
+      {utf16(u"\uFEFF\"a\" = \"\xD800\";", true), "a", std::nullopt},
+      {"\"a\" = \"b\\", "a", std::nullopt},
+  };
+  const TemporaryDirectory directory;
+  for (const Case& item : cases) {
+    const StringTable table = StringTable::inFile(directory.write("t.strings", item.file));
+    EXPECT_EQ(table.find(item.key), item.text) << item.file;
+  }
+}
+
+TEST(StringTable, FindsEveryKeyOfALargeTable) {
+  std::string file;
+  for (int i = 0; i < 20000; ++i)
+    file += "\"key_" + std::to_string(i) + "\" = \"" + std::to_string(i * 7) + "\";\n";
+  const TemporaryDirectory directory;
+  const StringTable table = StringTable::inFile(directory.write("t.strings", file));
+  for (int i = 0; i < 20000; ++i) ASSERT_EQ(table.find("key_" + std::to_string(i)), std::to_string(i * 7));
+  for (int i = 20000; i < 40000; ++i) ASSERT_EQ(table.find("key_" + std::to_string(i)), std::nullopt);
+}
+
+TEST(StringTable, WhatIsNoReadableFileHoldsNothing) {
+  const TemporaryDirectory directory;
+  const std::string fifo = directory.path() + "/fifo";
+  const std::string huge = directory.write("huge", "\"a\" = \"b\";");
+  ASSERT_EQ(mkfifo(fifo.c_str(), 0600), 0);
+  std::filesystem::resize_file(huge, std::uintmax_t{1} << 40);
+  for (const std::string& path :
+       {directory.path(), fifo, huge, directory.path() + "/missing", "/dev/zero"s, ""s}) {
+    EXPECT_EQ(StringTable::inFile(path).find("a"), std::nullopt) << path;
+  }
+}
+
+TEST(StringTableReader, SaysWhatWasExpectedWhereAndGoesOn) {
+  struct Faulty {
+    std::string text;
+    std::string at;  // the text from the fault's offset on begins with this
+    std::string expected;
+    std::vector<std::string> keys;  // of all entries that can be read
+  };
+  const std::vector<Faulty> cases = {
+      {"\"a\" = \"1\"\n\"b\" = \"2\";\n", "\"b\"", "\";\"", {"b"}},
+      {"\"a\" \"1\";\n\"b\" = \"2\";\n", "\"1\"", "\"=\"", {"b"}},
+      {"\"a\" = ;\n\"b\" = \"2\";\n", ";\n", "the text of the key", {"b"}},
+      {"\"a\" = \"1;\n\"b\" = \"2\";\n\"c\" = \"3\";\n", "\"1;", "closing quote", {"b", "c"}},
+      {"\"a\" = \"1\";\nö = 2;\n\"c\" = \"3\";\n", "ö", "a key", {"a", "c"}},
+      {"\"a\" = \"1\"; /* x\n", "/* x", "\"*/\"", {"a"}},
+  };
+  for (const Faulty& item : cases) {
+    StringTableReader reader(item.text);
+    std::vector<std::string> keys;
+    const auto readAll = [&] {
+      while (reader.next())
+        keys.push_back(item.text.substr(reader.key().begin, reader.key().end - reader.key().begin));
+    };
+    readAll();
+    ASSERT_TRUE(reader.fault()) << item.text;
+    EXPECT_TRUE(item.text.substr(reader.fault()->offset).starts_with(item.at)) << item.text;
+    EXPECT_NE(reader.fault()->expected.find(item.expected), std::string::npos) << reader.fault()->expected;
+    while (reader.fault()) {
+      reader.recover();
+      readAll();
+    }
+    EXPECT_EQ(keys, item.keys) << item.text;
+  }
+}
+
+}  // namespace
+}  // namespace zk

@@ -1,0 +1,116 @@
+#include <ZKStrings/region/Country.h>
+#include <ZKStrings/region/CountryList.h>
+#include <ZKStrings/tests/TemporaryDirectory.h>
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+namespace zk {
+namespace {
+
+Country country(std::int64_t phoneCode, const std::string& ISO) {
+  return *Country::fromDictionary({{"name", "Name"}, {"phoneCode", phoneCode}, {"iso", ISO}});
+}
+
+TEST(Country, DerivesItsTexts) {
+  const Country kingdom =
+      *Country::fromDictionary({{"name", "United Kingdom"}, {"phoneCode", 44}, {"iso", "GB"}});
+  EXPECT_EQ(kingdom.titleFormatted(), "🇬🇧 United Kingdom");
+  EXPECT_EQ(kingdom.displayName(), "🇬🇧 United Kingdom +44");
+  EXPECT_EQ(country(0, "GB").codeFormatted(), "+0");
+  EXPECT_EQ(country(-7, "GB").codeFormatted(), "+-7");
+  EXPECT_EQ(country(INT64_MIN, "").displayName(), " Name +-9223372036854775808");
+  const std::pair<std::string, std::string> flags[] = {{"gb", "\U0001F1EC\U0001F1E7"},
+                                                       {"GBR", "\U0001F1EC\U0001F1E7\U0001F1F7"},
+                                                       {"", ""},
+                                                       {"1-", "\U0001F1D6\U0001F1D2"},
+                                                       {"é", "\U0001F26E"},
+                                                       {"ß", "\U0001F1F8\U0001F1F8"},
+                                                       {"\U000F0E5A\U000F0E5Ba", "\U0010FFFF\U0001F1E6"},
+                                                       {"a\xFF", "\U0001F1E6\xFF"}};
+  for (const auto& [ISO, flag] : flags) EXPECT_EQ(country(1, ISO).emoji(), flag) << ISO;
+  EXPECT_EQ(country(1, "gb").ISO(), "gb");
+}
+
+TEST(Country, ComesOnlyFromACompleteDictionary) {
+  const Value name = "N";
+  const Value iso = "GB";
+  const Dictionary wrong[] = {
+      {},
+      {{"phoneCode", 44}, {"iso", iso}},
+      {{"name", name}, {"iso", iso}},
+      {{"name", name}, {"phoneCode", 44}},
+      {{"name", name}, {"phoneCode", 44}, {"ISO", iso}},
+      {{"name", name}, {"phonecode", 44}, {"iso", iso}},
+      {{"name", name}, {"phoneCode", "44"}, {"iso", iso}},
+      {{"name", name}, {"phoneCode", 44.5}, {"iso", iso}},
+      {{"name", name}, {"phoneCode", nullptr}, {"iso", iso}},
+      {{"name", name}, {"phoneCode", true}, {"iso", iso}},
+      {{"name", 5}, {"phoneCode", 44}, {"iso", iso}},
+      {{"name", name}, {"phoneCode", 44}, {"iso", nullptr}},
+  };
+  for (std::size_t i = 0; i < std::size(wrong); ++i) EXPECT_FALSE(Country::fromDictionary(wrong[i])) << i;
+  EXPECT_TRUE(Country::fromDictionary({{"x", nullptr}, {"name", ""}, {"phoneCode", 44}, {"iso", iso}}));
+}
+
+TEST(CountryList, ReadsWhatTheFileHolds) {
+  const std::string a = R"({"name": "A", "phoneCode": 1, "iso": "AA"})";
+  const std::string b = R"({"name": "B", "phoneCode": 2, "iso": "BB", "more": [{"x": 1e999}]})";
+  const std::string noISO = R"({"name": "C", "phoneCode": 3})";
+  const std::string tooLong = R"({"name": "D", "phoneCode": 99999999999999999999, "iso": "DD"})";
+  const std::pair<std::string, std::string> cases[] = {
+      {"[" + a + "," + b + "]", "AB"},
+      {"[" + a + "," + noISO + "," + b + "]", "AB"},
+      {"[" + b + "," + a + "," + b + "]", "BAB"},
+      {"[" + a + "," + tooLong + "]", "A"},
+      {"[" + noISO + "]", ""},
+      {"{\"list\": [" + a + "]}", ""},
+      {"[" + a + ", 5]", ""},
+      {"[" + a + ", null]", ""},
+      {"[" + a + ", [" + b + "]]", ""},
+      {"[" + a + ",]", ""},
+      {"[" + a, ""},
+      {"[]", ""},
+      {"", ""},
+      {"\"text\"", ""},
+      {"7", ""},
+      {"[" + a + ", {\"name\": \"\xFF\"}]", ""},
+  };
+  for (const auto& [file, names] : cases) {
+    const testing::TemporaryDirectory directory;
+    directory.write("countries.json", file);
+    std::string found;
+    for (const Country& item : countriesIn(*Bundle::initWithPath(directory.path()))) found += item.name();
+    EXPECT_EQ(found, names) << file;
+  }
+}
+
+TEST(CountryList, IsEmptyWithoutAReadableFile) {
+  const testing::TemporaryDirectory absent;
+  EXPECT_TRUE(countriesIn(*Bundle::initWithPath(absent.path())).empty());
+  const testing::TemporaryDirectory directory;
+  directory.write("countries.json/inside", "");
+  EXPECT_TRUE(countriesIn(*Bundle::initWithPath(directory.path())).empty());
+}
+
+TEST(CountryList, ShipsWhatAPickerNeeds) {
+  std::map<std::string, const Country*> byISO;
+  const SharedArray<Country> countries = loadCountries();
+  for (const Country& item : countries) {
+    EXPECT_TRUE(byISO.emplace(item.ISO(), &item).second) << item.name();
+    EXPECT_TRUE(item.ISO().size() == 2 && item.phoneCode() > 0 && item.phoneCode() < 1000) << item.name();
+  }
+  EXPECT_GE(countries.size(), 240u);
+  const std::pair<const char*, const char*> samples[] = {{"BO", "🇧🇴 Bolivia +591"},
+                                                         {"XK", "🇽🇰 Kosovo +383"},
+                                                         {"CA", "🇨🇦 Canada +1"},
+                                                         {"KZ", "🇰🇿 Kazakhstan +7"}};
+  for (const auto& [ISO, shown] : samples) EXPECT_EQ(byISO.at(ISO)->displayName(), shown);
+  EXPECT_EQ(countries[1].ISO(), "AX");
+}
+
+}  // namespace
+}  // namespace zk
