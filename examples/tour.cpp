@@ -1,10 +1,10 @@
-// A tour of the module, as an app would use it: texts of all four kinds in several languages, a change of language
-// while the program runs, and the list of countries.
+// A tour of the module, as an app would use it: texts of all four kinds in several languages, a change of
+// language while the program runs, and the list of countries.
 //
 //     tour                 the languages that this machine prefers, then English, German and Greek
 //     tour de-DE fr-FR     the given preferred languages, most preferred first, instead of this machine's
 
-#include <unistd.h>
+#include <ZKStrings/ZKStrings.h>
 
 #include <algorithm>
 #include <cstdint>
@@ -13,7 +13,7 @@
 #include <string_view>
 #include <vector>
 
-#include <ZKStrings/ZKStrings.h>
+#include <unistd.h>
 
 namespace {
 
@@ -51,13 +51,18 @@ void showTexts() {
   showHeading("Preferred languages: " + joined(now.preferredLanguages));
   show("About()", ZKStrings::About());
   show("Live_trivia_n_game_show()", ZKStrings::Live_trivia_n_game_show());
-  show("Coins(1), Coins(5)", ZKStrings::Coins(1) + ", " + ZKStrings::Coins(5));
   show("active_limit_players(\"12\", \"50\")", ZKStrings::active_limit_players("12", "50"));
-  show("Are_you_sure_you_want_to_kick_username(\"kim\")", ZKStrings::Are_you_sure_you_want_to_kick_username("kim"));
+  show("Are_you_sure_you_want_to_kick_username(\"kim\")",
+       ZKStrings::Are_you_sure_you_want_to_kick_username("kim"));
+  std::string coins;
+  std::string badges;
   for (std::int64_t count = 0; count <= 6; ++count) {
-    const std::string number = std::to_string(count);
-    show("badgeCount_Badges(\"" + number + "\", " + number + ")", ZKStrings::badgeCount_Badges(number, count));
+    const std::string separator = count == 0 ? "" : count == 4 ? "\n" : " · ";
+    coins += separator + ZKStrings::Coins(count);
+    badges += separator + ZKStrings::badgeCount_Badges(std::to_string(count), count);
   }
+  show("Coins(n), n from 0 to 6", coins);
+  show("badgeCount_Badges(\"n\", n)", badges);
 }
 
 void showFallback() {
@@ -70,7 +75,8 @@ void showLiveSwitch() {
   showHeading("A change of the language shows in the very next text");
   for (const char* identifier : {"en-US", "de-DE", "en-US"}) {
     language->preferredLanguages = {identifier};
-    show(std::string("Current::language -> ") + identifier, ZKStrings::You_re_back_in_the_game_No_one_was_correct());
+    show(std::string("Current::language -> ") + identifier,
+         ZKStrings::You_re_back_in_the_game_No_one_was_correct());
   }
 }
 

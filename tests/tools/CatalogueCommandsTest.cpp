@@ -40,8 +40,7 @@ TEST_F(CatalogueCommands, AddPutsTheEntryInItsPlaceEverywhere) {
             "\"D\";\n");
   std::string keys;
   const Catalogue catalogue = Catalogue::read(root());
-  for (const Entry& entry : catalogue.entries())
-    keys += entry.key + (entry.plural ? "(count) " : " ");
+  for (const Entry& entry : catalogue.entries()) keys += entry.key + (entry.plural ? "(count) " : " ");
   EXPECT_EQ(keys, "a B C_name_n ZZ D D(count) ");
   EXPECT_NE(read(Accessors::kHeaderFile).find("static std::string C_name_n(std::string_view name);"),
             std::string::npos);
