@@ -23,7 +23,7 @@ class Dictionary {
   Dictionary() = default;
   Dictionary(std::initializer_list<Member> members);
 
-  void append(std::string name, Value value);
+  Value& append(std::string name, Value value);
 
   /// The value of the member `name`, compared byte for byte; null when there is none. Of several the last
   /// counts.
@@ -70,8 +70,9 @@ class Value {
 inline Dictionary::Dictionary(std::initializer_list<Member> members) : members_(members) {
 }
 
-inline void Dictionary::append(std::string name, Value value) {
-  members_.emplace_back(std::move(name), std::move(value));
+inline Value& Dictionary::append(std::string name, Value value) {
+  if (members_.empty()) members_.reserve(4);
+  return members_.emplace_back(std::move(name), std::move(value)).second;
 }
 
 inline const Value* Dictionary::find(std::string_view name) const {

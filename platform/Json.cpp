@@ -17,8 +17,8 @@ namespace {
 constexpr std::size_t kDeepestKept = 100;  // so that no chain of destructors gets long
 constexpr int kNumberOverflow = 406;       // the library's number for "a number beyond every double"
 
-/// Builds a value from the events of the library's parser.
-class Builder : public nlohmann::json_sax<nlohmann::json> {
+/// Builds a value in its place from the events of the library's parser.
+class Builder final : public nlohmann::json_sax<nlohmann::json> {
  public:
   bool null() override { return add(nullptr); }
   bool boolean(bool value) override { return add(value); }
@@ -33,7 +33,7 @@ class Builder : public nlohmann::json_sax<nlohmann::json> {
 
   bool start_object(std::size_t) override { return open(Dictionary()); }
   bool key(string_t& name) override {
-    if (levels_.size() <= kDeepestKept) levels_.back().name = std::move(name);
+    name_.swap(name);
     return true;
   }
   bool end_object() override { return close(); }
@@ -49,16 +49,27 @@ class Builder : public nlohmann::json_sax<nlohmann::json> {
   [[nodiscard]] bool sawOverflow() const { return sawOverflow_; }
 
  private:
-  struct Level {
-    Value value;
-    std::string name;  // in a dictionary: the member whose value comes next
-  };
+  template <class Content>
+  bool add(Content&& content) {
+    if (unkept_ == 0) place(std::forward<Content>(content));
+    return true;
+  }
 
-  bool open(Value empty) {
-    if (levels_.size() < kDeepestKept) {
-      levels_.push_back({std::move(empty), {}});
-    } else {
+  /// Puts a value where it belongs: at the top, or into the innermost open list or dictionary.
+  template <class Content>
+  Value& place(Content&& content) {
+    if (open_.empty()) return root_ = Value(std::forward<Content>(content));
+    if (auto* const list = open_.back()->as<Value::List>())
+      return list->emplace_back(std::forward<Content>(content));
+    return open_.back()->as<Dictionary>()->append(std::move(name_), std::forward<Content>(content));
+  }
+
+  template <class Container>
+  bool open(Container empty) {
+    if (unkept_ > 0 || open_.size() == kDeepestKept) {
       ++unkept_;
+    } else {
+      open_.push_back(&place(std::move(empty)));
     }
     return true;
   }
@@ -66,29 +77,16 @@ class Builder : public nlohmann::json_sax<nlohmann::json> {
   bool close() {
     if (unkept_ > 0) {
       --unkept_;
-      return true;
+    } else {
+      open_.pop_back();
     }
-    Value value = std::move(levels_.back().value);
-    levels_.pop_back();
-    return add(std::move(value));
-  }
-
-  bool add(Value value) {
-    if (unkept_ > 0) return true;
-    if (levels_.empty()) {
-      root_ = std::move(value);
-      return true;
-    }
-    Level& level = levels_.back();
-    if (auto* list = level.value.as<Value::List>()) list->push_back(std::move(value));
-    if (auto* dictionary = level.value.as<Dictionary>())
-      dictionary->append(std::move(level.name), std::move(value));
     return true;
   }
 
-  std::vector<Level> levels_;
-  std::size_t unkept_ = 0;  // how many levels beyond the deepest kept one are open
   Value root_;
+  std::vector<Value*> open_;  // from the outermost on; nothing is added to one while a value within is open
+  std::string name_;          // of the member whose value comes next
+  std::size_t unkept_ = 0;    // how many levels beyond the deepest kept one are open
   bool sawOverflow_ = false;
 };
 
