@@ -1,0 +1,42 @@
+#include <ZKStrings/benchmarks/Allocations.h>
+
+#include <cstdlib>
+#include <new>
+
+#include <malloc.h>
+
+namespace {
+
+thread_local constinit std::size_t allocations = 0;
+thread_local constinit std::ptrdiff_t held = 0;
+
+}  // namespace
+
+void* operator new(std::size_t size) {
+  void* const memory = std::malloc(size);
+  if (!memory) throw std::bad_alloc();
+  ++allocations;
+  held += static_cast<std::ptrdiff_t>(malloc_usable_size(memory));
+  return memory;
+}
+
+void operator delete(void* memory) noexcept {
+  held -= static_cast<std::ptrdiff_t>(malloc_usable_size(memory));
+  std::free(memory);
+}
+
+void operator delete(void* memory, std::size_t) noexcept {
+  operator delete(memory);
+}
+
+namespace zk::benchmarks {
+
+std::size_t allocationsByThread() {
+  return allocations;
+}
+
+std::size_t bytesHeldByThread() {
+  return static_cast<std::size_t>(held);
+}
+
+}  // namespace zk::benchmarks

@@ -1,0 +1,119 @@
+#include <ZKStrings/ZKStrings.h>
+#include <ZKStrings/benchmarks/Allocations.h>
+#include <ZKStrings/benchmarks/OtherSystems.h>
+#include <ZKStrings/benchmarks/Registration.h>
+#include <ZKStrings/benchmarks/Workload.h>
+#include <ZKStrings/benchmarks/Yardstick.h>
+
+#include <cstdlib>
+#include <functional>
+#include <iostream>
+
+#include <benchmark/benchmark.h>
+
+namespace zk::benchmarks {
+
+namespace {
+
+const Yardstick& yardstick() {
+  static const auto& table = *new Yardstick(germanTexts());
+  return table;
+}
+
+std::string textByYardstick(const Request& request) {
+  if (request.names.empty()) return yardstick().find(request.lookedUpKey);
+  return yardstick().find(request.lookedUpKey, request.names, request.values);
+}
+
+std::string textByModule(const Request& request) {
+  const auto& names = request.names;
+  const auto& values = request.values;
+  switch (names.size()) {
+    case 0:
+      return localizedString(request.key, request.defaultValue, request.count, {});
+    case 1:
+      return localizedString(request.key, request.defaultValue, request.count, {{names[0], values[0]}});
+    default:
+      return localizedString(request.key, request.defaultValue, request.count,
+                             {{names[0], values[0]}, {names[1], values[1]}, {names[2], values[2]}});
+  }
+}
+
+/// All systems must give the same texts, or they are not comparable.
+void compare(const Requests& sequence, std::string (*text)(const Request&)) {
+  for (const Request& request : sequence) {
+    if (text(request) == textByYardstick(request)) continue;
+    std::cerr << "benchmarks: the systems differ on " << request.lookedUpKey << ": \"" << text(request)
+              << "\", not \"" << textByYardstick(request) << "\"\n";
+    std::exit(1);
+  }
+}
+
+void measure(benchmark::State& state, const Requests& sequence, std::string (*text)(const Request&)) {
+  for (const Request& request : sequence) benchmark::DoNotOptimize(text(request));
+  const std::size_t before = allocationsByThread();
+  for (auto _ : state) {
+    for (const Request& request : sequence) benchmark::DoNotOptimize(text(request));
+  }
+  const std::size_t allocations = allocationsByThread() - before;
+  const double lookups = static_cast<double>(state.iterations()) * kRequests;
+  state.counters[kTimesPerIteration] = kRequests;
+  state.counters[kAllocations] = static_cast<double>(allocations) / lookups;
+}
+
+struct System {
+  const char* name;
+  std::string (*text)(const Request&);
+};
+
+constexpr System kSystems[] = {
+    {"yardstick", textByYardstick}, {"module", textByModule}, {"gettext", textByGettext}, {"ICU", textByICU}};
+
+struct Sequence {
+  const char* name;
+  Kind kind;
+};
+
+constexpr Sequence kSequences[] = {{"plain", Kind::plain},
+                                   {"counted", Kind::counted},
+                                   {"1 substitution", Kind::oneSubstitution},
+                                   {"3 substitutions", Kind::threeSubstitutions}};
+
+/// The given number of languages without table, and then German.
+SharedArray<std::string> germanAfter(std::size_t others) {
+  constexpr const char* kWithoutTable[] = {"el-GR", "fi-FI", "hu-HU", "is-IS", "lt-LT",
+                                           "lv-LV", "ro-RO", "sk-SK", "uk-UA"};
+  std::vector<std::string> preferred(kWithoutTable, kWithoutTable + others);
+  preferred.emplace_back("de-DE");
+  return preferred;
+}
+
+}  // namespace
+
+void registerLookupBenchmarks() {
+  Current::language = Language{};
+  Current::language->preferredLanguages = germanAfter(0);
+  for (const Sequence& sequence : kSequences) {
+    for (const System& system : kSystems) {
+      compare(requests(sequence.kind), system.text);
+      registerBenchmark(std::string(sequence.name) + "/" + system.name, [=](benchmark::State& state) {
+        Current::language->preferredLanguages = germanAfter(0);
+        measure(state, requests(sequence.kind), system.text);
+      });
+    }
+  }
+  const std::pair<const char*, std::size_t> winners[] = {{"third", 2}, {"tenth", 9}};
+  for (const auto& [place, others] : winners) {
+    registerBenchmark(std::string("plain/module, winner ") + place,
+                      [others = others](benchmark::State& state) {
+                        Current::language->preferredLanguages = germanAfter(others);
+                        measure(state, requests(Kind::plain), textByModule);
+                      });
+  }
+  registerBenchmark("plain/module, no winner of three", [](benchmark::State& state) {
+    Current::language->preferredLanguages = {"el-GR", "fi-FI", "hu-HU"};
+    measure(state, requests(Kind::plain), textByModule);
+  });
+}
+
+}  // namespace zk::benchmarks
