@@ -76,8 +76,9 @@ void makeGettextCatalogue() {
     std::ofstream po(directory + "/zk.po");
     po << "msgid \"\"\nmsgstr \"Content-Type: text/plain; charset=UTF-8\\n\"\n";
     for (const auto& [key, text] : germanTexts()) {
-      const std::string format = respelled(std::string(key), std::string(text),
-                                           [](std::size_t i) { return "%" + std::to_string(i + 1) + "$s"; });
+      const std::string format = respelled(std::string(key), std::string(text), [](std::size_t i) {
+        return std::string("%").append(std::to_string(i + 1)).append("$s");
+      });
       po << "\nmsgid \"" << key << "\"\nmsgstr \"" << escaped(format, "\"\\") << "\"\n";
     }
   }
@@ -96,8 +97,9 @@ UResourceBundle* openedICUBundle() {
     std::ofstream source(directory + "/de.txt");
     source << "de {\n";
     for (const auto& [key, text] : germanTexts()) {
-      const std::string pattern = respelled(std::string(key), doubled(std::string(text), '\''),
-                                            [](std::size_t i) { return "{" + std::to_string(i) + "}"; });
+      const std::string pattern =
+          respelled(std::string(key), doubled(std::string(text), '\''),
+                    [](std::size_t i) { return std::string("{").append(std::to_string(i)).append("}"); });
       source << "  " << key << " { \"" << escaped(pattern, "\"\\") << "\" }\n";
     }
     source << "}\n";

@@ -23,6 +23,8 @@ class Report : public benchmark::BenchmarkReporter {
   };
 
   void printRatios() const;
+  void printGains() const;
+  void printOpening() const;
   [[nodiscard]] double time(const std::string& name) const { return rows_.at(name).nanoseconds; }
 
   std::map<std::string, Row> rows_;

@@ -20,7 +20,7 @@ void arithmetic(benchmark::State& state) {
     for (int i = 0; i < 200000; ++i)
       benchmark::DoNotOptimize(number = number * 6364136223846793005 + 1442695040888963407);
   }
-  state.counters[kTimesPerIteration] = 1;
+  state.counters[kTimesPerIteration] = benchmark::Counter(1, benchmark::Counter::kAvgThreads);
 }
 
 void lookups(benchmark::State& state) {
@@ -30,7 +30,7 @@ void lookups(benchmark::State& state) {
       benchmark::DoNotOptimize(localizedString(request.key, request.defaultValue, std::nullopt, {}));
     }
   }
-  state.counters[kTimesPerIteration] = kRequests;
+  state.counters[kTimesPerIteration] = benchmark::Counter(kRequests, benchmark::Counter::kAvgThreads);
 }
 
 /// Assigns the current language every millisecond as long as it lives.

@@ -60,7 +60,7 @@ Requests makeRequests(Kind kind) {
   for (std::size_t i = 0; i < kRequests; ++i) {
     Request request = chosen[random() % chosen.size()];
     if (kind == Kind::counted) request.count = static_cast<std::int64_t>(random() % 9);
-    request.lookedUpKey = request.key + std::string(pluralSuffix(request.count));
+    request.lookedUpKey = request.key + std::string(request.count ? pluralSuffix(*request.count) : "");
     made.push_back(std::move(request));
   }
   return made;

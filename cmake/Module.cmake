@@ -44,6 +44,8 @@ add_library(zk_objects OBJECT
   region/LanguageDerivation.cpp)
 target_include_directories(zk_objects PUBLIC ${PROJECT_BINARY_DIR}/include)
 target_link_libraries(zk_objects PRIVATE zk_compile_options ICU::uc nlohmann_json::nlohmann_json)
+# Nobody replaces the module's functions from outside, so that they may be called directly and inlined.
+target_compile_options(zk_objects PRIVATE -fno-semantic-interposition)
 
 add_library(ZKStrings)
 add_library(ZKStrings::ZKStrings ALIAS ZKStrings)
@@ -57,7 +59,8 @@ target_link_libraries(ZKStrings PRIVATE $<BUILD_INTERFACE:zk_compile_options> IC
 set_target_properties(ZKStrings PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR} LINKER_LANGUAGE CXX)
 if(BUILD_SHARED_LIBS)
   # Hidden visibility does not reach the instances of the standard library's templates.
-  target_link_options(ZKStrings PRIVATE -Wl,--version-script=${PROJECT_SOURCE_DIR}/cmake/ExportedNames.map -Wl,--no-undefined)
+  target_link_options(ZKStrings PRIVATE -Wl,--version-script=${PROJECT_SOURCE_DIR}/cmake/ExportedNames.map -Wl,--no-undefined
+    -Wl,-Bsymbolic-functions)
   set_target_properties(ZKStrings PROPERTIES LINK_DEPENDS ${PROJECT_SOURCE_DIR}/cmake/ExportedNames.map)
 endif()
 

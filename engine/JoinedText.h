@@ -1,7 +1,8 @@
 #pragma once
 
+#include <ZKStrings/platform/Bytes.h>
+
 #include <cstddef>
-#include <cstring>
 #include <initializer_list>
 #include <string>
 #include <string_view>
@@ -21,7 +22,7 @@ class JoinedText {
       at = long_.data();
     }
     text_ = {at, size};
-    for (const std::string_view piece : pieces) at += piece.copy(at, piece.size());
+    for (const std::string_view piece : pieces) at = copyBytes(at, piece.data(), piece.size());
   }
   JoinedText(const JoinedText&) = delete;
   JoinedText& operator=(const JoinedText&) = delete;

@@ -26,25 +26,21 @@ namespace zk {
 template <class PlatformBundle>
 const PlatformBundle& chosenLanguageBundle(const PlatformBundle& bundle,
                                            const SharedArray<std::string>& preferredLanguages) {
-  const auto openExisting = [&](std::string_view code) {
+  const auto open = [&](std::string_view code) {
     const auto* const path = bundle.pathForResource(code, "lproj");
     if (!path) __builtin_trap();
     return PlatformBundle::initWithPath(*path);
   };
-  const auto open = [&](std::string_view identifier) -> const PlatformBundle* {
-    const std::string_view code = languageCode(identifier);
-    return bundle.pathForResource(code, "lproj") ? openExisting(code) : nullptr;
+  const auto opened = [&](std::string_view code) -> const PlatformBundle& {
+    const PlatformBundle* const language = open(code);
+    if (!language) __builtin_trap();
+    return *language;
   };
-  const PlatformBundle* chosen = nullptr;
   for (const std::string& identifier : preferredLanguages) {
-    if (!open(identifier)) continue;
-    chosen = openExisting(languageCode(identifier));
-    if (!chosen) __builtin_trap();
-    return *chosen;
+    const std::string_view code = languageCode(identifier);
+    if (bundle.pathForResource(code, "lproj") && open(code)) return opened(code);
   }
-  chosen = openExisting("Base");
-  if (!chosen) __builtin_trap();
-  return *chosen;
+  return opened("Base");
 }
 
 }  // namespace zk

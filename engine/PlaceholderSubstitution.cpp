@@ -5,6 +5,7 @@
 namespace zk {
 
 std::string applySubstitutions(std::string_view text, const Substitutions& substitutions) {
+  if (substitutions.begin() == substitutions.end()) return std::string(text);
   std::size_t size = text.size();
   for (const auto& [name, value] : substitutions) size += value.size();
   std::string result;

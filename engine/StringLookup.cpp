@@ -9,12 +9,21 @@
 
 namespace zk {
 
+namespace {
+
+std::string finishedText(std::string_view suffixedKey, std::string_view defaultValue,
+                         const Substitutions& substitutions) {
+  const Resolver::View<Language> language = Resolver::view<Language>();
+  const Bundle& chosen = chosenLanguageBundle(bundle(), language->preferredLanguages);
+  return applySubstitutions(chosen.localizedStringForKey(suffixedKey, defaultValue), substitutions);
+}
+
+}  // namespace
+
 std::string localizedString(std::string_view key, std::string_view defaultValue,
                             std::optional<std::int64_t> count, const Substitutions& substitutions) {
-  const JoinedText suffixedKey{key, pluralSuffix(count)};
-  const Resolver::View<Language> language = Resolver::view<Language>();
-  const Bundle& table = chosenLanguageBundle(bundle(), language->preferredLanguages);
-  return applySubstitutions(table.localizedStringForKey(suffixedKey, defaultValue), substitutions);
+  if (!count) return finishedText(key, defaultValue, substitutions);
+  return finishedText(JoinedText{key, pluralSuffix(*count)}, defaultValue, substitutions);
 }
 
 }  // namespace zk

@@ -1,4 +1,5 @@
 #include <ZKStrings/platform/Bundle.h>
+#include <ZKStrings/platform/Bytes.h>
 #include <ZKStrings/platform/CodeLocation.h>
 #include <ZKStrings/platform/StringTable.h>
 
@@ -14,17 +15,8 @@ namespace zk {
 
 namespace {
 
-/// A hash of the file name `name`.`type` that needs only its length and its first two bytes: those are what
-/// tells the language directories apart.
-std::size_t hashOfName(std::string_view name, std::string_view type) {
-  const auto first = static_cast<unsigned char>(name[0]);
-  const auto second = static_cast<unsigned char>(name.size() > 1 ? name[1] : '.');
-  return (first * 31u + second) * 7u + name.size() + type.size();
-}
-
 bool isNamed(std::string_view fileName, std::string_view name, std::string_view type) {
-  return fileName.size() == name.size() + 1 + type.size() && fileName[name.size()] == '.' &&
-         fileName.starts_with(name) && fileName.ends_with(type);
+  return fileName.starts_with(name) && fileName.ends_with(type);
 }
 
 bool isDirectoryEntry(const dirent& entry, const std::string& path) {
@@ -69,7 +61,9 @@ std::string resourceDirectory(std::string directory) {
 }  // namespace
 
 ResourcePath::ResourcePath(std::string path, bool isDirectory)
-    : path_(std::move(path)), nameBegin_(path_.rfind('/') + 1), isDirectory_(isDirectory) {
+    : path_(std::move(path)),
+      fileName_(std::string_view(path_).substr(path_.rfind('/') + 1)),
+      isDirectory_(isDirectory) {
 }
 
 ResourcePath::~ResourcePath() {
@@ -89,12 +83,13 @@ Bundle::Bundle(std::string path, Resources resources)
   while (size < resources_.size() * 4) size *= 2;
   index_.resize(size);
   for (const auto& resource : resources_) {
-    const std::string_view name = resource->fileName();
-    const std::size_t dot = name.rfind('.');
+    const std::string_view fileName = resource->fileName();
+    const std::size_t dot = fileName.rfind('.');
     if (dot == 0 || dot == std::string_view::npos) continue;  // without name or type, and so never asked for
-    std::size_t at = hashOfName(name.substr(0, dot), name.substr(dot + 1)) % size;
-    while (index_[at]) at = (at + 1) % size;
-    index_[at] = resource.get();
+    const Name name = nameOf(fileName.substr(0, dot), fileName.substr(dot + 1));
+    std::size_t at = hashOf(name) % size;
+    while (index_[at].path) at = (at + 1) % size;
+    index_[at] = {name, resource.get()};
   }
   defaultTable_ = URLForResource("Localizable", "strings");
 }
@@ -132,18 +127,33 @@ const Bundle& Bundle::mainBundle() {
   return inDirectory(directoryOf(executablePath()));
 }
 
-const ResourcePath* Bundle::URLForResource(std::string_view name, std::string_view extension) const {
+inline Bundle::Name Bundle::nameOf(std::string_view name, std::string_view type) {
+  return {wordOf(name), wordOf(type), std::uint64_t{name.size()} << 32 | type.size()};
+}
+
+inline std::size_t Bundle::hashOf(const Name& name) {
+  constexpr std::uint64_t kSpread = 0x9E3779B97F4A7C15;
+  return static_cast<std::size_t>(((name.name ^ name.type) * kSpread) >> 32);
+}
+
+inline const ResourcePath* Bundle::find(std::string_view name, std::string_view type) const {
   if (name.empty()) return nullptr;
-  std::size_t at = hashOfName(name, extension) & (index_.size() - 1);
-  while (const ResourcePath* resource = index_[at]) {
-    if (isNamed(resource->fileName(), name, extension)) return resource;
-    at = (at + 1) & (index_.size() - 1);
+  const Name wanted = nameOf(name, type);
+  const std::size_t last = index_.size() - 1;
+  for (std::size_t at = hashOf(wanted) & last; index_[at].path; at = (at + 1) & last) {
+    if (!(index_[at].name == wanted)) continue;
+    const bool isExact = name.size() <= 8 && type.size() <= 8;
+    if (isExact || isNamed(index_[at].path->fileName(), name, type)) return index_[at].path;
   }
   return nullptr;
 }
 
+const ResourcePath* Bundle::URLForResource(std::string_view name, std::string_view extension) const {
+  return find(name, extension);
+}
+
 const ResourcePath* Bundle::pathForResource(std::string_view name, std::string_view type) const {
-  const ResourcePath* const resource = URLForResource(name, type);
+  const ResourcePath* const resource = find(name, type);
   return resource && resource->isDirectory() ? resource : nullptr;
 }
 

@@ -4,6 +4,7 @@
 
 #include <atomic>
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
@@ -28,7 +29,7 @@ class ZK_EXPORT ResourcePath {
   /// The full path of the file or directory.
   [[nodiscard]] const std::string& string() const { return path_; }
   /// The last part of the path: "de.lproj".
-  [[nodiscard]] std::string_view fileName() const { return std::string_view(path_).substr(nameBegin_); }
+  [[nodiscard]] std::string_view fileName() const { return fileName_; }
   [[nodiscard]] bool isDirectory() const { return isDirectory_; }
 
  private:
@@ -36,7 +37,7 @@ class ZK_EXPORT ResourcePath {
   [[nodiscard]] const StringTable& table() const;
 
   const std::string path_;
-  const std::size_t nameBegin_;
+  const std::string_view fileName_;
   const bool isDirectory_;
   mutable std::atomic<const Bundle*> bundle_{nullptr};
   mutable std::atomic<const StringTable*> table_{nullptr};
@@ -90,7 +91,22 @@ class ZK_EXPORT Bundle {
 
   const std::string path_;
   const Resources resources_;
-  std::vector<const ResourcePath*> index_;  // open addressing; its size is a power of two
+  /// What tells one file name from another, in as few words as can be compared at once.
+  struct Name {
+    std::uint64_t name;   // the word of what stands before the last dot
+    std::uint64_t type;   // the word of what stands behind it
+    std::uint64_t sizes;  // of both
+    friend bool operator==(const Name&, const Name&) = default;
+  };
+  struct Slot {
+    Name name;
+    const ResourcePath* path;
+  };
+  static Name nameOf(std::string_view name, std::string_view type);
+  static std::size_t hashOf(const Name& name);
+  [[nodiscard]] const ResourcePath* find(std::string_view name, std::string_view type) const;
+
+  std::vector<Slot> index_;  // open addressing; its size is a power of two
   const ResourcePath* defaultTable_;
 };
 

@@ -1,10 +1,9 @@
+#include <ZKStrings/platform/Bytes.h>
 #include <ZKStrings/platform/File.h>
-#include <ZKStrings/platform/Hash.h>
 #include <ZKStrings/platform/StringTable.h>
 #include <ZKStrings/platform/StringTableReader.h>
 #include <ZKStrings/platform/TextEncoding.h>
 
-#include <cstring>
 #include <limits>
 #include <utility>
 
@@ -65,7 +64,7 @@ std::size_t StringTable::slotFor(std::uint32_t hash, std::string_view key) const
     const Slot& slot = slots_[at];
     if (slot.key == kFree) return at;
     if (slot.hash != hash || slot.keySize != key.size()) continue;
-    if (std::memcmp(text_.data() + slot.key, key.data(), key.size()) == 0) return at;
+    if (sameBytes(text_.data() + slot.key, key.data(), key.size())) return at;
   }
 }
 

@@ -1,6 +1,8 @@
+#include <ZKStrings/platform/Bytes.h>
 #include <ZKStrings/platform/TextSearch.h>
 #include <ZKStrings/platform/UnicodeText.h>
 
+#include <array>
 #include <cstdint>
 #include <utility>
 
@@ -104,27 +106,39 @@ std::optional<Occurrence> CanonicalSearch::next() {
 }
 
 std::optional<Occurrence> AsciiSearch::next() {
-  while ((at_ = text_.find(target_, at_)) != std::string_view::npos) {
-    const std::size_t begin = at_;
-    const std::string_view rest = text_.substr(begin + target_.size());
-    if (rest.empty() || static_cast<unsigned char>(rest[0]) < 0x80 || isBorderBefore(firstCodePoint(rest))) {
-      at_ += target_.size();
-      return Occurrence{begin, at_};
-    }
-    ++at_;
+  const std::size_t size = target_.size();
+  const std::size_t middle = size / 2;  // placeholders begin and end alike: this is where they differ
+  for (; (at_ = text_.find(target_[0], at_)) != std::string_view::npos; ++at_) {
+    if (text_.size() - at_ < size) break;
+    const char* const place = text_.data() + at_;
+    if (place[middle] != target_[middle] || !sameBytes(place, target_.data(), size)) continue;
+    const std::string_view rest = text_.substr(at_ + size);
+    const bool isFollowedByAscii = rest.empty() || static_cast<unsigned char>(rest[0]) < 0x80;
+    if (!isFollowedByAscii && !isBorderBefore(firstCodePoint(rest))) continue;
+    at_ += size;
+    return Occurrence{at_ - size, at_};
   }
+  at_ = text_.size();
   return std::nullopt;
 }
 
+namespace {
+
+/// Whether each byte may stand in a target of the quick search. K, ; and ` are what the Kelvin sign, the
+/// Greek question mark and the Greek varia decompose to, the only other characters whose canonical
+/// decomposition is ASCII.
+constexpr std::array<bool, 256> kServed = [] {
+  std::array<bool, 256> served{};
+  for (std::size_t byte = 0; byte < 0x80; ++byte) served[byte] = byte != 'K' && byte != ';' && byte != '`';
+  return served;
+}();
+
+}  // namespace
+
 bool AsciiSearch::serves(std::string_view target) {
-  // K, ; and ` are what the Kelvin sign, the Greek question mark and the Greek varia decompose to, the only
-  // other characters whose canonical decomposition is ASCII. ASCII characters themselves are borders on their
-  // left.
-  for (const char character : target) {
-    if (static_cast<unsigned char>(character) >= 0x80) return false;
-    if (character == 'K' || character == ';' || character == '`') return false;
-  }
-  return !target.empty();
+  bool isServed = !target.empty();
+  for (const char byte : target) isServed &= kServed[static_cast<unsigned char>(byte)];
+  return isServed;
 }
 
 void replaceOccurrences(std::string& text, std::string_view target, std::string_view replacement) {

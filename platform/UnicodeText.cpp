@@ -106,11 +106,7 @@ bool isUtf8(std::string_view bytes) {
   return true;
 }
 
-std::string_view firstTwoCharacters(std::string_view text) {
-  // Between two ASCII characters there is always a border, but between CR and LF.
-  const std::string_view beginning = text.substr(0, 3);
-  if (isAscii(beginning) && beginning.find('\r') == std::string_view::npos) return text.substr(0, 2);
-
+std::string_view firstTwoGraphemeClusters(std::string_view text) {
   const CharacterBorders borders(text);
   return text.substr(0, borders.after(borders.after(0)));
 }

@@ -30,7 +30,7 @@ void appendCodePoint(std::string& text, char32_t codePoint);
 
 /// The first two user-perceived characters (extended grapheme clusters) of `text`, or all of it when it has
 /// fewer.
-[[nodiscard]] std::string_view firstTwoCharacters(std::string_view text);
+[[nodiscard]] inline std::string_view firstTwoCharacters(std::string_view text);
 
 /// Where the ASCII character `wanted` first stands in `text` as a user-perceived character of its own, not as
 /// the base of one with accents or joiners; `npos` when it does not.
@@ -39,5 +39,17 @@ void appendCodePoint(std::string& text, char32_t codePoint);
 /// `text` in upper case by the full default mapping of Unicode, whatever the locale: "straße" gives
 /// "STRASSE".
 [[nodiscard]] std::string upperCased(std::string_view text);
+
+/// The same by the full rules, also for what the quick way serves.
+[[nodiscard]] std::string_view firstTwoGraphemeClusters(std::string_view text);
+
+inline std::string_view firstTwoCharacters(std::string_view text) {
+  // Between two ASCII characters there is always a border, but between CR and LF.
+  const auto isPlain = [](char character) {
+    return static_cast<signed char>(character) >= 0 && character != '\r';
+  };
+  const bool isQuick = text.size() > 2 && isPlain(text[0]) && isPlain(text[1]) && isPlain(text[2]);
+  return isQuick ? text.substr(0, 2) : firstTwoGraphemeClusters(text);
+}
 
 }  // namespace zk

@@ -1,0 +1,116 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <string_view>
+
+/// The hashing and comparing of short texts, which is where a lookup spends its time: inline and by whole
+/// words, where the library's functions cost more than their work.
+
+namespace zk {
+
+namespace bytes_detail {
+
+template <class Word>
+Word load(const char* bytes) {
+  Word word;
+  std::memcpy(&word, bytes, sizeof(word));
+  return word;
+}
+
+/// Whether the first and the last word of two texts agree; all of a text that is at most two words long.
+template <class Word>
+bool sameEnds(const char* a, const char* b, std::size_t size) {
+  const std::size_t last = size - sizeof(Word);
+  return ((load<Word>(a) ^ load<Word>(b)) | (load<Word>(a + last) ^ load<Word>(b + last))) == 0;
+}
+
+__extension__ using Product = unsigned __int128;
+
+/// Multiplies to 128 bits and folds the halves together, so that every bit of both factors reaches the
+/// result.
+inline std::uint64_t fold(std::uint64_t a, std::uint64_t b) {
+  const Product product = static_cast<Product>(a) * b;
+  return static_cast<std::uint64_t>(product) ^ static_cast<std::uint64_t>(product >> 64);
+}
+
+}  // namespace bytes_detail
+
+/// Whether the `size` bytes at `a` and at `b` are the same.
+inline bool sameBytes(const char* a, const char* b, std::size_t size) {
+  using bytes_detail::load;
+  using bytes_detail::sameEnds;
+  for (; size > 16; a += 8, b += 8, size -= 8) {
+    if (load<std::uint64_t>(a) != load<std::uint64_t>(b)) return false;
+  }
+  if (size >= 8) return sameEnds<std::uint64_t>(a, b, size);
+  if (size >= 4) return sameEnds<std::uint32_t>(a, b, size);
+  if (size >= 2) return sameEnds<std::uint16_t>(a, b, size);
+  return size == 0 || *a == *b;
+}
+
+/// Copies `size` bytes to `to`, which must not overlap them, and gives the place behind the copy.
+inline char* copyBytes(char* to, const char* from, std::size_t size) {
+  const auto copyEnds = [&]<class Word>(Word) {
+    const auto first = bytes_detail::load<Word>(from);
+    const auto last = bytes_detail::load<Word>(from + size - sizeof(Word));
+    std::memcpy(to, &first, sizeof(Word));
+    std::memcpy(to + size - sizeof(Word), &last, sizeof(Word));
+  };
+  if (size > 16) {
+    std::memcpy(to, from, size);
+  } else if (size >= 8) {
+    copyEnds(std::uint64_t{});
+  } else if (size >= 4) {
+    copyEnds(std::uint32_t{});
+  } else if (size >= 2) {
+    copyEnds(std::uint16_t{});
+  } else if (size == 1) {
+    *to = *from;
+  }
+  return to + size;
+}
+
+/// A hash of `bytes` for the indexes in memory. Its values differ between machines and are never stored.
+inline std::uint64_t hashOf(std::string_view bytes) {
+  using bytes_detail::fold;
+  using bytes_detail::load;
+  constexpr std::uint64_t kFirst = 0x9E3779B97F4A7C15;
+  constexpr std::uint64_t kSecond = 0xD1B54A32D192ED03;
+  const char* at = bytes.data();
+  std::size_t left = bytes.size();
+  std::uint64_t hash = kFirst ^ left;
+  for (; left > 16; at += 16, left -= 16) {
+    hash = fold(load<std::uint64_t>(at) ^ kSecond, load<std::uint64_t>(at + 8) ^ hash);
+  }
+  std::uint64_t first = 0;
+  std::uint64_t last = 0;
+  if (left >= 8) {
+    first = load<std::uint64_t>(at);
+    last = load<std::uint64_t>(at + left - 8);
+  } else if (left >= 4) {
+    first = load<std::uint32_t>(at);
+    last = load<std::uint32_t>(at + left - 4);
+  } else if (left > 0) {
+    first = static_cast<unsigned char>(at[0]);
+    last = static_cast<std::uint64_t>(static_cast<unsigned char>(at[left / 2])) << 8 |
+           static_cast<unsigned char>(at[left - 1]);
+  }
+  return fold(first ^ kSecond, last ^ hash);
+}
+
+/// A text as one word: its bytes when it is at most eight long, which together with the size tell texts
+/// apart, or else a hash of them.
+inline std::uint64_t wordOf(std::string_view text) {
+  using bytes_detail::load;
+  const char* const last = text.data() + text.size();
+  if (text.size() > 8) return hashOf(text);
+  if (text.size() >= 4)
+    return load<std::uint32_t>(text.data()) | std::uint64_t{load<std::uint32_t>(last - 4)} << 32;
+  if (text.size() >= 2)
+    return load<std::uint16_t>(text.data()) | std::uint64_t{load<std::uint16_t>(last - 2)} << 16;
+  return text.empty() ? 0 : static_cast<unsigned char>(text[0]);
+}
+
+}  // namespace zk
