@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <initializer_list>
 #include <string_view>
 
 /// The hashing and comparing of short texts, which is where a lookup spends its time: inline and by whole
@@ -50,28 +51,6 @@ inline bool sameBytes(const char* a, const char* b, std::size_t size) {
   return size == 0 || *a == *b;
 }
 
-/// Copies `size` bytes to `to`, which must not overlap them, and gives the place behind the copy.
-inline char* copyBytes(char* to, const char* from, std::size_t size) {
-  const auto copyEnds = [&]<class Word>(Word) {
-    const auto first = bytes_detail::load<Word>(from);
-    const auto last = bytes_detail::load<Word>(from + size - sizeof(Word));
-    std::memcpy(to, &first, sizeof(Word));
-    std::memcpy(to + size - sizeof(Word), &last, sizeof(Word));
-  };
-  if (size > 16) {
-    std::memcpy(to, from, size);
-  } else if (size >= 8) {
-    copyEnds(std::uint64_t{});
-  } else if (size >= 4) {
-    copyEnds(std::uint32_t{});
-  } else if (size >= 2) {
-    copyEnds(std::uint16_t{});
-  } else if (size == 1) {
-    *to = *from;
-  }
-  return to + size;
-}
-
 /// A hash of `bytes` for the indexes in memory. Its values differ between machines and are never stored.
 inline std::uint64_t hashOf(std::string_view bytes) {
   using bytes_detail::fold;
@@ -111,6 +90,47 @@ inline std::uint64_t wordOf(std::string_view text) {
   if (text.size() >= 2)
     return load<std::uint16_t>(text.data()) | std::uint64_t{load<std::uint16_t>(last - 2)} << 16;
   return text.empty() ? 0 : static_cast<unsigned char>(text[0]);
+}
+
+/// Whether all of `text` is ASCII and none of it one of the ASCII characters `excluded`.
+inline bool isAsciiWithout(std::string_view text, std::initializer_list<char> excluded) {
+  constexpr std::uint64_t kOnes = 0x0101010101010101;
+  constexpr std::uint64_t kHighs = 0x8080808080808080;
+  std::uint64_t found = 0;  // the high bit of a byte is set where one was found
+  const auto look = [&](std::uint64_t eight) {
+    found |= eight;
+    for (const char character : excluded) {
+      const std::uint64_t differences = eight ^ kOnes * static_cast<unsigned char>(character);
+      found |= (differences - kOnes) & ~differences;
+    }
+  };
+  const char* at = text.data();
+  std::size_t left = text.size();
+  for (; left >= 8; at += 8, left -= 8) look(bytes_detail::load<std::uint64_t>(at));
+  if (left > 0) look(wordOf({at, left}));
+  return (found & kHighs) == 0;
+}
+
+/// Copies `size` bytes to `to`, which must not overlap them, and gives the place behind the copy.
+inline char* copyBytes(char* to, const char* from, std::size_t size) {
+  const auto copyEnds = [&]<class Word>(Word) {
+    const auto first = bytes_detail::load<Word>(from);
+    const auto last = bytes_detail::load<Word>(from + size - sizeof(Word));
+    std::memcpy(to, &first, sizeof(Word));
+    std::memcpy(to + size - sizeof(Word), &last, sizeof(Word));
+  };
+  if (size > 16) {
+    std::memcpy(to, from, size);
+  } else if (size >= 8) {
+    copyEnds(std::uint64_t{});
+  } else if (size >= 4) {
+    copyEnds(std::uint32_t{});
+  } else if (size >= 2) {
+    copyEnds(std::uint16_t{});
+  } else if (size == 1) {
+    *to = *from;
+  }
+  return to + size;
 }
 
 }  // namespace zk

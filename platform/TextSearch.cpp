@@ -2,8 +2,8 @@
 #include <ZKStrings/platform/TextSearch.h>
 #include <ZKStrings/platform/UnicodeText.h>
 
-#include <array>
 #include <cstdint>
+#include <cstring>
 #include <utility>
 
 #include <unicode/normalizer2.h>
@@ -108,37 +108,27 @@ std::optional<Occurrence> CanonicalSearch::next() {
 std::optional<Occurrence> AsciiSearch::next() {
   const std::size_t size = target_.size();
   const std::size_t middle = size / 2;  // placeholders begin and end alike: this is where they differ
-  for (; (at_ = text_.find(target_[0], at_)) != std::string_view::npos; ++at_) {
-    if (text_.size() - at_ < size) break;
-    const char* const place = text_.data() + at_;
+  const char* const end = text_.data() + text_.size();
+  const char* place = text_.data() + at_;
+  for (; static_cast<std::size_t>(end - place) >= size; ++place) {
+    place = static_cast<const char*>(
+        std::memchr(place, target_[0], static_cast<std::size_t>(end - place) - size + 1));
+    if (!place) break;
     if (place[middle] != target_[middle] || !sameBytes(place, target_.data(), size)) continue;
-    const std::string_view rest = text_.substr(at_ + size);
-    const bool isFollowedByAscii = rest.empty() || static_cast<unsigned char>(rest[0]) < 0x80;
-    if (!isFollowedByAscii && !isBorderBefore(firstCodePoint(rest))) continue;
-    at_ += size;
+    const char* const behind = place + size;
+    const bool isBeforeAscii = behind == end || static_cast<unsigned char>(*behind) < 0x80;
+    if (!isBeforeAscii && !isBorderBefore(firstCodePoint({behind, end}))) continue;
+    at_ = static_cast<std::size_t>(behind - text_.data());
     return Occurrence{at_ - size, at_};
   }
   at_ = text_.size();
   return std::nullopt;
 }
 
-namespace {
-
-/// Whether each byte may stand in a target of the quick search. K, ; and ` are what the Kelvin sign, the
-/// Greek question mark and the Greek varia decompose to, the only other characters whose canonical
-/// decomposition is ASCII.
-constexpr std::array<bool, 256> kServed = [] {
-  std::array<bool, 256> served{};
-  for (std::size_t byte = 0; byte < 0x80; ++byte) served[byte] = byte != 'K' && byte != ';' && byte != '`';
-  return served;
-}();
-
-}  // namespace
-
 bool AsciiSearch::serves(std::string_view target) {
-  bool isServed = !target.empty();
-  for (const char byte : target) isServed &= kServed[static_cast<unsigned char>(byte)];
-  return isServed;
+  // K, ; and ` are what the Kelvin sign, the Greek question mark and the Greek varia decompose to, the only
+  // other characters whose canonical decomposition is ASCII.
+  return !target.empty() && isAsciiWithout(target, {'K', ';', '`'});
 }
 
 void replaceOccurrences(std::string& text, std::string_view target, std::string_view replacement) {
