@@ -1,3 +1,4 @@
+#include <ZKStrings/tools/Coverage.h>
 #include <ZKStrings/tools/Nearest.h>
 #include <ZKStrings/tools/TranslationCommandLine.h>
 #include <ZKStrings/tools/check/Checker.h>
@@ -83,6 +84,16 @@ void addCheckCommand(CLI::App& app, const RootFinder& inRoot, int& status) {
     const Severity mildest = arguments->isStrict ? Severity::warning : Severity::error;
     const auto fails = [&](const Fault& fault) { return fault.severity <= mildest; };
     status = std::ranges::any_of(faults, fails) ? 1 : 0;
+  });
+}
+
+void addCoverageCommand(CLI::App& app, const RootFinder& inRoot) {
+  const auto format = std::make_shared<std::string>();
+  auto* const command = app.add_subcommand("coverage", "Show how many texts each language has");
+  addFormat(*command, *format);
+  command->callback([format, inRoot] {
+    const std::vector<Coverage> languages = coverageOf(inRoot());
+    fmt::print("{}", *format == kJson ? toJson(languages) + "\n" : formatted(languages));
   });
 }
 

@@ -18,5 +18,6 @@ using RootFinder = std::function<std::string()>;
 /// `status`, which must outlive the parsing, becomes 1 when `check` finds an error, or a warning under
 /// --strict.
 void addCheckCommand(CLI::App& app, const RootFinder& inRoot, int& status);
+void addCoverageCommand(CLI::App& app, const RootFinder& inRoot);
 
 }  // namespace zk::tools
