@@ -1,5 +1,7 @@
 #include <ZKStrings/tools/Coverage.h>
 #include <ZKStrings/tools/Nearest.h>
+#include <ZKStrings/tools/Table.h>
+#include <ZKStrings/tools/Template.h>
 #include <ZKStrings/tools/TranslationCommandLine.h>
 #include <ZKStrings/tools/check/Checker.h>
 
@@ -94,6 +96,16 @@ void addCoverageCommand(CLI::App& app, const RootFinder& inRoot) {
   command->callback([format, inRoot] {
     const std::vector<Coverage> languages = coverageOf(inRoot());
     fmt::print("{}", *format == kJson ? toJson(languages) + "\n" : formatted(languages));
+  });
+}
+
+void addTemplateCommand(CLI::App& app, const RootFinder& inRoot) {
+  const auto language = std::make_shared<std::string>();
+  auto* const command = app.add_subcommand("template", "Write the table from which a new language begins");
+  command->add_option("language", *language, "The language's ISO 639-1 code")->required();
+  command->callback([language, inRoot] {
+    const std::size_t texts = writeTemplate(inRoot(), *language);
+    fmt::print("Wrote {} with {} texts to translate.\n", tablePath(*language), texts);
   });
 }
 

@@ -19,5 +19,6 @@ using RootFinder = std::function<std::string()>;
 /// --strict.
 void addCheckCommand(CLI::App& app, const RootFinder& inRoot, int& status);
 void addCoverageCommand(CLI::App& app, const RootFinder& inRoot);
+void addTemplateCommand(CLI::App& app, const RootFinder& inRoot);
 
 }  // namespace zk::tools

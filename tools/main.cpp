@@ -59,6 +59,7 @@ int run(int argc, char** argv) {
   int status = 0;
   addCheckCommand(app, inRoot, status);
   addCoverageCommand(app, inRoot);
+  addTemplateCommand(app, inRoot);
 
   try {
     app.parse(argc, argv);
