@@ -3,6 +3,7 @@
 #include <ZKStrings/tools/Catalogue.h>
 #include <ZKStrings/tools/CatalogueCommands.h>
 #include <ZKStrings/tools/Files.h>
+#include <ZKStrings/tools/Languages.h>
 #include <ZKStrings/tools/Table.h>
 
 #include <algorithm>
@@ -12,8 +13,6 @@
 namespace zk::tools {
 
 namespace {
-
-constexpr std::string_view kBase = "Base";
 
 Table readBase(const std::string& root) {
   Table base = Table::read(root, kBase);

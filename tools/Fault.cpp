@@ -4,6 +4,7 @@
 
 #include <fmt/color.h>
 #include <fmt/format.h>
+#include <nlohmann/json.hpp>
 
 namespace zk::tools {
 
@@ -11,19 +12,19 @@ namespace {
 
 struct Style {
   const char* name;
-  fmt::text_style style;
+  fmt::terminal_color colour;
 };
 
 Style styleOf(Severity severity) {
   switch (severity) {
     case Severity::error:
-      return {"error", fmt::emphasis::bold | fmt::fg(fmt::terminal_color::red)};
+      return {"error", fmt::terminal_color::red};
     case Severity::warning:
-      return {"warning", fmt::emphasis::bold | fmt::fg(fmt::terminal_color::magenta)};
+      return {"warning", fmt::terminal_color::magenta};
     case Severity::note:
       break;
   }
-  return {"note", fmt::emphasis::bold | fmt::fg(fmt::terminal_color::cyan)};
+  return {"note", fmt::terminal_color::cyan};
 }
 
 bool isContinuationByte(char byte) {
@@ -31,6 +32,10 @@ bool isContinuationByte(char byte) {
 }
 
 }  // namespace
+
+const char* nameOf(Severity severity) {
+  return styleOf(severity).name;
+}
 
 Position positionOf(std::string_view text, std::size_t offset) {
   const std::string_view before = text.substr(0, offset);
@@ -41,13 +46,26 @@ Position positionOf(std::string_view text, std::size_t offset) {
 }
 
 std::string formatted(const Fault& fault, bool coloured) {
-  const auto [name, style] = styleOf(fault.severity);
+  const auto [name, colour] = styleOf(fault.severity);
   const auto in = [&](fmt::text_style wanted) { return coloured ? wanted : fmt::text_style(); };
   std::string line = fmt::format(in(fmt::emphasis::bold), "{}:{}:{}: ", fault.file, fault.line, fault.column);
-  line += fmt::format(in(style), "{}: ", name);
+  line += fmt::format(in(fmt::emphasis::bold | fmt::fg(colour)), "{}: ", name);
   line += fault.message;
   if (!fault.rule.empty()) line += fmt::format(in(fmt::emphasis::faint), " [{}]", fault.rule);
   return line;
+}
+
+std::string toJson(const Faults& faults) {
+  using Json = nlohmann::ordered_json;
+  std::vector<std::string> objects;
+  for (const Fault& fault : faults) {
+    const Json object = {{"file", fault.file},     {"line", fault.line},
+                         {"column", fault.column}, {"severity", nameOf(fault.severity)},
+                         {"rule", fault.rule},     {"message", fault.message}};
+    // Messages quote texts, in which there may be bytes that are not UTF-8.
+    objects.push_back(object.dump(-1, ' ', false, Json::error_handler_t::replace));
+  }
+  return objects.empty() ? "[]" : fmt::format("[\n  {}\n]", fmt::join(objects, ",\n  "));
 }
 
 }  // namespace zk::tools

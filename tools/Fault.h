@@ -7,7 +7,10 @@
 
 namespace zk::tools {
 
+/// From the gravest to the mildest.
 enum class Severity { error, warning, note };
+
+[[nodiscard]] const char* nameOf(Severity severity);
 
 /// Something wrong in a file of the project, as a compiler would report it.
 struct Fault {
@@ -30,6 +33,10 @@ struct Position {
 
 /// The fault as one line, "file:line:column: error: message [rule]", with colours when `coloured`.
 [[nodiscard]] std::string formatted(const Fault& fault, bool coloured);
+
+/// The faults as a JSON array of objects with the members file, line, column, severity, rule and message, one
+/// object a line.
+[[nodiscard]] std::string toJson(const Faults& faults);
 
 /// Thrown by a command that cannot go on; the program prints the faults and ends with a failure.
 struct CommandFailed {

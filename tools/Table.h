@@ -11,18 +11,33 @@ namespace zk::tools {
 
 /// One entry of a string table, with the places in its file that faults are reported for.
 struct TableEntry {
+  /// An escape that stands for no special character, as in "\q".
+  struct UnknownEscape {
+    Position at;
+    std::string spelled;
+  };
+
   std::string key;
   std::string text;
+  std::string spelled;  ///< the text as it stands in the file, with its escapes
   Position keyAt;
-  Position textAt;                       ///< of the first character within the quotes
-  std::size_t lastLine;                  ///< the line on which the entry ends
-  std::vector<std::string> comments;     ///< the comments before the entry, without their marks
-  std::vector<Position> unknownEscapes;  ///< the places of escapes that stand for no special character
+  Position textAt;                    ///< of the first character within the quotes
+  std::size_t lastLine;               ///< the line on which the entry ends
+  std::vector<std::string> comments;  ///< the comments before the entry, without their marks
+  std::vector<UnknownEscape> unknownEscapes;
+
+  /// Where in the file the character at the byte `offset` of `text` stands; the end of the text for an offset
+  /// beyond it.
+  [[nodiscard]] Position placeOf(std::size_t offset) const;
 };
 
 /// A string table as the tools see it: all entries that can be read, and all that keeps the file from being a
-/// table.
+/// table, under the rules named here.
 struct Table {
+  static constexpr char kMissing[] = "missing-table";
+  static constexpr char kEncoding[] = "encoding";
+  static constexpr char kSyntax[] = "table-syntax";
+
   std::string file;  ///< relative to the project's root
   std::vector<TableEntry> entries;
   Faults faults;

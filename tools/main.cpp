@@ -3,6 +3,7 @@
 #include <ZKStrings/tools/CatalogueCommands.h>
 #include <ZKStrings/tools/Fault.h>
 #include <ZKStrings/tools/Files.h>
+#include <ZKStrings/tools/TranslationCommandLine.h>
 
 #include <cstdio>
 #include <string>
@@ -14,6 +15,8 @@
 namespace {
 
 using namespace zk::tools;
+
+constexpr int kWrongUse = 2;
 
 /// What the shell passes as \n inside quotes is meant as a line break.
 std::string withLineBreaks(std::string text) {
@@ -53,8 +56,17 @@ int run(int argc, char** argv) {
                       : "");
   });
 
-  CLI11_PARSE(app, argc, argv);
-  return 0;
+  int status = 0;
+  addCheckCommand(app, inRoot, status);
+  addCoverageCommand(app, inRoot);
+  addTemplateCommand(app, inRoot);
+
+  try {
+    app.parse(argc, argv);
+  } catch (const CLI::ParseError& wrongUse) {
+    return app.exit(wrongUse) == 0 ? 0 : kWrongUse;
+  }
+  return status;
 }
 
 }  // namespace

@@ -1,0 +1,274 @@
+#include <ZKStrings/tests/tools/TemporaryProject.h>
+#include <ZKStrings/tools/check/Checker.h>
+
+#include <algorithm>
+#include <set>
+#include <string>
+#include <vector>
+
+#include <fmt/format.h>
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace std::string_literals;
+using namespace zk::tools;
+using zk::testing::TemporaryProject;
+
+struct File {
+  std::string path;
+  std::string content;
+};
+
+File table(const char* language, std::string content) {
+  return {TemporaryProject::table(language), std::move(content)};
+}
+
+File de(std::string content) {
+  return table("de", std::move(content));
+}
+
+File countries(std::string content) {
+  return {TemporaryProject::kCountries, std::move(content)};
+}
+
+/// A country list with a second country.
+File secondCountry(const std::string& second) {
+  return countries("[\n  {\"name\": \"Austria\", \"phoneCode\": 43, \"iso\": \"AT\"},\n  " + second + "\n]");
+}
+
+/// A table with the plural forms of Coins.
+File coins(const char* language, const std::string& one, const std::string& others) {
+  std::string lines;
+  for (const std::string form : {"zero", "one", "two", "few", "many"}) {
+    lines += fmt::format("\"Coins_{}\" = \"{}\";\n", form, form == "one" ? one : others);
+  }
+  return table(language, lines);
+}
+
+/// The English table as that of another language, without the line of `key`.
+File englishWithout(const std::string& key) {
+  std::string lines = TemporaryProject().read(TemporaryProject::table("Base"));
+  const std::size_t line = lines.find("\"" + key + "\"");
+  if (line != std::string::npos) lines.erase(line, lines.find('\n', line) + 1 - line);
+  return table("ja", lines);
+}
+
+/// What is wrong in a project that is right but for `file`; keys may be missing, unless that is the matter.
+Faults faultsWith(const File& file, const std::string& rule = "") {
+  const TemporaryProject project;
+  project.write(file.path, file.content);
+  CheckOptions options;
+  options.notes = rule == "same-text" || rule == "long-text" || rule == "brackets" || rule == "digits";
+  if (rule != "missing-key") options.off = {"missing-key"};
+  return check(project.root(), options);
+}
+
+std::string linesOf(const Faults& faults) {
+  std::string lines;
+  for (const Fault& fault : faults) lines += formatted(fault, false) + "\n";
+  return lines;
+}
+
+struct RuleCase {
+  const char* rule;
+  File wrong;     ///< breaks the rule, once, and no other
+  File nearMiss;  ///< breaks none
+  const char* place;
+  const char* says;  ///< a part of the message
+};
+
+const std::vector<RuleCase> kRuleCases = {
+    {"language-directory", table("xx", ""), table("aa", ""), "1:1", "no language code"},
+    {"language-directory", table("en", ""), table("Base", englishWithout("").content), "1:1", "Base.lproj"},
+    {"language-directory", table("pt-BR", ""), table("pt", ""), "1:1", "name it pt.lproj"},
+    {"language-directory", table("DE", ""), table("de", ""), "1:1", "name it de.lproj"},
+    {"missing-table", {"resources/de.lproj/Other.strings", ""}, de(""), "1:1", "zkstrings template"},
+    {"encoding", de("\"About\" = \"\xC3\x9C\xFC\";"), de("\"About\" = \"\xC3\x9C\";"), "1:13", "UTF-8"},
+    {"encoding", de("\xFF\xFE\0"s), de("\xFF\xFE\"\0A\0b\0o\0u\0t\0\"\0=\0\"\0a\0\"\0;\0"s), "1:1", "save"},
+    {"encoding", de("\xEF\xBB\xBF\"About\" = \"\xFC\";"), de("\xEF\xBB\xBF\"About\" = \"Info\";"), "1:12",
+     "UTF-8"},
+    {"table-syntax", de("\"About\" = \"Info\"\n"), de("About=Info;"), "2:1", "expected \";\""},
+    {"duplicate-key", de("\"About\" = \"A\";\n\"About\" = \"B\";"), de("\"About\" = \"A\";"), "2:2",
+     "line 1"},
+    {"replacement-character", de(R"("About" = "\U00dc\UFFFDer";)"), de(R"("About" = "\U00dcber";)"), "1:18",
+     "U+FFFD"},
+    {"unknown-placeholder", de(R"("Kick_username" = "\"%{username}\" %{usernam}?";)"),
+     de(R"("Kick_username" = "„%{username}“ %{username}?";)"), "1:36",
+     R"("%{usernam}"; write "%{username}")"},
+    {"unknown-placeholder", de(R"("About" = "%{name}";)"), de(R"("About" = "name";)"), "1:12", "remove it"},
+    {"unknown-placeholder", de(R"("badgeCount_Badges_zero" = "%{count1}";)"),
+     de(R"("badgeCount_Badges_zero" = "%{badgeCount}";)"), "1:29", R"(; write "%{badgeCount}")"},
+    {"placeholder-spelling", de(R"("Kick_username" = "%{ username}?";)"),
+     de(R"("Kick_username" = "% %{username}?";)"), "1:20",
+     R"("%{ username}" is no placeholder and shows as it stands; write "%{username}")"},
+    {"placeholder-spelling", de(R"("Kick_username" = "{username}?";)"),
+     de(R"("Kick_username" = "(%{username})?";)"), "1:20", R"("{username}")"},
+    {"placeholder-spelling", de(R"("Kick_username" = "%username?";)"),
+     de(R"("Kick_username" = "%{username} 100%ig?";)"), "1:20", R"("%username")"},
+    {"placeholder-spelling", de(R"("Kick_username" = "%{username raus?";)"),
+     de(R"("Kick_username" = "%{username} raus?";)"), "1:20", R"("%{username")"},
+    {"placeholder-spelling", de(R"("Kick_username" = "%{username %{username}?";)"),
+     de(R"("Kick_username" = "%{username} %{username}?";)"), "1:20", R"("%{username")"},
+    {"country-list", countries("{}"), countries("[]"), "1:1", "no array"},
+    {"country-list", countries("[\n  {\"name\" \"Austria\"}\n]"), countries("[ ]"), "2:19", "not JSON"},
+    {"country-list", secondCountry("\"]\""),
+     secondCountry("{\"name\": \"]\", \"phoneCode\": 1, \"iso\": \"BR\"}"), "3:3", "no object"},
+    {"dropped-country", secondCountry(R"({"name": "Peru", "phoneCode": "51", "iso": "PE"})"),
+     secondCountry(R"({"name": "Peru", "phoneCode": 51, "iso": "PE", "more": [{}, "},{"]})"), "3:3",
+     "phoneCode"},
+    {"duplicate-country", secondCountry(R"({"name": "Peru", "phoneCode": 51, "iso": "AT"})"),
+     secondCountry(R"({"name": "Austria", "phoneCode": 43, "iso": "PE"})"), "3:3", "line 2"},
+    {"country-code", secondCountry(R"({"name": "Peru", "phoneCode": 51, "iso": "Pe"})"),
+     secondCountry(R"({"name": "Peru", "phoneCode": 51, "iso": "PE"})"), "3:3", "\"Pe\""},
+    {"country-code",
+     countries(R"([{"name": "\"},", "phoneCode": 1, "iso": "US"}, {"name": "", "phoneCode": 1, "iso": ""}])"),
+     countries(R"([{"name": "\"},", "phoneCode": 1, "iso": "US"}])"), "1:49", "\"\""},
+    {"empty-text", de(R"("Kick_username" = " ";)"), de(R"("About" = "-";)"), "1:20", "Kick_username"},
+    {"unknown-escape", de(R"("About" = "\qber";)"), de(R"("About" = "\\qber";)"), "1:12", R"("\q")"},
+    {"missing-key", englishWithout("Coins_one"), englishWithout(""), "1:1",
+     R"(1 of the 25 keys that the module looks up is missing; add "Coins_one")"},
+    {"unknown-key", de(R"("Abuot" = "Info";)"), de(R"("About" = "Info";)"), "1:2", R"(write "About")"},
+    {"unknown-key", de(R"("About_one" = "Info";)"), de(R"("Tap_it_to_use_one" = "Info";)"), "1:2",
+     "\"About\" is not counted"},
+    {"unknown-key", de(R"("badgeCount_Badges" = "%{badgeCount}";)"), de(R"("Coins" = "Geld";)"), "1:2",
+     R"(write "badgeCount_Badges_zero")"},
+    {"same-plurals", coins("de", "Taler", "Taler"), coins("de", "Münze", "Münzen"), "1:17", "\"Coins\""},
+    {"same-plurals", coins("es", "oro", "oro"), coins("tr", "Jeton", "Jeton"), "1:17", "differ"},
+    {"unused-placeholder", de(R"("Kick_username" = "Raus?";)"),
+     de(R"("Kick_username" = "%{username} raus?";)"), "1:20", "%{username}"},
+    {"unused-placeholder", de(R"("badgeCount_Badges_two" = "Zwei";)"),
+     de(R"("badgeCount_Badges_one" = "Eins"; "badgeCount_Badges_zero" = "Keins";)"), "1:28", "%{badgeCount}"},
+    {"unused-placeholder", de(R"("level_left_of_gameCount_one" = "Eins";)"),
+     de(R"("level_left_of_gameCount_one" = "%{level} von einem";)"), "1:34", "%{level}"},
+    {"base-text", table("Base", englishWithout("About").content + R"("About" = "Info";)"),
+     table("Base", englishWithout("Coins_one").content + R"("Coins_one" = "One coin";)"), "25:12",
+     "\"About\""},
+    {"marks", de(R"("b_Rules_b" = "Regeln";)"), de(R"("b_Rules_b" = "Die <b>Regeln</b>";)"), "1:16",
+     "fewer <b> tags"},
+    {"marks", de(R"("b_Rules_b" = "</b>Regeln<b>";)"), de(R"("b_Rules_b" = "<b>R</b> und <b>S</b>";)"),
+     "1:16", "do not pair up"},
+    {"marks", de(R"("Be_quick_nBuy_two" = "*Schnell!\nKauf.";)"),
+     de(R"("Be_quick_nBuy_two" = "*Schnell!*\n*Kauf*.";)"), "1:24", "do not pair up"},
+    {"marks", de(R"("About" = "*Info*";)"), de(R"("About" = "Info";)"), "1:12", "no * marks"},
+    {"line-breaks", de(R"("Be_quick_nBuy_two" = "*Schnell!* Kauf.";)"),
+     de("\"Be_quick_nBuy_two\" = \"*Schnell!*\nKauf.\";"), "1:24", "is 0, in the English text 1"},
+    {"outer-space", de(R"("Download_on" = "Lade bei";)"), de("\"Download_on\" = \"Lade bei\u00A0\";"), "1:18",
+     "behind"},
+    {"outer-space", de(R"("About" = "\tInfo";)"), de(R"("About" = "In\tfo";)"), "1:12", R"("\t")"},
+    {"end-punctuation", de(R"("Kick_username" = "%{username} raus.";)"),
+     de(R"("Kick_username" = "%{username} raus？";)"), "1:20",
+     "a full stop, the English text in a question mark"},
+    {"same-text", de(R"("About" = "About";)"), de(R"("ZK_Trivia" = "ZK Trivia";)"), "1:12", "\"About\""},
+    {"long-text", de(R"("About" = "Alles über alles";)"), de(R"("About" = "Alles über alle";)"), "1:12",
+     "16"},
+    {"brackets", de(R"("Referral_code_optional" = "Code, optional";)"),
+     de(R"("Referral_code_optional" = "代码（可选）";)"), "1:29", "brackets"},
+    {"digits", de(R"("Top_10" = "Die 100";)"), de(R"("Top_10" = "أفضل ١٠";)"), "1:13", "\"100\""},
+};
+
+TEST(Check, EachRuleFindsWhatItNamesAndNothingNearIt) {
+  for (const auto& [rule, wrong, nearMiss, place, says] : kRuleCases) {
+    SCOPED_TRACE(fmt::format("{} in {}\n{}\nnear miss in {}\n{}", rule, wrong.path, wrong.content,
+                             nearMiss.path, nearMiss.content));
+    const Faults faults = faultsWith(wrong, rule);
+    EXPECT_EQ(linesOf(faultsWith(nearMiss, rule)), "");
+    if (faults.size() != 1) {
+      ADD_FAILURE() << "not one fault:\n" << linesOf(faults);
+      continue;
+    }
+    const Fault& fault = faults.front();
+    EXPECT_EQ(fault.rule, rule);
+    EXPECT_EQ(fmt::format("{}:{}", fault.line, fault.column), place);
+    EXPECT_TRUE(fault.message.find(says) != std::string::npos) << linesOf(faults);
+  }
+}
+
+TEST(Check, EveryRuleIsShownToWork) {
+  std::set<std::string> shown;
+  for (const RuleCase& test : kRuleCases) shown.insert(test.rule);
+  for (const Rule& rule : checkRules()) EXPECT_TRUE(shown.contains(std::string(rule.name))) << rule.name;
+}
+
+TEST(Check, AllFaultsOfAFileAreFoundInOneGo) {
+  const File file =
+      de("\"About\" = \"\xFC\";\n"
+         "\"Coins\" \"Geld\";\n"
+         "\"Top_10\" = \"\\q\";\n"
+         "\"Top_11\" = \"Elf\";\n"
+         "\"Kick_username\" = \"%{usernames} raus.\";\n"
+         "\"ZK_Trivia\" = \"\xFF\"");
+  std::string rules;
+  for (const Fault& fault : faultsWith(file)) rules += fmt::format("{}:{} ", fault.line, fault.rule);
+  EXPECT_EQ(
+      rules,
+      "1:encoding 2:table-syntax 3:unknown-escape 4:unknown-key 5:unknown-placeholder 5:end-punctuation "
+      "6:encoding 6:table-syntax ");
+}
+
+TEST(Check, ACommentSwitchesRulesOffForTheEntryBehindIt) {
+  struct Case {
+    const char* comments;
+    const char* rules;  ///< those that still find something
+  };
+  constexpr Case kCases[] = {
+      {"", "marks end-punctuation "},
+      {"/* check: off marks */", "end-punctuation "},
+      {"// check: off end-punctuation", "marks "},
+      {"/* check: off marks end-punctuation */", ""},
+      {"/* check: off marks, end-punctuation */", ""},
+      {"/* check: off marks */ /* English: \"About\" */\n/*check: off end-punctuation*/", ""},
+      {"/* check: off mark */", "marks end-punctuation "},
+      {"/* marks are off here, check: off marks */", "marks end-punctuation "},
+      {"/* check: off marks */ \"Coins\" = \"Geld\";", "marks end-punctuation "},
+  };
+  for (const auto& [comments, expected] : kCases) {
+    std::string rules;
+    for (const Fault& fault : faultsWith(de(fmt::format("{}\n\"About\" = \"*Info.\";", comments)))) {
+      rules = fault.rule + " " + rules;
+    }
+    EXPECT_EQ(rules, expected) << comments;
+  }
+}
+
+TEST(Check, LanguagesLimitWhatIsChecked) {
+  const TemporaryProject project;
+  for (const char* const language : {"de", "fr", "Base"}) {
+    project.write(TemporaryProject::table(language), "\"Abuot\" = \"\";");
+  }
+  project.write(TemporaryProject::kCountries, "");
+  std::set<std::string> files;
+  for (const Fault& fault : check(project.root(), {{"fr", "de"}, {}, false})) files.insert(fault.file);
+  EXPECT_EQ(files, (std::set<std::string>{TemporaryProject::table("de"), TemporaryProject::table("fr")}));
+}
+
+TEST(Check, FaultsAreSortedByPlace) {
+  const TemporaryProject project;
+  project.write(TemporaryProject::table("fr"), "\"About\" = \"*\";\n\"Abuot\" = \"\\q\";\n\"Coins\" = \"\";");
+  project.write(TemporaryProject::table("de"), "\"Coins\" = \"*\";");
+  const Faults faults = check(project.root(), {});
+  const auto place = [](const Fault& fault) { return std::tuple(fault.file, fault.line, fault.column); };
+  EXPECT_TRUE(std::ranges::is_sorted(faults, {}, place)) << linesOf(faults);
+  EXPECT_EQ(faults.size(), 7u) << linesOf(faults);
+}
+
+TEST(Check, AWrongCatalogueHidesNoFaultOfATable) {
+  const TemporaryProject project;
+  project.write(TemporaryProject::kCatalogue, "[\n  {\"key\": \"Aboot\", \"text\": \"About\"}\n]\n");
+  project.write(TemporaryProject::table("de"), "\"About\" = ;");
+  const Faults faults = check(project.root(), {});
+  ASSERT_EQ(faults.size(), 2u) << linesOf(faults);
+  EXPECT_EQ(faults[0].file, TemporaryProject::kCatalogue);
+  EXPECT_EQ(faults[1].rule, "table-syntax");
+}
+
+TEST(Check, PluralFormsOfTheEnglishTableAreHeldAgainstTheCatalogue) {
+  const std::string rest = englishWithout("badgeCount_Badges_two").content;
+  const Faults faults =
+      faultsWith(table("Base", rest + "\"badgeCount_Badges_two\" = \"Two %{badgeCounts}!\";"));
+  std::string rules;
+  for (const Fault& fault : faults) rules += fault.rule + " ";
+  EXPECT_EQ(rules, "end-punctuation unknown-placeholder ") << linesOf(faults);
+}
+
+}  // namespace

@@ -1,0 +1,82 @@
+#include <ZKStrings/region/Country.h>
+#include <ZKStrings/tools/Table.h>
+#include <ZKStrings/tools/check/CountryRules.h>
+
+#include <algorithm>
+#include <map>
+
+#include <fmt/format.h>
+
+namespace zk::tools {
+
+namespace {
+
+/// Calls `visit` with each element that is an object, and its place.
+template <class Visit>
+void forEachCountry(const CountryFile& file, const Visit& visit) {
+  for (const CountryFile::Element& element : file.elements) {
+    if (const auto* const country = element.value.as<Dictionary>()) visit(*country, element.at);
+  }
+}
+
+void findNoList(const CountryFile& file, Findings& findings) {
+  if (file.fault) findings.add(file.fault->at, file.fault->message);
+  for (const auto& [at, value] : file.elements) {
+    if (value.as<Dictionary>()) continue;
+    findings.add(
+        at,
+        "the element is no object, and the module offers no country at all; write {\"name\": \"...\", "
+        "\"phoneCode\": 0, \"iso\": \"...\"}");
+  }
+}
+
+void findDropped(const CountryFile& file, Findings& findings) {
+  forEachCountry(file, [&](const Dictionary& country, Position at) {
+    if (Country::fromDictionary(country)) return;
+    std::vector<std::string_view> wrong;
+    if (!country.find<std::string>("name")) wrong.push_back("\"name\" (a text)");
+    if (!country.find<std::int64_t>("phoneCode"))
+      wrong.push_back("\"phoneCode\" (an integer without quotes)");
+    if (!country.find<std::string>("iso")) wrong.push_back("\"iso\" (a text)");
+    findings.add(
+        at, fmt::format("the module drops this country, for want of {}; write it", fmt::join(wrong, ", ")));
+  });
+}
+
+void findDuplicates(const CountryFile& file, Findings& findings) {
+  std::map<std::string_view, std::size_t> lines;
+  forEachCountry(file, [&](const Dictionary& country, Position at) {
+    const auto* const code = country.find<std::string>("iso");
+    if (!code) return;
+    const auto [first, isNew] = lines.try_emplace(*code, at.line);
+    if (isNew) return;
+    findings.add(at, fmt::format("the code \"{}\" stands already in line {}; remove one of the two",
+                                 escaped(*code), first->second));
+  });
+}
+
+void findCodes(const CountryFile& file, Findings& findings) {
+  const auto isCapital = [](char c) { return c >= 'A' && c <= 'Z'; };
+  forEachCountry(file, [&](const Dictionary& country, Position at) {
+    const auto* const code = country.find<std::string>("iso");
+    if (!code || (code->size() == 2 && std::ranges::all_of(*code, isCapital))) return;
+    findings.add(
+        at, fmt::format("the code \"{}\" is not two capital letters; write the country's ISO 3166-1 code",
+                        escaped(*code)));
+  });
+}
+
+constexpr RuleFor<CountryFile> kRules[] = {
+    {{"country-list", Severity::error, "a country list that is no array of objects"}, findNoList},
+    {{"dropped-country", Severity::error, "a country that the module leaves out"}, findDropped},
+    {{"duplicate-country", Severity::error, "two countries with one ISO code"}, findDuplicates},
+    {{"country-code", Severity::error, "an ISO code that is not two capital letters"}, findCodes},
+};
+
+}  // namespace
+
+std::span<const RuleFor<CountryFile>> countryRules() {
+  return kRules;
+}
+
+}  // namespace zk::tools

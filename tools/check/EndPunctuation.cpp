@@ -1,0 +1,131 @@
+#include <ZKStrings/platform/UnicodeText.h>
+#include <ZKStrings/tools/check/EndPunctuation.h>
+
+#include <algorithm>
+#include <cstdint>
+#include <iterator>
+
+#include <unicode/uchar.h>
+
+namespace zk::tools {
+
+namespace {
+
+struct Punctuation {
+  std::string_view spelled;
+  Ending ending;
+};
+
+/// The punctuation of all scripts. What ends in another stands before it.
+constexpr Punctuation kPunctuation[] = {
+    {"...", Ending::ellipsis},   {"。。。", Ending::ellipsis}, {"…", Ending::ellipsis},
+    {"⋯", Ending::ellipsis},     {"‥", Ending::ellipsis},      {".", Ending::stop},
+    {"。", Ending::stop},        {"．", Ending::stop},         {"｡", Ending::stop},
+    {"।", Ending::stop},         {"॥", Ending::stop},          {"۔", Ending::stop},
+    {"։", Ending::stop},         {"។", Ending::stop},          {"။", Ending::stop},
+    {"།", Ending::stop},         {"።", Ending::stop},          {"᠃", Ending::stop},
+    {"?", Ending::question},     {"？", Ending::question},     {"؟", Ending::question},
+    {"፧", Ending::question},     {"՞", Ending::question},      {"\u037E", Ending::question},
+    {"⁇", Ending::question},     {"⁉", Ending::question},      {"!", Ending::exclamation},
+    {"！", Ending::exclamation}, {"՜", Ending::exclamation},   {"⁈", Ending::exclamation},
+    {"‼", Ending::exclamation},  {":", Ending::colon},         {"：", Ending::colon},
+    {"፡", Ending::colon},        {";", Ending::semicolon},     {"；", Ending::semicolon},
+    {"؛", Ending::semicolon},    {",", Ending::comma},         {"，", Ending::comma},
+    {"、", Ending::comma},       {"､", Ending::comma},         {"،", Ending::comma},
+};
+
+/// Languages that set no full stop at the end, and mostly no question mark.
+constexpr std::string_view kWithoutStops[] = {"lo", "th"};
+
+std::string_view lastCharacter(std::string_view text) {
+  std::size_t begin = text.size() - 1;
+  while (begin > 0 && (static_cast<unsigned char>(text[begin]) & 0xC0) == 0x80) --begin;
+  return text.substr(begin);
+}
+
+/// Closing quotes, brackets and marks. German and Polish close with quotes that open elsewhere; a brace
+/// closes a placeholder.
+bool isClosingMark(UChar32 character) {
+  constexpr std::string_view kAscii = "\"'*";
+  if (character < 0x80 && kAscii.find(static_cast<char>(character)) != std::string_view::npos) return true;
+  constexpr std::uint32_t kMarks = U_GC_PE_MASK | U_GC_PF_MASK | U_GC_PI_MASK;
+  return character != '}' && (U_GET_GC_MASK(character) & kMarks) != 0;
+}
+
+bool isPartOfEmoji(UChar32 character) {
+  constexpr UChar32 kVariationSelector = 0xFE0F;
+  constexpr UProperty kProperties[] = {UCHAR_EXTENDED_PICTOGRAPHIC, UCHAR_EMOJI_MODIFIER,
+                                       UCHAR_REGIONAL_INDICATOR};
+  if (character == 0x203C || character == 0x2049) return false;  // ‼ and ⁉ are punctuation as well
+  return character == kVariationSelector || std::ranges::any_of(kProperties, [&](UProperty property) {
+           return u_hasBinaryProperty(character, property) != 0;
+         });
+}
+
+/// Whether the character says nothing of how the text before it ends.
+bool isPassedOver(std::string_view character) {
+  const CodePoint codePoint = firstCodePoint(character);
+  if (!codePoint.value) return false;
+  const auto value = static_cast<UChar32>(*codePoint.value);
+  return u_isUWhiteSpace(value) || u_charType(value) == U_FORMAT_CHAR || isClosingMark(value) ||
+         isPartOfEmoji(value);
+}
+
+std::string_view withoutWhatFollows(std::string_view text) {
+  constexpr std::string_view kTag = "</b>";
+  while (!text.empty()) {
+    const std::size_t passed = text.ends_with(kTag)                ? kTag.size()
+                               : isPassedOver(lastCharacter(text)) ? lastCharacter(text).size()
+                                                                   : 0;
+    if (passed == 0) break;
+    text.remove_suffix(passed);
+  }
+  return text;
+}
+
+bool isOrdinal(std::string_view text) {
+  const std::string_view number = text.substr(0, text.find('.'));
+  return number.size() + 1 == text.size() && !number.empty() &&
+         number.find_first_not_of("0123456789") == std::string_view::npos;
+}
+
+}  // namespace
+
+Ending endingOf(std::string_view text, std::string_view language) {
+  text = withoutWhatFollows(text);
+  const auto* const last = std::ranges::find_if(
+      kPunctuation, [&](const Punctuation& punctuation) { return text.ends_with(punctuation.spelled); });
+  if (last == std::end(kPunctuation) || isOrdinal(text)) return Ending::none;
+  const bool isGreekQuestion = language == "el" && last->ending == Ending::semicolon;
+  return isGreekQuestion ? Ending::question : last->ending;
+}
+
+bool endsAlike(Ending ending, Ending english, std::string_view language) {
+  if (ending == english) return true;
+  const bool doesWithout = std::ranges::find(kWithoutStops, language) != std::end(kWithoutStops);
+  return doesWithout && ending == Ending::none && (english == Ending::stop || english == Ending::question);
+}
+
+std::string_view nameOf(Ending ending) {
+  switch (ending) {
+    case Ending::none:
+      break;
+    case Ending::stop:
+      return "a full stop";
+    case Ending::question:
+      return "a question mark";
+    case Ending::exclamation:
+      return "an exclamation mark";
+    case Ending::ellipsis:
+      return "an ellipsis";
+    case Ending::colon:
+      return "a colon";
+    case Ending::semicolon:
+      return "a semicolon";
+    case Ending::comma:
+      return "a comma";
+  }
+  return "no punctuation";
+}
+
+}  // namespace zk::tools

@@ -1,0 +1,92 @@
+#include <ZKStrings/tools/Languages.h>
+#include <ZKStrings/tools/check/TableRules.h>
+#include <ZKStrings/tools/check/TextFeatures.h>
+
+#include <map>
+
+#include <fmt/format.h>
+
+namespace zk::tools {
+
+namespace {
+
+constexpr Position kFileBegin = {1, 1};
+constexpr std::string_view kReplacementCharacter = "\uFFFD";
+
+void findDirectory(const LanguageTable& subject, Findings& findings) {
+  std::string reason = whyNeverChosen(subject.language);
+  if (!reason.empty()) findings.add(kFileBegin, std::move(reason));
+}
+
+/// What reading the file has found already.
+template <const char* rule>
+void findWhileReading(const LanguageTable& subject, Findings& findings) {
+  for (const Fault& fault : subject.table.faults) {
+    if (fault.rule == rule) findings.add({fault.line, fault.column}, fault.message);
+  }
+}
+
+void findDuplicates(const LanguageTable& subject, Findings& findings) {
+  std::map<std::string_view, std::size_t> lines;
+  for (const TableEntry& entry : subject.table.entries) {
+    const auto [first, isNew] = lines.try_emplace(entry.key, entry.keyAt.line);
+    if (isNew) continue;
+    findings.add(entry, entry.keyAt,
+                 fmt::format("the key \"{}\" stands already in line {}; remove one of the two",
+                             escaped(entry.key), first->second));
+  }
+}
+
+void findReplacementCharacters(const LanguageTable& subject, Findings& findings) {
+  for (const TableEntry& entry : subject.table.entries) {
+    const std::size_t offset = entry.text.find(kReplacementCharacter);
+    if (offset == std::string::npos) continue;
+    findings.add(entry, entry.placeOf(offset),
+                 "U+FFFD stands in the text, where a conversion has lost a character; write the character");
+  }
+}
+
+void findEmptyTexts(const LanguageTable& subject, Findings& findings) {
+  for (const TableEntry& entry : subject.table.entries) {
+    if (isBlank(entry.text)) {
+      findings.add(entry, fmt::format("the text of \"{}\" is empty, and so is what users see; write a text",
+                                      escaped(entry.key)));
+    }
+  }
+}
+
+void findUnknownEscapes(const LanguageTable& subject, Findings& findings) {
+  for (const TableEntry& entry : subject.table.entries) {
+    for (const auto& [at, spelled] : entry.unknownEscapes) {
+      findings.add(
+          entry, at,
+          fmt::format("the escape \"{}\" is unknown, and its backslash lost; remove the backslash, or "
+                      "write \"\\\\\" when it is meant to show",
+                      spelled));
+    }
+  }
+}
+
+constexpr RuleFor<LanguageTable> kRules[] = {
+    {{"language-directory", Severity::error, "a directory that the module never chooses, by its name"},
+     findDirectory},
+    {{Table::kMissing, Severity::error, "a language's directory without a table that can be read"},
+     findWhileReading<Table::kMissing>},
+    {{Table::kEncoding, Severity::error, "bytes that are no text in the file's encoding"},
+     findWhileReading<Table::kEncoding>},
+    {{Table::kSyntax, Severity::error, "a table that is not well formed: the module reads nothing of it"},
+     findWhileReading<Table::kSyntax>},
+    {{"duplicate-key", Severity::error, "a key that stands twice in a table"}, findDuplicates},
+    {{"replacement-character", Severity::error, "U+FFFD in a text"}, findReplacementCharacters},
+    {{"empty-text", Severity::warning, "a text of nothing or white space"}, findEmptyTexts},
+    {{"unknown-escape", Severity::warning, "a backslash before a character that it gives no meaning"},
+     findUnknownEscapes},
+};
+
+}  // namespace
+
+std::span<const RuleFor<LanguageTable>> tableRules() {
+  return kRules;
+}
+
+}  // namespace zk::tools

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <ZKStrings/tools/EnglishTexts.h>
+#include <ZKStrings/tools/Table.h>
+#include <ZKStrings/tools/check/Rule.h>
+
+#include <span>
+#include <string_view>
+
+namespace zk::tools {
+
+/// The table of one language.
+struct LanguageTable {
+  std::string_view language;
+  const Table& table;
+};
+
+/// The rules for a table by itself: its directory, its file, each entry without regard to its meaning.
+[[nodiscard]] std::span<const RuleFor<LanguageTable>> tableRules();
+
+/// The table of one language, beside the keys that the module looks up.
+struct KeyedTable {
+  std::string_view language;
+  const Table& table;
+  const EnglishTexts& english;
+};
+
+/// The rules for the keys of a table, which are there and which are not, and for the plural forms of one key.
+[[nodiscard]] std::span<const RuleFor<KeyedTable>> keyRules();
+
+}  // namespace zk::tools
