@@ -1,5 +1,6 @@
 #pragma once
 
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -34,6 +35,16 @@ __extension__ using Product = unsigned __int128;
 inline std::uint64_t fold(std::uint64_t a, std::uint64_t b) {
   const Product product = static_cast<Product>(a) * b;
   return static_cast<std::uint64_t>(product) ^ static_cast<std::uint64_t>(product >> 64);
+}
+
+inline constexpr std::uint64_t kHighBits = 0x8080808080808080;
+
+/// Not zero when `character` is one of the eight bytes of `word`, and only then: its lowest bit lies in the
+/// lowest such byte.
+inline std::uint64_t marksOf(char character, std::uint64_t word) {
+  constexpr std::uint64_t kOnes = 0x0101010101010101;
+  const std::uint64_t differences = word ^ kOnes * static_cast<unsigned char>(character);
+  return (differences - kOnes) & ~differences & kHighBits;
 }
 
 }  // namespace bytes_detail
@@ -94,21 +105,48 @@ inline std::uint64_t wordOf(std::string_view text) {
 
 /// Whether all of `text` is ASCII and none of it one of the ASCII characters `excluded`.
 inline bool isAsciiWithout(std::string_view text, std::initializer_list<char> excluded) {
-  constexpr std::uint64_t kOnes = 0x0101010101010101;
-  constexpr std::uint64_t kHighs = 0x8080808080808080;
-  std::uint64_t found = 0;  // the high bit of a byte is set where one was found
-  const auto look = [&](std::uint64_t eight) {
-    found |= eight;
-    for (const char character : excluded) {
-      const std::uint64_t differences = eight ^ kOnes * static_cast<unsigned char>(character);
-      found |= (differences - kOnes) & ~differences;
-    }
-  };
+  std::uint64_t found = 0;
   const char* at = text.data();
   std::size_t left = text.size();
+  const auto look = [&](std::uint64_t eight) {
+    found |= eight & bytes_detail::kHighBits;
+    for (const char character : excluded) found |= bytes_detail::marksOf(character, eight);
+  };
   for (; left >= 8; at += 8, left -= 8) look(bytes_detail::load<std::uint64_t>(at));
   if (left > 0) look(wordOf({at, left}));
-  return (found & kHighs) == 0;
+  return found == 0;
+}
+
+/// Where the first byte for which `marksOfWord` (a function of eight bytes that sets bits in those wanted,
+/// the lowest being exact) and `isWanted` (the same of one) are true stands in `text` from `from` on; the
+/// size of `text`, or more, if nowhere.
+template <class MarksOfWord, class IsWanted>
+std::size_t findByte(std::string_view text, std::size_t from, MarksOfWord marksOfWord, IsWanted isWanted) {
+  for (; from + 8 <= text.size(); from += 8) {
+    const std::uint64_t marks = marksOfWord(bytes_detail::load<std::uint64_t>(text.data() + from));
+    if (marks == 0) continue;
+    if constexpr (std::endian::native != std::endian::little) break;
+    return from + static_cast<std::size_t>(std::countr_zero(marks)) / 8;
+  }
+  while (from < text.size() && !isWanted(text[from])) ++from;
+  return from;
+}
+
+/// Where one of two ASCII characters first stands.
+inline std::size_t findEither(char one, char other, std::string_view text, std::size_t from) {
+  return findByte(
+      text, from,
+      [=](std::uint64_t eight) {
+        return bytes_detail::marksOf(one, eight) | bytes_detail::marksOf(other, eight);
+      },
+      [=](char character) { return character == one || character == other; });
+}
+
+/// Where the first byte that is not ASCII stands.
+inline std::size_t findNonAscii(std::string_view text, std::size_t from) {
+  return findByte(
+      text, from, [](std::uint64_t eight) { return eight & bytes_detail::kHighBits; },
+      [](char character) { return static_cast<signed char>(character) < 0; });
 }
 
 /// Copies `size` bytes to `to`, which must not overlap them, and gives the place behind the copy.

@@ -1,3 +1,4 @@
+#include <ZKStrings/platform/Bytes.h>
 #include <ZKStrings/platform/StringTableReader.h>
 #include <ZKStrings/platform/UnicodeText.h>
 
@@ -38,7 +39,8 @@ bool StringTableReader::skipComment() {
   return true;
 }
 
-bool StringTableReader::skipBlanks() {
+/// Skips white space and comments; false when a comment has no end.
+inline bool StringTableReader::skipBlanks() {
   for (;;) {
     while (at_ < text_.size() && isBlank(text_[at_])) ++at_;
     if (at_ >= text_.size() || text_[at_] != '/') return true;
@@ -48,24 +50,22 @@ bool StringTableReader::skipBlanks() {
   }
 }
 
-bool StringTableReader::readQuoted(Token& token) {
+inline bool StringTableReader::readQuoted(Token& token) {
   const std::size_t quote = at_++;
   token = {at_, at_};
-  for (; at_ < text_.size(); ++at_) {
+  while ((at_ = findEither('"', '\\', text_, at_)) < text_.size()) {
     if (text_[at_] == '"') {
       token.end = at_++;
       return true;
     }
-    if (text_[at_] != '\\') continue;
     token.hasEscapes = true;
-    ++at_;
+    at_ += 2;
   }
   at_ = text_.size();
   return fail(quote, "the closing quote of the text that begins here");
 }
 
-bool StringTableReader::readToken(Token& token, const char* expected) {
-  if (!skipBlanks()) return false;
+inline bool StringTableReader::readToken(Token& token, const char* expected) {
   if (at_ < text_.size() && text_[at_] == '"') return readQuoted(token);
   token = {at_, at_};
   // A slash belongs to the token, but an asterisk never does: a comment may stand right behind.
@@ -76,7 +76,7 @@ bool StringTableReader::readToken(Token& token, const char* expected) {
 
 /// Reads "=" or ";" behind the token `after`. When another character stands there and the token runs over
 /// lines, it is that token's quote that was never closed.
-bool StringTableReader::readMark(char mark, const Token& after) {
+inline bool StringTableReader::readMark(char mark, const Token& after) {
   if (!skipBlanks()) return false;
   if (at_ < text_.size() && text_[at_] == mark) {
     ++at_;
@@ -92,7 +92,7 @@ bool StringTableReader::next() {
   comments_.clear();
   if (fault_ || !skipBlanks() || at_ == text_.size()) return false;
   entryBegin_ = at_;
-  return readToken(key_, "a key, in quotes") && readMark('=', key_) &&
+  return readToken(key_, "a key, in quotes") && readMark('=', key_) && skipBlanks() &&
          readToken(value_, "the text of the key, in quotes") && readMark(';', value_);
 }
 

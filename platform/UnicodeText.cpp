@@ -1,7 +1,7 @@
+#include <ZKStrings/platform/Bytes.h>
 #include <ZKStrings/platform/UnicodeText.h>
 
 #include <cstdint>
-#include <cstring>
 #include <memory>
 
 #include <unicode/bytestream.h>
@@ -27,13 +27,6 @@ UChar32 nextCodePoint(std::string_view text, std::size_t& at) {
 
 bool isAscii(char byte) {
   return static_cast<unsigned char>(byte) < 0x80;
-}
-
-bool isAscii(std::string_view text) {
-  for (const char byte : text) {
-    if (!isAscii(byte)) return false;
-  }
-  return true;
 }
 
 /// The borders between the user-perceived characters of a text.
@@ -93,14 +86,9 @@ bool isDecimalDigit(char32_t codePoint) {
 }
 
 bool isUtf8(std::string_view bytes) {
-  constexpr std::uint64_t kHighBits = 0x8080808080808080;
-  for (std::size_t at = 0; at < bytes.size();) {
-    std::uint64_t eight = kHighBits;
-    if (bytes.size() - at >= sizeof(eight)) std::memcpy(&eight, bytes.data() + at, sizeof(eight));
-    if ((eight & kHighBits) == 0) {
-      at += sizeof(eight);
-    } else if (nextCodePoint(bytes, at) < 0) {
-      return false;
+  for (std::size_t at = 0; (at = findNonAscii(bytes, at)) < bytes.size();) {
+    while (at < bytes.size() && !isAscii(bytes[at])) {
+      if (nextCodePoint(bytes, at) < 0) return false;
     }
   }
   return true;
@@ -124,7 +112,7 @@ std::size_t findCharacter(std::string_view text, char wanted) {
 
 std::string upperCased(std::string_view text) {
   std::string result;
-  if (isAscii(text)) {
+  if (findNonAscii(text, 0) == text.size()) {
     result = text;
     for (char& letter : result) {
       if (letter >= 'a' && letter <= 'z') letter = static_cast<char>(letter - 'a' + 'A');
