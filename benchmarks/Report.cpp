@@ -79,7 +79,7 @@ void Report::printRatios() const {
   print("lookup at 100,000 keys to that at 1,000", "growth/lookup, 100000 keys", "growth/lookup, 1000 keys",
         2);
   if (rows_.contains("threads/arithmetic:2")) printGains();
-  if (rows_.contains("opening/German table")) printOpening();
+  if (rows_.contains("growth/opening, 100000 keys")) printOpening();
 }
 
 void Report::printGains() const {

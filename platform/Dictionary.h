@@ -71,7 +71,7 @@ inline Dictionary::Dictionary(std::initializer_list<Member> members) : members_(
 }
 
 inline Value& Dictionary::append(std::string name, Value value) {
-  if (members_.empty()) members_.reserve(4);
+  if (members_.empty()) members_.reserve(3);
   return members_.emplace_back(std::move(name), std::move(value)).second;
 }
 
