@@ -41,19 +41,19 @@ std::string textByModule(const Request& request) {
 
 /// All systems must give the same texts, or they are not comparable.
 void compare(const Requests& sequence, std::string (*text)(const Request&)) {
-  for (const Request& request : sequence) {
-    if (text(request) == textByYardstick(request)) continue;
-    std::cerr << "benchmarks: the systems differ on " << request.lookedUpKey << ": \"" << text(request)
-              << "\", not \"" << textByYardstick(request) << "\"\n";
+  for (const Request* request : sequence) {
+    if (text(*request) == textByYardstick(*request)) continue;
+    std::cerr << "benchmarks: the systems differ on " << request->lookedUpKey << ": \"" << text(*request)
+              << "\", not \"" << textByYardstick(*request) << "\"\n";
     std::exit(1);
   }
 }
 
 void measure(benchmark::State& state, const Requests& sequence, std::string (*text)(const Request&)) {
-  for (const Request& request : sequence) benchmark::DoNotOptimize(text(request));
+  for (const Request* request : sequence) benchmark::DoNotOptimize(text(*request));
   const std::size_t before = allocationsByThread();
   for (auto _ : state) {
-    for (const Request& request : sequence) benchmark::DoNotOptimize(text(request));
+    for (const Request* request : sequence) benchmark::DoNotOptimize(text(*request));
   }
   const std::size_t allocations = allocationsByThread() - before;
   const double lookups = static_cast<double>(state.iterations()) * kRequests;

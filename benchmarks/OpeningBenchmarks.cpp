@@ -7,9 +7,7 @@
 #include <filesystem>
 #include <fstream>
 #include <random>
-#include <sstream>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include <benchmark/benchmark.h>
@@ -25,9 +23,11 @@ constexpr const char* kGermanTable = ZK_PROJECT_ROOT "/resources/de.lproj/Locali
 constexpr const char* kCountries = ZK_PROJECT_ROOT "/resources/countries.json";
 
 std::string contents(const std::string& path) {
-  std::ostringstream bytes;
-  bytes << std::ifstream(path, std::ios::binary).rdbuf();
-  return bytes.str();
+  std::string bytes(static_cast<std::size_t>(fs::file_size(path)), '\0');
+  std::ifstream(path, std::ios::binary)
+      .rdbuf()
+      ->sgetn(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+  return bytes;
 }
 
 /// Puts a table into a directory that was never opened before.
@@ -65,14 +65,9 @@ void readTable(benchmark::State& state, const std::string& table) {
   for (auto _ : state) {
     const std::string path = freshDirectory(table);
     benchmark::DoNotOptimize(contents(path + "/Localizable.strings"));
-    std::ifstream file;
     const auto begin = std::chrono::steady_clock::now();
-    file.open(path + "/Localizable.strings", std::ios::binary);
-    std::string bytes(static_cast<std::size_t>(fs::file_size(path + "/Localizable.strings")), '\0');
-    file.rdbuf()->sgetn(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    kept.push_back(std::move(bytes));
+    kept.push_back(contents(path + "/Localizable.strings"));
     state.SetIterationTime(std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count());
-    file.close();
     fs::remove_all(path);
   }
   state.counters[kBytes] = static_cast<double>(table.size());
@@ -116,8 +111,7 @@ void registerOpeningBenchmarks() {
     state.counters[kTimesPerIteration] = 1;
   });
   registerBenchmark("Language/document tree of the JSON library", [](benchmark::State& state) {
-    const std::string bytes = contents(kCountries);
-    for (auto _ : state) benchmark::DoNotOptimize(nlohmann::json::parse(bytes));
+    for (auto _ : state) benchmark::DoNotOptimize(nlohmann::json::parse(contents(kCountries)));
     state.counters[kTimesPerIteration] = 1;
   });
   const std::string german = contents(kGermanTable);

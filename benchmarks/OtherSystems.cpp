@@ -35,7 +35,7 @@ std::string respelled(const std::string& key, std::string text,
   static const auto& names = *[] {
     auto* const byKey = new std::map<std::string, std::vector<std::string>>;
     for (const Kind kind : {Kind::oneSubstitution, Kind::threeSubstitutions}) {
-      for (const Request& request : requests(kind)) (*byKey)[request.key] = request.names;
+      for (const Request* request : requests(kind)) (*byKey)[request->key] = request->names;
     }
     return byKey;
   }();

@@ -26,8 +26,8 @@ void arithmetic(benchmark::State& state) {
 void lookups(benchmark::State& state) {
   const Requests& sequence = requests(Kind::plain);
   for (auto _ : state) {
-    for (const Request& request : sequence) {
-      benchmark::DoNotOptimize(localizedString(request.key, request.defaultValue, std::nullopt, {}));
+    for (const Request* request : sequence) {
+      benchmark::DoNotOptimize(localizedString(request->key, request->defaultValue, std::nullopt, {}));
     }
   }
   state.counters[kTimesPerIteration] = benchmark::Counter(kRequests, benchmark::Counter::kAvgThreads);

@@ -37,32 +37,34 @@ bool isOfKind(const Request& request, bool plural, Kind kind) {
   return !plural && request.names.size() == wanted;
 }
 
-/// The entries of a kind. The key that is not ASCII is left out: resource bundles cannot hold it.
-Requests choices(Kind kind) {
+/// All requests of a kind that differ. The key that is not ASCII is left out: resource bundles cannot hold
+/// it.
+std::vector<Request> choices(Kind kind) {
   const char* const values[] = {"kim", "1,250", "Sports & Music"};
-  Requests chosen;
+  std::vector<Request> chosen;
   for (const auto& entry : entries()) {
-    Request request{entry["key"], entry["text"], std::nullopt, {}, placeholderNames(entry["text"]), {}};
+    Request request{
+        entry["key"], entry["text"], std::nullopt, entry["key"], placeholderNames(entry["text"]), {}};
     const bool isAscii = request.key.find('\xEF') == std::string::npos;
     if (!isAscii || !isOfKind(request, entry.contains("plural"), kind)) continue;
     if (kind == Kind::counted) request.names.clear();
     for (std::size_t i = 0; i < request.names.size(); ++i)
       request.values.emplace_back(values[i % std::size(values)]);
-    chosen.push_back(std::move(request));
+    for (std::int64_t count = 0; kind == Kind::counted && count < 9; ++count) {
+      request.count = count;
+      request.lookedUpKey = request.key + std::string(pluralSuffix(count));
+      chosen.push_back(request);
+    }
+    if (kind != Kind::counted) chosen.push_back(std::move(request));
   }
   return chosen;
 }
 
 Requests makeRequests(Kind kind) {
   std::mt19937 random(static_cast<unsigned>(kind) + 1);
-  const Requests chosen = choices(kind);
+  const auto& chosen = *new std::vector<Request>(choices(kind));
   Requests made;
-  for (std::size_t i = 0; i < kRequests; ++i) {
-    Request request = chosen[random() % chosen.size()];
-    if (kind == Kind::counted) request.count = static_cast<std::int64_t>(random() % 9);
-    request.lookedUpKey = request.key + std::string(request.count ? pluralSuffix(*request.count) : "");
-    made.push_back(std::move(request));
-  }
+  for (std::size_t i = 0; i < kRequests; ++i) made.push_back(&chosen[random() % chosen.size()]);
   return made;
 }
 

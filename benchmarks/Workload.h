@@ -20,7 +20,7 @@ struct Request {
   std::vector<std::string> values;
 };
 
-using Requests = std::vector<Request>;
+using Requests = std::vector<const Request*>;
 
 /// Which entries of the catalogue a sequence of requests takes.
 enum class Kind { plain, counted, oneSubstitution, threeSubstitutions };

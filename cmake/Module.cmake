@@ -9,6 +9,7 @@ set(public_headers
   engine/StringLookup.h
   engine/Substitutions.h
   platform/Bundle.h
+  platform/CacheLines.h
   platform/Dictionary.h
   platform/Export.h
   platform/Locale.h

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <ZKStrings/platform/CacheLines.h>
 #include <ZKStrings/platform/Export.h>
 
 #include <atomic>
@@ -19,7 +20,7 @@ class StringTable;
 
 /// The place of one resource, as a bundle's listing keeps it for the rest of the process. What has been
 /// opened there is remembered beside it, so that opening it again costs no search.
-class ZK_EXPORT ResourcePath {
+class ZK_EXPORT alignas(kCacheLine) ResourcePath {
  public:
   ResourcePath(std::string path, bool isDirectory);
   ~ResourcePath();
@@ -48,7 +49,7 @@ class ZK_EXPORT ResourcePath {
 /// A bundle lists its directory once, when it is opened; what is added or removed later is not seen. Bundles
 /// and the tables opened in them live until the process ends and are shared by all threads; any thread may
 /// call anything, and only the first opening of a directory or table takes a lock.
-class ZK_EXPORT Bundle {
+class ZK_EXPORT alignas(kCacheLine) Bundle {
  public:
   /// The bundle of the module that defines the type `type`: the nearest directory `share/ZKStrings` at or
   /// above the directory of the shared library or executable that holds the module's code, two levels up at

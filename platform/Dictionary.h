@@ -23,7 +23,9 @@ class Dictionary {
   Dictionary() = default;
   Dictionary(std::initializer_list<Member> members);
 
-  Value& append(std::string name, Value value);
+  /// Adds a member and gives its value, made of `content` in its place.
+  template <class Content>
+  Value& append(std::string name, Content&& content);
 
   /// The value of the member `name`, compared byte for byte; null when there is none. Of several the last
   /// counts.
@@ -70,9 +72,10 @@ class Value {
 inline Dictionary::Dictionary(std::initializer_list<Member> members) : members_(members) {
 }
 
-inline Value& Dictionary::append(std::string name, Value value) {
+template <class Content>
+Value& Dictionary::append(std::string name, Content&& content) {
   if (members_.empty()) members_.reserve(3);
-  return members_.emplace_back(std::move(name), std::move(value)).second;
+  return members_.emplace_back(std::move(name), std::forward<Content>(content)).second;
 }
 
 inline const Value* Dictionary::find(std::string_view name) const {

@@ -25,7 +25,7 @@ struct Registration {
 };
 
 /// One type and name. Entries are never removed, so references to them stay good.
-struct Entry {
+struct alignas(kCacheLine) Entry {
   Entry(const std::type_info& service, std::optional<std::string> given)
       : type(service), name(std::move(given)) {}
 

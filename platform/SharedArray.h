@@ -1,7 +1,10 @@
 #pragma once
 
+#include <ZKStrings/platform/CacheLines.h>
+
 #include <cstddef>
 #include <initializer_list>
+#include <iterator>
 #include <memory>
 #include <utility>
 #include <vector>
@@ -23,7 +26,9 @@ class SharedArray {
   SharedArray() = default;
   SharedArray(std::initializer_list<Element> elements) : SharedArray(std::vector<Element>(elements)) {}
   SharedArray(std::vector<Element> elements)
-      : elements_(std::make_shared<const std::vector<Element>>(std::move(elements))) {}
+      : elements_(std::allocate_shared<const Elements>(CacheLineAllocator<Elements>(),
+                                                       std::make_move_iterator(elements.begin()),
+                                                       std::make_move_iterator(elements.end()))) {}
 
   [[nodiscard]] std::size_t size() const { return elements_ ? elements_->size() : 0; }
   [[nodiscard]] bool empty() const { return size() == 0; }
@@ -48,7 +53,9 @@ class SharedArray {
   }
 
  private:
-  std::shared_ptr<const std::vector<Element>> elements_;
+  using Elements = std::vector<Element, CacheLineAllocator<Element>>;
+
+  std::shared_ptr<const Elements> elements_;
 };
 
 }  // namespace zk

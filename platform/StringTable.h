@@ -1,5 +1,7 @@
 #pragma once
 
+#include <ZKStrings/platform/CacheLines.h>
+
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -10,7 +12,7 @@ namespace zk {
 
 /// An opened string table: the text of a table file in one buffer, and a flat hash index of views into it.
 /// Immutable, so any thread may search it.
-class StringTable {
+class alignas(kCacheLine) StringTable {
  public:
   /// The table in the file at `path`, in UTF-8 (with or without byte-order mark) or UTF-16 (with it). A file
   /// that cannot be read, or is not a well-formed table from its first byte to its last, gives a table

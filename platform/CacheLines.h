@@ -1,0 +1,30 @@
+#pragma once
+
+#include <cstddef>
+#include <new>
+
+namespace zk {
+
+/// The unit in which processors move memory between their caches, in bytes.
+inline constexpr std::size_t kCacheLine = 64;
+
+/// Allocates whole cache lines. For what many threads read and none writes: when one of them writes to
+/// something else on the same line, the others have to fetch the line anew.
+template <class Object>
+struct CacheLineAllocator {
+  using value_type = Object;
+
+  CacheLineAllocator() = default;
+  template <class Other>
+  CacheLineAllocator(const CacheLineAllocator<Other>&) {}
+
+  [[nodiscard]] Object* allocate(std::size_t count) {
+    const std::size_t lines = (count * sizeof(Object) + kCacheLine - 1) / kCacheLine;
+    return static_cast<Object*>(::operator new (lines* kCacheLine, std::align_val_t{kCacheLine}));
+  }
+  void deallocate(Object* objects, std::size_t) { ::operator delete (objects, std::align_val_t{kCacheLine}); }
+
+  friend bool operator==(const CacheLineAllocator&, const CacheLineAllocator&) { return true; }
+};
+
+}  // namespace zk
