@@ -30,7 +30,7 @@ std::string contents(const std::string& path) {
   return bytes;
 }
 
-/// Puts a table into a directory that was never opened before.
+/// Puts a table into a directory that was never opened before. It is read from the system's cache then.
 std::string freshDirectory(const std::string& table) {
   static int number = 0;
   const std::string path = workDirectory() + "/opened-" + std::to_string(number++);
@@ -64,7 +64,6 @@ void readTable(benchmark::State& state, const std::string& table) {
   static auto& kept = *new std::vector<std::string>;
   for (auto _ : state) {
     const std::string path = freshDirectory(table);
-    benchmark::DoNotOptimize(contents(path + "/Localizable.strings"));
     const auto begin = std::chrono::steady_clock::now();
     kept.push_back(contents(path + "/Localizable.strings"));
     state.SetIterationTime(std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count());
@@ -111,7 +110,7 @@ void registerOpeningBenchmarks() {
     state.counters[kTimesPerIteration] = 1;
   });
   registerBenchmark("Language/document tree of the JSON library", [](benchmark::State& state) {
-    for (auto _ : state) benchmark::DoNotOptimize(nlohmann::json::parse(contents(kCountries)));
+    for (auto _ : state) benchmark::DoNotOptimize(nlohmann::json::parse(std::ifstream(kCountries)));
     state.counters[kTimesPerIteration] = 1;
   });
   const std::string german = contents(kGermanTable);

@@ -25,7 +25,7 @@ class Dictionary {
 
   /// Adds a member and gives its value, made of `content` in its place.
   template <class Content>
-  Value& append(std::string name, Content&& content);
+  Value& append(std::string_view name, Content&& content);
 
   /// The value of the member `name`, compared byte for byte; null when there is none. Of several the last
   /// counts.
@@ -50,7 +50,8 @@ class Value {
   Value(std::int64_t value) : value_(value) {}
   Value(double value) : value_(value) {}
   Value(const char* value) : value_(std::string(value)) {}
-  Value(std::string value) : value_(std::move(value)) {}
+  Value(const std::string& value) : value_(value) {}
+  Value(std::string&& value) : value_(std::move(value)) {}
   Value(List value) : value_(std::move(value)) {}
   Value(Dictionary value) : value_(std::move(value)) {}
 
@@ -73,9 +74,9 @@ inline Dictionary::Dictionary(std::initializer_list<Member> members) : members_(
 }
 
 template <class Content>
-Value& Dictionary::append(std::string name, Content&& content) {
+Value& Dictionary::append(std::string_view name, Content&& content) {
   if (members_.empty()) members_.reserve(3);
-  return members_.emplace_back(std::move(name), std::forward<Content>(content)).second;
+  return members_.emplace_back(name, std::forward<Content>(content)).second;
 }
 
 inline const Value* Dictionary::find(std::string_view name) const {

@@ -28,12 +28,14 @@ class Builder final : public nlohmann::json_sax<nlohmann::json> {
     return add(static_cast<double>(value));
   }
   bool number_float(number_float_t value, const string_t&) override { return add(value); }
-  bool string(string_t& value) override { return add(std::move(value)); }
+  bool string(string_t& value) override {
+    return add(std::as_const(value));
+  }  // the parser goes on with its buffer
   bool binary(binary_t&) override { return false; }
 
   bool start_object(std::size_t) override { return open(Dictionary()); }
   bool key(string_t& name) override {
-    name_.swap(name);
+    name_ = name;
     return true;
   }
   bool end_object() override { return close(); }
@@ -61,7 +63,7 @@ class Builder final : public nlohmann::json_sax<nlohmann::json> {
     if (open_.empty()) return root_ = Value(std::forward<Content>(content));
     if (auto* const list = open_.back()->as<Value::List>())
       return list->emplace_back(std::forward<Content>(content));
-    return open_.back()->as<Dictionary>()->append(std::move(name_), std::forward<Content>(content));
+    return open_.back()->as<Dictionary>()->append(name_, std::forward<Content>(content));
   }
 
   template <class Container>

@@ -23,12 +23,18 @@ namespace zk {
 template <class Element>
 class SharedArray {
  public:
+  /// What holds the elements: a `std::vector` on cache lines of its own, since all threads read the lists of
+  /// the settings.
+  using Elements = std::vector<Element, CacheLineAllocator<Element>>;
+
   SharedArray() = default;
-  SharedArray(std::initializer_list<Element> elements) : SharedArray(std::vector<Element>(elements)) {}
+  SharedArray(std::initializer_list<Element> elements) : SharedArray(Elements(elements)) {}
+  SharedArray(Elements elements)
+      : elements_(std::allocate_shared<const Elements>(CacheLineAllocator<Elements>(), std::move(elements))) {
+  }
   SharedArray(std::vector<Element> elements)
-      : elements_(std::allocate_shared<const Elements>(CacheLineAllocator<Elements>(),
-                                                       std::make_move_iterator(elements.begin()),
-                                                       std::make_move_iterator(elements.end()))) {}
+      : SharedArray(
+            Elements(std::make_move_iterator(elements.begin()), std::make_move_iterator(elements.end()))) {}
 
   [[nodiscard]] std::size_t size() const { return elements_ ? elements_->size() : 0; }
   [[nodiscard]] bool empty() const { return size() == 0; }
@@ -40,21 +46,19 @@ class SharedArray {
   [[nodiscard]] const Element* end() const { return begin() + size(); }
 
   void append(Element element) {
-    edit([&](std::vector<Element>& elements) { elements.push_back(std::move(element)); });
+    edit([&](Elements& elements) { elements.push_back(std::move(element)); });
   }
 
-  /// Calls `change(std::vector<Element>&)` on a copy of the elements and takes the result over.
+  /// Calls `change(Elements&)` on a copy of the elements and takes the result over.
   /// When `change` throws, the array is as it was before.
   template <class Change>
   void edit(Change&& change) {
-    std::vector<Element> elements(begin(), end());
+    Elements elements(begin(), end());
     std::forward<Change>(change)(elements);
     *this = SharedArray(std::move(elements));
   }
 
  private:
-  using Elements = std::vector<Element, CacheLineAllocator<Element>>;
-
   std::shared_ptr<const Elements> elements_;
 };
 

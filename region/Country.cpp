@@ -2,7 +2,6 @@
 #include <ZKStrings/region/Country.h>
 
 #include <string_view>
-#include <utility>
 
 namespace zk {
 
@@ -12,9 +11,8 @@ constexpr char32_t kRegionalIndicatorA = 0x1F1E6;
 
 }  // namespace
 
-Country::Country(std::string name, std::int64_t phoneCode, std::string ISO)
-    : name_(std::move(name)), phoneCode_(phoneCode), ISO_(std::move(ISO)) {
-}
+Country::Country(const std::string& name, std::int64_t phoneCode, const std::string& ISO)
+    : name_(name), phoneCode_(phoneCode), ISO_(ISO) {}
 
 std::optional<Country> Country::fromDictionary(const Dictionary& dictionary) {
   const auto* const name = dictionary.find<std::string>("name");

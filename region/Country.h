@@ -39,7 +39,7 @@ class ZK_EXPORT Country {
   [[nodiscard]] std::string displayName() const;
 
  private:
-  Country(std::string name, std::int64_t phoneCode, std::string ISO);
+  Country(const std::string& name, std::int64_t phoneCode, const std::string& ISO);
 
   std::string name_;
   std::int64_t phoneCode_;

@@ -7,7 +7,6 @@
 #include <optional>
 #include <string>
 #include <utility>
-#include <vector>
 
 namespace zk {
 
@@ -25,7 +24,7 @@ SharedArray<Country> countriesIn(const Bundle& bundle) {
   const auto isObject = [](const Value& element) { return element.as<Dictionary>() != nullptr; };
   if (!elements || !std::ranges::all_of(*elements, isObject)) return {};
 
-  std::vector<Country> countries;
+  SharedArray<Country>::Elements countries;
   countries.reserve(elements->size());
   for (const Value& element : *elements) {
     std::optional<Country> country = Country::fromDictionary(*element.as<Dictionary>());

@@ -37,7 +37,7 @@ TEST(Language, CopiesAreIndependent) {
   Language copy = original;
   copy.preferredLanguages.append("b");
   copy.countries = {};
-  original.preferredLanguages.edit([](std::vector<std::string>& list) { list.insert(list.begin(), "0"); });
+  original.preferredLanguages.edit([](auto& list) { list.insert(list.begin(), "0"); });
   EXPECT_EQ(listOf(original), (std::vector<std::string>{"0", "a"}));
   EXPECT_EQ(listOf(copy), (std::vector<std::string>{"a", "b"}));
   EXPECT_FALSE(original.countries.empty());
