@@ -33,25 +33,24 @@ void Report::ReportRuns(const std::vector<Run>& runs) {
     // Threads of one benchmark share its iterations' time, and their counters are added up.
     const double times = std::max(row.counters[kTimesPerIteration], 1.0);
     row.nanoseconds = run.GetAdjustedRealTime() / times;
-    const std::string name = nameOf(run);
-    if (rows_.insert_or_assign(name, row).second) order_.push_back(name);
+    rows_.insert_or_assign(nameOf(run), row);
   }
 }
 
 void Report::Finalize() {
-  std::printf("%-52s %14s %12s %12s %12s\n", "median of all repetitions", "ns", "allocations", "MB/s",
-              "held bytes");
-  for (const std::string& name : order_) {
-    const Row& row = rows_.at(name);
-    const auto counter = [&](const char* wanted) {
-      const auto found = row.counters.find(wanted);
-      return found == row.counters.end() ? 0.0 : found->second;
-    };
-    std::printf("%-52s %14.1f", name.c_str(), row.nanoseconds);
-    if (row.counters.contains(kAllocations)) std::printf(" %12.2f", counter(kAllocations));
-    if (row.counters.contains(kBytes))
-      std::printf(" %12s %12.0f", "", counter(kBytes) / row.nanoseconds * 1e3);
-    if (row.counters.contains(kHeldBytes)) std::printf(" %12.0f", counter(kHeldBytes));
+  std::printf("%-52s %12s %12s %12s %12s %8s\n", "median of all repetitions", "ns", "allocations", kBytes,
+              kHeldBytes, "MB/s");
+  for (const auto& [name, row] : rows_) {
+    std::printf("%-52s %12.1f", name.c_str(), row.nanoseconds);
+    for (const char* counter : {kAllocations, kBytes, kHeldBytes}) {
+      const auto found = row.counters.find(counter);
+      if (found == row.counters.end()) {
+        std::printf(" %12s", "");
+      } else {
+        std::printf(counter == kAllocations ? " %12.2f" : " %12.0f", found->second);
+      }
+    }
+    if (row.counters.contains(kBytes)) std::printf(" %8.0f", row.counters.at(kBytes) / row.nanoseconds * 1e3);
     std::printf("\n");
   }
   printRatios();

@@ -28,7 +28,6 @@ class Report : public benchmark::BenchmarkReporter {
   [[nodiscard]] double time(const std::string& name) const { return rows_.at(name).nanoseconds; }
 
   std::map<std::string, Row> rows_;
-  std::vector<std::string> order_;
 };
 
 }  // namespace zk::benchmarks

@@ -25,7 +25,6 @@ class Yardstick {
                                  const std::vector<std::string>& values) const {
     const std::string_view text = slots_[placeOf(key)].text;
     std::string result;
-    result.reserve(text.size() + 32);
     std::size_t done = 0;
     for (std::size_t at = text.find("%{"); at != std::string_view::npos; at = text.find("%{", done)) {
       const std::size_t end = text.find('}', at);
@@ -36,7 +35,8 @@ class Yardstick {
       }
       done = end + 1;
     }
-    return result.append(text, done);
+    result.append(text, done);
+    return result;
   }
 
  private:

@@ -132,6 +132,13 @@ std::size_t findByte(std::string_view text, std::size_t from, MarksOfWord marksO
   return from;
 }
 
+/// Where an ASCII character first stands.
+inline std::size_t findAscii(char wanted, std::string_view text, std::size_t from) {
+  return findByte(
+      text, from, [=](std::uint64_t eight) { return bytes_detail::marksOf(wanted, eight); },
+      [=](char character) { return character == wanted; });
+}
+
 /// Where one of two ASCII characters first stands.
 inline std::size_t findEither(char one, char other, std::string_view text, std::size_t from) {
   return findByte(

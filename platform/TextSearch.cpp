@@ -61,14 +61,23 @@ std::vector<CanonicalSearch::Unit> decomposed(std::string_view text) {
   return units;
 }
 
+void replace(std::string& text, Occurrence occurrence, std::string_view replacement) {
+  const std::size_t length = occurrence.end - occurrence.begin;
+  if (replacement.size() > length) {
+    text.replace(occurrence.begin, length, replacement);
+    return;
+  }
+  char* const behind = copyBytes(text.data() + occurrence.begin, replacement.data(), replacement.size());
+  std::memmove(behind, text.data() + occurrence.end, text.size() - occurrence.end);
+  text.resize(text.size() - (length - replacement.size()));
+}
+
+/// Replaces `first` and all that `search` finds behind it.
 template <class Search>
-void replaceAll(std::string& text, Search search, std::string_view replacement) {
+void replaceAll(std::string& text, Occurrence first, Search& search, std::string_view replacement) {
   std::optional<Occurrence> found = search.next();
-  if (!found) return;
-  const Occurrence first = *found;
-  found = search.next();
   if (!found) {  // nearly always: in place, so that a buffer that is large enough serves for all replacements
-    text.replace(first.begin, first.end - first.begin, replacement);
+    replace(text, first, replacement);
     return;
   }
   std::string result(text, 0, first.begin);
@@ -108,17 +117,13 @@ std::optional<Occurrence> CanonicalSearch::next() {
 std::optional<Occurrence> AsciiSearch::next() {
   const std::size_t size = target_.size();
   const std::size_t middle = size / 2;  // placeholders begin and end alike: this is where they differ
-  const char* const end = text_.data() + text_.size();
-  const char* place = text_.data() + at_;
-  for (; static_cast<std::size_t>(end - place) >= size; ++place) {
-    place = static_cast<const char*>(
-        std::memchr(place, target_[0], static_cast<std::size_t>(end - place) - size + 1));
-    if (!place) break;
+  for (; (at_ = findAscii(target_[0], text_, at_)) + size <= text_.size(); ++at_) {
+    const char* const place = text_.data() + at_;
     if (place[middle] != target_[middle] || !sameBytes(place, target_.data(), size)) continue;
-    const char* const behind = place + size;
-    const bool isBeforeAscii = behind == end || static_cast<unsigned char>(*behind) < 0x80;
-    if (!isBeforeAscii && !isBorderBefore(firstCodePoint({behind, end}))) continue;
-    at_ = static_cast<std::size_t>(behind - text_.data());
+    const std::string_view rest = text_.substr(at_ + size);
+    const bool isBeforeAscii = rest.empty() || static_cast<signed char>(rest[0]) >= 0;
+    if (!isBeforeAscii && !isBorderBefore(firstCodePoint(rest))) continue;
+    at_ += size;
     return Occurrence{at_ - size, at_};
   }
   at_ = text_.size();
@@ -133,11 +138,15 @@ bool AsciiSearch::serves(std::string_view target) {
 
 void replaceOccurrences(std::string& text, std::string_view target, std::string_view replacement) {
   if (target.empty()) return;
-  if (AsciiSearch::serves(target)) {
-    replaceAll(text, AsciiSearch(text, target), replacement);
-  } else {
-    replaceAll(text, CanonicalSearch(text, target), replacement);
+  AsciiSearch quick(text, target);
+  const std::optional<Occurrence> first = quick.next();
+  if (AsciiSearch::serves(
+          target)) {  // asked only now: to read at once what was just joined makes the processor wait
+    if (first) replaceAll(text, *first, quick, replacement);
+    return;
   }
+  CanonicalSearch search(text, target);
+  if (const std::optional<Occurrence> found = search.next()) replaceAll(text, *found, search, replacement);
 }
 
 }  // namespace zk
