@@ -13,7 +13,7 @@ namespace zk {
 ///
 /// Canonically equivalent sequences are equal: é and e + U+0301, K and the Kelvin sign. Letters that differ
 /// in case, in accents or by compatibility are not, and a letter is never found without the accents that
-/// follow it. An empty `target` occurs nowhere.
+/// follow it. An empty `target` occurs nowhere. `replacement` must not be a part of `text`.
 void replaceOccurrences(std::string& text, std::string_view target, std::string_view replacement);
 
 /// Where a target was found: the bytes [begin, end) of the text.

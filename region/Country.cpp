@@ -12,7 +12,8 @@ constexpr char32_t kRegionalIndicatorA = 0x1F1E6;
 }  // namespace
 
 Country::Country(const std::string& name, std::int64_t phoneCode, const std::string& ISO)
-    : name_(name), phoneCode_(phoneCode), ISO_(ISO) {}
+    : name_(name), phoneCode_(phoneCode), ISO_(ISO) {
+}
 
 std::optional<Country> Country::fromDictionary(const Dictionary& dictionary) {
   const auto* const name = dictionary.find<std::string>("name");
