@@ -52,6 +52,27 @@ void appendOnce(std::vector<std::string>& identifiers, std::string identifier) {
     identifiers.push_back(std::move(identifier));
 }
 
+/// The settings that the process environment spells.
+LocaleSettings settingsFromEnvironment() {
+  std::string_view locale;
+  for (const char* variable : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
+    locale = environment(variable);
+    if (!locale.empty()) break;
+  }
+  const std::optional<std::string> identifier = identifierOf(locale);
+  if (!identifier) return {std::string(kDefaultIdentifier), {std::string(kDefaultIdentifier)}};
+
+  LocaleSettings settings{*identifier, {}};
+  for (std::string_view rest = environment("LANGUAGE"); !rest.empty();) {
+    const std::string_view name = rest.substr(0, rest.find(':'));
+    rest.remove_prefix(std::min(name.size() + 1, rest.size()));
+    if (!name.empty())
+      appendOnce(settings.preferredLanguages, identifierOf(name).value_or(std::string(kDefaultIdentifier)));
+  }
+  appendOnce(settings.preferredLanguages, *identifier);
+  return settings;
+}
+
 using Source = std::function<LocaleSettings()>;
 
 struct CurrentSource {
@@ -73,26 +94,6 @@ LocaleSettings settings() {
 }
 
 }  // namespace
-
-LocaleSettings settingsFromEnvironment() {
-  std::string_view locale;
-  for (const char* variable : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
-    locale = environment(variable);
-    if (!locale.empty()) break;
-  }
-  const std::optional<std::string> identifier = identifierOf(locale);
-  if (!identifier) return {std::string(kDefaultIdentifier), {std::string(kDefaultIdentifier)}};
-
-  LocaleSettings settings{*identifier, {}};
-  for (std::string_view rest = environment("LANGUAGE"); !rest.empty();) {
-    const std::string_view name = rest.substr(0, rest.find(':'));
-    rest.remove_prefix(std::min(name.size() + 1, rest.size()));
-    if (!name.empty())
-      appendOnce(settings.preferredLanguages, identifierOf(name).value_or(std::string(kDefaultIdentifier)));
-  }
-  appendOnce(settings.preferredLanguages, *identifier);
-  return settings;
-}
 
 SharedArray<std::string> Locale::preferredLanguages() {
   return settings().preferredLanguages;

@@ -45,7 +45,4 @@ class ZK_EXPORT Locale {
   [[nodiscard]] std::string identifier() const;
 };
 
-/// The settings that the process environment spells, by the rules above.
-[[nodiscard]] LocaleSettings settingsFromEnvironment();
-
 }  // namespace zk

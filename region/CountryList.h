@@ -16,6 +16,6 @@ namespace zk {
 [[nodiscard]] ZK_EXPORT SharedArray<Country> loadCountries();
 
 /// The same for the resource of another bundle than the module's own.
-[[nodiscard]] SharedArray<Country> countriesIn(const Bundle& bundle);
+[[nodiscard]] ZK_EXPORT SharedArray<Country> countriesIn(const Bundle& bundle);
 
 }  // namespace zk

@@ -1,6 +1,6 @@
 #include <ZKStrings/catalogue/KeyRule.h>
-#include <ZKStrings/platform/UnicodeText.h>
 #include <ZKStrings/tools/Catalogue.h>
+#include <ZKStrings/tools/Characters.h>
 #include <ZKStrings/tools/Files.h>
 
 #include <algorithm>
@@ -100,21 +100,6 @@ class Reader {
   std::size_t line_ = 0;
 };
 
-/// A key as catalogue order compares it: without regard to case.
-std::string folded(std::string_view key) {
-  std::string result(key);
-  for (char& letter : result) {
-    if (letter >= 'A' && letter <= 'Z') letter = static_cast<char>(letter - 'A' + 'a');
-  }
-  return result;
-}
-
-std::size_t lengthOf(std::string_view key) {
-  std::size_t length = 0;
-  for (; !key.empty(); ++length) key.remove_prefix(firstCodePoint(key).bytes.size());
-  return length;
-}
-
 /// Says what is wrong with an entry by the rules of the catalogue, each with the mend.
 void checkEntry(const Entry& entry, const std::string& file, Faults& faults) {
   const auto fail = [&](std::string message) {
@@ -170,7 +155,7 @@ void checkTogether(const std::vector<Entry>& entries, const std::string& file, F
                        first->second->line));
     }
     if (entry.kept == Entry::Kept::place) continue;
-    if (previous && folded(entry.key) < folded(previous->key)) {
+    if (previous && lowerCased(entry.key) < lowerCased(previous->key)) {
       fail(fmt::format("the key \"{}\" is out of place; it goes before \"{}\" (without regard to case)",
                        entry.key, previous->key));
     } else {
@@ -217,7 +202,7 @@ std::size_t Catalogue::placeFor(std::string_view key, bool plural) const {
     const Entry& entry = entries_[i];
     if (entry.kept == Entry::Kept::place) continue;
     const bool goesBefore = !plural && entry.plural && entry.key == key;
-    if (folded(entry.key) <= folded(key) && !goesBefore) place = i + 1;
+    if (lowerCased(entry.key) <= lowerCased(key) && !goesBefore) place = i + 1;
   }
   return place;
 }

@@ -1,4 +1,5 @@
 #include <ZKStrings/platform/UnicodeText.h>
+#include <ZKStrings/tools/Characters.h>
 #include <ZKStrings/tools/Fault.h>
 #include <ZKStrings/tools/Languages.h>
 
@@ -36,14 +37,6 @@ constexpr std::string_view kLanguageCodes[] = {
 constexpr std::string_view kUninflected[] = {"az", "ba", "bo", "dz", "fa", "hu", "id", "ja", "jv", "ka",
                                              "kk", "km", "ko", "ky", "lo", "mn", "ms", "my", "su", "th",
                                              "tk", "tr", "tt", "ug", "uz", "vi", "za", "zh"};
-
-std::string lowerCased(std::string_view text) {
-  std::string result(text);
-  for (char& letter : result) {
-    if (letter >= 'A' && letter <= 'Z') letter = static_cast<char>(letter - 'A' + 'a');
-  }
-  return result;
-}
 
 bool isLanguageCode(std::string_view code) {
   return std::ranges::binary_search(kLanguageCodes, code);

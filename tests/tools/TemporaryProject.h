@@ -1,9 +1,8 @@
 #pragma once
 
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <sstream>
+#include <ZKStrings/tests/TemporaryDirectory.h>
+#include <ZKStrings/tools/Files.h>
+
 #include <string>
 #include <string_view>
 
@@ -17,8 +16,6 @@ class TemporaryProject {
   static constexpr const char* kCountries = "resources/countries.json";
 
   TemporaryProject() {
-    std::string name = (std::filesystem::temp_directory_path() / "zkstrings-XXXXXX").string();
-    root_ = mkdtemp(name.data());
     write(kCatalogue, R"~([
   {"key": "About", "text": "About"},
   {"key": "b_Rules_b", "text": "<b>Rules</b>"},
@@ -63,30 +60,19 @@ class TemporaryProject {
 )~");
     write(kCountries, "[\n  {\"name\": \"Austria\", \"phoneCode\": 43, \"iso\": \"AT\"}\n]\n");
   }
-  TemporaryProject(const TemporaryProject&) = delete;
-  TemporaryProject& operator=(const TemporaryProject&) = delete;
-  ~TemporaryProject() { std::filesystem::remove_all(root_); }
 
-  [[nodiscard]] const std::string& root() const { return root_; }
+  [[nodiscard]] const std::string& root() const { return directory_.path(); }
 
   static std::string table(const std::string& language) {
     return "resources/" + language + ".lproj/Localizable.strings";
   }
 
-  void write(const std::string& path, std::string_view bytes) const {
-    const std::filesystem::path file = std::filesystem::path(root_) / path;
-    std::filesystem::create_directories(file.parent_path());
-    std::ofstream(file, std::ios::binary) << bytes;
-  }
+  void write(const std::string& path, std::string_view bytes) const { directory_.write(path, bytes); }
 
-  [[nodiscard]] std::string read(const std::string& path) const {
-    std::ostringstream bytes;
-    bytes << std::ifstream(std::filesystem::path(root_) / path, std::ios::binary).rdbuf();
-    return bytes.str();
-  }
+  [[nodiscard]] std::string read(const std::string& path) const { return tools::readFile(root(), path); }
 
  private:
-  std::string root_;
+  TemporaryDirectory directory_;
 };
 
 }  // namespace zk::testing

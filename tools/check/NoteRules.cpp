@@ -1,3 +1,4 @@
+#include <ZKStrings/tools/Characters.h>
 #include <ZKStrings/tools/Languages.h>
 #include <ZKStrings/tools/check/TextFeatures.h>
 #include <ZKStrings/tools/check/TextRules.h>

@@ -90,12 +90,6 @@ std::vector<std::string_view> wordsOf(std::string_view text) {
   return words;
 }
 
-std::size_t lengthOf(std::string_view text) {
-  std::size_t length = 0;
-  forEachCharacter(text, [&](const CodePoint&) { ++length; });
-  return length;
-}
-
 std::vector<std::string> numbersIn(std::string_view text) {
   std::vector<std::string> numbers;
   bool isInNumber = false;

@@ -30,9 +30,6 @@ struct OuterSpace {
 /// The runs of letters, marks and digits in `text`.
 [[nodiscard]] std::vector<std::string_view> wordsOf(std::string_view text);
 
-/// The number of code points.
-[[nodiscard]] std::size_t lengthOf(std::string_view text);
-
 /// The runs of decimal digits in `text`, of whatever script, each in ASCII digits, sorted.
 [[nodiscard]] std::vector<std::string> numbersIn(std::string_view text);
 
