@@ -1,7 +1,7 @@
 #pragma once
 
 #include <ZKStrings/benchmarks/Workload.h>
-#include <ZKStrings/platform/Bytes.h>
+#include <ZKStrings/platform/text/Bytes.h>
 
 #include <string>
 #include <string_view>

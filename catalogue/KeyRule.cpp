@@ -1,5 +1,5 @@
 #include <ZKStrings/catalogue/KeyRule.h>
-#include <ZKStrings/platform/UnicodeText.h>
+#include <ZKStrings/platform/text/UnicodeText.h>
 
 namespace zk {
 

@@ -27,16 +27,16 @@ add_library(zk_objects OBJECT
   engine/PlaceholderSubstitution.cpp
   engine/StringLookup.cpp
   platform/Bundle.cpp
-  platform/CodeLocation.cpp
-  platform/File.cpp
-  platform/Json.cpp
+  platform/system/CodeLocation.cpp
+  platform/system/File.cpp
+  platform/formats/Json.cpp
   platform/Locale.cpp
   platform/Resolver.cpp
-  platform/StringTable.cpp
-  platform/StringTableReader.cpp
-  platform/TextEncoding.cpp
-  platform/TextSearch.cpp
-  platform/UnicodeText.cpp
+  platform/formats/StringTable.cpp
+  platform/formats/StringTableReader.cpp
+  platform/formats/TextEncoding.cpp
+  platform/text/TextSearch.cpp
+  platform/text/UnicodeText.cpp
   platform/ZKCommon.cpp
   region/Country.cpp
   region/CountryList.cpp

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <ZKStrings/platform/Bytes.h>
+#include <ZKStrings/platform/text/Bytes.h>
 
 #include <cstddef>
 #include <initializer_list>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <ZKStrings/platform/SharedArray.h>
-#include <ZKStrings/platform/UnicodeText.h>
+#include <ZKStrings/platform/text/UnicodeText.h>
 
 #include <string>
 #include <string_view>

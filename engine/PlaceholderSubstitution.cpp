@@ -1,6 +1,6 @@
 #include <ZKStrings/engine/JoinedText.h>
 #include <ZKStrings/engine/PlaceholderSubstitution.h>
-#include <ZKStrings/platform/TextSearch.h>
+#include <ZKStrings/platform/text/TextSearch.h>
 
 namespace zk {
 

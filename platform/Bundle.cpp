@@ -1,7 +1,7 @@
 #include <ZKStrings/platform/Bundle.h>
-#include <ZKStrings/platform/Bytes.h>
-#include <ZKStrings/platform/CodeLocation.h>
-#include <ZKStrings/platform/StringTable.h>
+#include <ZKStrings/platform/formats/StringTable.h>
+#include <ZKStrings/platform/system/CodeLocation.h>
+#include <ZKStrings/platform/text/Bytes.h>
 
 #include <map>
 #include <mutex>

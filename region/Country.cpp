@@ -1,4 +1,4 @@
-#include <ZKStrings/platform/UnicodeText.h>
+#include <ZKStrings/platform/text/UnicodeText.h>
 #include <ZKStrings/region/Country.h>
 
 #include <string_view>

@@ -1,6 +1,6 @@
 #include <ZKStrings/engine/BundleGlobals.h>
-#include <ZKStrings/platform/File.h>
-#include <ZKStrings/platform/Json.h>
+#include <ZKStrings/platform/formats/Json.h>
+#include <ZKStrings/platform/system/File.h>
 #include <ZKStrings/region/CountryList.h>
 
 #include <algorithm>

@@ -1,5 +1,5 @@
-#include <ZKStrings/platform/UnicodeText.h>
 #include <ZKStrings/platform/ZKCommon.h>
+#include <ZKStrings/platform/text/UnicodeText.h>
 #include <ZKStrings/region/Language.h>
 
 #include <algorithm>

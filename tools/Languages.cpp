@@ -1,4 +1,4 @@
-#include <ZKStrings/platform/UnicodeText.h>
+#include <ZKStrings/platform/text/UnicodeText.h>
 #include <ZKStrings/tools/Characters.h>
 #include <ZKStrings/tools/Fault.h>
 #include <ZKStrings/tools/Languages.h>

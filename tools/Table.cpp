@@ -1,6 +1,6 @@
-#include <ZKStrings/platform/StringTableReader.h>
-#include <ZKStrings/platform/TextEncoding.h>
-#include <ZKStrings/platform/UnicodeText.h>
+#include <ZKStrings/platform/formats/StringTableReader.h>
+#include <ZKStrings/platform/formats/TextEncoding.h>
+#include <ZKStrings/platform/text/UnicodeText.h>
 #include <ZKStrings/tools/Files.h>
 #include <ZKStrings/tools/Table.h>
 

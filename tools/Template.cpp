@@ -1,4 +1,4 @@
-#include <ZKStrings/platform/TextSearch.h>
+#include <ZKStrings/platform/text/TextSearch.h>
 #include <ZKStrings/tools/Files.h>
 #include <ZKStrings/tools/Languages.h>
 #include <ZKStrings/tools/Template.h>

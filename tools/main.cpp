@@ -1,5 +1,5 @@
 #include <ZKStrings/catalogue/KeyRule.h>
-#include <ZKStrings/platform/TextSearch.h>
+#include <ZKStrings/platform/text/TextSearch.h>
 #include <ZKStrings/tools/CatalogueCommands.h>
 #include <ZKStrings/tools/Fault.h>
 #include <ZKStrings/tools/Files.h>

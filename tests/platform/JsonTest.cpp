@@ -1,4 +1,4 @@
-#include <ZKStrings/platform/Json.h>
+#include <ZKStrings/platform/formats/Json.h>
 
 #include <string>
 

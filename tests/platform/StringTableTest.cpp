@@ -1,5 +1,5 @@
-#include <ZKStrings/platform/StringTable.h>
-#include <ZKStrings/platform/StringTableReader.h>
+#include <ZKStrings/platform/formats/StringTable.h>
+#include <ZKStrings/platform/formats/StringTableReader.h>
 #include <ZKStrings/tests/TemporaryDirectory.h>
 
 #include <map>

@@ -1,4 +1,4 @@
-#include <ZKStrings/platform/TextSearch.h>
+#include <ZKStrings/platform/text/TextSearch.h>
 
 #include <random>
 #include <string>

@@ -1,4 +1,4 @@
-#include <ZKStrings/platform/UnicodeText.h>
+#include <ZKStrings/platform/text/UnicodeText.h>
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
-#include <ZKStrings/platform/Json.h>
-#include <ZKStrings/platform/TextEncoding.h>
+#include <ZKStrings/platform/formats/Json.h>
+#include <ZKStrings/platform/formats/TextEncoding.h>
 #include <ZKStrings/tools/Files.h>
 #include <ZKStrings/tools/check/CountryRules.h>
 

@@ -1,5 +1,5 @@
-#include <ZKStrings/platform/TextEncoding.h>
-#include <ZKStrings/platform/UnicodeText.h>
+#include <ZKStrings/platform/formats/TextEncoding.h>
+#include <ZKStrings/platform/text/UnicodeText.h>
 
 #include <string_view>
 

@@ -1,8 +1,8 @@
-#include <ZKStrings/platform/Bytes.h>
-#include <ZKStrings/platform/File.h>
-#include <ZKStrings/platform/StringTable.h>
-#include <ZKStrings/platform/StringTableReader.h>
-#include <ZKStrings/platform/TextEncoding.h>
+#include <ZKStrings/platform/formats/StringTable.h>
+#include <ZKStrings/platform/formats/StringTableReader.h>
+#include <ZKStrings/platform/formats/TextEncoding.h>
+#include <ZKStrings/platform/system/File.h>
+#include <ZKStrings/platform/text/Bytes.h>
 
 #include <limits>
 #include <utility>

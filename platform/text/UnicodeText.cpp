@@ -1,5 +1,5 @@
-#include <ZKStrings/platform/Bytes.h>
-#include <ZKStrings/platform/UnicodeText.h>
+#include <ZKStrings/platform/text/Bytes.h>
+#include <ZKStrings/platform/text/UnicodeText.h>
 
 #include <cstdint>
 #include <memory>

@@ -1,4 +1,4 @@
-#include <ZKStrings/platform/CodeLocation.h>
+#include <ZKStrings/platform/system/CodeLocation.h>
 
 #include <cinttypes>
 #include <cstdint>

@@ -1,4 +1,4 @@
-#include <ZKStrings/platform/File.h>
+#include <ZKStrings/platform/system/File.h>
 
 #include <cerrno>
 

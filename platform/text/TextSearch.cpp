@@ -1,6 +1,6 @@
-#include <ZKStrings/platform/Bytes.h>
-#include <ZKStrings/platform/TextSearch.h>
-#include <ZKStrings/platform/UnicodeText.h>
+#include <ZKStrings/platform/text/Bytes.h>
+#include <ZKStrings/platform/text/TextSearch.h>
+#include <ZKStrings/platform/text/UnicodeText.h>
 
 #include <cstdint>
 #include <cstring>

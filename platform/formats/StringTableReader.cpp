@@ -1,6 +1,6 @@
-#include <ZKStrings/platform/Bytes.h>
-#include <ZKStrings/platform/StringTableReader.h>
-#include <ZKStrings/platform/UnicodeText.h>
+#include <ZKStrings/platform/formats/StringTableReader.h>
+#include <ZKStrings/platform/text/Bytes.h>
+#include <ZKStrings/platform/text/UnicodeText.h>
 
 #include <cstring>
 #include <utility>
