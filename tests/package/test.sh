@@ -32,7 +32,7 @@ cp -r "$work/moved/lib" "$work/moved/share" "$work/shared-build/"
 output=$(cd "$work/shared-build" && LD_LIBRARY_PATH=$(cd "$work/shared-build" && dirname "$(find lib -name 'libZKStrings.so')") ./consumer /)
 [ "$output" = "Über uns, 246 countries" ] || fail "relative: the consumer says: $output"
 
-"$cmake" -G Ninja -S "$source" -B "$work/static" -DBUILD_SHARED_LIBS=OFF -DZK_DEVELOPMENT=OFF -DCMAKE_CXX_COMPILER="$compiler" >/dev/null
+"$cmake" -G Ninja -S "$source" -B "$work/static" -DBUILD_SHARED_LIBS=OFF -DZK_TOOLS=OFF -DZK_EXAMPLES=OFF -DZK_TESTS=OFF -DCMAKE_CXX_COMPILER="$compiler" >/dev/null
 "$cmake" --build "$work/static" >/dev/null
 "$cmake" --install "$work/static" --prefix "$work/static-installed" >/dev/null
 use static "$work/static-installed"
