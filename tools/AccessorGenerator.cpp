@@ -114,4 +114,11 @@ Accessors generateAccessors(const Catalogue& catalogue, const Table& base) {
   return accessors;
 }
 
+std::string accessorCall(const Entry& entry) {
+  std::vector<std::string> arguments;
+  for (const std::string_view name : placeholderNames(entry.text)) arguments.push_back(identifier(name));
+  if (entry.plural) arguments.emplace_back("count");
+  return fmt::format("zk::ZKStrings::{}({})", identifier(entry.key), fmt::join(arguments, ", "));
+}
+
 }  // namespace zk::tools

@@ -20,4 +20,7 @@ struct Accessors {
 /// English table, holds.
 [[nodiscard]] Accessors generateAccessors(const Catalogue& catalogue, const Table& base);
 
+/// The call of the accessor of `entry`: "zk::ZKStrings::badgeCount_Badges(badgeCount, count)".
+[[nodiscard]] std::string accessorCall(const Entry& entry);
+
 }  // namespace zk::tools

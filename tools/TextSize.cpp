@@ -57,7 +57,8 @@ TextSize sizeOf(std::string_view text) {
   for (std::int32_t begin = borders.first(), end = borders.next(); end != icu::BreakIterator::DONE;
        begin = end, end = borders.next()) {
     ++size.characters;
-    size.columns += columnsOf(text.substr(static_cast<std::size_t>(begin), static_cast<std::size_t>(end - begin)));
+    size.columns +=
+        columnsOf(text.substr(static_cast<std::size_t>(begin), static_cast<std::size_t>(end - begin)));
   }
   utext_close(&view);
   return size;

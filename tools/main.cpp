@@ -4,6 +4,7 @@
 #include <ZKStrings/tools/Fault.h>
 #include <ZKStrings/tools/Files.h>
 #include <ZKStrings/tools/HelpFormatter.h>
+#include <ZKStrings/tools/PageCommandLine.h>
 #include <ZKStrings/tools/TranslationCommandLine.h>
 
 #include <cstdio>
@@ -64,6 +65,7 @@ int run(int argc, char** argv) {
   addCoverageCommand(app, inRoot);
   addTemplateCommand(app, inRoot);
   addUpdateCommand(app, inRoot);
+  addPageCommands(app, inRoot);
 
   try {
     app.parse(argc, argv);

@@ -17,7 +17,8 @@ inline constexpr std::array<std::int64_t, 5> kExampleCounts = {0, 1, 2, 3, 6};
 
 /// What an app might fill into the placeholders of `entry`, a name or an amount, in `language`: a placeholder
 /// that takes the title of a document, for example, has it as it is translated. What says the count is that.
-[[nodiscard]] Values exampleValues(const AppTexts& texts, const Catalogue& catalogue, std::string_view language,
-                                   const Entry& entry, std::optional<std::int64_t> count);
+[[nodiscard]] Values exampleValues(const AppTexts& texts, const Catalogue& catalogue,
+                                   std::string_view language, const Entry& entry,
+                                   std::optional<std::int64_t> count);
 
 }  // namespace zk::tools

@@ -1,9 +1,7 @@
+#include <ZKStrings/platform/text/UnicodeText.h>
 #include <ZKStrings/tools/Languages.h>
 #include <ZKStrings/tools/page/LanguageName.h>
 
-#include <memory>
-
-#include <unicode/locdspnm.h>
 #include <unicode/locid.h>
 #include <unicode/unistr.h>
 
@@ -11,14 +9,14 @@ namespace zk::tools {
 
 namespace {
 
-std::string nameIn(const icu::Locale& reader, const std::string& tag) {
-  UDisplayContext context[] = {UDISPCTX_CAPITALIZATION_FOR_UI_LIST_OR_MENU};
-  const std::unique_ptr<icu::LocaleDisplayNames> names(
-      icu::LocaleDisplayNames::createInstance(reader, context, 1));
+/// What `language` is called in the language of `reader`, with a capital letter, as it stands alone.
+std::string nameIn(const icu::Locale& reader, const icu::Locale& language) {
   icu::UnicodeString name;
   std::string bytes;
-  names->languageDisplayName(tag.c_str(), name).toUTF8String(bytes);
-  return bytes;
+  language.getDisplayLanguage(reader, name).toUTF8String(bytes);
+  if (bytes.empty()) return bytes;
+  const std::string_view first = firstCodePoint(bytes).bytes;
+  return upperCased(first) + bytes.substr(first.size());
 }
 
 }  // namespace
@@ -26,7 +24,7 @@ std::string nameIn(const icu::Locale& reader, const std::string& tag) {
 LanguageName nameOfLanguage(std::string_view language) {
   const std::string tag(language == kBase ? "en" : language);
   const icu::Locale locale(tag.c_str());
-  return {tag, nameIn(icu::Locale::getEnglish(), tag), nameIn(locale, tag), locale.isRightToLeft() != 0};
+  return {tag, nameIn(icu::Locale::getEnglish(), locale), nameIn(locale, locale), locale.isRightToLeft() != 0};
 }
 
 }  // namespace zk::tools
