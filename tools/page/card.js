@@ -23,13 +23,13 @@ function copyButton(source, what) {
 }
 
 function headOf(entry) {
-  const call = element("code", { className: "call" }, entry.call);
+  const call = element("code", { className: "call" }, ...breakable(entry.call));
   const back = element("a", { className: "back", href: "#" }, "All texts");
   return element(
     "header",
     {},
     back,
-    element("h2", { tabIndex: -1, id: "card-title" }, entry.key),
+    element("h2", { tabIndex: -1, id: "card-title" }, ...breakable(entry.key)),
     element("p", { className: "family" }, entry.family.replace(" ", " and ")),
     element("div", { className: "call-line" }, call, copyButton(call, "the accessor call")),
   );
@@ -129,7 +129,8 @@ function languageBlock(entry, language) {
 }
 
 function openCard(entry) {
-  const blocks = languages.map((language) => languageBlock(entry, language));
+  const first = [english, chosenLanguage() ?? english]; // the others follow
+  const blocks = [...new Set([...first, ...languages])].map((language) => languageBlock(entry, language));
   const show = (counts) => blocks.forEach((block) => block.show(counts));
   show(data.counts);
   const grid = element("div", { className: "languages" }, ...blocks.map(({ block }) => block));

@@ -6,3 +6,8 @@ function element(name, properties = {}, ...children) {
   made.append(...children);
   return made;
 }
+
+/** A key or a call, which may be broken into lines behind its underscores. */
+function breakable(name) {
+  return name.split(/(?<=_)/).flatMap((part) => [part, element("wbr")]);
+}

@@ -13,7 +13,7 @@ function rowOf(entry) {
   entry.link = element(
     "a",
     { href: `#${encodeURIComponent(entry.address)}` },
-    element("span", { className: "key" }, entry.key, entry.counted ? element("span", { className: "tag" }, "count") : ""),
+    element("span", { className: "key" }, element("span", {}, ...breakable(entry.key)), entry.counted ? element("span", { className: "tag" }, "count") : ""),
     text,
     entry.translation,
   );
