@@ -30,14 +30,15 @@ class CatalogueCommands : public ::testing::Test {
 };
 
 TEST_F(CatalogueCommands, AddPutsTheEntryInItsPlaceEverywhere) {
-  EXPECT_EQ(addEntry(root(), "C \"%{name}\"\n", false), "C_name_n");
-  EXPECT_EQ(addEntry(root(), "a", false), "a");
-  EXPECT_EQ(addEntry(root(), "D", true), "D");
-  EXPECT_EQ(read(tablePath("Base")),
-            "/* English */\n\n\"a\" = \"a\";\n\"B\" = \"B\";\n\"C_name_n\" = \"C "
-            "\\\"%{name}\\\"\\n\";\n\"ZZ\" = \"ZZ\";\n\"D\" = \"D\";\n"
-            "\"D_zero\" = \"D\";\n\"D_one\" = \"D\";\n\"D_two\" = \"D\";\n\"D_few\" = \"D\";\n\"D_many\" = "
-            "\"D\";\n");
+  EXPECT_EQ(addEntry(root(), {.text = "C \"%{name}\"\n"}), "C_name_n");
+  EXPECT_EQ(addEntry(root(), {.text = "a"}), "a");
+  EXPECT_EQ(addEntry(root(), {.text = "D", .plural = true, .forms = {std::nullopt, "one D"}}), "D");
+  EXPECT_EQ(
+      read(tablePath("Base")),
+      "/* English */\n\n\"a\" = \"a\";\n\"B\" = \"B\";\n\"C_name_n\" = \"C "
+      "\\\"%{name}\\\"\\n\";\n\"ZZ\" = \"ZZ\";\n\"D\" = \"D\";\n"
+      "\"D_zero\" = \"D\";\n\"D_one\" = \"one D\";\n\"D_two\" = \"D\";\n\"D_few\" = \"D\";\n\"D_many\" = "
+      "\"D\";\n");
   std::string keys;
   const Catalogue catalogue = Catalogue::read(root());
   for (const Entry& entry : catalogue.entries()) keys += entry.key + (entry.plural ? "(count) " : " ");
@@ -47,15 +48,45 @@ TEST_F(CatalogueCommands, AddPutsTheEntryInItsPlaceEverywhere) {
   EXPECT_NE(read(Accessors::kSourceFile).find("localizedString(\"D\", \"D\", count, {})"), std::string::npos);
 }
 
+TEST_F(CatalogueCommands, AddTakesAKeyWhereTheTextGivesNone) {
+  EXPECT_EQ(addEntry(root(), {.text = "🎉🎉", .key = "Confetti"}), "Confetti");
+  EXPECT_EQ(addEntry(root(), {.text = "B!", .key = "B_loud"}), "B_loud");
+  EXPECT_EQ(addEntry(root(), {.text = "C", .key = "C"}), "C");
+  EXPECT_NE(read(Catalogue::kFile).find("{\"key\": \"Confetti\", \"text\": \"🎉🎉\", \"kept\": \"key\"}"),
+            std::string::npos);
+  EXPECT_NE(read(Catalogue::kFile).find("{\"key\": \"C\", \"text\": \"C\"}"), std::string::npos);
+}
+
 TEST_F(CatalogueCommands, AddRefusesWithoutChangingAnything) {
   const std::string before = read(Catalogue::kFile);
-  for (const char* text : {"B", "!", "", "%{a}%{a}", "%{a b}"}) {
-    EXPECT_THROW(addEntry(root(), text, false), CommandFailed) << text;
-    EXPECT_EQ(read(Catalogue::kFile), before) << text;
+  const NewEntry cases[] = {
+      {.text = "B"},
+      {.text = "B!"},
+      {.text = "!"},
+      {.text = ""},
+      {.text = "%{a}%{a}"},
+      {.text = "%{a b}"},
+      {.text = "No %{}"},
+      {.text = "No %{unclosed"},
+      {.text = "Counted", .plural = true},
+      {.text = "Plain", .forms = {"no plain"}},
+      {.text = "%{n} things", .plural = true, .forms = {std::nullopt, "%{m} thing"}},
+      {.text = "Text", .key = "no key"},
+      {.text = "Text", .key = "B"},
+  };
+  for (const NewEntry& added : cases) {
+    EXPECT_ANY_THROW(addEntry(root(), added)) << added.text;
+    EXPECT_EQ(read(Catalogue::kFile), before) << added.text;
   }
   project_.write(tablePath("Base"), "\"B\" = \"B\"\n");
-  EXPECT_THROW(addEntry(root(), "New", false), CommandFailed);
+  EXPECT_THROW(addEntry(root(), {.text = "New"}), CommandFailed);
   EXPECT_EQ(read(Catalogue::kFile), before);
+
+  // A folder stands where the accessors' source would go.
+  project_.write(tablePath("Base"), "\"B\" = \"B\";\n");
+  project_.write(std::string(Accessors::kSourceFile) + "/x", "");
+  EXPECT_THROW(addEntry(root(), {.text = "New"}), CommandFailed);
+  EXPECT_EQ(read(Catalogue::kFile) + read(tablePath("Base")), before + "\"B\" = \"B\";\n");
 }
 
 TEST_F(CatalogueCommands, GenerateKeepsReservedWordsOutOfTheCode) {
