@@ -24,11 +24,15 @@ set(public_headers
 add_library(zk_objects OBJECT
   catalogue/ZKStrings.cpp
   engine/BundleGlobals.cpp
+  engine/LanguageChoice.cpp
   engine/PlaceholderSubstitution.cpp
   engine/StringLookup.cpp
   platform/Bundle.cpp
   platform/system/CodeLocation.cpp
+  platform/system/DirectoryListing.cpp
   platform/system/File.cpp
+  platform/system/ProcessSeed.cpp
+  platform/system/ResourceDirectory.cpp
   platform/formats/Json.cpp
   platform/Locale.cpp
   platform/Resolver.cpp
@@ -45,6 +49,8 @@ add_library(zk_objects OBJECT
   region/LanguageDerivation.cpp)
 target_include_directories(zk_objects PUBLIC ${PROJECT_BINARY_DIR}/include)
 target_link_libraries(zk_objects PRIVATE zk_compile_options ICU::uc nlohmann_json::nlohmann_json)
+set_source_files_properties(platform/system/ResourceDirectory.cpp PROPERTIES COMPILE_DEFINITIONS
+  "ZK_RESOURCES_ABOVE=\"${resources_above}\";ZK_RESOURCES_INSTALLED=\"${resources_installed}\"")
 # Nobody replaces the module's functions from outside, so that they may be called directly and inlined.
 target_compile_options(zk_objects PRIVATE -fno-semantic-interposition)
 

@@ -14,7 +14,9 @@ namespace {
 std::string finishedText(std::string_view suffixedKey, std::string_view defaultValue,
                          const Substitutions& substitutions) {
   const Resolver::View<Language> language = Resolver::view<Language>();
-  const Bundle& chosen = chosenLanguageBundle(bundle(), language->preferredLanguages);
+  const Bundle* const resources = moduleBundle();
+  const Bundle& chosen =
+      resources ? chosenLanguageBundle(*resources, language->preferredLanguages) : bundle();
   return applySubstitutions(chosen.localizedStringForKey(suffixedKey, defaultValue), substitutions);
 }
 

@@ -37,6 +37,9 @@ inline std::uint64_t fold(std::uint64_t a, std::uint64_t b) {
   return static_cast<std::uint64_t>(product) ^ static_cast<std::uint64_t>(product >> 64);
 }
 
+inline constexpr std::uint64_t kFirst = 0x9E3779B97F4A7C15;
+inline constexpr std::uint64_t kSeed = 0xD1B54A32D192ED03;
+
 inline constexpr std::uint64_t kHighBits = 0x8080808080808080;
 
 /// Not zero when `character` is one of the eight bytes of `word`, and only then: its lowest bit lies in the
@@ -62,17 +65,19 @@ inline bool sameBytes(const char* a, const char* b, std::size_t size) {
   return size == 0 || *a == *b;
 }
 
-/// A hash of `bytes` for the indexes in memory. Its values differ between machines and are never stored.
-inline std::uint64_t hashOf(std::string_view bytes) {
-  using bytes_detail::fold;
+/// A hash of two words for the indexes in memory. Who does not know `seed` cannot choose words that collide.
+inline std::uint64_t hashOfWords(std::uint64_t first, std::uint64_t last, std::uint64_t seed) {
+  return bytes_detail::fold(first ^ seed, last ^ std::rotl(seed, 32));
+}
+
+/// A hash of `bytes`, likewise. Its values differ between machines and are never stored.
+inline std::uint64_t hashOf(std::string_view bytes, std::uint64_t seed = bytes_detail::kSeed) {
   using bytes_detail::load;
-  constexpr std::uint64_t kFirst = 0x9E3779B97F4A7C15;
-  constexpr std::uint64_t kSecond = 0xD1B54A32D192ED03;
   const char* at = bytes.data();
   std::size_t left = bytes.size();
-  std::uint64_t hash = kFirst ^ left;
+  std::uint64_t hash = bytes_detail::kFirst ^ left;
   for (; left > 16; at += 16, left -= 16) {
-    hash = fold(load<std::uint64_t>(at) ^ kSecond, load<std::uint64_t>(at + 8) ^ hash);
+    hash = hashOfWords(load<std::uint64_t>(at), load<std::uint64_t>(at + 8) ^ hash, seed);
   }
   std::uint64_t first = 0;
   std::uint64_t last = 0;
@@ -87,15 +92,15 @@ inline std::uint64_t hashOf(std::string_view bytes) {
     last = static_cast<std::uint64_t>(static_cast<unsigned char>(at[left / 2])) << 8 |
            static_cast<unsigned char>(at[left - 1]);
   }
-  return fold(first ^ kSecond, last ^ hash);
+  return hashOfWords(first, last ^ hash, seed);
 }
 
 /// A text as one word: its bytes when it is at most eight long, which together with the size tell texts
 /// apart, or else a hash of them.
-inline std::uint64_t wordOf(std::string_view text) {
+inline std::uint64_t wordOf(std::string_view text, std::uint64_t seed = bytes_detail::kSeed) {
   using bytes_detail::load;
   const char* const last = text.data() + text.size();
-  if (text.size() > 8) return hashOf(text);
+  if (text.size() > 8) return hashOf(text, seed);
   if (text.size() >= 4)
     return load<std::uint32_t>(text.data()) | std::uint64_t{load<std::uint32_t>(last - 4)} << 32;
   if (text.size() >= 2)
