@@ -13,6 +13,7 @@ set(public_headers
   platform/Dictionary.h
   platform/Export.h
   platform/Locale.h
+  platform/Registration.h
   platform/Resolver.h
   platform/SharedArray.h
   platform/ZKCommon.h
@@ -31,6 +32,7 @@ add_library(zk_objects OBJECT
   platform/system/File.cpp
   platform/formats/Json.cpp
   platform/Locale.cpp
+  platform/registry/ServiceView.cpp
   platform/Resolver.cpp
   platform/formats/StringTable.cpp
   platform/formats/StringTableReader.cpp
