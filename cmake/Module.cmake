@@ -8,6 +8,7 @@ set(public_headers
   engine/BundleGlobals.h
   engine/StringLookup.h
   engine/Substitutions.h
+  engine/Text.h
   platform/Bundle.h
   platform/CacheLines.h
   platform/Dictionary.h
@@ -27,6 +28,7 @@ add_library(zk_objects OBJECT
   engine/BundleGlobals.cpp
   engine/PlaceholderSubstitution.cpp
   engine/StringLookup.cpp
+  engine/Substitutions.cpp
   platform/Bundle.cpp
   platform/system/CodeLocation.cpp
   platform/system/File.cpp
@@ -37,6 +39,7 @@ add_library(zk_objects OBJECT
   platform/formats/StringTable.cpp
   platform/formats/StringTableReader.cpp
   platform/formats/TextEncoding.cpp
+  platform/text/CanonicalForm.cpp
   platform/text/TextSearch.cpp
   platform/text/UnicodeText.cpp
   platform/ZKCommon.cpp
