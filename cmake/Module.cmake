@@ -67,6 +67,8 @@ if(BUILD_SHARED_LIBS)
   # Hidden visibility does not reach the instances of the standard library's templates.
   target_link_options(ZKStrings PRIVATE -Wl,--version-script=${PROJECT_SOURCE_DIR}/cmake/ExportedNames.map -Wl,--no-undefined
     -Wl,-Bsymbolic-functions)
+  # What a thread keeps is freed by the library when the thread ends, however late.
+  target_link_options(ZKStrings PRIVATE -Wl,-z,nodelete)
   set_target_properties(ZKStrings PROPERTIES LINK_DEPENDS ${PROJECT_SOURCE_DIR}/cmake/ExportedNames.map)
 endif()
 

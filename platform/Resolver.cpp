@@ -131,13 +131,13 @@ Service resolveFrom(Entry& entry) {
 
 ResolverOptions::ResolverOptions(registry::Entry& entry,
                                  std::shared_ptr<registry::Registration> registration) noexcept
-    : entry_(&entry), registration_(std::move(registration)) {
+    : entry_(entry), registration_(std::move(registration)) {
 }
 
 ResolverOptions& ResolverOptions::scope(ResolverScope scope) {
   registration_->setScope(scope);
   // What threads keep was kept under the old scope.
-  entry_->generation.fetch_add(1, std::memory_order_release);
+  entry_.generation.fetch_add(1, std::memory_order_release);
   return *this;
 }
 

@@ -29,7 +29,7 @@ class ZK_EXPORT ResolverOptions {
                                               std::shared_ptr<registry::Registration>) noexcept;
   ResolverOptions(registry::Entry& entry, std::shared_ptr<registry::Registration> registration) noexcept;
 
-  registry::Entry* entry_;
+  registry::Entry& entry_;
   std::shared_ptr<registry::Registration> registration_;
 };
 

@@ -1,6 +1,7 @@
 #include <ZKStrings/tools/AccessorGenerator.h>
 
 #include <algorithm>
+#include <iterator>
 #include <string_view>
 #include <vector>
 
@@ -66,7 +67,7 @@ namespace zk {{
 
 /// `name` as C++ takes it: a reserved word gets an underscore.
 std::string identifier(std::string_view name) {
-  const bool isReserved = std::ranges::find(kReserved, name) != std::end(kReserved);
+  const bool isReserved = std::find(std::begin(kReserved), std::end(kReserved), name) != std::end(kReserved);
   return std::string(name) + (isReserved ? "_" : "");
 }
 

@@ -188,7 +188,7 @@ TEST(CurrentLanguage, EveryKindOfChangeIsSeen) {
 TEST(CurrentLanguage, ChangesOfTheWholeRecordAreOneAssignment) {
   Current::language = Language{};
   std::size_t shown = 0;
-  for (const Country& country : Current::language.get().countries) shown += country.ISO().empty() ? 0 : 1;
+  for (const Country& country : Current::language.get().countries) shown += country.ISO().empty() ? 0U : 1U;
   EXPECT_EQ(shown, Current::language->countries.size());
   const auto changeAndThrow = [](Language& language) {
     language.preferredLanguages = {"fr-FR"};
