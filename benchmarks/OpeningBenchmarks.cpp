@@ -120,7 +120,7 @@ void registerOpeningBenchmarks() {
   registerBenchmark("opening/reading the file", [=](benchmark::State& state) { readTable(state, german); })
       ->UseManualTime()
       ->Iterations(100);
-  for (const std::size_t keys : {1000, 10000, 100000}) {
+  for (const std::size_t keys : {1000U, 10000U, 100000U}) {
     const std::string name = std::to_string(keys) + " keys";
     registerBenchmark("growth/lookup, " + name,
                       [=](benchmark::State& state) { lookUpInGrownTable(state, keys); });

@@ -8,11 +8,13 @@ set(public_headers
   engine/BundleGlobals.h
   engine/StringLookup.h
   engine/Substitutions.h
+  engine/Text.h
   platform/Bundle.h
   platform/CacheLines.h
   platform/Dictionary.h
   platform/Export.h
   platform/Locale.h
+  platform/Registration.h
   platform/Resolver.h
   platform/SharedArray.h
   platform/ZKCommon.h
@@ -27,6 +29,7 @@ add_library(zk_objects OBJECT
   engine/LanguageChoice.cpp
   engine/PlaceholderSubstitution.cpp
   engine/StringLookup.cpp
+  engine/Substitutions.cpp
   platform/Bundle.cpp
   platform/system/CodeLocation.cpp
   platform/system/DirectoryListing.cpp
@@ -35,10 +38,12 @@ add_library(zk_objects OBJECT
   platform/system/ResourceDirectory.cpp
   platform/formats/Json.cpp
   platform/Locale.cpp
+  platform/registry/ServiceView.cpp
   platform/Resolver.cpp
   platform/formats/StringTable.cpp
   platform/formats/StringTableReader.cpp
   platform/formats/TextEncoding.cpp
+  platform/text/CanonicalForm.cpp
   platform/text/TextSearch.cpp
   platform/text/UnicodeText.cpp
   platform/ZKCommon.cpp
@@ -68,6 +73,8 @@ if(BUILD_SHARED_LIBS)
   # Hidden visibility does not reach the instances of the standard library's templates.
   target_link_options(ZKStrings PRIVATE -Wl,--version-script=${PROJECT_SOURCE_DIR}/cmake/ExportedNames.map -Wl,--no-undefined
     -Wl,-Bsymbolic-functions)
+  # What a thread keeps is freed by the library when the thread ends, however late.
+  target_link_options(ZKStrings PRIVATE -Wl,-z,nodelete)
   set_target_properties(ZKStrings PROPERTIES LINK_DEPENDS ${PROJECT_SOURCE_DIR}/cmake/ExportedNames.map)
 endif()
 

@@ -6,7 +6,6 @@
 
 #include <ZKStrings/ZKStrings.h>
 
-#include <algorithm>
 #include <cstdint>
 #include <iostream>
 #include <string>
@@ -47,8 +46,7 @@ std::string joined(const zk::SharedArray<std::string>& identifiers) {
 }
 
 void showTexts() {
-  const zk::Language now = language;
-  showHeading("Preferred languages: " + joined(now.preferredLanguages));
+  showHeading("Preferred languages: " + joined(language->preferredLanguages));
   show("About()", ZKStrings::About());
   show("Live_trivia_n_game_show()", ZKStrings::Live_trivia_n_game_show());
   show("active_limit_players(\"12\", \"50\")", ZKStrings::active_limit_players("12", "50"));
@@ -80,10 +78,10 @@ void showLiveSwitch() {
   }
 }
 
-void showCountries(const zk::SharedArray<zk::Country>& countries) {
-  showHeading("The first of " + std::to_string(countries.size()) + " countries");
-  for (std::size_t i = 0; i < std::min<std::size_t>(countries.size(), 6); ++i) {
-    std::cout << "  " << countries[i].displayName() << "\n";
+void showCountries() {
+  showHeading("The countries that call by +44, of " + std::to_string(language->countries.size()));
+  for (const zk::Country& country : language.get().countries) {
+    if (country.phoneCode() == 44) std::cout << "  " << country.displayName() << "\n";
   }
 }
 
@@ -101,5 +99,5 @@ int main(int argc, char** argv) {
   }
   showFallback();
   showLiveSwitch();
-  showCountries(language->countries);
+  showCountries();
 }

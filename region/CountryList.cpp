@@ -22,7 +22,7 @@ SharedArray<Country> countriesIn(const Bundle& bundle) {
   const std::optional<Value> content = parseJson(*std::move(bytes));
   const Value::List* const elements = content ? content->as<Value::List>() : nullptr;
   const auto isObject = [](const Value& element) { return element.as<Dictionary>() != nullptr; };
-  if (!elements || !std::ranges::all_of(*elements, isObject)) return {};
+  if (!elements || !std::all_of(elements->begin(), elements->end(), isObject)) return {};
 
   SharedArray<Country>::Elements countries;
   countries.reserve(elements->size());

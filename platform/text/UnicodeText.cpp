@@ -15,6 +15,8 @@ namespace zk {
 
 namespace {
 
+#pragma GCC diagnostic ignored "-Wsign-conversion"  // within the library's macros
+
 /// The code point at `at`, behind which `at` moves; negative for a byte that is not UTF-8.
 UChar32 nextCodePoint(std::string_view text, std::size_t& at) {
 #pragma GCC diagnostic push
