@@ -770,7 +770,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Found_name_nearby(Text name);
 
   /// "Found *%{username}* nearby, looking for %{remaining} more players"
-  /// - 0: "Found *%{username}* nearby, looking for %{remaining} more players"
+  /// - 0: "Found *%{username}* nearby, no more players needed"
   /// - 1: "Found *%{username}* nearby, looking for %{remaining} more player"
   /// - 2: "Found *%{username}* nearby, looking for %{remaining} more players"
   /// - 3 to 5: "Found *%{username}* nearby, looking for %{remaining} more players"
@@ -1243,7 +1243,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Next_Game_showTitle(Text showTitle);
 
   /// "Next prize in %{questionCount} questions"
-  /// - 0: "Next prize in %{questionCount} questions"
+  /// - 0: "Next prize now"
   /// - 1: "Next prize in %{questionCount} question"
   /// - 2: "Next prize in %{questionCount} questions"
   /// - 3 to 5: "Next prize in %{questionCount} questions"
@@ -1251,7 +1251,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Next_prize_in_questionCount_questions(Text questionCount, std::int64_t count);
 
   /// "*Next prize*\nin %{questionCount} questions"
-  /// - 0: "*Next prize*\nin %{questionCount} questions"
+  /// - 0: "*Next prize*\nnow"
   /// - 1: "*Next prize*\nin %{questionCount} question"
   /// - 2: "*Next prize*\nin %{questionCount} questions"
   /// - 3 to 5: "*Next prize*\nin %{questionCount} questions"
@@ -1394,16 +1394,16 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Play_again_now_for();
 
   /// "Play %{days} more days in a row"
-  /// - 0: "Play %{days} more days in a row"
-  /// - 1: "Play %{days} more day in a row"
+  /// - 0: "You've played enough days in a row"
+  /// - 1: "Play %{days} more day"
   /// - 2: "Play %{days} more days in a row"
   /// - 3 to 5: "Play %{days} more days in a row"
   /// - 6 and more: "Play %{days} more days in a row"
   [[nodiscard]] static std::string Play_days_more_days_in_a_row(Text days, std::int64_t count);
 
   /// "Play %{days} more days in a row to earn an Extra Life!"
-  /// - 0: "Play %{days} more days in a row to earn an Extra Life!"
-  /// - 1: "Play %{days} more day in a row to earn an Extra Life!"
+  /// - 0: "You've played enough days in a row to earn an Extra Life!"
+  /// - 1: "Play %{days} more day to earn an Extra Life!"
   /// - 2: "Play %{days} more days in a row to earn an Extra Life!"
   /// - 3 to 5: "Play %{days} more days in a row to earn an Extra Life!"
   /// - 6 and more: "Play %{days} more days in a row to earn an Extra Life!"
@@ -1416,7 +1416,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Play_game_now_with(Text game);
 
   /// "Play %{gameCount} games"
-  /// - 0: "Play %{gameCount} games"
+  /// - 0: "No more games to play"
   /// - 1: "Play %{gameCount} game"
   /// - 2: "Play %{gameCount} games"
   /// - 3 to 5: "Play %{gameCount} games"
@@ -1518,7 +1518,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Point_Multipliers(std::int64_t count);
 
   /// "%{pointCount} pts away from Level %{level}"
-  /// - 0: "%{pointCount} pts away from Level %{level}"
+  /// - 0: "Level %{level} reached"
   /// - 1: "%{pointCount} pt away from Level %{level}"
   /// - 2: "%{pointCount} pts away from Level %{level}"
   /// - 3 to 5: "%{pointCount} pts away from Level %{level}"
@@ -1742,7 +1742,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Search_results_for_searchTerm(Text searchTerm);
 
   /// "Searching for %{cost} nearby players to collect an *Eraser* power up"
-  /// - 0: "Searching for %{cost} nearby players to collect an *Eraser* power up"
+  /// - 0: "No more nearby players needed to collect an *Eraser* power up"
   /// - 1: "Searching for %{cost} nearby player to collect an *Eraser* power up"
   /// - 2: "Searching for %{cost} nearby players to collect an *Eraser* power up"
   /// - 3 to 5: "Searching for %{cost} nearby players to collect an *Eraser* power up"
@@ -1939,7 +1939,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Subscribed();
 
   /// "Success! You bought %{extraLifeCount} Extra Lives to help you win."
-  /// - 0: "Success! You bought %{extraLifeCount} Extra Lives to help you win."
+  /// - 0: "You bought no Extra Lives this time."
   /// - 1: "Success! You bought %{extraLifeCount} Extra Life to help you win."
   /// - 2: "Success! You bought %{extraLifeCount} Extra Lives to help you win."
   /// - 3 to 5: "Success! You bought %{extraLifeCount} Extra Lives to help you win."
@@ -2252,7 +2252,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string userCount_others(Text userCount, std::int64_t count);
 
   /// "%{userCount} others still in"
-  /// - 0: "%{userCount} others still in"
+  /// - 0: "No others still in"
   /// - 1: "%{userCount} other still in"
   /// - 2: "%{userCount} others still in"
   /// - 3 to 5: "%{userCount} others still in"
@@ -2479,8 +2479,8 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Wrong_answer_Keep_playing_with_an_Extra_Life_Get_one_every_time_a_new_ZK_user_signs_up_with_your_ref();
 
   /// "Yay! You played %{days} days in a row!"
-  /// - 0: "Yay! You played %{days} days in a row!"
-  /// - 1: "Yay! You played %{days} day in a row!"
+  /// - 0: "You haven't played any days in a row yet."
+  /// - 1: "Yay! You played %{days} day!"
   /// - 2: "Yay! You played %{days} days in a row!"
   /// - 3 to 5: "Yay! You played %{days} days in a row!"
   /// - 6 and more: "Yay! You played %{days} days in a row!"
@@ -2508,7 +2508,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string You_are_unauthorized_to_cashout();
 
   /// "You can't win the cash prize, but get %{pointsToGo} more points to earn an Extra Life!"
-  /// - 0: "You can't win the cash prize, but get %{pointsToGo} more points to earn an Extra Life!"
+  /// - 0: "You can't win the cash prize, but you have enough points to earn an Extra Life!"
   /// - 1: "You can't win the cash prize, but get %{pointsToGo} more point to earn an Extra Life!"
   /// - 2: "You can't win the cash prize, but get %{pointsToGo} more points to earn an Extra Life!"
   /// - 3 to 5: "You can't win the cash prize, but get %{pointsToGo} more points to earn an Extra Life!"
@@ -2558,7 +2558,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string You_got_an_Extra_Life_from_ZK_️();
 
   /// "You got %{coinCount} coins!"
-  /// - 0: "You got %{coinCount} coins!"
+  /// - 0: "No coins this time"
   /// - 1: "You got %{coinCount} coin!"
   /// - 2: "You got %{coinCount} coins!"
   /// - 3 to 5: "You got %{coinCount} coins!"
@@ -2566,7 +2566,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string You_got_coinCount_coins(Text coinCount, std::int64_t count);
 
   /// "You got %{dollarCount} dollars!"
-  /// - 0: "You got %{dollarCount} dollars!"
+  /// - 0: "No dollars this time"
   /// - 1: "You got %{dollarCount} dollar!"
   /// - 2: "You got %{dollarCount} dollars!"
   /// - 3 to 5: "You got %{dollarCount} dollars!"
@@ -2574,7 +2574,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string You_got_dollarCount_dollars(Text dollarCount, std::int64_t count);
 
   /// "You got %{lifeCount} Extra Lives!"
-  /// - 0: "You got %{lifeCount} Extra Lives!"
+  /// - 0: "No Extra Lives this time"
   /// - 1: "You got %{lifeCount} Extra Life!"
   /// - 2: "You got %{lifeCount} Extra Lives!"
   /// - 3 to 5: "You got %{lifeCount} Extra Lives!"
@@ -2582,7 +2582,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string You_got_lifeCount_Extra_Lives(Text lifeCount, std::int64_t count);
 
   /// "You got %{lifeCount} Extra Lives from %{sender}!"
-  /// - 0: "You got %{lifeCount} Extra Lives from %{sender}!"
+  /// - 0: "No Extra Lives from %{sender} this time"
   /// - 1: "You got %{lifeCount} Extra Life from %{sender}!"
   /// - 2: "You got %{lifeCount} Extra Lives from %{sender}!"
   /// - 3 to 5: "You got %{lifeCount} Extra Lives from %{sender}!"
@@ -2602,7 +2602,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string You_got_the_letter_letter(Text letter);
 
   /// "You got the letter %{letter} and %{extraLifeCount} extra lives!"
-  /// - 0: "You got the letter %{letter} and %{extraLifeCount} extra lives!"
+  /// - 0: "You got the letter %{letter}!"
   /// - 1: "You got the letter %{letter} and %{extraLifeCount} extra life!"
   /// - 2: "You got the letter %{letter} and %{extraLifeCount} extra lives!"
   /// - 3 to 5: "You got the letter %{letter} and %{extraLifeCount} extra lives!"
@@ -2610,7 +2610,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string You_got_the_letter_letter_and_extraLifeCount_extra_lives(Text letter, Text extraLifeCount, std::int64_t count);
 
   /// "You got the letters %{letters}!"
-  /// - 0: "You got the letters %{letters}!"
+  /// - 0: "No letters this time"
   /// - 1: "You got the letter %{letters}!"
   /// - 2: "You got the letters %{letters}!"
   /// - 3 to 5: "You got the letters %{letters}!"
@@ -2709,7 +2709,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string You_successfully_linked_your_provider_account(Text provider);
 
   /// "You unlocked %{badgeCount} Badges"
-  /// - 0: "You unlocked %{badgeCount} Badges"
+  /// - 0: "No Badges unlocked this time"
   /// - 1: "You unlocked %{badgeCount} Badge"
   /// - 2: "You unlocked %{badgeCount} Badges"
   /// - 3 to 5: "You unlocked %{badgeCount} Badges"
