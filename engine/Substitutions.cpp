@@ -1,4 +1,5 @@
 #include <ZKStrings/engine/Substitutions.h>
+#include <ZKStrings/platform/text/Bytes.h>
 #include <ZKStrings/platform/text/CanonicalForm.h>
 
 #include <algorithm>
@@ -7,7 +8,8 @@
 namespace zk {
 
 void Substitutions::stopIfSame(std::string_view one, std::string_view other) {
-  if (canonicalForm(one) == canonicalForm(other)) __builtin_trap();
+  const bool areAscii = isAsciiWithout(one, {}) && isAsciiWithout(other, {});
+  if (areAscii ? one == other : canonicalForm(one) == canonicalForm(other)) __builtin_trap();
 }
 
 void Substitutions::stopAtRepetition(const std::vector<Pair>& pairs) {

@@ -39,7 +39,7 @@ constexpr std::string_view kUninflected[] = {"az", "ba", "bo", "dz", "fa", "hu",
                                              "tk", "tr", "tt", "ug", "uz", "vi", "za", "zh"};
 
 bool isLanguageCode(std::string_view code) {
-  return std::ranges::binary_search(kLanguageCodes, code);
+  return std::binary_search(std::begin(kLanguageCodes), std::end(kLanguageCodes), code);
 }
 
 }  // namespace
@@ -55,7 +55,7 @@ std::vector<std::string> languagesIn(const std::string& root) {
     throw CommandFailed{{{Severity::error, kResources, 1, 1, "",
                           "the directory cannot be listed; see that it exists and may be read"}}};
   }
-  std::ranges::sort(languages);
+  std::sort(languages.begin(), languages.end());
   return languages;
 }
 
@@ -73,7 +73,7 @@ std::string whyNeverChosen(std::string_view language) {
 }
 
 bool inflectsForNumber(std::string_view language) {
-  return std::ranges::find(kUninflected, language) == std::end(kUninflected);
+  return std::find(std::begin(kUninflected), std::end(kUninflected), language) == std::end(kUninflected);
 }
 
 }  // namespace zk::tools

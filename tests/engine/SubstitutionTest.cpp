@@ -47,7 +47,8 @@ using Texts = std::vector<std::pair<std::string, std::string>>;
 /// As many pairs as asked for: n0 and 0, n1 and 1, ...
 Texts numbered(int count) {
   Texts pairs;
-  for (int i = 0; i < count; ++i) pairs.emplace_back("n" + std::to_string(i), std::to_string(i));
+  for (int i = 0; i < count; ++i)
+    pairs.emplace_back(std::string("n").append(std::to_string(i)), std::to_string(i));
   return pairs;
 }
 
