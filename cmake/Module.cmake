@@ -35,6 +35,7 @@ add_library(zk_objects OBJECT
   platform/formats/StringTable.cpp
   platform/formats/StringTableReader.cpp
   platform/formats/TextEncoding.cpp
+  platform/text/GraphemeClusters.cpp
   platform/text/TextSearch.cpp
   platform/text/UnicodeText.cpp
   platform/ZKCommon.cpp
