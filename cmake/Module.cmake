@@ -44,6 +44,7 @@ add_library(zk_objects OBJECT
   platform/formats/StringTableReader.cpp
   platform/formats/TextEncoding.cpp
   platform/text/CanonicalForm.cpp
+  platform/text/GraphemeClusters.cpp
   platform/text/TextSearch.cpp
   platform/text/UnicodeText.cpp
   platform/ZKCommon.cpp

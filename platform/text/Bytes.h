@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <bit>
 #include <cstddef>
 #include <cstdint>
@@ -28,14 +29,34 @@ bool sameEnds(const char* a, const char* b, std::size_t size) {
   return ((load<Word>(a) ^ load<Word>(b)) | (load<Word>(a + last) ^ load<Word>(b + last))) == 0;
 }
 
+/// Multiplies to 128 bits and folds the halves together, so that every bit of both factors reaches the
+/// result. This way serves every machine.
+constexpr std::uint64_t foldByHalves(std::uint64_t a, std::uint64_t b) {
+  constexpr std::uint64_t kLow = 0xFFFFFFFF;
+  const std::uint64_t low = (a & kLow) * (b & kLow);
+  const std::uint64_t oneMiddle = (a >> 32) * (b & kLow) + (low >> 32);
+  const std::uint64_t otherMiddle = (a & kLow) * (b >> 32) + (oneMiddle & kLow);
+  const std::uint64_t high = (a >> 32) * (b >> 32) + (oneMiddle >> 32) + (otherMiddle >> 32);
+  return (otherMiddle << 32 | (low & kLow)) ^ high;
+}
+
+#ifdef __SIZEOF_INT128__
 __extension__ using Product = unsigned __int128;
 
-/// Multiplies to 128 bits and folds the halves together, so that every bit of both factors reaches the
-/// result.
-inline std::uint64_t fold(std::uint64_t a, std::uint64_t b) {
+/// The same, in one instruction where the machine multiplies to 128 bits.
+constexpr std::uint64_t fold(std::uint64_t a, std::uint64_t b) {
   const Product product = static_cast<Product>(a) * b;
   return static_cast<std::uint64_t>(product) ^ static_cast<std::uint64_t>(product >> 64);
 }
+#else
+constexpr std::uint64_t fold(std::uint64_t a, std::uint64_t b) {
+  return foldByHalves(a, b);
+}
+#endif
+
+static_assert(fold(0x9E3779B97F4A7C15, 0xD1B54A32D192ED03) ==
+              foldByHalves(0x9E3779B97F4A7C15, 0xD1B54A32D192ED03));
+static_assert(fold(~0ULL, ~0ULL) == foldByHalves(~0ULL, ~0ULL));
 
 inline constexpr std::uint64_t kFirst = 0x9E3779B97F4A7C15;
 inline constexpr std::uint64_t kSeed = 0xD1B54A32D192ED03;
@@ -181,6 +202,35 @@ inline char* copyBytes(char* to, const char* from, std::size_t size) {
     *to = *from;
   }
   return to + size;
+}
+
+/// What `copyUntil` may write behind the end of its copy.
+inline constexpr std::size_t kCopySlack = 8;
+
+/// Copies `text` from `from` on to `to`, up to where the ASCII character `mark` first stands or to its end,
+/// and gives that place. `to` must have room for all of it and `kCopySlack` bytes more.
+inline std::size_t copyUntil(char mark, char* to, std::string_view text, std::size_t from) {
+  using bytes_detail::load;
+  if (std::endian::native != std::endian::little || text.size() < 8) {
+    const std::size_t end = std::min(findAscii(mark, text, from), text.size());
+    copyBytes(to, text.data() + from, end - from);
+    return end;
+  }
+  const auto copyWord = [&](std::uint64_t word) {
+    std::memcpy(to, &word, sizeof(word));
+    to += sizeof(word);
+    return bytes_detail::marksOf(mark, word);
+  };
+  for (; from + 8 <= text.size(); from += 8) {
+    const std::uint64_t marks = copyWord(load<std::uint64_t>(text.data() + from));
+    if (marks != 0) return from + static_cast<std::size_t>(std::countr_zero(marks)) / 8;
+  }
+  const std::size_t left = text.size() - from;
+  if (left == 0) return from;
+  // The last word of the text, without what was copied before.
+  const std::uint64_t last = load<std::uint64_t>(text.data() + text.size() - 8) >> (64 - 8 * left);
+  const std::uint64_t marks = copyWord(last);
+  return marks == 0 ? text.size() : from + static_cast<std::size_t>(std::countr_zero(marks)) / 8;
 }
 
 }  // namespace zk

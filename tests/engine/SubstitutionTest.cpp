@@ -1,6 +1,9 @@
 #include <ZKStrings/engine/PlaceholderSubstitution.h>
+#include <ZKStrings/platform/text/TextSearch.h>
 
+#include <algorithm>
 #include <map>
+#include <random>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -35,6 +38,9 @@ TEST(Substitution, FillsInThePlaceholdersThatHaveAText) {
        {{"f", "6"}, {"e", "5"}, {"d", "4"}, {"c", "3"}, {"b", "2"}, {"a", "1"}},
        "123456"},
       {"%{a} \xFF", {{"a", "\xFE"}}, "\xFE \xFF"},
+      {"%{a}%{c}}", {{"c", "b"}, {"a}b", "x"}, {"a", "y"}}, "x"},
+      {"%{b}%{a}", {{"a", "\u0301"}, {"b", "x"}}, "%{b}\u0301"},
+      {"100% %{a}%", {{"a", "5%"}}, "100% 5%%"},
   };
   for (const Case& item : cases)
     EXPECT_EQ(applySubstitutions(item.text, item.substitutions), item.expected) << item.text;
@@ -79,6 +85,37 @@ TEST(Substitution, IsAValue) {
     EXPECT_EQ(applySubstitutions(text, moved), expected) << count;
     moved = Substitutions{{"n0", "-"}};
     EXPECT_EQ(applySubstitutions("%{n0}%{n1}", moved), "-%{n1}") << count;
+  }
+}
+
+TEST(Substitution, IsOnePairAfterTheOther) {
+  const std::string pieces[] = {
+      "%{a}", "%{b}",   "%{ab}", "%{}",  "%",          "{",       "}",    "a",
+      "b",    "\u0301", "é",     "%{é}", "%{e\u0301}", "%{a%{b}", "\xFF", "some longer text "};
+  std::string names[] = {"a", "b", "ab", "", "é", "a%{b", "%", "c}", "a}b", "a}%{b", "{"};
+  std::mt19937 random(20240901);
+  const auto mixed = [&](std::size_t most) {
+    std::string text;
+    for (auto i = random() % (most + 1); i > 0; --i) text += pieces[random() % std::size(pieces)];
+    return text;
+  };
+  for (int round = 0; round < 50000; ++round) {
+    const std::string text = mixed(8);
+    const std::string values[] = {mixed(2), mixed(1), mixed(1)};
+    std::shuffle(std::begin(names), std::end(names), random);
+    std::string expected = text;
+    for (int i = 0; i < 3; ++i) replaceOccurrences(expected, "%{" + names[i] + "}", values[i]);
+    ASSERT_EQ(applySubstitutions(text, {{names[0], values[0]}, {names[1], values[1]}, {names[2], values[2]}}),
+              expected)
+        << text << " " << names[0] << " " << names[1] << " " << names[2];
+  }
+}
+
+TEST(Substitution, FillsInTextsOfEverySize) {
+  for (std::size_t size = 0; size < 1200; ++size) {
+    const std::string plain(size, 'x');
+    EXPECT_EQ(applySubstitutions(plain + "%{a}" + plain, {{"a", "kim"}}), plain + "kim" + plain) << size;
+    EXPECT_EQ(applySubstitutions("%{a} 5% %{a}", {{"a", plain}}), plain + " 5% " + plain) << size;
   }
 }
 
