@@ -39,9 +39,10 @@ const char* nameOf(Severity severity) {
 
 Position positionOf(std::string_view text, std::size_t offset) {
   const std::string_view before = text.substr(0, offset);
-  const auto lines = static_cast<std::size_t>(std::ranges::count(before, '\n'));
+  const auto lines = static_cast<std::size_t>(std::count(before.begin(), before.end(), '\n'));
   const std::string_view line = before.substr(before.rfind('\n') + 1);
-  const auto continued = static_cast<std::size_t>(std::ranges::count_if(line, isContinuationByte));
+  const auto continued =
+      static_cast<std::size_t>(std::count_if(line.begin(), line.end(), isContinuationByte));
   return {lines + 1, line.size() - continued + 1};
 }
 

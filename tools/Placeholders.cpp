@@ -18,7 +18,7 @@ bool isLetterOrDigit(char c) {
 
 /// The first run of ASCII letters and digits in `text`.
 std::string_view nameIn(std::string_view text) {
-  const auto* const begin = std::ranges::find_if(text, isNameCharacter);
+  const auto* const begin = std::find_if(text.begin(), text.end(), isNameCharacter);
   const auto* const end = std::find_if_not(begin, text.end(), isNameCharacter);
   return {begin, end};
 }
@@ -36,7 +36,7 @@ std::optional<PlaceholderUse> useAtBegin(std::string_view text) {
   const std::string_view inside = text.substr(sign + 1, text.find_first_of("{%}\n", sign + 1) - sign - 1);
   const bool isClosed = text.substr(sign + 1 + inside.size()).starts_with('}');
   const bool isRight =
-      sign == 1 && isClosed && !inside.empty() && std::ranges::all_of(inside, isLetterOrDigit);
+      sign == 1 && isClosed && !inside.empty() && std::all_of(inside.begin(), inside.end(), isLetterOrDigit);
   const std::string_view name = isRight ? inside : nameIn(inside);
   const std::size_t insideSize = isClosed ? inside.size() + 1 : inside.find(name) + name.size();
   return PlaceholderUse{0, text.substr(0, sign + 1 + insideSize), name, isRight};

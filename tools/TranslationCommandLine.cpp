@@ -37,7 +37,8 @@ void printRules() {
 CLI::Validator isRule() {
   const auto refusal = [](const std::string& name) -> std::string {
     const std::vector<Rule> rules = checkRules();
-    if (std::ranges::find(rules, name, &Rule::name) != rules.end()) return "";
+    const auto isMeant = [&](const Rule& rule) { return rule.name == name; };
+    if (std::any_of(rules.begin(), rules.end(), isMeant)) return "";
     std::vector<std::string_view> names;
     for (const Rule& rule : rules) names.push_back(rule.name);
     const std::optional<std::string_view> meant = nearest(name, names);
@@ -85,7 +86,7 @@ void addCheckCommand(CLI::App& app, const RootFinder& inRoot, int& status) {
     print(faults, arguments->format);
     const Severity mildest = arguments->isStrict ? Severity::warning : Severity::error;
     const auto fails = [&](const Fault& fault) { return fault.severity <= mildest; };
-    status = std::ranges::any_of(faults, fails) ? 1 : 0;
+    status = std::any_of(faults.begin(), faults.end(), fails) ? 1 : 0;
   });
 }
 

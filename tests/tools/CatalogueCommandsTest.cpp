@@ -43,7 +43,7 @@ TEST_F(CatalogueCommands, AddPutsTheEntryInItsPlaceEverywhere) {
   const Catalogue catalogue = Catalogue::read(root());
   for (const Entry& entry : catalogue.entries()) keys += entry.key + (entry.plural ? "(count) " : " ");
   EXPECT_EQ(keys, "a B C_name_n ZZ D D(count) ");
-  EXPECT_NE(read(Accessors::kHeaderFile).find("static std::string C_name_n(std::string_view name);"),
+  EXPECT_NE(read(Accessors::kHeaderFile).find("static std::string C_name_n(Text name);"),
             std::string::npos);
   EXPECT_NE(read(Accessors::kSourceFile).find("localizedString(\"D\", \"D\", count, {})"), std::string::npos);
 }
@@ -92,7 +92,7 @@ TEST_F(CatalogueCommands, AddRefusesWithoutChangingAnything) {
 TEST_F(CatalogueCommands, GenerateKeepsReservedWordsOutOfTheCode) {
   project_.write(Catalogue::kFile, "[\n  {\"key\": \"or_class\", \"text\": \"or %{class}\"}\n]\n");
   generate(root());
-  EXPECT_NE(read(Accessors::kSourceFile).find("or_class(std::string_view class_)"), std::string::npos);
+  EXPECT_NE(read(Accessors::kSourceFile).find("or_class(Text class_)"), std::string::npos);
   EXPECT_NE(read(Accessors::kSourceFile).find("{{\"class\", class_}}"), std::string::npos);
 }
 

@@ -30,7 +30,7 @@ std::vector<std::string_view> wordsOfComment(std::string_view comment) {
 
 /// Whether one of the comments before the entry reads "check: off" and names the rule behind that.
 bool isSwitchedOff(const TableEntry& entry, std::string_view rule) {
-  return std::ranges::any_of(entry.comments, [&](std::string_view comment) {
+  return std::any_of(entry.comments.begin(), entry.comments.end(), [&](std::string_view comment) {
     const std::vector<std::string_view> words = wordsOfComment(comment);
     const bool isSwitch = words.size() > 2 && words[0] == "check:" && words[1] == "off";
     return isSwitch && std::find(words.begin() + 2, words.end(), rule) != words.end();
@@ -48,9 +48,11 @@ class Checker {
       checkTable(language, Table::read(root_, language), catalogue, base);
     }
     if (options_.languages.empty()) apply(countryRules(), CountryFile::read(root_), CountryFile::kFile);
-    std::ranges::sort(faults_, {}, [](const Fault& fault) {
+    const auto order = [](const Fault& fault) {
       return std::tie(fault.file, fault.line, fault.column, fault.severity, fault.rule, fault.message);
-    });
+    };
+    std::sort(faults_.begin(), faults_.end(),
+              [&](const Fault& one, const Fault& other) { return order(one) < order(other); });
     return std::move(faults_);
   }
 
@@ -96,7 +98,7 @@ class Checker {
 
   [[nodiscard]] bool applies(const Rule& rule) const {
     if (rule.severity == Severity::note && !options_.notes) return false;
-    return std::ranges::find(options_.off, rule.name) == options_.off.end();
+    return std::find(options_.off.begin(), options_.off.end(), rule.name) == options_.off.end();
   }
 
   const std::string& root_;
@@ -115,7 +117,8 @@ std::vector<Rule> checkRules() {
   add(textRules());
   add(noteRules());
   add(countryRules());
-  std::ranges::stable_sort(rules, {}, &Rule::severity);
+  std::stable_sort(rules.begin(), rules.end(),
+                   [](const Rule& one, const Rule& other) { return one.severity < other.severity; });
   return rules;
 }
 

@@ -32,7 +32,8 @@ bool isSameEverywhere(std::string_view text) {
       words.erase(at, spaced.size());
     }
   }
-  return std::ranges::all_of(wordsOf(words), [](std::string_view word) {
+  const auto left = wordsOf(words);
+  return std::all_of(left.begin(), left.end(), [](std::string_view word) {
     return lengthOf(word) == 1 || numbersIn(word).size() == 1;
   });
 }

@@ -14,7 +14,7 @@ namespace {
 using Names = std::vector<std::string_view>;
 
 bool contains(const Names& names, std::string_view name) {
-  return std::ranges::find(names, name) != names.end();
+  return std::find(names.begin(), names.end(), name) != names.end();
 }
 
 /// What may stand instead of a placeholder that may not.
@@ -46,8 +46,8 @@ void findMisspelt(const Translation& translation, Findings& findings) {
   const Names allowed = translation.english.placeholders();
   const std::vector<PlaceholderUse> inEnglish = placeholderUses(translation.english.text);
   for (const PlaceholderUse& use : placeholderUses(translation.entry.text)) {
-    const bool isMeant =
-        std::ranges::find(inEnglish, use.spelled, &PlaceholderUse::spelled) != inEnglish.end();
+    const auto isSame = [&](const PlaceholderUse& other) { return other.spelled == use.spelled; };
+    const bool isMeant = std::any_of(inEnglish.begin(), inEnglish.end(), isSame);
     if (isMeant || !isMisspelt(use, allowed)) continue;
     findings.add(translation.entry, translation.entry.placeOf(use.offset),
                  fmt::format("\"{}\" is no placeholder and shows as it stands; {}", escaped(use.spelled),
