@@ -2,12 +2,14 @@
 #include <ZKStrings/tools/AccessorGenerator.h>
 #include <ZKStrings/tools/Catalogue.h>
 #include <ZKStrings/tools/CatalogueCommands.h>
+#include <ZKStrings/tools/EnglishTexts.h>
 #include <ZKStrings/tools/Files.h>
 #include <ZKStrings/tools/Languages.h>
 #include <ZKStrings/tools/Nearest.h>
 #include <ZKStrings/tools/Placeholders.h>
 #include <ZKStrings/tools/Table.h>
 #include <ZKStrings/tools/TableEditor.h>
+#include <ZKStrings/tools/Template.h>
 #include <ZKStrings/tools/TranslationState.h>
 
 #include <algorithm>
@@ -48,7 +50,7 @@ std::string checkedJson(const Catalogue& catalogue) {
 void refuseUnknownPlaceholders(const std::string& form, const std::string& text) {
   const std::vector<std::string_view> allowed = placeholderNames(text);
   for (const std::string_view name : placeholderNames(form)) {
-    if (std::ranges::find(allowed, name) == allowed.end())
+    if (std::find(allowed.begin(), allowed.end(), name) == allowed.end())
       refuse(
           fmt::format("the form \"{}\" has the placeholder \"%{{{}}}\", which the text lacks", form, name));
   }
@@ -109,7 +111,7 @@ void writeAll(const std::string& root, const Catalogue& catalogue, const TableEd
   std::vector<FileChange> changes = accessorFiles(catalogue, Table::parse(table, tablePath(kBase)));
   changes.push_back({Catalogue::kFile, checkedJson(catalogue)});
   changes.push_back({tablePath(kBase), table});
-  std::ranges::move(translations, std::back_inserter(changes));
+  std::move(translations.begin(), translations.end(), std::back_inserter(changes));
   writeFiles(root, changes);
 }
 
@@ -210,9 +212,12 @@ std::size_t changeEntry(const std::string& root, const std::string& key, const s
     const TableEntry* const entry = base.table().find(tableKey.key);
     if (entry) base.replaceText(*entry, changedText(tableKey, entry->text, oldText, text, forms));
   }
+  const EnglishTexts english(catalogue, Table::parse(base.edited(), tablePath(kBase)));
   std::size_t marked = 0;
-  const auto mark = [&marked](TableEditor& editor, const TableEntry& entry) {
-    if (isMarked(entry, TranslationState::untranslated)) return;
+  const auto mark = [&](TableEditor& editor, const TableEntry& entry) {
+    const EnglishText& now = *english.find(entry.key);
+    editor.setExplanation(entry, explanationOf(now));
+    if (isMarked(entry, TranslationState::untranslated)) return editor.replaceText(entry, now.text);
     editor.setState(entry, TranslationState::needsReview);
     ++marked;
   };

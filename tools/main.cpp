@@ -1,11 +1,13 @@
 #include <ZKStrings/tools/CatalogueCommandLine.h>
 #include <ZKStrings/tools/Fault.h>
 #include <ZKStrings/tools/Files.h>
+#include <ZKStrings/tools/HelpFormatter.h>
 #include <ZKStrings/tools/Nearest.h>
 #include <ZKStrings/tools/TranslationCommandLine.h>
 
 #include <cstdio>
 #include <exception>
+#include <memory>
 #include <optional>
 #include <stdexcept>
 #include <string>
@@ -37,6 +39,7 @@ std::string unknownCommand(const CLI::App& app) {
 
 int run(int argc, char** argv) {
   CLI::App app{"Keeps the catalogue of texts and its translations right.", "zkstrings"};
+  app.formatter(std::make_shared<HelpFormatter>());
   app.set_version_flag("--version", "zkstrings " ZK_VERSION);
   app.require_subcommand(1);
   app.allow_extras();
@@ -49,6 +52,7 @@ int run(int argc, char** argv) {
   addCheckCommand(app, inRoot, status);
   addCoverageCommand(app, inRoot);
   addTemplateCommand(app, inRoot);
+  addUpdateCommand(app, inRoot);
   for (CLI::App* const command : app.get_subcommands({})) command->fallthrough();
 
   try {

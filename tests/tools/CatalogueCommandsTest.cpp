@@ -5,6 +5,8 @@
 #include <ZKStrings/tools/Files.h>
 #include <ZKStrings/tools/Table.h>
 
+#include <optional>
+#include <stdexcept>
 #include <string>
 #include <utility>
 
@@ -43,8 +45,7 @@ TEST_F(CatalogueCommands, AddPutsTheEntryInItsPlaceEverywhere) {
   const Catalogue catalogue = Catalogue::read(root());
   for (const Entry& entry : catalogue.entries()) keys += entry.key + (entry.plural ? "(count) " : " ");
   EXPECT_EQ(keys, "a B C_name_n ZZ D D(count) ");
-  EXPECT_NE(read(Accessors::kHeaderFile).find("static std::string C_name_n(Text name);"),
-            std::string::npos);
+  EXPECT_NE(read(Accessors::kHeaderFile).find("static std::string C_name_n(Text name);"), std::string::npos);
   EXPECT_NE(read(Accessors::kSourceFile).find("localizedString(\"D\", \"D\", count, {})"), std::string::npos);
 }
 
@@ -89,6 +90,61 @@ TEST_F(CatalogueCommands, AddRefusesWithoutChangingAnything) {
   EXPECT_EQ(read(Catalogue::kFile) + read(tablePath("Base")), before + "\"B\" = \"B\";\n");
 }
 
+/// As above, with the counted D and a German table in which one text is translated, one is not.
+class CatalogueChanges : public CatalogueCommands {
+ protected:
+  CatalogueChanges() {
+    addEntry(root(), {.text = "%{n} Ds", .plural = true, .forms = {"none", "%{n} D"}, .key = "Ds"});
+    project_.write(
+        tablePath("de"),
+        "/* German */\n\n\"B\" = \"Be\";\n/* English: \"D\" */\n/* state: untranslated */\n\"D\" = "
+        "\"D\";\n/* kept */\n\"Ds_one\" = \"%{n} De\";\n");
+  }
+};
+
+TEST_F(CatalogueChanges, ChangeKeepsTheKeyAndMarksTranslations) {
+  EXPECT_EQ(changeEntry(root(), "B", "Bee", {}), 1u);
+  EXPECT_EQ(changeEntry(root(), "D", "Dee", {}), 0u);
+  EXPECT_EQ(changeEntry(root(), "Ds", "%{n} Dees", {"none", "%{n} Dee"}), 1u);
+  EXPECT_EQ(read(tablePath("de")),
+            "/* German */\n\n/* state: needs-review */\n\"B\" = \"Be\";\n/* English: \"Dee\" */\n/* state: "
+            "untranslated */\n\"D\" = \"Dee\";\n/* kept */\n/* state: needs-review */\n\"Ds_one\" = \"%{n} "
+            "De\";\n");
+  EXPECT_NE(read(Catalogue::kFile).find("{\"key\": \"B\", \"text\": \"Bee\", \"kept\": \"key\"}"),
+            std::string::npos);
+  const Table base = Table::read(root(), "Base");
+  EXPECT_EQ(base.find("Ds_zero")->text + base.find("Ds_one")->text + base.find("Ds_many")->text,
+            "none%{n} Dee%{n} Dees");
+  EXPECT_NE(read(Accessors::kSourceFile).find("\"Bee\""), std::string::npos);
+  changeEntry(root(), "B", "B", {});
+  EXPECT_NE(read(Catalogue::kFile).find("{\"key\": \"B\", \"text\": \"B\"}"), std::string::npos);
+}
+
+TEST_F(CatalogueChanges, RemoveTakesTheTextOutEverywhere) {
+  removeEntry(root(), "Ds");
+  removeEntry(root(), "D");
+  EXPECT_EQ(read(tablePath("de")), "/* German */\n\n\"B\" = \"Be\";\n/* kept */\n");
+  EXPECT_EQ(read(tablePath("Base")), "/* English */\n\n\"B\" = \"B\";\n\"ZZ\" = \"ZZ\";\n");
+  EXPECT_EQ(Catalogue::read(root()).entries().size(), 2u);
+}
+
+TEST_F(CatalogueChanges, RefuseWithoutChangingAnything) {
+  const auto everything = [&] {
+    return read(Catalogue::kFile) + read(tablePath("Base")) + read(tablePath("de"));
+  };
+  const std::string before = everything();
+  EXPECT_THROW(changeEntry(root(), "Bx", "B", {}), std::invalid_argument);
+  EXPECT_THROW(changeEntry(root(), "B", "", {}), std::invalid_argument);
+  EXPECT_THROW(changeEntry(root(), "B", "Bee", {"no Bs"}), std::invalid_argument);
+  EXPECT_THROW(changeEntry(root(), "Ds", "%{n} Dees", {}), std::invalid_argument) << "forgotten forms";
+  EXPECT_THROW(changeEntry(root(), "B", "%{", {}), CommandFailed);
+  EXPECT_THROW(removeEntry(root(), "d"), std::invalid_argument);
+  project_.write(tablePath("fr"), "\"B\" = \"B\"\n");
+  EXPECT_THROW(changeEntry(root(), "B", "Bee", {}), CommandFailed);
+  EXPECT_THROW(removeEntry(root(), "B"), CommandFailed);
+  EXPECT_EQ(everything(), before);
+}
+
 TEST_F(CatalogueCommands, GenerateKeepsReservedWordsOutOfTheCode) {
   project_.write(Catalogue::kFile, "[\n  {\"key\": \"or_class\", \"text\": \"or %{class}\"}\n]\n");
   generate(root());
@@ -98,7 +154,7 @@ TEST_F(CatalogueCommands, GenerateKeepsReservedWordsOutOfTheCode) {
 
 TEST(Table, FaultsNameLineAndColumn) {
   const std::pair<std::string, Position> cases[] = {
-      {"\"a\" = \"1\"\n\"b\" = \"2\";\n", {2, 1}},
+      {"\"a\" = \"1\"\n\"b\" = \"2\";\n", {1, 10}},
       {"\n\"ä\" \"1\";\n", {2, 5}},
       {"\"a\" = \"ä\xFF\";", {1, 9}},
   };
@@ -107,6 +163,33 @@ TEST(Table, FaultsNameLineAndColumn) {
     ASSERT_EQ(table.faults.size(), 1u) << text;
     EXPECT_EQ(table.faults[0].line, position.line) << text;
     EXPECT_EQ(table.faults[0].column, position.column) << text;
+  }
+}
+
+TEST(Catalogue, FaultsNameLineAndColumn) {
+  struct Case {
+    std::string line;  ///< the second of entries.json, the only entry's
+    std::size_t column;
+  };
+  const Case cases[] = {
+      {R"({"key": "a", "text": 1e999})", 1},
+      {R"({"key": "a", "text": -1e999})", 1},
+      {R"(1e999)", 1},
+      {R"({"key": "ä" "text": "ä"})", 18},
+      {R"({"key": "ä", "text": "ä"},)", 26},
+      {"", 1},
+      {",", 1},
+      {"[", 2},
+      {"{\"key\": \"\xFF\"}", 10},
+  };
+  for (const auto& [line, column] : cases) {
+    try {
+      static_cast<void>(Catalogue::parse("[\n" + line + "\n]\n", "entries.json"));
+      ADD_FAILURE() << "no fault: " << line;
+    } catch (const CommandFailed& failed) {
+      EXPECT_EQ(failed.faults[0].line, 2u) << line;
+      EXPECT_EQ(failed.faults[0].column, column) << line << ": " << failed.faults[0].message;
+    }
   }
 }
 
