@@ -7,6 +7,7 @@
 
 namespace {
 
+using namespace std::string_literals;
 using namespace zk::tools;
 
 struct Case {
@@ -123,7 +124,9 @@ TEST(TableEditor, RefusesWhatItCouldHarm) {
   for (const std::string bytes : {"a = b", "/*", "\"a\" = \"\xFF\";"}) {
     EXPECT_THROW(TableEditor(bytes, "table"), CommandFailed) << bytes;
   }
-  EXPECT_THROW(TableEditor(std::string("\xFF\xFE\"\0A\0\"\0=\0\"\0a\0\"\0;\0", 20), "table"), CommandFailed);
+  const std::string utf16 = "\xFF\xFE\"\0A\0\"\0=\0\"\0a\0\"\0;\0"s;
+  ASSERT_TRUE(Table::parse(utf16, "table").faults.empty());
+  EXPECT_THROW(TableEditor(utf16, "table"), CommandFailed);
 }
 
 }  // namespace
