@@ -102,6 +102,15 @@ void registerLookupBenchmarks() {
       });
     }
   }
+  const std::pair<const char*, const char*> identifiers[] = {
+      {"de", "de"}, {"en", "en"}, {"en-US", "en-US"}, {"zh-Hans-CN", "zh-Hans-CN"}, {"not ASCII", "dé-DE"}};
+  for (const auto& [name, identifier] : identifiers) {
+    registerBenchmark(std::string("plain/module, ") + name,
+                      [identifier = identifier](benchmark::State& state) {
+                        Current::language->preferredLanguages = {identifier};
+                        measure(state, requests(Kind::plain), textByModule);
+                      });
+  }
   const std::pair<const char*, std::size_t> winners[] = {{"third", 2}, {"tenth", 9}};
   for (const auto& [place, others] : winners) {
     registerBenchmark(std::string("plain/module, winner ") + place,

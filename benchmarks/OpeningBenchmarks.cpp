@@ -44,8 +44,8 @@ void openTable(benchmark::State& state, const std::string& table) {
   std::size_t held = 0;
   for (auto _ : state) {
     const std::string path = freshDirectory(table);
-    benchmark::DoNotOptimize(
-        contents(path + "/Localizable.strings"));  // both then read from the system's cache
+    // Both then read from the system's cache.
+    benchmark::DoNotOptimize(contents(path + "/Localizable.strings"));
     const Bundle& bundle = *Bundle::initWithPath(path);
     const std::size_t before = bytesHeldByThread();
     const auto begin = std::chrono::steady_clock::now();
@@ -109,7 +109,7 @@ void registerOpeningBenchmarks() {
     for (auto _ : state) benchmark::DoNotOptimize(Language());
     state.counters[kTimesPerIteration] = 1;
   });
-  registerBenchmark("Language/document tree of the JSON library", [](benchmark::State& state) {
+  registerBenchmark("Language/document of the JSON library", [](benchmark::State& state) {
     for (auto _ : state) benchmark::DoNotOptimize(nlohmann::json::parse(std::ifstream(kCountries)));
     state.counters[kTimesPerIteration] = 1;
   });
@@ -120,7 +120,7 @@ void registerOpeningBenchmarks() {
   registerBenchmark("opening/reading the file", [=](benchmark::State& state) { readTable(state, german); })
       ->UseManualTime()
       ->Iterations(100);
-  for (const std::size_t keys : {1000, 10000, 100000}) {
+  for (const std::size_t keys : {1000U, 10000U, 100000U}) {
     const std::string name = std::to_string(keys) + " keys";
     registerBenchmark("growth/lookup, " + name,
                       [=](benchmark::State& state) { lookUpInGrownTable(state, keys); });

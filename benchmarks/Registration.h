@@ -7,12 +7,16 @@
 
 namespace zk::benchmarks {
 
-/// Counters by which a benchmark tells the report more than its time.
-inline constexpr const char* kTimesPerIteration =
-    "per iteration";  ///< how many times it did its thing in one iteration
-inline constexpr const char* kAllocations = "allocations";  ///< per time
-inline constexpr const char* kBytes = "bytes";              ///< of the text that it worked on
-inline constexpr const char* kHeldBytes = "held bytes";     ///< of memory that it left behind
+// Counters by which a benchmark tells the report more than its time.
+
+/// How many times it did its thing in one iteration.
+inline constexpr const char* kTimesPerIteration = "per iteration";
+/// Each time.
+inline constexpr const char* kAllocations = "allocations";
+/// Of the text that it worked on.
+inline constexpr const char* kBytes = "bytes";
+/// Of memory that it left behind.
+inline constexpr const char* kHeldBytes = "held bytes";
 
 template <class Function>
 benchmark::internal::Benchmark* registerBenchmark(const std::string& name, Function&& function) {

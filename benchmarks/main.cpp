@@ -1,10 +1,32 @@
 #include <ZKStrings/benchmarks/Registration.h>
 #include <ZKStrings/benchmarks/Report.h>
 
+#include <cstdio>
+
 #include <benchmark/benchmark.h>
 
+namespace {
+
+void printHelp() {
+  std::puts(
+      "Measures the module against other ways to do the same. Prints the medians and,\n"
+      "at the end, the ratios that matter, each with its limit. The status is 1 when\n"
+      "one of them misses its limit.\n"
+      "\n"
+      "  --benchmark_filter=REGEX       only the rows that match, and their ratios\n"
+      "  --benchmark_repetitions=N      medians of N rounds\n"
+      "  --benchmark_min_time=SECONDS   for each row in each round\n"
+      "  --benchmark_enable_random_interleaving=true\n"
+      "                                 the rows take turns in random order\n"
+      "  --benchmark_list_tests         only names the rows\n"
+      "  --benchmark_out=FILE --benchmark_out_format=json|csv\n"
+      "                                 keeps all measurements as well");
+}
+
+}  // namespace
+
 int main(int argc, char** argv) {
-  benchmark::Initialize(&argc, argv);
+  benchmark::Initialize(&argc, argv, printHelp);
   if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
   zk::benchmarks::registerLookupBenchmarks();
   zk::benchmarks::registerThreadBenchmarks();
@@ -12,4 +34,5 @@ int main(int argc, char** argv) {
   zk::benchmarks::registerProcessBenchmarks();
   zk::benchmarks::Report report;
   benchmark::RunSpecifiedBenchmarks(&report);
+  return report.missedLimits() ? 1 : 0;
 }

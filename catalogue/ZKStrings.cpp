@@ -53,7 +53,7 @@ std::string ZKStrings::Account() {
   return localizedString("Account", "Account", std::nullopt, {});
 }
 
-std::string ZKStrings::active_limit_players(std::string_view active, std::string_view limit) {
+std::string ZKStrings::active_limit_players(Text active, Text limit) {
   return localizedString("active_limit_players", "%{active}/%{limit} players", std::nullopt, {{"active", active}, {"limit", limit}});
 }
 
@@ -153,15 +153,15 @@ std::string ZKStrings::Approved() {
   return localizedString("Approved", "Approved", std::nullopt, {});
 }
 
-std::string ZKStrings::Are_you_sure_you_want_to_block_username(std::string_view username) {
+std::string ZKStrings::Are_you_sure_you_want_to_block_username(Text username) {
   return localizedString("Are_you_sure_you_want_to_block_username", "Are you sure you want to block %{username}?", std::nullopt, {{"username", username}});
 }
 
-std::string ZKStrings::Are_you_sure_you_want_to_cashout_to_PayPal_account_email(std::string_view email) {
+std::string ZKStrings::Are_you_sure_you_want_to_cashout_to_PayPal_account_email(Text email) {
   return localizedString("Are_you_sure_you_want_to_cashout_to_PayPal_account_email", "Are you sure you want to cashout to PayPal account %{email}?", std::nullopt, {{"email", email}});
 }
 
-std::string ZKStrings::Are_you_sure_you_want_to_kick_username(std::string_view username) {
+std::string ZKStrings::Are_you_sure_you_want_to_kick_username(Text username) {
   return localizedString("Are_you_sure_you_want_to_kick_username", "Are you sure you want to kick %{username}?", std::nullopt, {{"username", username}});
 }
 
@@ -225,15 +225,15 @@ std::string ZKStrings::Badge_unlocked() {
   return localizedString("Badge_unlocked", "Badge unlocked!", std::nullopt, {});
 }
 
-std::string ZKStrings::badgeCount_Badges(std::string_view badgeCount, std::int64_t count) {
+std::string ZKStrings::badgeCount_Badges(Text badgeCount, std::int64_t count) {
   return localizedString("badgeCount_Badges", "%{badgeCount} Badges", count, {{"badgeCount", badgeCount}});
 }
 
-std::string ZKStrings::badgeCount_Badges_unlocked(std::string_view badgeCount) {
+std::string ZKStrings::badgeCount_Badges_unlocked(Text badgeCount) {
   return localizedString("badgeCount_Badges_unlocked", "%{badgeCount} Badges unlocked!", std::nullopt, {{"badgeCount", badgeCount}});
 }
 
-std::string ZKStrings::badgeName_Level_level(std::string_view badgeName, std::string_view level) {
+std::string ZKStrings::badgeName_Level_level(Text badgeName, Text level) {
   return localizedString("badgeName_Level_level", "%{badgeName} Level %{level}", std::nullopt, {{"badgeName", badgeName}, {"level", level}});
 }
 
@@ -281,7 +281,7 @@ std::string ZKStrings::Bonus() {
   return localizedString("Bonus", "Bonus:", std::nullopt, {});
 }
 
-std::string ZKStrings::bonusStrikeCount_Bonus_Strikes(std::string_view bonusStrikeCount, std::int64_t count) {
+std::string ZKStrings::bonusStrikeCount_Bonus_Strikes(Text bonusStrikeCount, std::int64_t count) {
   return localizedString("bonusStrikeCount_Bonus_Strikes", "%{bonusStrikeCount} Bonus Strikes", count, {{"bonusStrikeCount", bonusStrikeCount}});
 }
 
@@ -309,11 +309,11 @@ std::string ZKStrings::Buy_More_Coins() {
   return localizedString("Buy_More_Coins", "Buy More Coins", std::nullopt, {});
 }
 
-std::string ZKStrings::By_continuing_you_agree_to_the_terms_and_pp(std::string_view terms, std::string_view pp) {
+std::string ZKStrings::By_continuing_you_agree_to_the_terms_and_pp(Text terms, Text pp) {
   return localizedString("By_continuing_you_agree_to_the_terms_and_pp", "By continuing, you agree to the %{terms} and %{pp}.", std::nullopt, {{"terms", terms}, {"pp", pp}});
 }
 
-std::string ZKStrings::By_entering_you_agree_to_the_competition(std::string_view competition) {
+std::string ZKStrings::By_entering_you_agree_to_the_competition(Text competition) {
   return localizedString("By_entering_you_agree_to_the_competition", "By entering you agree to the %{competition}", std::nullopt, {{"competition", competition}});
 }
 
@@ -321,15 +321,15 @@ std::string ZKStrings::By_signing_up_you_agree_to_the() {
   return localizedString("By_signing_up_you_agree_to_the", "By signing up you agree to the", std::nullopt, {});
 }
 
-std::string ZKStrings::By_signing_up_you_agree_to_the_n_terms_privacy_and_rules(std::string_view terms, std::string_view privacy, std::string_view rules) {
+std::string ZKStrings::By_signing_up_you_agree_to_the_n_terms_privacy_and_rules(Text terms, Text privacy, Text rules) {
   return localizedString("By_signing_up_you_agree_to_the_n_terms_privacy_and_rules", "By signing up you agree to the\n %{terms}, %{privacy}, and %{rules}", std::nullopt, {{"terms", terms}, {"privacy", privacy}, {"rules", rules}});
 }
 
-std::string ZKStrings::By_signing_up_you_agree_to_the_terms_privacy_and_rules(std::string_view terms, std::string_view privacy, std::string_view rules) {
+std::string ZKStrings::By_signing_up_you_agree_to_the_terms_privacy_and_rules(Text terms, Text privacy, Text rules) {
   return localizedString("By_signing_up_you_agree_to_the_terms_privacy_and_rules", "By signing up you agree to the %{terms}, %{privacy}, and %{rules}", std::nullopt, {{"terms", terms}, {"privacy", privacy}, {"rules", rules}});
 }
 
-std::string ZKStrings::By_tapping_Agree_and_continue_you_agree_to_the_terms_privacy_and_rules(std::string_view terms, std::string_view privacy, std::string_view rules) {
+std::string ZKStrings::By_tapping_Agree_and_continue_you_agree_to_the_terms_privacy_and_rules(Text terms, Text privacy, Text rules) {
   return localizedString("By_tapping_Agree_and_continue_you_agree_to_the_terms_privacy_and_rules", "By tapping Agree and continue you agree to the %{terms}, %{privacy}, and %{rules}", std::nullopt, {{"terms", terms}, {"privacy", privacy}, {"rules", rules}});
 }
 
@@ -353,7 +353,7 @@ std::string ZKStrings::Camera_Access_Disabled() {
   return localizedString("Camera_Access_Disabled", "Camera Access Disabled", std::nullopt, {});
 }
 
-std::string ZKStrings::Can_retry_in_seconds(std::string_view seconds) {
+std::string ZKStrings::Can_retry_in_seconds(Text seconds) {
   return localizedString("Can_retry_in_seconds", "Can retry in %{seconds}", std::nullopt, {{"seconds", seconds}});
 }
 
@@ -369,7 +369,7 @@ std::string ZKStrings::Cashout() {
   return localizedString("Cashout", "Cashout", std::nullopt, {});
 }
 
-std::string ZKStrings::Cashout_amount(std::string_view amount) {
+std::string ZKStrings::Cashout_amount(Text amount) {
   return localizedString("Cashout_amount", "Cashout %{amount}", std::nullopt, {{"amount", amount}});
 }
 
@@ -441,7 +441,7 @@ std::string ZKStrings::Code() {
   return localizedString("Code", "Code", std::nullopt, {});
 }
 
-std::string ZKStrings::Code_sent_Retry_in_seconds(std::string_view seconds) {
+std::string ZKStrings::Code_sent_Retry_in_seconds(Text seconds) {
   return localizedString("Code_sent_Retry_in_seconds", "Code sent. Retry in %{seconds}", std::nullopt, {{"seconds", seconds}});
 }
 
@@ -457,7 +457,7 @@ std::string ZKStrings::coins() {
   return localizedString("coins", "coins", std::nullopt, {});
 }
 
-std::string ZKStrings::coinsPurchased_coins(std::string_view coinsPurchased) {
+std::string ZKStrings::coinsPurchased_coins(Text coinsPurchased) {
   return localizedString("coinsPurchased_coins", "+%{coinsPurchased} coins", std::nullopt, {{"coinsPurchased", coinsPurchased}});
 }
 
@@ -533,7 +533,7 @@ std::string ZKStrings::Connect_your_contacts_to_find_your_friends_on_ZK() {
   return localizedString("Connect_your_contacts_to_find_your_friends_on_ZK", "Connect your contacts to find your friends on ZK", std::nullopt, {});
 }
 
-std::string ZKStrings::contactCount_contacts_on_ZK(std::string_view contactCount, std::int64_t count) {
+std::string ZKStrings::contactCount_contacts_on_ZK(Text contactCount, std::int64_t count) {
   return localizedString("contactCount_contacts_on_ZK", "%{contactCount} contacts on ZK", count, {{"contactCount", contactCount}});
 }
 
@@ -565,7 +565,7 @@ std::string ZKStrings::Correct_Answer() {
   return localizedString("Correct_Answer", "Correct Answer", std::nullopt, {});
 }
 
-std::string ZKStrings::Correctly_answer_more_category_questions_to_unlock_this_badge(std::string_view category) {
+std::string ZKStrings::Correctly_answer_more_category_questions_to_unlock_this_badge(Text category) {
   return localizedString("Correctly_answer_more_category_questions_to_unlock_this_badge", "Correctly answer more %{category} questions to unlock this badge.", std::nullopt, {{"category", category}});
 }
 
@@ -573,7 +573,7 @@ std::string ZKStrings::Could_not_find_any_nearby_letters() {
   return localizedString("Could_not_find_any_nearby_letters", "Could not find any nearby letters!", std::nullopt, {});
 }
 
-std::string ZKStrings::count_Playing(std::string_view count) {
+std::string ZKStrings::count_Playing(Text count) {
   return localizedString("count_Playing", "%{count} Playing", std::nullopt, {{"count", count}});
 }
 
@@ -605,11 +605,11 @@ std::string ZKStrings::Days() {
   return localizedString("Days", "Days", std::nullopt, {});
 }
 
-std::string ZKStrings::days_day_streak_complete(std::string_view days) {
+std::string ZKStrings::days_day_streak_complete(Text days) {
   return localizedString("days_day_streak_complete", "%{days} day streak complete!", std::nullopt, {{"days", days}});
 }
 
-std::string ZKStrings::days_day_streak_Here_s_an_Extra_Life_for_your_next_game(std::string_view days) {
+std::string ZKStrings::days_day_streak_Here_s_an_Extra_Life_for_your_next_game(Text days) {
   return localizedString("days_day_streak_Here_s_an_Extra_Life_for_your_next_game", "*%{days}-day streak!* Here's an Extra Life for your next game.", std::nullopt, {{"days", days}});
 }
 
@@ -625,7 +625,7 @@ std::string ZKStrings::Delete_Avatar() {
   return localizedString("Delete_Avatar", "Delete Avatar", std::nullopt, {});
 }
 
-std::string ZKStrings::Disconnect_account(std::string_view account) {
+std::string ZKStrings::Disconnect_account(Text account) {
   return localizedString("Disconnect_account", "Disconnect %{account}", std::nullopt, {{"account", account}});
 }
 
@@ -641,7 +641,7 @@ std::string ZKStrings::Dislike() {
   return localizedString("Dislike", "Dislike", std::nullopt, {});
 }
 
-std::string ZKStrings::Do_you_want_to_unlink_your_account_account(std::string_view account) {
+std::string ZKStrings::Do_you_want_to_unlink_your_account_account(Text account) {
   return localizedString("Do_you_want_to_unlink_your_account_account", "Do you want to unlink your %{account} account?", std::nullopt, {{"account", account}});
 }
 
@@ -661,7 +661,7 @@ std::string ZKStrings::Donate() {
   return localizedString("Donate", "Donate", std::nullopt, {});
 }
 
-std::string ZKStrings::Donate_amount(std::string_view amount) {
+std::string ZKStrings::Donate_amount(Text amount) {
   return localizedString("Donate_amount", "Donate %{amount}", std::nullopt, {{"amount", amount}});
 }
 
@@ -693,7 +693,7 @@ std::string ZKStrings::Earn_a_special_reward_per_show_by_entering_referral_codes
   return localizedString("Earn_a_special_reward_per_show_by_entering_referral_codes_below", "Earn a special reward per show by entering referral codes below.", std::nullopt, {});
 }
 
-std::string ZKStrings::Earn_Erasers_by_playing_with_cost_players(std::string_view cost) {
+std::string ZKStrings::Earn_Erasers_by_playing_with_cost_players(Text cost) {
   return localizedString("Earn_Erasers_by_playing_with_cost_players", "Earn *Erasers* by playing with %{cost} players", std::nullopt, {{"cost", cost}});
 }
 
@@ -701,7 +701,7 @@ std::string ZKStrings::Earn_Power_Ups_when_you_refer_friends() {
   return localizedString("Earn_Power_Ups_when_you_refer_friends", "Earn Power Ups when you refer friends", std::nullopt, {});
 }
 
-std::string ZKStrings::Earned_date(std::string_view date) {
+std::string ZKStrings::Earned_date(Text date) {
   return localizedString("Earned_date", "Earned %{date}", std::nullopt, {{"date", date}});
 }
 
@@ -709,7 +709,7 @@ std::string ZKStrings::Earned_this_game() {
   return localizedString("Earned_this_game", "Earned this game", std::nullopt, {});
 }
 
-std::string ZKStrings::earnedPoints_points(std::string_view earnedPoints) {
+std::string ZKStrings::earnedPoints_points(Text earnedPoints) {
   return localizedString("earnedPoints_points", "+%{earnedPoints} points", std::nullopt, {{"earnedPoints", earnedPoints}});
 }
 
@@ -769,7 +769,7 @@ std::string ZKStrings::Enter_a_Referral_Code() {
   return localizedString("Enter_a_Referral_Code", "Enter a Referral Code", std::nullopt, {});
 }
 
-std::string ZKStrings::Enter_for_prize(std::string_view prize) {
+std::string ZKStrings::Enter_for_prize(Text prize) {
   return localizedString("Enter_for_prize", "Enter for %{prize}", std::nullopt, {{"prize", prize}});
 }
 
@@ -781,7 +781,7 @@ std::string ZKStrings::Enter_Referral_Codes() {
   return localizedString("Enter_Referral_Codes", "Enter Referral Codes", std::nullopt, {});
 }
 
-std::string ZKStrings::Enter_the_verification_code_sent_to_phoneNumber(std::string_view phoneNumber) {
+std::string ZKStrings::Enter_the_verification_code_sent_to_phoneNumber(Text phoneNumber) {
   return localizedString("Enter_the_verification_code_sent_to_phoneNumber", "Enter the verification code sent to %{phoneNumber}", std::nullopt, {{"phoneNumber", phoneNumber}});
 }
 
@@ -853,7 +853,7 @@ std::string ZKStrings::EU_Privacy_Policy() {
   return localizedString("EU_Privacy_Policy", "EU Privacy Policy", std::nullopt, {});
 }
 
-std::string ZKStrings::Expires_in_time(std::string_view time) {
+std::string ZKStrings::Expires_in_time(Text time) {
   return localizedString("Expires_in_time", "Expires in %{time}", std::nullopt, {{"time", time}});
 }
 
@@ -953,19 +953,19 @@ std::string ZKStrings::Found_an_ZK_Words_player_nearby_You_ve_unlocked_the_game(
   return localizedString("Found_an_ZK_Words_player_nearby_You_ve_unlocked_the_game", "Found an ZK Words player nearby! You've unlocked the game.", std::nullopt, {});
 }
 
-std::string ZKStrings::Found_name1_and_name2(std::string_view name1, std::string_view name2) {
+std::string ZKStrings::Found_name1_and_name2(Text name1, Text name2) {
   return localizedString("Found_name1_and_name2", "Found *%{name1}* and *%{name2}*", std::nullopt, {{"name1", name1}, {"name2", name2}});
 }
 
-std::string ZKStrings::Found_name1_and_name2_nearby(std::string_view name1, std::string_view name2) {
+std::string ZKStrings::Found_name1_and_name2_nearby(Text name1, Text name2) {
   return localizedString("Found_name1_and_name2_nearby", "Found *%{name1}* and *%{name2}* nearby", std::nullopt, {{"name1", name1}, {"name2", name2}});
 }
 
-std::string ZKStrings::Found_name_nearby(std::string_view name) {
+std::string ZKStrings::Found_name_nearby(Text name) {
   return localizedString("Found_name_nearby", "Found *%{name}* nearby", std::nullopt, {{"name", name}});
 }
 
-std::string ZKStrings::Found_username_nearby_looking_for_remaining_more_players(std::string_view username, std::string_view remaining, std::int64_t count) {
+std::string ZKStrings::Found_username_nearby_looking_for_remaining_more_players(Text username, Text remaining, std::int64_t count) {
   return localizedString("Found_username_nearby_looking_for_remaining_more_players", "Found *%{username}* nearby, looking for %{remaining} more players", count, {{"username", username}, {"remaining", remaining}});
 }
 
@@ -977,7 +977,7 @@ std::string ZKStrings::Free_Pass() {
   return localizedString("Free_Pass", "Free Pass", std::nullopt, {});
 }
 
-std::string ZKStrings::Free_Pass_through_Q_level(std::string_view level) {
+std::string ZKStrings::Free_Pass_through_Q_level(Text level) {
   return localizedString("Free_Pass_through_Q_level", "Free Pass through Q%{level}", std::nullopt, {{"level", level}});
 }
 
@@ -985,15 +985,15 @@ std::string ZKStrings::Friend_Requests() {
   return localizedString("Friend_Requests", "Friend Requests", std::nullopt, {});
 }
 
-std::string ZKStrings::friendCount_friends(std::string_view friendCount, std::int64_t count) {
+std::string ZKStrings::friendCount_friends(Text friendCount, std::int64_t count) {
   return localizedString("friendCount_friends", "%{friendCount} friends", count, {{"friendCount", friendCount}});
 }
 
-std::string ZKStrings::friendCount_friends_still_in(std::string_view friendCount, std::int64_t count) {
+std::string ZKStrings::friendCount_friends_still_in(Text friendCount, std::int64_t count) {
   return localizedString("friendCount_friends_still_in", "%{friendCount} friends still in", count, {{"friendCount", friendCount}});
 }
 
-std::string ZKStrings::friendRequestCount_friend_requests(std::string_view friendRequestCount, std::int64_t count) {
+std::string ZKStrings::friendRequestCount_friend_requests(Text friendRequestCount, std::int64_t count) {
   return localizedString("friendRequestCount_friend_requests", "%{friendRequestCount} friend requests", count, {{"friendRequestCount", friendRequestCount}});
 }
 
@@ -1073,11 +1073,11 @@ std::string ZKStrings::Get_Power_Ups_to_help_you_win() {
   return localizedString("Get_Power_Ups_to_help_you_win", "Get Power Ups to help you win!", std::nullopt, {});
 }
 
-std::string ZKStrings::Get_product(std::string_view product) {
+std::string ZKStrings::Get_product(Text product) {
   return localizedString("Get_product", "Get %{product}", std::nullopt, {{"product", product}});
 }
 
-std::string ZKStrings::Get_productName(std::string_view productName) {
+std::string ZKStrings::Get_productName(Text productName) {
   return localizedString("Get_productName", "Get %{productName}", std::nullopt, {{"productName", productName}});
 }
 
@@ -1197,47 +1197,47 @@ std::string ZKStrings::I_can_t_believe_I_got_this_question_wrong_on_zktrivia() {
   return localizedString("I_can_t_believe_I_got_this_question_wrong_on_zktrivia", "I can’t believe I got this question wrong on @zktrivia!", std::nullopt, {});
 }
 
-std::string ZKStrings::I_just_got_round_questions_correct_on_ZK_Trivia_That_s_a_new_record_for_me_You_should_play_too_Use_m(std::string_view round, std::string_view username) {
+std::string ZKStrings::I_just_got_round_questions_correct_on_ZK_Trivia_That_s_a_new_record_for_me_You_should_play_too_Use_m(Text round, Text username) {
   return localizedString("I_just_got_round_questions_correct_on_ZK_Trivia_That_s_a_new_record_for_me_You_should_play_too_Use_m", "I just got %{round} questions correct on ZK Trivia! That’s a new record for me! You should play too. Use my code \"%{username}\" to sign up: https://zktrivia.example", std::nullopt, {{"round", round}, {"username", username}});
 }
 
-std::string ZKStrings::I_just_got_round_questions_correct_on_zktrivia_That_s_a_new_record_for_me_You_should_play_too_Use_my(std::string_view round, std::string_view username) {
+std::string ZKStrings::I_just_got_round_questions_correct_on_zktrivia_That_s_a_new_record_for_me_You_should_play_too_Use_my(Text round, Text username) {
   return localizedString("I_just_got_round_questions_correct_on_zktrivia_That_s_a_new_record_for_me_You_should_play_too_Use_my", "I just got %{round} questions correct on @zktrivia! That’s a new record for me! You should play too. Use my code \"%{username}\" to sign up: https://zktrivia.example", std::nullopt, {{"round", round}, {"username", username}});
 }
 
-std::string ZKStrings::I_just_unlocked_the_badge_badge_on_ZK_Trivia_Sign_up_at_https_zktrivia_example_with_my_code_code_and(std::string_view badge, std::string_view code) {
+std::string ZKStrings::I_just_unlocked_the_badge_badge_on_ZK_Trivia_Sign_up_at_https_zktrivia_example_with_my_code_code_and(Text badge, Text code) {
   return localizedString("I_just_unlocked_the_badge_badge_on_ZK_Trivia_Sign_up_at_https_zktrivia_example_with_my_code_code_and", "I just unlocked the %{badge} badge on ZK Trivia! Sign up at https://zktrivia.example with my code \"%{code}\" and start your own collection.", std::nullopt, {{"badge", badge}, {"code", code}});
 }
 
-std::string ZKStrings::I_just_unlocked_the_badge_badge_on_zktrivia_Sign_up_at_https_zktrivia_example_with_my_code_code_and_(std::string_view badge, std::string_view code) {
+std::string ZKStrings::I_just_unlocked_the_badge_badge_on_zktrivia_Sign_up_at_https_zktrivia_example_with_my_code_code_and_(Text badge, Text code) {
   return localizedString("I_just_unlocked_the_badge_badge_on_zktrivia_Sign_up_at_https_zktrivia_example_with_my_code_code_and_", "I just unlocked the %{badge} badge on @zktrivia! Sign up at https://zktrivia.example with my code \"%{code}\" and start your own collection.", std::nullopt, {{"badge", badge}, {"code", code}});
 }
 
-std::string ZKStrings::I_just_won_prize_on_twitterHandle_You_should_play_too_Use_my_code_username(std::string_view prize, std::string_view twitterHandle, std::string_view username) {
+std::string ZKStrings::I_just_won_prize_on_twitterHandle_You_should_play_too_Use_my_code_username(Text prize, Text twitterHandle, Text username) {
   return localizedString("I_just_won_prize_on_twitterHandle_You_should_play_too_Use_my_code_username", "I just won %{prize} on %{twitterHandle}! You should play too. Use my code \"%{username}\"", std::nullopt, {{"prize", prize}, {"twitterHandle", twitterHandle}, {"username", username}});
 }
 
-std::string ZKStrings::I_just_won_prize_playing_gameName_Sign_up_at_https_zktrivia_example_with_my_code_username_and_play_f(std::string_view prize, std::string_view gameName, std::string_view username) {
+std::string ZKStrings::I_just_won_prize_playing_gameName_Sign_up_at_https_zktrivia_example_with_my_code_username_and_play_f(Text prize, Text gameName, Text username) {
   return localizedString("I_just_won_prize_playing_gameName_Sign_up_at_https_zktrivia_example_with_my_code_username_and_play_f", "I just won %{prize} playing %{gameName}! Sign up at https://zktrivia.example with my code \"%{username}\" and play for the next prize.", std::nullopt, {{"prize", prize}, {"gameName", gameName}, {"username", username}});
 }
 
-std::string ZKStrings::I_just_won_prize_playing_ZK_Trivia_Play_the_next_game_with_me_https_zktrivia_example(std::string_view prize) {
+std::string ZKStrings::I_just_won_prize_playing_ZK_Trivia_Play_the_next_game_with_me_https_zktrivia_example(Text prize) {
   return localizedString("I_just_won_prize_playing_ZK_Trivia_Play_the_next_game_with_me_https_zktrivia_example", "I just won %{prize} playing ZK Trivia! Play the next game with me: https://zktrivia.example", std::nullopt, {{"prize", prize}});
 }
 
-std::string ZKStrings::I_just_won_prize_playing_ZK_Trivia_Sign_up_at_https_zktrivia_example_with_my_code_username_and_play_(std::string_view prize, std::string_view username) {
+std::string ZKStrings::I_just_won_prize_playing_ZK_Trivia_Sign_up_at_https_zktrivia_example_with_my_code_username_and_play_(Text prize, Text username) {
   return localizedString("I_just_won_prize_playing_ZK_Trivia_Sign_up_at_https_zktrivia_example_with_my_code_username_and_play_", "I just won %{prize} playing ZK Trivia! Sign up at https://zktrivia.example with my code \"%{username}\" and play for the next prize.", std::nullopt, {{"prize", prize}, {"username", username}});
 }
 
-std::string ZKStrings::I_just_won_prize_playing_zktrivia_Sign_up_at_https_zktrivia_example_with_my_code_username_and_play_f(std::string_view prize, std::string_view username) {
+std::string ZKStrings::I_just_won_prize_playing_zktrivia_Sign_up_at_https_zktrivia_example_with_my_code_username_and_play_f(Text prize, Text username) {
   return localizedString("I_just_won_prize_playing_zktrivia_Sign_up_at_https_zktrivia_example_with_my_code_username_and_play_f", "I just won %{prize} playing @zktrivia! Sign up at https://zktrivia.example with my code \"%{username}\" and play for the next prize.", std::nullopt, {{"prize", prize}, {"username", username}});
 }
 
-std::string ZKStrings::I_m_playing_a_game_called_appName_You_should_play_too(std::string_view appName) {
+std::string ZKStrings::I_m_playing_a_game_called_appName_You_should_play_too(Text appName) {
   return localizedString("I_m_playing_a_game_called_appName_You_should_play_too", "I'm playing a game called %{appName}! You should play too.", std::nullopt, {{"appName", appName}});
 }
 
-std::string ZKStrings::I_won_prize_playing_n_zkNameVariant(std::string_view prize, std::string_view zkNameVariant) {
+std::string ZKStrings::I_won_prize_playing_n_zkNameVariant(Text prize, Text zkNameVariant) {
   return localizedString("I_won_prize_playing_n_zkNameVariant", "I won %{prize} playing\n%{zkNameVariant}", std::nullopt, {{"prize", prize}, {"zkNameVariant", zkNameVariant}});
 }
 
@@ -1317,7 +1317,7 @@ std::string ZKStrings::Join() {
   return localizedString("Join", "Join", std::nullopt, {});
 }
 
-std::string ZKStrings::Join_me_on_ZK_Trivia_Use_my_code_username_to_sign_up_https_zktrivia_example(std::string_view username) {
+std::string ZKStrings::Join_me_on_ZK_Trivia_Use_my_code_username_to_sign_up_https_zktrivia_example(Text username) {
   return localizedString("Join_me_on_ZK_Trivia_Use_my_code_username_to_sign_up_https_zktrivia_example", "Join me on ZK Trivia! Use my code \"%{username}\" to sign up: https://zktrivia.example", std::nullopt, {{"username", username}});
 }
 
@@ -1329,7 +1329,7 @@ std::string ZKStrings::Keep_playing() {
   return localizedString("Keep_playing", "Keep playing?", std::nullopt, {});
 }
 
-std::string ZKStrings::Keep_playing_for_amount(std::string_view amount) {
+std::string ZKStrings::Keep_playing_for_amount(Text amount) {
   return localizedString("Keep_playing_for_amount", "Keep playing for *%{amount}*!", std::nullopt, {{"amount", amount}});
 }
 
@@ -1341,7 +1341,7 @@ std::string ZKStrings::Kick() {
   return localizedString("Kick", "Kick", std::nullopt, {});
 }
 
-std::string ZKStrings::Kicking_username_failed(std::string_view username) {
+std::string ZKStrings::Kicking_username_failed(Text username) {
   return localizedString("Kicking_username_failed", "Kicking %{username} failed", std::nullopt, {{"username", username}});
 }
 
@@ -1373,15 +1373,15 @@ std::string ZKStrings::Level() {
   return localizedString("Level", "Level", std::nullopt, {});
 }
 
-std::string ZKStrings::level_Bonus_Strikes(std::string_view level) {
+std::string ZKStrings::level_Bonus_Strikes(Text level) {
   return localizedString("level_Bonus_Strikes", "%{level} Bonus Strikes", std::nullopt, {{"level", level}});
 }
 
-std::string ZKStrings::Level_level_rewards(std::string_view level) {
+std::string ZKStrings::Level_level_rewards(Text level) {
   return localizedString("Level_level_rewards", "Level %{level} rewards", std::nullopt, {{"level", level}});
 }
 
-std::string ZKStrings::Level_levelNumber(std::string_view levelNumber) {
+std::string ZKStrings::Level_levelNumber(Text levelNumber) {
   return localizedString("Level_levelNumber", "Level %{levelNumber}", std::nullopt, {{"levelNumber", levelNumber}});
 }
 
@@ -1469,7 +1469,7 @@ std::string ZKStrings::Love_ZK() {
   return localizedString("Love_ZK", "Love ZK?", std::nullopt, {});
 }
 
-std::string ZKStrings::messageCount_new_messages(std::string_view messageCount, std::int64_t count) {
+std::string ZKStrings::messageCount_new_messages(Text messageCount, std::int64_t count) {
   return localizedString("messageCount_new_messages", "%{messageCount} new messages", count, {{"messageCount", messageCount}});
 }
 
@@ -1477,7 +1477,7 @@ std::string ZKStrings::Mini_games() {
   return localizedString("Mini_games", "Mini-games", std::nullopt, {});
 }
 
-std::string ZKStrings::minPoints_maxPoints_points(std::string_view minPoints, std::string_view maxPoints) {
+std::string ZKStrings::minPoints_maxPoints_points(Text minPoints, Text maxPoints) {
   return localizedString("minPoints_maxPoints_points", "%{minPoints}-%{maxPoints} points", std::nullopt, {{"minPoints", minPoints}, {"maxPoints", maxPoints}});
 }
 
@@ -1505,7 +1505,7 @@ std::string ZKStrings::Music() {
   return localizedString("Music", "Music", std::nullopt, {});
 }
 
-std::string ZKStrings::My_new_record_on_socialNetwork(std::string_view socialNetwork) {
+std::string ZKStrings::My_new_record_on_socialNetwork(Text socialNetwork) {
   return localizedString("My_new_record_on_socialNetwork", "My new record on %{socialNetwork}", std::nullopt, {{"socialNetwork", socialNetwork}});
 }
 
@@ -1517,7 +1517,7 @@ std::string ZKStrings::Nature() {
   return localizedString("Nature", "Nature", std::nullopt, {});
 }
 
-std::string ZKStrings::nearbyCount_people_nearby(std::string_view nearbyCount, std::int64_t count) {
+std::string ZKStrings::nearbyCount_people_nearby(Text nearbyCount, std::int64_t count) {
   return localizedString("nearbyCount_people_nearby", "%{nearbyCount} people nearby", count, {{"nearbyCount", nearbyCount}});
 }
 
@@ -1541,23 +1541,23 @@ std::string ZKStrings::Next_Game() {
   return localizedString("Next_Game", "Next Game", std::nullopt, {});
 }
 
-std::string ZKStrings::Next_Game_in_timer(std::string_view timer) {
+std::string ZKStrings::Next_Game_in_timer(Text timer) {
   return localizedString("Next_Game_in_timer", "Next Game in %{timer}", std::nullopt, {{"timer", timer}});
 }
 
-std::string ZKStrings::Next_Game_showTitle(std::string_view showTitle) {
+std::string ZKStrings::Next_Game_showTitle(Text showTitle) {
   return localizedString("Next_Game_showTitle", "Next Game: %{showTitle}", std::nullopt, {{"showTitle", showTitle}});
 }
 
-std::string ZKStrings::Next_prize_in_questionCount_questions(std::string_view questionCount, std::int64_t count) {
+std::string ZKStrings::Next_prize_in_questionCount_questions(Text questionCount, std::int64_t count) {
   return localizedString("Next_prize_in_questionCount_questions", "Next prize in %{questionCount} questions", count, {{"questionCount", questionCount}});
 }
 
-std::string ZKStrings::Next_prize_n_in_questionCount_questions(std::string_view questionCount, std::int64_t count) {
+std::string ZKStrings::Next_prize_n_in_questionCount_questions(Text questionCount, std::int64_t count) {
   return localizedString("Next_prize_n_in_questionCount_questions", "*Next prize*\nin %{questionCount} questions", count, {{"questionCount", questionCount}});
 }
 
-std::string ZKStrings::Next_Round_in_time(std::string_view time) {
+std::string ZKStrings::Next_Round_in_time(Text time) {
   return localizedString("Next_Round_in_time", "Next Round in %{time}", std::nullopt, {{"time", time}});
 }
 
@@ -1613,11 +1613,11 @@ std::string ZKStrings::Now_playing_in_Rewards_Mode() {
   return localizedString("Now_playing_in_Rewards_Mode", "Now playing in Rewards Mode", std::nullopt, {});
 }
 
-std::string ZKStrings::number_correct(std::string_view number) {
+std::string ZKStrings::number_correct(Text number) {
   return localizedString("number_correct", "%{number} correct", std::nullopt, {{"number", number}});
 }
 
-std::string ZKStrings::number_incorrect(std::string_view number) {
+std::string ZKStrings::number_incorrect(Text number) {
   return localizedString("number_incorrect", "%{number} incorrect", std::nullopt, {{"number", number}});
 }
 
@@ -1633,7 +1633,7 @@ std::string ZKStrings::Okay_we_ll_call_you_with_the_verification_code() {
   return localizedString("Okay_we_ll_call_you_with_the_verification_code", "Okay, we'll call you with the verification code", std::nullopt, {});
 }
 
-std::string ZKStrings::Okay_we_ll_resend_the_verification_code_to_phoneNumber(std::string_view phoneNumber) {
+std::string ZKStrings::Okay_we_ll_resend_the_verification_code_to_phoneNumber(Text phoneNumber) {
   return localizedString("Okay_we_ll_resend_the_verification_code_to_phoneNumber", "Okay, we'll resend the verification code to %{phoneNumber}", std::nullopt, {{"phoneNumber", phoneNumber}});
 }
 
@@ -1669,7 +1669,7 @@ std::string ZKStrings::or_() {
   return localizedString("or", "or", std::nullopt, {});
 }
 
-std::string ZKStrings::or_sign_in_via_via(std::string_view via) {
+std::string ZKStrings::or_sign_in_via_via(Text via) {
   return localizedString("or_sign_in_via_via", "or sign in via %{via}", std::nullopt, {{"via", via}});
 }
 
@@ -1681,7 +1681,7 @@ std::string ZKStrings::Out_of_time() {
   return localizedString("Out_of_time", "Out of time!", std::nullopt, {});
 }
 
-std::string ZKStrings::P_puzzleNumber_of_puzzleCount(std::string_view puzzleNumber, std::string_view puzzleCount) {
+std::string ZKStrings::P_puzzleNumber_of_puzzleCount(Text puzzleNumber, Text puzzleCount) {
   return localizedString("P_puzzleNumber_of_puzzleCount", "P%{puzzleNumber} of %{puzzleCount}", std::nullopt, {{"puzzleNumber", puzzleNumber}, {"puzzleCount", puzzleCount}});
 }
 
@@ -1705,7 +1705,7 @@ std::string ZKStrings::People_nearby() {
   return localizedString("People_nearby", "People nearby", std::nullopt, {});
 }
 
-std::string ZKStrings::percent_complete(std::string_view percent) {
+std::string ZKStrings::percent_complete(Text percent) {
   return localizedString("percent_complete", "%{percent} complete", std::nullopt, {{"percent", percent}});
 }
 
@@ -1737,11 +1737,11 @@ std::string ZKStrings::Play_again_now_for() {
   return localizedString("Play_again_now_for", "Play again now for", std::nullopt, {});
 }
 
-std::string ZKStrings::Play_days_more_days_in_a_row(std::string_view days, std::int64_t count) {
+std::string ZKStrings::Play_days_more_days_in_a_row(Text days, std::int64_t count) {
   return localizedString("Play_days_more_days_in_a_row", "Play %{days} more days in a row", count, {{"days", days}});
 }
 
-std::string ZKStrings::Play_days_more_days_in_a_row_to_earn_an_Extra_Life(std::string_view days, std::int64_t count) {
+std::string ZKStrings::Play_days_more_days_in_a_row_to_earn_an_Extra_Life(Text days, std::int64_t count) {
   return localizedString("Play_days_more_days_in_a_row_to_earn_an_Extra_Life", "Play %{days} more days in a row to earn an Extra Life!", count, {{"days", days}});
 }
 
@@ -1749,15 +1749,15 @@ std::string ZKStrings::Play_for_points() {
   return localizedString("Play_for_points", "Play for points", std::nullopt, {});
 }
 
-std::string ZKStrings::Play_game_now_with(std::string_view game) {
+std::string ZKStrings::Play_game_now_with(Text game) {
   return localizedString("Play_game_now_with", "Play %{game} now with", std::nullopt, {{"game", game}});
 }
 
-std::string ZKStrings::Play_gameCount_games(std::string_view gameCount, std::int64_t count) {
+std::string ZKStrings::Play_gameCount_games(Text gameCount, std::int64_t count) {
   return localizedString("Play_gameCount_games", "Play %{gameCount} games", count, {{"gameCount", gameCount}});
 }
 
-std::string ZKStrings::Play_gameName_with_me_Use_my_code_username_to_sign_up_https_zktrivia_example(std::string_view gameName, std::string_view username) {
+std::string ZKStrings::Play_gameName_with_me_Use_my_code_username_to_sign_up_https_zktrivia_example(Text gameName, Text username) {
   return localizedString("Play_gameName_with_me_Use_my_code_username_to_sign_up_https_zktrivia_example", "Play %{gameName} with me! Use my code \"%{username}\" to sign up: https://zktrivia.example", std::nullopt, {{"gameName", gameName}, {"username", username}});
 }
 
@@ -1769,11 +1769,11 @@ std::string ZKStrings::Play_ZK_Trivia_Sports() {
   return localizedString("Play_ZK_Trivia_Sports", "Play ZK Trivia & Sports", std::nullopt, {});
 }
 
-std::string ZKStrings::Play_live_game_shows_and_win_cash_prizes_with_me_on_gameName_Use_my_code_username_to_sign_up_downloa(std::string_view gameName, std::string_view username, std::string_view downloadUrl) {
+std::string ZKStrings::Play_live_game_shows_and_win_cash_prizes_with_me_on_gameName_Use_my_code_username_to_sign_up_downloa(Text gameName, Text username, Text downloadUrl) {
   return localizedString("Play_live_game_shows_and_win_cash_prizes_with_me_on_gameName_Use_my_code_username_to_sign_up_downloa", "Play live game shows and win cash prizes with me on %{gameName}. Use my code '%{username}' to sign up! %{downloadUrl}", std::nullopt, {{"gameName", gameName}, {"username", username}, {"downloadUrl", downloadUrl}});
 }
 
-std::string ZKStrings::Play_live_game_shows_with_me_on_ZK_Trivia_Sign_up_at_https_zktrivia_example_with_my_code_username_an(std::string_view username) {
+std::string ZKStrings::Play_live_game_shows_with_me_on_ZK_Trivia_Sign_up_at_https_zktrivia_example_with_my_code_username_an(Text username) {
   return localizedString("Play_live_game_shows_with_me_on_ZK_Trivia_Sign_up_at_https_zktrivia_example_with_my_code_username_an", "Play live game shows with me on ZK Trivia! Sign up at https://zktrivia.example with my code \"%{username}\" and win cash prizes.", std::nullopt, {{"username", username}});
 }
 
@@ -1785,19 +1785,19 @@ std::string ZKStrings::Play_warm_up_game() {
   return localizedString("Play_warm_up_game", "Play warm up game", std::nullopt, {});
 }
 
-std::string ZKStrings::Play_with_cost_nearby_players_and_you_ll_each_earn_an_Eraser(std::string_view cost) {
+std::string ZKStrings::Play_with_cost_nearby_players_and_you_ll_each_earn_an_Eraser(Text cost) {
   return localizedString("Play_with_cost_nearby_players_and_you_ll_each_earn_an_Eraser", "Play with %{cost} nearby players and you'll each earn an Eraser", std::nullopt, {{"cost", cost}});
 }
 
-std::string ZKStrings::players_in_VIP_Prize(std::string_view players) {
+std::string ZKStrings::players_in_VIP_Prize(Text players) {
   return localizedString("players_in_VIP_Prize", "%{players} in VIP Prize", std::nullopt, {{"players", players}});
 }
 
-std::string ZKStrings::players_remain(std::string_view players) {
+std::string ZKStrings::players_remain(Text players) {
   return localizedString("players_remain", "%{players} remain", std::nullopt, {{"players", players}});
 }
 
-std::string ZKStrings::playersCount_players(std::string_view playersCount, std::int64_t count) {
+std::string ZKStrings::playersCount_players(Text playersCount, std::int64_t count) {
   return localizedString("playersCount_players", "%{playersCount} players", count, {{"playersCount", playersCount}});
 }
 
@@ -1829,7 +1829,7 @@ std::string ZKStrings::Please_enter_a_valid_verification_code() {
   return localizedString("Please_enter_a_valid_verification_code", "Please enter a valid verification code", std::nullopt, {});
 }
 
-std::string ZKStrings::Please_enter_the_verification_code_sent_to_phoneNumber(std::string_view phoneNumber) {
+std::string ZKStrings::Please_enter_the_verification_code_sent_to_phoneNumber(Text phoneNumber) {
   return localizedString("Please_enter_the_verification_code_sent_to_phoneNumber", "Please enter the verification code sent to %{phoneNumber}", std::nullopt, {{"phoneNumber", phoneNumber}});
 }
 
@@ -1849,7 +1849,7 @@ std::string ZKStrings::Please_try_the_next_game() {
   return localizedString("Please_try_the_next_game", "Please try the next game", std::nullopt, {});
 }
 
-std::string ZKStrings::Please_try_the_next_game_gameInfo(std::string_view gameInfo) {
+std::string ZKStrings::Please_try_the_next_game_gameInfo(Text gameInfo) {
   return localizedString("Please_try_the_next_game_gameInfo", "Please try the next game: %{gameInfo}", std::nullopt, {{"gameInfo", gameInfo}});
 }
 
@@ -1869,7 +1869,7 @@ std::string ZKStrings::Point_Multipliers(std::int64_t count) {
   return localizedString("Point_Multipliers", "Point Multipliers", count, {});
 }
 
-std::string ZKStrings::pointCount_pts_away_from_Level_level(std::string_view pointCount, std::string_view level, std::int64_t count) {
+std::string ZKStrings::pointCount_pts_away_from_Level_level(Text pointCount, Text level, std::int64_t count) {
   return localizedString("pointCount_pts_away_from_Level_level", "%{pointCount} pts away from Level %{level}", count, {{"pointCount", pointCount}, {"level", level}});
 }
 
@@ -1885,11 +1885,11 @@ std::string ZKStrings::Points_on_this_game() {
   return localizedString("Points_on_this_game", "Points on this game", std::nullopt, {});
 }
 
-std::string ZKStrings::points_points(std::string_view points) {
+std::string ZKStrings::points_points(Text points) {
   return localizedString("points_points", "%{points} points", std::nullopt, {{"points", points}});
 }
 
-std::string ZKStrings::pointsMultiplier_x_Points(std::string_view pointsMultiplier) {
+std::string ZKStrings::pointsMultiplier_x_Points(Text pointsMultiplier) {
   return localizedString("pointsMultiplier_x_Points", "%{pointsMultiplier}x Points", std::nullopt, {{"pointsMultiplier", pointsMultiplier}});
 }
 
@@ -1913,7 +1913,7 @@ std::string ZKStrings::Prize() {
   return localizedString("Prize", "Prize", std::nullopt, {});
 }
 
-std::string ZKStrings::prizeAmount_prize(std::string_view prizeAmount) {
+std::string ZKStrings::prizeAmount_prize(Text prizeAmount) {
   return localizedString("prizeAmount_prize", "%{prizeAmount} prize", std::nullopt, {{"prizeAmount", prizeAmount}});
 }
 
@@ -1925,7 +1925,7 @@ std::string ZKStrings::Pull_down_to_leave_the_game() {
   return localizedString("Pull_down_to_leave_the_game", "Pull down to leave the game", std::nullopt, {});
 }
 
-std::string ZKStrings::Puzzle_puzzleNumber(std::string_view puzzleNumber) {
+std::string ZKStrings::Puzzle_puzzleNumber(Text puzzleNumber) {
   return localizedString("Puzzle_puzzleNumber", "Puzzle %{puzzleNumber}", std::nullopt, {{"puzzleNumber", puzzleNumber}});
 }
 
@@ -1933,7 +1933,7 @@ std::string ZKStrings::Q1_is_about_to_start() {
   return localizedString("Q1_is_about_to_start", "Q1 is about to start!", std::nullopt, {});
 }
 
-std::string ZKStrings::Q_questionNumber_of_questionCount(std::string_view questionNumber, std::string_view questionCount) {
+std::string ZKStrings::Q_questionNumber_of_questionCount(Text questionNumber, Text questionCount) {
   return localizedString("Q_questionNumber_of_questionCount", "Q%{questionNumber} of %{questionCount}", std::nullopt, {{"questionNumber", questionNumber}, {"questionCount", questionCount}});
 }
 
@@ -1941,19 +1941,19 @@ std::string ZKStrings::Question() {
   return localizedString("Question", "Question", std::nullopt, {});
 }
 
-std::string ZKStrings::questionNumber_of_questionCount(std::string_view questionNumber, std::string_view questionCount) {
+std::string ZKStrings::questionNumber_of_questionCount(Text questionNumber, Text questionCount) {
   return localizedString("questionNumber_of_questionCount", "%{questionNumber} of %{questionCount}", std::nullopt, {{"questionNumber", questionNumber}, {"questionCount", questionCount}});
 }
 
-std::string ZKStrings::questions_n_players_remain(std::string_view questions, std::string_view players) {
+std::string ZKStrings::questions_n_players_remain(Text questions, Text players) {
   return localizedString("questions_n_players_remain", "%{questions} &\n%{players} remain", std::nullopt, {{"questions", questions}, {"players", players}});
 }
 
-std::string ZKStrings::questionsCount_questions(std::string_view questionsCount, std::int64_t count) {
+std::string ZKStrings::questionsCount_questions(Text questionsCount, std::int64_t count) {
   return localizedString("questionsCount_questions", "%{questionsCount} questions", count, {{"questionsCount", questionsCount}});
 }
 
-std::string ZKStrings::R_roundNumber_of_roundCount(std::string_view roundNumber, std::string_view roundCount) {
+std::string ZKStrings::R_roundNumber_of_roundCount(Text roundNumber, Text roundCount) {
   return localizedString("R_roundNumber_of_roundCount", "R%{roundNumber} of %{roundCount}", std::nullopt, {{"roundNumber", roundNumber}, {"roundCount", roundCount}});
 }
 
@@ -1969,7 +1969,7 @@ std::string ZKStrings::Recent_Wins() {
   return localizedString("Recent_Wins", "Recent Wins", std::nullopt, {});
 }
 
-std::string ZKStrings::recommendedCount_recommended_friends(std::string_view recommendedCount, std::int64_t count) {
+std::string ZKStrings::recommendedCount_recommended_friends(Text recommendedCount, std::int64_t count) {
   return localizedString("recommendedCount_recommended_friends", "%{recommendedCount} recommended friends", count, {{"recommendedCount", recommendedCount}});
 }
 
@@ -2001,7 +2001,7 @@ std::string ZKStrings::Referral_Codes() {
   return localizedString("Referral_Codes", "Referral Codes", std::nullopt, {});
 }
 
-std::string ZKStrings::referralCount_referrals_left(std::string_view referralCount, std::int64_t count) {
+std::string ZKStrings::referralCount_referrals_left(Text referralCount, std::int64_t count) {
   return localizedString("referralCount_referrals_left", "%{referralCount} referrals left", count, {{"referralCount", referralCount}});
 }
 
@@ -2053,7 +2053,7 @@ std::string ZKStrings::Resend_code() {
   return localizedString("Resend_code", "Resend code", std::nullopt, {});
 }
 
-std::string ZKStrings::Resend_code_in_timeLeft(std::string_view timeLeft) {
+std::string ZKStrings::Resend_code_in_timeLeft(Text timeLeft) {
   return localizedString("Resend_code_in_timeLeft", "Resend code in %{timeLeft}", std::nullopt, {{"timeLeft", timeLeft}});
 }
 
@@ -2097,11 +2097,11 @@ std::string ZKStrings::Round_1_is_about_to_start() {
   return localizedString("Round_1_is_about_to_start", "Round 1 is about to start!", std::nullopt, {});
 }
 
-std::string ZKStrings::Round_roundNumber(std::string_view roundNumber) {
+std::string ZKStrings::Round_roundNumber(Text roundNumber) {
   return localizedString("Round_roundNumber", "Round %{roundNumber}", std::nullopt, {{"roundNumber", roundNumber}});
 }
 
-std::string ZKStrings::Round_roundNumber_Results(std::string_view roundNumber) {
+std::string ZKStrings::Round_roundNumber_Results(Text roundNumber) {
   return localizedString("Round_roundNumber_Results", "Round %{roundNumber} Results", std::nullopt, {{"roundNumber", roundNumber}});
 }
 
@@ -2137,11 +2137,11 @@ std::string ZKStrings::Search_ZK_users() {
   return localizedString("Search_ZK_users", "Search ZK users", std::nullopt, {});
 }
 
-std::string ZKStrings::Search_results_for_searchTerm(std::string_view searchTerm) {
+std::string ZKStrings::Search_results_for_searchTerm(Text searchTerm) {
   return localizedString("Search_results_for_searchTerm", "Search results for \"%{searchTerm}\"", std::nullopt, {{"searchTerm", searchTerm}});
 }
 
-std::string ZKStrings::Searching_for_cost_nearby_players_to_collect_an_Eraser_power_up(std::string_view cost, std::int64_t count) {
+std::string ZKStrings::Searching_for_cost_nearby_players_to_collect_an_Eraser_power_up(Text cost, std::int64_t count) {
   return localizedString("Searching_for_cost_nearby_players_to_collect_an_Eraser_power_up", "Searching for %{cost} nearby players to collect an *Eraser* power up", count, {{"cost", cost}});
 }
 
@@ -2197,7 +2197,7 @@ std::string ZKStrings::Share_code() {
   return localizedString("Share_code", "Share code", std::nullopt, {});
 }
 
-std::string ZKStrings::Share_code_username(std::string_view username) {
+std::string ZKStrings::Share_code_username(Text username) {
   return localizedString("Share_code_username", "Share code: %{username}", std::nullopt, {{"username", username}});
 }
 
@@ -2217,7 +2217,7 @@ std::string ZKStrings::Share_wrong_answer() {
   return localizedString("Share_wrong_answer", "Share wrong answer", std::nullopt, {});
 }
 
-std::string ZKStrings::shareCount_shares_left(std::string_view shareCount, std::int64_t count) {
+std::string ZKStrings::shareCount_shares_left(Text shareCount, std::int64_t count) {
   return localizedString("shareCount_shares_left", "%{shareCount} shares left", count, {{"shareCount", shareCount}});
 }
 
@@ -2285,7 +2285,7 @@ std::string ZKStrings::Sorry_you_don_t_have_enough_coins_You_ll_be_able_to_buy_m
   return localizedString("Sorry_you_don_t_have_enough_coins_You_ll_be_able_to_buy_more_soon", "Sorry, you don’t have enough coins. You’ll be able to buy more soon.", std::nullopt, {});
 }
 
-std::string ZKStrings::Sorry_you_need_a_minimum_balance_of_minBalance_to_cashout_Win_some_more_games(std::string_view minBalance) {
+std::string ZKStrings::Sorry_you_need_a_minimum_balance_of_minBalance_to_cashout_Win_some_more_games(Text minBalance) {
   return localizedString("Sorry_you_need_a_minimum_balance_of_minBalance_to_cashout_Win_some_more_games", "Sorry, you need a minimum balance of %{minBalance} to cashout. Win some more games!", std::nullopt, {{"minBalance", minBalance}});
 }
 
@@ -2341,11 +2341,11 @@ std::string ZKStrings::Strike_Out() {
   return localizedString("Strike_Out", "Strike Out", std::nullopt, {});
 }
 
-std::string ZKStrings::strikeCount_strikes_left(std::string_view strikeCount, std::int64_t count) {
+std::string ZKStrings::strikeCount_strikes_left(Text strikeCount, std::int64_t count) {
   return localizedString("strikeCount_strikes_left", "%{strikeCount} strikes left", count, {{"strikeCount", strikeCount}});
 }
 
-std::string ZKStrings::strikeCount_strikes_left_this_round(std::string_view strikeCount, std::int64_t count) {
+std::string ZKStrings::strikeCount_strikes_left_this_round(Text strikeCount, std::int64_t count) {
   return localizedString("strikeCount_strikes_left_this_round", "%{strikeCount} strikes left this round!", count, {{"strikeCount", strikeCount}});
 }
 
@@ -2377,11 +2377,11 @@ std::string ZKStrings::Subscribed() {
   return localizedString("Subscribed", "Subscribed", std::nullopt, {});
 }
 
-std::string ZKStrings::Success_You_bought_extraLifeCount_Extra_Lives_to_help_you_win(std::string_view extraLifeCount, std::int64_t count) {
+std::string ZKStrings::Success_You_bought_extraLifeCount_Extra_Lives_to_help_you_win(Text extraLifeCount, std::int64_t count) {
   return localizedString("Success_You_bought_extraLifeCount_Extra_Lives_to_help_you_win", "Success! You bought %{extraLifeCount} Extra Lives to help you win.", count, {{"extraLifeCount", extraLifeCount}});
 }
 
-std::string ZKStrings::Success_You_have_count_name(std::string_view count, std::string_view name) {
+std::string ZKStrings::Success_You_have_count_name(Text count, Text name) {
   return localizedString("Success_You_have_count_name", "Success! You have %{count} %{name}.", std::nullopt, {{"count", count}, {"name", name}});
 }
 
@@ -2389,7 +2389,7 @@ std::string ZKStrings::Suggested_friends() {
   return localizedString("Suggested_friends", "Suggested friends", std::nullopt, {});
 }
 
-std::string ZKStrings::suggestedCount_suggested_friends(std::string_view suggestedCount, std::int64_t count) {
+std::string ZKStrings::suggestedCount_suggested_friends(Text suggestedCount, std::int64_t count) {
   return localizedString("suggestedCount_suggested_friends", "%{suggestedCount} suggested friends", count, {{"suggestedCount", suggestedCount}});
 }
 
@@ -2465,7 +2465,7 @@ std::string ZKStrings::Terms_of_Use() {
   return localizedString("Terms_of_Use", "Terms of Use", std::nullopt, {});
 }
 
-std::string ZKStrings::Thank_you_username_your_request_to_donate_amount_to_charityName_has_been_submitted(std::string_view username, std::string_view amount, std::string_view charityName) {
+std::string ZKStrings::Thank_you_username_your_request_to_donate_amount_to_charityName_has_been_submitted(Text username, Text amount, Text charityName) {
   return localizedString("Thank_you_username_your_request_to_donate_amount_to_charityName_has_been_submitted", "Thank you %{username}, your request to donate %{amount} to %{charityName} has been submitted.", std::nullopt, {{"username", username}, {"amount", amount}, {"charityName", charityName}});
 }
 
@@ -2685,7 +2685,7 @@ std::string ZKStrings::Unlocks(std::int64_t count) {
   return localizedString("Unlocks", "Unlocks", count, {});
 }
 
-std::string ZKStrings::unlocks_Unlocks_left(std::string_view unlocks) {
+std::string ZKStrings::unlocks_Unlocks_left(Text unlocks) {
   return localizedString("unlocks_Unlocks_left", "%{unlocks} Unlocks left", std::nullopt, {{"unlocks", unlocks}});
 }
 
@@ -2749,31 +2749,31 @@ std::string ZKStrings::Use_my_code() {
   return localizedString("Use_my_code", "Use my code: ", std::nullopt, {});
 }
 
-std::string ZKStrings::Use_my_code_code_to_sign_up_url(std::string_view code, std::string_view url) {
+std::string ZKStrings::Use_my_code_code_to_sign_up_url(Text code, Text url) {
   return localizedString("Use_my_code_code_to_sign_up_url", "Use my code \"%{code}\" to sign up %{url}", std::nullopt, {{"code", code}, {"url", url}});
 }
 
-std::string ZKStrings::user_was_kicked_out(std::string_view user) {
+std::string ZKStrings::user_was_kicked_out(Text user) {
   return localizedString("user_was_kicked_out", "%{user} was kicked out.", std::nullopt, {{"user", user}});
 }
 
-std::string ZKStrings::userCount_others(std::string_view userCount, std::int64_t count) {
+std::string ZKStrings::userCount_others(Text userCount, std::int64_t count) {
   return localizedString("userCount_others", "%{userCount} others", count, {{"userCount", userCount}});
 }
 
-std::string ZKStrings::userCount_others_still_in(std::string_view userCount, std::int64_t count) {
+std::string ZKStrings::userCount_others_still_in(Text userCount, std::int64_t count) {
   return localizedString("userCount_others_still_in", "%{userCount} others still in", count, {{"userCount", userCount}});
 }
 
-std::string ZKStrings::userCount_people(std::string_view userCount, std::int64_t count) {
+std::string ZKStrings::userCount_people(Text userCount, std::int64_t count) {
   return localizedString("userCount_people", "%{userCount} people", count, {{"userCount", userCount}});
 }
 
-std::string ZKStrings::userCount_VIPs(std::string_view userCount, std::int64_t count) {
+std::string ZKStrings::userCount_VIPs(Text userCount, std::int64_t count) {
   return localizedString("userCount_VIPs", "%{userCount} VIPs", count, {{"userCount", userCount}});
 }
 
-std::string ZKStrings::userCount_VIPs_still_in(std::string_view userCount, std::int64_t count) {
+std::string ZKStrings::userCount_VIPs_still_in(Text userCount, std::int64_t count) {
   return localizedString("userCount_VIPs_still_in", "%{userCount} VIPs still in", count, {{"userCount", userCount}});
 }
 
@@ -2785,7 +2785,7 @@ std::string ZKStrings::Username_already_taken() {
   return localizedString("Username_already_taken", "Username already taken!", std::nullopt, {});
 }
 
-std::string ZKStrings::username_and_username2_were_eliminated(std::string_view username, std::string_view username2) {
+std::string ZKStrings::username_and_username2_were_eliminated(Text username, Text username2) {
   return localizedString("username_and_username2_were_eliminated", "%{username} and %{username2} were eliminated.", std::nullopt, {{"username", username}, {"username2", username2}});
 }
 
@@ -2793,7 +2793,7 @@ std::string ZKStrings::Username_available() {
   return localizedString("Username_available", "Username available!", std::nullopt, {});
 }
 
-std::string ZKStrings::username_joined_the_game(std::string_view username) {
+std::string ZKStrings::username_joined_the_game(Text username) {
   return localizedString("username_joined_the_game", "%{username} joined the game.", std::nullopt, {{"username", username}});
 }
 
@@ -2801,27 +2801,27 @@ std::string ZKStrings::Username_unavailable() {
   return localizedString("Username_unavailable", "Username unavailable!", std::nullopt, {});
 }
 
-std::string ZKStrings::username_used_an_Extra_Life(std::string_view username) {
+std::string ZKStrings::username_used_an_Extra_Life(Text username) {
   return localizedString("username_used_an_Extra_Life", "%{username} used an Extra Life.", std::nullopt, {{"username", username}});
 }
 
-std::string ZKStrings::username_username2_and_friendCount_other_friends_were_eliminated(std::string_view username, std::string_view username2, std::string_view friendCount, std::int64_t count) {
+std::string ZKStrings::username_username2_and_friendCount_other_friends_were_eliminated(Text username, Text username2, Text friendCount, std::int64_t count) {
   return localizedString("username_username2_and_friendCount_other_friends_were_eliminated", "%{username}, %{username2}, and %{friendCount} other friends were eliminated.", count, {{"username", username}, {"username2", username2}, {"friendCount", friendCount}});
 }
 
-std::string ZKStrings::username_was_eliminated(std::string_view username) {
+std::string ZKStrings::username_was_eliminated(Text username) {
   return localizedString("username_was_eliminated", "%{username} was eliminated.", std::nullopt, {{"username", username}});
 }
 
-std::string ZKStrings::username_was_kicked_successfully(std::string_view username) {
+std::string ZKStrings::username_was_kicked_successfully(Text username) {
   return localizedString("username_was_kicked_successfully", "%{username} was kicked successfully", std::nullopt, {{"username", username}});
 }
 
-std::string ZKStrings::username_was_silently_kicked(std::string_view username) {
+std::string ZKStrings::username_was_silently_kicked(Text username) {
   return localizedString("username_was_silently_kicked", "%{username} was silently kicked", std::nullopt, {{"username", username}});
 }
 
-std::string ZKStrings::username_won_the_game(std::string_view username) {
+std::string ZKStrings::username_won_the_game(Text username) {
   return localizedString("username_won_the_game", "%{username} won the game!", std::nullopt, {{"username", username}});
 }
 
@@ -2829,7 +2829,7 @@ std::string ZKStrings::Usernames_must_be_3_15_characters_long_and_can_contain_on
   return localizedString("Usernames_must_be_3_15_characters_long_and_can_contain_only_letters_numbers_or_Inappropriate_languag", "Usernames must be 3-15 characters long and can contain only letters, numbers, - , or _ . Inappropriate language in usernames is a violation of the Terms of Use. Your username will also be your referral code.", std::nullopt, {});
 }
 
-std::string ZKStrings::Using_Extra_Life_in_seconds(std::string_view seconds) {
+std::string ZKStrings::Using_Extra_Life_in_seconds(Text seconds) {
   return localizedString("Using_Extra_Life_in_seconds", "Using Extra Life in %{seconds}", std::nullopt, {{"seconds", seconds}});
 }
 
@@ -2857,7 +2857,7 @@ std::string ZKStrings::VIP_Prize_Rules() {
   return localizedString("VIP_Prize_Rules", "VIP Prize Rules", std::nullopt, {});
 }
 
-std::string ZKStrings::votes_votes(std::string_view votes) {
+std::string ZKStrings::votes_votes(Text votes) {
   return localizedString("votes_votes", "%{votes} votes", std::nullopt, {{"votes", votes}});
 }
 
@@ -2969,7 +2969,7 @@ std::string ZKStrings::Welcome_back_You_ve_been_eliminated_but_can_still_watch()
   return localizedString("Welcome_back_You_ve_been_eliminated_but_can_still_watch", "*Welcome back.* You've been eliminated but can still watch.", std::nullopt, {});
 }
 
-std::string ZKStrings::Win_amount_now(std::string_view amount) {
+std::string ZKStrings::Win_amount_now(Text amount) {
   return localizedString("Win_amount_now", "Win *%{amount}* now", std::nullopt, {{"amount", amount}});
 }
 
@@ -2981,7 +2981,7 @@ std::string ZKStrings::Winner_Take_All() {
   return localizedString("Winner_Take_All", "Winner Take All", std::nullopt, {});
 }
 
-std::string ZKStrings::winnerCount_Winners(std::string_view winnerCount, std::int64_t count) {
+std::string ZKStrings::winnerCount_Winners(Text winnerCount, std::int64_t count) {
   return localizedString("winnerCount_Winners", "%{winnerCount} Winners!", count, {{"winnerCount", winnerCount}});
 }
 
@@ -3001,7 +3001,7 @@ std::string ZKStrings::Word_Search() {
   return localizedString("Word_Search", "Word Search", std::nullopt, {});
 }
 
-std::string ZKStrings::words_words_found(std::string_view words) {
+std::string ZKStrings::words_words_found(Text words) {
   return localizedString("words_words_found", "%{words} words found", std::nullopt, {{"words", words}});
 }
 
@@ -3017,7 +3017,7 @@ std::string ZKStrings::Wrong_answer_Keep_playing_with_an_Extra_Life_Get_one_ever
   return localizedString("Wrong_answer_Keep_playing_with_an_Extra_Life_Get_one_every_time_a_new_ZK_user_signs_up_with_your_ref", "Wrong answer? Keep playing with an Extra Life. Get one every time a new ZK user signs up with your referral code and plays their first game. They can be used once per game, except on the last question.", std::nullopt, {});
 }
 
-std::string ZKStrings::Yay_You_played_days_days_in_a_row(std::string_view days, std::int64_t count) {
+std::string ZKStrings::Yay_You_played_days_days_in_a_row(Text days, std::int64_t count) {
   return localizedString("Yay_You_played_days_days_in_a_row", "Yay! You played %{days} days in a row!", count, {{"days", days}});
 }
 
@@ -3049,7 +3049,7 @@ std::string ZKStrings::You_are_unauthorized_to_cashout() {
   return localizedString("You_are_unauthorized_to_cashout", "You are unauthorized to cashout", std::nullopt, {});
 }
 
-std::string ZKStrings::You_can_t_win_the_cash_prize_but_get_pointsToGo_more_points_to_earn_an_Extra_Life(std::string_view pointsToGo, std::int64_t count) {
+std::string ZKStrings::You_can_t_win_the_cash_prize_but_get_pointsToGo_more_points_to_earn_an_Extra_Life(Text pointsToGo, std::int64_t count) {
   return localizedString("You_can_t_win_the_cash_prize_but_get_pointsToGo_more_points_to_earn_an_Extra_Life", "You can't win the cash prize, but get %{pointsToGo} more points to earn an Extra Life!", count, {{"pointsToGo", pointsToGo}});
 }
 
@@ -3073,15 +3073,15 @@ std::string ZKStrings::You_earned_an_Eraser() {
   return localizedString("You_earned_an_Eraser", "You earned an Eraser!", std::nullopt, {});
 }
 
-std::string ZKStrings::You_earned_an_Eraser_by_playing_with_player1(std::string_view player1) {
+std::string ZKStrings::You_earned_an_Eraser_by_playing_with_player1(Text player1) {
   return localizedString("You_earned_an_Eraser_by_playing_with_player1", "You earned an Eraser by playing with %{player1}!", std::nullopt, {{"player1", player1}});
 }
 
-std::string ZKStrings::You_earned_an_Eraser_by_playing_with_player1_and_player2(std::string_view player1, std::string_view player2) {
+std::string ZKStrings::You_earned_an_Eraser_by_playing_with_player1_and_player2(Text player1, Text player2) {
   return localizedString("You_earned_an_Eraser_by_playing_with_player1_and_player2", "You earned an Eraser by playing with %{player1} and %{player2}!", std::nullopt, {{"player1", player1}, {"player2", player2}});
 }
 
-std::string ZKStrings::You_earned_an_Eraser_by_playing_with_player1_player2_and_player3(std::string_view player1, std::string_view player2, std::string_view player3) {
+std::string ZKStrings::You_earned_an_Eraser_by_playing_with_player1_player2_and_player3(Text player1, Text player2, Text player3) {
   return localizedString("You_earned_an_Eraser_by_playing_with_player1_player2_and_player3", "You earned an Eraser by playing with %{player1}, %{player2}, and %{player3}!", std::nullopt, {{"player1", player1}, {"player2", player2}, {"player3", player3}});
 }
 
@@ -3097,7 +3097,7 @@ std::string ZKStrings::You_got_a_box() {
   return localizedString("You_got_a_box", "You got a box!", std::nullopt, {});
 }
 
-std::string ZKStrings::You_got_a_product(std::string_view product) {
+std::string ZKStrings::You_got_a_product(Text product) {
   return localizedString("You_got_a_product", "You got a %{product}!", std::nullopt, {{"product", product}});
 }
 
@@ -3109,51 +3109,51 @@ std::string ZKStrings::You_got_an_Extra_Life_from_ZK_️() {
   return localizedString("You_got_an_Extra_Life_from_ZK_️", "You got an Extra Life from ZK! ❤️", std::nullopt, {});
 }
 
-std::string ZKStrings::You_got_coinCount_coins(std::string_view coinCount, std::int64_t count) {
+std::string ZKStrings::You_got_coinCount_coins(Text coinCount, std::int64_t count) {
   return localizedString("You_got_coinCount_coins", "You got %{coinCount} coins!", count, {{"coinCount", coinCount}});
 }
 
-std::string ZKStrings::You_got_dollarCount_dollars(std::string_view dollarCount, std::int64_t count) {
+std::string ZKStrings::You_got_dollarCount_dollars(Text dollarCount, std::int64_t count) {
   return localizedString("You_got_dollarCount_dollars", "You got %{dollarCount} dollars!", count, {{"dollarCount", dollarCount}});
 }
 
-std::string ZKStrings::You_got_lifeCount_Extra_Lives(std::string_view lifeCount, std::int64_t count) {
+std::string ZKStrings::You_got_lifeCount_Extra_Lives(Text lifeCount, std::int64_t count) {
   return localizedString("You_got_lifeCount_Extra_Lives", "You got %{lifeCount} Extra Lives!", count, {{"lifeCount", lifeCount}});
 }
 
-std::string ZKStrings::You_got_lifeCount_Extra_Lives_from_sender(std::string_view lifeCount, std::string_view sender, std::int64_t count) {
+std::string ZKStrings::You_got_lifeCount_Extra_Lives_from_sender(Text lifeCount, Text sender, std::int64_t count) {
   return localizedString("You_got_lifeCount_Extra_Lives_from_sender", "You got %{lifeCount} Extra Lives from %{sender}!", count, {{"lifeCount", lifeCount}, {"sender", sender}});
 }
 
-std::string ZKStrings::You_got_number_products(std::string_view number, std::string_view products) {
+std::string ZKStrings::You_got_number_products(Text number, Text products) {
   return localizedString("You_got_number_products", "You got %{number} %{products}!", std::nullopt, {{"number", number}, {"products", products}});
 }
 
-std::string ZKStrings::You_got_points_more_points(std::string_view points) {
+std::string ZKStrings::You_got_points_more_points(Text points) {
   return localizedString("You_got_points_more_points", "You got %{points} more points!", std::nullopt, {{"points", points}});
 }
 
-std::string ZKStrings::You_got_round_of_totalAnswers_correct(std::string_view round, std::string_view totalAnswers) {
+std::string ZKStrings::You_got_round_of_totalAnswers_correct(Text round, Text totalAnswers) {
   return localizedString("You_got_round_of_totalAnswers_correct", "You got %{round} of %{totalAnswers} correct!", std::nullopt, {{"round", round}, {"totalAnswers", totalAnswers}});
 }
 
-std::string ZKStrings::You_got_the_letter_letter(std::string_view letter) {
+std::string ZKStrings::You_got_the_letter_letter(Text letter) {
   return localizedString("You_got_the_letter_letter", "You got the letter %{letter}!", std::nullopt, {{"letter", letter}});
 }
 
-std::string ZKStrings::You_got_the_letter_letter_and_extraLifeCount_extra_lives(std::string_view letter, std::string_view extraLifeCount, std::int64_t count) {
+std::string ZKStrings::You_got_the_letter_letter_and_extraLifeCount_extra_lives(Text letter, Text extraLifeCount, std::int64_t count) {
   return localizedString("You_got_the_letter_letter_and_extraLifeCount_extra_lives", "You got the letter %{letter} and %{extraLifeCount} extra lives!", count, {{"letter", letter}, {"extraLifeCount", extraLifeCount}});
 }
 
-std::string ZKStrings::You_got_the_letters_letters(std::string_view letters, std::int64_t count) {
+std::string ZKStrings::You_got_the_letters_letters(Text letters, std::int64_t count) {
   return localizedString("You_got_the_letters_letters", "You got the letters %{letters}!", count, {{"letters", letters}});
 }
 
-std::string ZKStrings::You_got_the_n_product(std::string_view product) {
+std::string ZKStrings::You_got_the_n_product(Text product) {
   return localizedString("You_got_the_n_product", "You got the\n%{product}!", std::nullopt, {{"product", product}});
 }
 
-std::string ZKStrings::You_got_to_Level_level(std::string_view level) {
+std::string ZKStrings::You_got_to_Level_level(Text level) {
   return localizedString("You_got_to_Level_level", "You got to Level %{level}", std::nullopt, {{"level", level}});
 }
 
@@ -3173,7 +3173,7 @@ std::string ZKStrings::You_have_been_removed_from_the_game_for_a_violation_of_ZK
   return localizedString("You_have_been_removed_from_the_game_for_a_violation_of_ZK_s_Terms_of_Service_and_Contest_Rules", "You have been removed from the game for a violation of ZK’s Terms of Service and Contest Rules.", std::nullopt, {});
 }
 
-std::string ZKStrings::You_have_extraLifeCount_Extra_Lives(std::string_view extraLifeCount, std::int64_t count) {
+std::string ZKStrings::You_have_extraLifeCount_Extra_Lives(Text extraLifeCount, std::int64_t count) {
   return localizedString("You_have_extraLifeCount_Extra_Lives", "You have %{extraLifeCount} Extra Lives!", count, {{"extraLifeCount", extraLifeCount}});
 }
 
@@ -3181,7 +3181,7 @@ std::string ZKStrings::You_have_reached_the_maximum_number_of_Friends_We_are_wor
   return localizedString("You_have_reached_the_maximum_number_of_Friends_We_are_working_to_increase_this_limit_soon", "You have reached the maximum number of Friends. We are working to increase this limit soon.", std::nullopt, {});
 }
 
-std::string ZKStrings::You_leveled_up_to_Level_level(std::string_view level) {
+std::string ZKStrings::You_leveled_up_to_Level_level(Text level) {
   return localizedString("You_leveled_up_to_Level_level", "You leveled up to Level %{level}", std::nullopt, {{"level", level}});
 }
 
@@ -3249,15 +3249,15 @@ std::string ZKStrings::You_re_using_an_Eraser() {
   return localizedString("You_re_using_an_Eraser", "You're using an *Eraser*", std::nullopt, {});
 }
 
-std::string ZKStrings::You_reached_Q_reached_and_got_correctCount_of_totalCount_Qs_correct(std::string_view reached, std::string_view correctCount, std::string_view totalCount) {
+std::string ZKStrings::You_reached_Q_reached_and_got_correctCount_of_totalCount_Qs_correct(Text reached, Text correctCount, Text totalCount) {
   return localizedString("You_reached_Q_reached_and_got_correctCount_of_totalCount_Qs_correct", "You reached Q%{reached} and got %{correctCount} of %{totalCount} Qs correct.", std::nullopt, {{"reached", reached}, {"correctCount", correctCount}, {"totalCount", totalCount}});
 }
 
-std::string ZKStrings::You_successfully_linked_your_provider_account(std::string_view provider) {
+std::string ZKStrings::You_successfully_linked_your_provider_account(Text provider) {
   return localizedString("You_successfully_linked_your_provider_account", "You successfully linked your %{provider} account.", std::nullopt, {{"provider", provider}});
 }
 
-std::string ZKStrings::You_unlocked_badgeCount_Badges(std::string_view badgeCount, std::int64_t count) {
+std::string ZKStrings::You_unlocked_badgeCount_Badges(Text badgeCount, std::int64_t count) {
   return localizedString("You_unlocked_badgeCount_Badges", "You unlocked %{badgeCount} Badges", count, {{"badgeCount", badgeCount}});
 }
 
@@ -3277,23 +3277,23 @@ std::string ZKStrings::You_ve_got_a_bunch_of_letters() {
   return localizedString("You_ve_got_a_bunch_of_letters", "You've got a bunch of letters!", std::nullopt, {});
 }
 
-std::string ZKStrings::You_ve_got_the_letter_firstLetter(std::string_view firstLetter) {
+std::string ZKStrings::You_ve_got_the_letter_firstLetter(Text firstLetter) {
   return localizedString("You_ve_got_the_letter_firstLetter", "You've got the letter %{firstLetter}!", std::nullopt, {{"firstLetter", firstLetter}});
 }
 
-std::string ZKStrings::You_ve_got_the_letters_firstLetter_and_secondLetter(std::string_view firstLetter, std::string_view secondLetter) {
+std::string ZKStrings::You_ve_got_the_letters_firstLetter_and_secondLetter(Text firstLetter, Text secondLetter) {
   return localizedString("You_ve_got_the_letters_firstLetter_and_secondLetter", "You've got the letters %{firstLetter} and %{secondLetter}!", std::nullopt, {{"firstLetter", firstLetter}, {"secondLetter", secondLetter}});
 }
 
-std::string ZKStrings::You_ve_got_the_letters_firstLetter_secondLetter_and_thirdLetter(std::string_view firstLetter, std::string_view secondLetter, std::string_view thirdLetter) {
+std::string ZKStrings::You_ve_got_the_letters_firstLetter_secondLetter_and_thirdLetter(Text firstLetter, Text secondLetter, Text thirdLetter) {
   return localizedString("You_ve_got_the_letters_firstLetter_secondLetter_and_thirdLetter", "You've got the letters %{firstLetter}, %{secondLetter}, and %{thirdLetter}!", std::nullopt, {{"firstLetter", firstLetter}, {"secondLetter", secondLetter}, {"thirdLetter", thirdLetter}});
 }
 
-std::string ZKStrings::You_ve_got_the_letters_firstLetter_secondLetter_thirdLetter_and_fourthLetter(std::string_view firstLetter, std::string_view secondLetter, std::string_view thirdLetter, std::string_view fourthLetter) {
+std::string ZKStrings::You_ve_got_the_letters_firstLetter_secondLetter_thirdLetter_and_fourthLetter(Text firstLetter, Text secondLetter, Text thirdLetter, Text fourthLetter) {
   return localizedString("You_ve_got_the_letters_firstLetter_secondLetter_thirdLetter_and_fourthLetter", "You've got the letters %{firstLetter}, %{secondLetter}, %{thirdLetter}, and %{fourthLetter}!", std::nullopt, {{"firstLetter", firstLetter}, {"secondLetter", secondLetter}, {"thirdLetter", thirdLetter}, {"fourthLetter", fourthLetter}});
 }
 
-std::string ZKStrings::You_ve_got_the_letters_firstLetter_secondLetter_thirdLetter_fourthLetter_and_fifthLetter(std::string_view firstLetter, std::string_view secondLetter, std::string_view thirdLetter, std::string_view fourthLetter, std::string_view fifthLetter) {
+std::string ZKStrings::You_ve_got_the_letters_firstLetter_secondLetter_thirdLetter_fourthLetter_and_fifthLetter(Text firstLetter, Text secondLetter, Text thirdLetter, Text fourthLetter, Text fifthLetter) {
   return localizedString("You_ve_got_the_letters_firstLetter_secondLetter_thirdLetter_fourthLetter_and_fifthLetter", "You've got the letters %{firstLetter}, %{secondLetter}, %{thirdLetter}, %{fourthLetter}, and %{fifthLetter}!", std::nullopt, {{"firstLetter", firstLetter}, {"secondLetter", secondLetter}, {"thirdLetter", thirdLetter}, {"fourthLetter", fourthLetter}, {"fifthLetter", fifthLetter}});
 }
 
@@ -3309,7 +3309,7 @@ std::string ZKStrings::You_won() {
   return localizedString("You_won", "You won!", std::nullopt, {});
 }
 
-std::string ZKStrings::You_won_level_points(std::string_view level) {
+std::string ZKStrings::You_won_level_points(Text level) {
   return localizedString("You_won_level_points", "You won %{level} points!", std::nullopt, {{"level", level}});
 }
 
@@ -3329,7 +3329,7 @@ std::string ZKStrings::Your_available_balance_may_be_lower_because_a_show_you_wo
   return localizedString("Your_available_balance_may_be_lower_because_a_show_you_won_is_currently_in_review_Learn_more", "Your available balance may be lower because a show you won is currently in review. Learn more", std::nullopt, {});
 }
 
-std::string ZKStrings::Your_available_balance_may_be_lower_because_a_show_you_won_is_currently_in_review_learnMore(std::string_view learnMore) {
+std::string ZKStrings::Your_available_balance_may_be_lower_because_a_show_you_won_is_currently_in_review_learnMore(Text learnMore) {
   return localizedString("Your_available_balance_may_be_lower_because_a_show_you_won_is_currently_in_review_learnMore", "Your available balance may be lower because a show you won is currently in review. %{learnMore}", std::nullopt, {{"learnMore", learnMore}});
 }
 
@@ -3409,7 +3409,7 @@ std::string ZKStrings::Your_question_has_been_submitted() {
   return localizedString("Your_question_has_been_submitted", "Your question has been submitted.", std::nullopt, {});
 }
 
-std::string ZKStrings::Your_rating_percent(std::string_view percent) {
+std::string ZKStrings::Your_rating_percent(Text percent) {
   return localizedString("Your_rating_percent", "Your rating: %{percent}%", std::nullopt, {{"percent", percent}});
 }
 
@@ -3425,7 +3425,7 @@ std::string ZKStrings::Your_referral_code_can_t_be_the_same_as_your_username() {
   return localizedString("Your_referral_code_can_t_be_the_same_as_your_username", "Your referral code can't be the same as your username", std::nullopt, {});
 }
 
-std::string ZKStrings::Your_request_to_cash_out_amount_has_been_submitted(std::string_view amount) {
+std::string ZKStrings::Your_request_to_cash_out_amount_has_been_submitted(Text amount) {
   return localizedString("Your_request_to_cash_out_amount_has_been_submitted", "Your request to cash out %{amount} has been submitted", std::nullopt, {{"amount", amount}});
 }
 

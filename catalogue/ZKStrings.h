@@ -5,15 +5,16 @@
 
 #include <cstdint>
 #include <string>
-#include <string_view>
 
+#include <ZKStrings/engine/Text.h>
 #include <ZKStrings/platform/Export.h>
 
 namespace zk {
 
 /// The catalogue: one accessor for each text of the app, named as the entry's key, giving the text in the user's
-/// language. Text arguments fill the placeholders of the same name; `count`, the last argument of counted entries,
-/// chooses the plural form and is filled in nowhere. Each comment shows the English text.
+/// language. Text arguments (a literal, a `std::string`, a `std::string_view`) fill the placeholders of the same name;
+/// `count`, the last argument of counted entries, chooses the plural form and is filled in nowhere. Each comment shows
+/// the English text.
 ///
 ///     std::string title = zk::ZKStrings::badgeCount_Badges("4", 4);
 ///
@@ -55,7 +56,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Account();
 
   /// "%{active}/%{limit} players"
-  [[nodiscard]] static std::string active_limit_players(std::string_view active, std::string_view limit);
+  [[nodiscard]] static std::string active_limit_players(Text active, Text limit);
 
   /// "Add"
   [[nodiscard]] static std::string Add();
@@ -130,13 +131,13 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Approved();
 
   /// "Are you sure you want to block %{username}?"
-  [[nodiscard]] static std::string Are_you_sure_you_want_to_block_username(std::string_view username);
+  [[nodiscard]] static std::string Are_you_sure_you_want_to_block_username(Text username);
 
   /// "Are you sure you want to cashout to PayPal account %{email}?"
-  [[nodiscard]] static std::string Are_you_sure_you_want_to_cashout_to_PayPal_account_email(std::string_view email);
+  [[nodiscard]] static std::string Are_you_sure_you_want_to_cashout_to_PayPal_account_email(Text email);
 
   /// "Are you sure you want to kick %{username}?"
-  [[nodiscard]] static std::string Are_you_sure_you_want_to_kick_username(std::string_view username);
+  [[nodiscard]] static std::string Are_you_sure_you_want_to_kick_username(Text username);
 
   /// "Are you sure you want to leave the game?"
   [[nodiscard]] static std::string Are_you_sure_you_want_to_leave_the_game();
@@ -189,13 +190,13 @@ struct ZK_EXPORT ZKStrings {
   /// - 2: "%{badgeCount} Badges"
   /// - 3 to 5: "%{badgeCount} Badges"
   /// - 6 and more: "%{badgeCount} Badges"
-  [[nodiscard]] static std::string badgeCount_Badges(std::string_view badgeCount, std::int64_t count);
+  [[nodiscard]] static std::string badgeCount_Badges(Text badgeCount, std::int64_t count);
 
   /// "%{badgeCount} Badges unlocked!"
-  [[nodiscard]] static std::string badgeCount_Badges_unlocked(std::string_view badgeCount);
+  [[nodiscard]] static std::string badgeCount_Badges_unlocked(Text badgeCount);
 
   /// "%{badgeName} Level %{level}"
-  [[nodiscard]] static std::string badgeName_Level_level(std::string_view badgeName, std::string_view level);
+  [[nodiscard]] static std::string badgeName_Level_level(Text badgeName, Text level);
 
   /// "Badges"
   [[nodiscard]] static std::string Badges();
@@ -236,7 +237,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 2: "%{bonusStrikeCount} Bonus Strikes"
   /// - 3 to 5: "%{bonusStrikeCount} Bonus Strikes"
   /// - 6 and more: "%{bonusStrikeCount} Bonus Strikes"
-  [[nodiscard]] static std::string bonusStrikeCount_Bonus_Strikes(std::string_view bonusStrikeCount, std::int64_t count);
+  [[nodiscard]] static std::string bonusStrikeCount_Bonus_Strikes(Text bonusStrikeCount, std::int64_t count);
 
   /// "Boost"
   [[nodiscard]] static std::string Boost();
@@ -257,22 +258,22 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Buy_More_Coins();
 
   /// "By continuing, you agree to the %{terms} and %{pp}."
-  [[nodiscard]] static std::string By_continuing_you_agree_to_the_terms_and_pp(std::string_view terms, std::string_view pp);
+  [[nodiscard]] static std::string By_continuing_you_agree_to_the_terms_and_pp(Text terms, Text pp);
 
   /// "By entering you agree to the %{competition}"
-  [[nodiscard]] static std::string By_entering_you_agree_to_the_competition(std::string_view competition);
+  [[nodiscard]] static std::string By_entering_you_agree_to_the_competition(Text competition);
 
   /// "By signing up you agree to the"
   [[nodiscard]] static std::string By_signing_up_you_agree_to_the();
 
   /// "By signing up you agree to the\n %{terms}, %{privacy}, and %{rules}"
-  [[nodiscard]] static std::string By_signing_up_you_agree_to_the_n_terms_privacy_and_rules(std::string_view terms, std::string_view privacy, std::string_view rules);
+  [[nodiscard]] static std::string By_signing_up_you_agree_to_the_n_terms_privacy_and_rules(Text terms, Text privacy, Text rules);
 
   /// "By signing up you agree to the %{terms}, %{privacy}, and %{rules}"
-  [[nodiscard]] static std::string By_signing_up_you_agree_to_the_terms_privacy_and_rules(std::string_view terms, std::string_view privacy, std::string_view rules);
+  [[nodiscard]] static std::string By_signing_up_you_agree_to_the_terms_privacy_and_rules(Text terms, Text privacy, Text rules);
 
   /// "By tapping Agree and continue you agree to the %{terms}, %{privacy}, and %{rules}"
-  [[nodiscard]] static std::string By_tapping_Agree_and_continue_you_agree_to_the_terms_privacy_and_rules(std::string_view terms, std::string_view privacy, std::string_view rules);
+  [[nodiscard]] static std::string By_tapping_Agree_and_continue_you_agree_to_the_terms_privacy_and_rules(Text terms, Text privacy, Text rules);
 
   /// "By tapping Get Started, an SMS may be sent. Message & data rates may apply."
   [[nodiscard]] static std::string By_tapping_Get_Started_an_SMS_may_be_sent_Message_data_rates_may_apply();
@@ -290,7 +291,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Camera_Access_Disabled();
 
   /// "Can retry in %{seconds}"
-  [[nodiscard]] static std::string Can_retry_in_seconds(std::string_view seconds);
+  [[nodiscard]] static std::string Can_retry_in_seconds(Text seconds);
 
   /// "Can't Cashout"
   [[nodiscard]] static std::string Can_t_Cashout();
@@ -302,7 +303,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Cashout();
 
   /// "Cashout %{amount}"
-  [[nodiscard]] static std::string Cashout_amount(std::string_view amount);
+  [[nodiscard]] static std::string Cashout_amount(Text amount);
 
   /// "Cashout Complete"
   [[nodiscard]] static std::string Cashout_Complete();
@@ -356,7 +357,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Code();
 
   /// "Code sent. Retry in %{seconds}"
-  [[nodiscard]] static std::string Code_sent_Retry_in_seconds(std::string_view seconds);
+  [[nodiscard]] static std::string Code_sent_Retry_in_seconds(Text seconds);
 
   /// "Coins"
   [[nodiscard]] static std::string Coins();
@@ -373,7 +374,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string coins();
 
   /// "+%{coinsPurchased} coins"
-  [[nodiscard]] static std::string coinsPurchased_coins(std::string_view coinsPurchased);
+  [[nodiscard]] static std::string coinsPurchased_coins(Text coinsPurchased);
 
   /// "Cold"
   [[nodiscard]] static std::string Cold();
@@ -435,7 +436,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 2: "%{contactCount} contacts on ZK"
   /// - 3 to 5: "%{contactCount} contacts on ZK"
   /// - 6 and more: "%{contactCount} contacts on ZK"
-  [[nodiscard]] static std::string contactCount_contacts_on_ZK(std::string_view contactCount, std::int64_t count);
+  [[nodiscard]] static std::string contactCount_contacts_on_ZK(Text contactCount, std::int64_t count);
 
   /// "Continue"
   [[nodiscard]] static std::string Continue();
@@ -459,13 +460,13 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Correct_Answer();
 
   /// "Correctly answer more %{category} questions to unlock this badge."
-  [[nodiscard]] static std::string Correctly_answer_more_category_questions_to_unlock_this_badge(std::string_view category);
+  [[nodiscard]] static std::string Correctly_answer_more_category_questions_to_unlock_this_badge(Text category);
 
   /// "Could not find any nearby letters!"
   [[nodiscard]] static std::string Could_not_find_any_nearby_letters();
 
   /// "%{count} Playing"
-  [[nodiscard]] static std::string count_Playing(std::string_view count);
+  [[nodiscard]] static std::string count_Playing(Text count);
 
   /// "Country"
   [[nodiscard]] static std::string Country();
@@ -489,10 +490,10 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Days();
 
   /// "%{days} day streak complete!"
-  [[nodiscard]] static std::string days_day_streak_complete(std::string_view days);
+  [[nodiscard]] static std::string days_day_streak_complete(Text days);
 
   /// "*%{days}-day streak!* Here's an Extra Life for your next game."
-  [[nodiscard]] static std::string days_day_streak_Here_s_an_Extra_Life_for_your_next_game(std::string_view days);
+  [[nodiscard]] static std::string days_day_streak_Here_s_an_Extra_Life_for_your_next_game(Text days);
 
   /// "Debug Options"
   [[nodiscard]] static std::string Debug_Options();
@@ -504,7 +505,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Delete_Avatar();
 
   /// "Disconnect %{account}"
-  [[nodiscard]] static std::string Disconnect_account(std::string_view account);
+  [[nodiscard]] static std::string Disconnect_account(Text account);
 
   /// "Discover People"
   [[nodiscard]] static std::string Discover_People();
@@ -516,7 +517,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Dislike();
 
   /// "Do you want to unlink your %{account} account?"
-  [[nodiscard]] static std::string Do_you_want_to_unlink_your_account_account(std::string_view account);
+  [[nodiscard]] static std::string Do_you_want_to_unlink_your_account_account(Text account);
 
   /// "Don't miss a game!"
   [[nodiscard]] static std::string Don_t_miss_a_game();
@@ -531,7 +532,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Donate();
 
   /// "Donate %{amount}"
-  [[nodiscard]] static std::string Donate_amount(std::string_view amount);
+  [[nodiscard]] static std::string Donate_amount(Text amount);
 
   /// "Donate Winnings"
   [[nodiscard]] static std::string Donate_Winnings();
@@ -555,19 +556,19 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Earn_a_special_reward_per_show_by_entering_referral_codes_below();
 
   /// "Earn *Erasers* by playing with %{cost} players"
-  [[nodiscard]] static std::string Earn_Erasers_by_playing_with_cost_players(std::string_view cost);
+  [[nodiscard]] static std::string Earn_Erasers_by_playing_with_cost_players(Text cost);
 
   /// "Earn Power Ups when you refer friends"
   [[nodiscard]] static std::string Earn_Power_Ups_when_you_refer_friends();
 
   /// "Earned %{date}"
-  [[nodiscard]] static std::string Earned_date(std::string_view date);
+  [[nodiscard]] static std::string Earned_date(Text date);
 
   /// "Earned this game"
   [[nodiscard]] static std::string Earned_this_game();
 
   /// "+%{earnedPoints} points"
-  [[nodiscard]] static std::string earnedPoints_points(std::string_view earnedPoints);
+  [[nodiscard]] static std::string earnedPoints_points(Text earnedPoints);
 
   /// "Educational"
   [[nodiscard]] static std::string Educational();
@@ -612,7 +613,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Enter_a_Referral_Code();
 
   /// "Enter for %{prize}"
-  [[nodiscard]] static std::string Enter_for_prize(std::string_view prize);
+  [[nodiscard]] static std::string Enter_for_prize(Text prize);
 
   /// "Enter Referral Code"
   [[nodiscard]] static std::string Enter_Referral_Code();
@@ -621,7 +622,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Enter_Referral_Codes();
 
   /// "Enter the verification code sent to %{phoneNumber}"
-  [[nodiscard]] static std::string Enter_the_verification_code_sent_to_phoneNumber(std::string_view phoneNumber);
+  [[nodiscard]] static std::string Enter_the_verification_code_sent_to_phoneNumber(Text phoneNumber);
 
   /// "Enter Verification Code"
   [[nodiscard]] static std::string Enter_Verification_Code();
@@ -680,7 +681,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string EU_Privacy_Policy();
 
   /// "Expires in %{time}"
-  [[nodiscard]] static std::string Expires_in_time(std::string_view time);
+  [[nodiscard]] static std::string Expires_in_time(Text time);
 
   /// "Extra Life"
   [[nodiscard]] static std::string Extra_Life();
@@ -760,13 +761,13 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Found_an_ZK_Words_player_nearby_You_ve_unlocked_the_game();
 
   /// "Found *%{name1}* and *%{name2}*"
-  [[nodiscard]] static std::string Found_name1_and_name2(std::string_view name1, std::string_view name2);
+  [[nodiscard]] static std::string Found_name1_and_name2(Text name1, Text name2);
 
   /// "Found *%{name1}* and *%{name2}* nearby"
-  [[nodiscard]] static std::string Found_name1_and_name2_nearby(std::string_view name1, std::string_view name2);
+  [[nodiscard]] static std::string Found_name1_and_name2_nearby(Text name1, Text name2);
 
   /// "Found *%{name}* nearby"
-  [[nodiscard]] static std::string Found_name_nearby(std::string_view name);
+  [[nodiscard]] static std::string Found_name_nearby(Text name);
 
   /// "Found *%{username}* nearby, looking for %{remaining} more players"
   /// - 0: "Found *%{username}* nearby, no more players needed"
@@ -774,7 +775,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 2: "Found *%{username}* nearby, looking for %{remaining} more players"
   /// - 3 to 5: "Found *%{username}* nearby, looking for %{remaining} more players"
   /// - 6 and more: "Found *%{username}* nearby, looking for %{remaining} more players"
-  [[nodiscard]] static std::string Found_username_nearby_looking_for_remaining_more_players(std::string_view username, std::string_view remaining, std::int64_t count);
+  [[nodiscard]] static std::string Found_username_nearby_looking_for_remaining_more_players(Text username, Text remaining, std::int64_t count);
 
   /// "four"
   [[nodiscard]] static std::string four();
@@ -783,7 +784,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Free_Pass();
 
   /// "Free Pass through Q%{level}"
-  [[nodiscard]] static std::string Free_Pass_through_Q_level(std::string_view level);
+  [[nodiscard]] static std::string Free_Pass_through_Q_level(Text level);
 
   /// "Friend Requests"
   [[nodiscard]] static std::string Friend_Requests();
@@ -794,7 +795,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 2: "%{friendCount} friends"
   /// - 3 to 5: "%{friendCount} friends"
   /// - 6 and more: "%{friendCount} friends"
-  [[nodiscard]] static std::string friendCount_friends(std::string_view friendCount, std::int64_t count);
+  [[nodiscard]] static std::string friendCount_friends(Text friendCount, std::int64_t count);
 
   /// "%{friendCount} friends still in"
   /// - 0: "No friends still in"
@@ -802,7 +803,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 2: "%{friendCount} friends still in"
   /// - 3 to 5: "%{friendCount} friends still in"
   /// - 6 and more: "%{friendCount} friends still in"
-  [[nodiscard]] static std::string friendCount_friends_still_in(std::string_view friendCount, std::int64_t count);
+  [[nodiscard]] static std::string friendCount_friends_still_in(Text friendCount, std::int64_t count);
 
   /// "%{friendRequestCount} friend requests"
   /// - 0: "No friend requests"
@@ -810,7 +811,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 2: "%{friendRequestCount} friend requests"
   /// - 3 to 5: "%{friendRequestCount} friend requests"
   /// - 6 and more: "%{friendRequestCount} friend requests"
-  [[nodiscard]] static std::string friendRequestCount_friend_requests(std::string_view friendRequestCount, std::int64_t count);
+  [[nodiscard]] static std::string friendRequestCount_friend_requests(Text friendRequestCount, std::int64_t count);
 
   /// "Friends"
   [[nodiscard]] static std::string Friends();
@@ -870,10 +871,10 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Get_Power_Ups_to_help_you_win();
 
   /// "Get %{product}"
-  [[nodiscard]] static std::string Get_product(std::string_view product);
+  [[nodiscard]] static std::string Get_product(Text product);
 
   /// "Get %{productName}"
-  [[nodiscard]] static std::string Get_productName(std::string_view productName);
+  [[nodiscard]] static std::string Get_productName(Text productName);
 
   /// "Get Started"
   [[nodiscard]] static std::string Get_Started();
@@ -963,37 +964,37 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string I_can_t_believe_I_got_this_question_wrong_on_zktrivia();
 
   /// "I just got %{round} questions correct on ZK Trivia! That’s a new record for me! You should play too. Use my code \"%{username}\" to sign up: https://zktrivia.example"
-  [[nodiscard]] static std::string I_just_got_round_questions_correct_on_ZK_Trivia_That_s_a_new_record_for_me_You_should_play_too_Use_m(std::string_view round, std::string_view username);
+  [[nodiscard]] static std::string I_just_got_round_questions_correct_on_ZK_Trivia_That_s_a_new_record_for_me_You_should_play_too_Use_m(Text round, Text username);
 
   /// "I just got %{round} questions correct on @zktrivia! That’s a new record for me! You should play too. Use my code \"%{username}\" to sign up: https://zktrivia.example"
-  [[nodiscard]] static std::string I_just_got_round_questions_correct_on_zktrivia_That_s_a_new_record_for_me_You_should_play_too_Use_my(std::string_view round, std::string_view username);
+  [[nodiscard]] static std::string I_just_got_round_questions_correct_on_zktrivia_That_s_a_new_record_for_me_You_should_play_too_Use_my(Text round, Text username);
 
   /// "I just unlocked the %{badge} badge on ZK Trivia! Sign up at https://zktrivia.example with my code \"%{code}\" and start your own collection."
-  [[nodiscard]] static std::string I_just_unlocked_the_badge_badge_on_ZK_Trivia_Sign_up_at_https_zktrivia_example_with_my_code_code_and(std::string_view badge, std::string_view code);
+  [[nodiscard]] static std::string I_just_unlocked_the_badge_badge_on_ZK_Trivia_Sign_up_at_https_zktrivia_example_with_my_code_code_and(Text badge, Text code);
 
   /// "I just unlocked the %{badge} badge on @zktrivia! Sign up at https://zktrivia.example with my code \"%{code}\" and start your own collection."
-  [[nodiscard]] static std::string I_just_unlocked_the_badge_badge_on_zktrivia_Sign_up_at_https_zktrivia_example_with_my_code_code_and_(std::string_view badge, std::string_view code);
+  [[nodiscard]] static std::string I_just_unlocked_the_badge_badge_on_zktrivia_Sign_up_at_https_zktrivia_example_with_my_code_code_and_(Text badge, Text code);
 
   /// "I just won %{prize} on %{twitterHandle}! You should play too. Use my code \"%{username}\""
-  [[nodiscard]] static std::string I_just_won_prize_on_twitterHandle_You_should_play_too_Use_my_code_username(std::string_view prize, std::string_view twitterHandle, std::string_view username);
+  [[nodiscard]] static std::string I_just_won_prize_on_twitterHandle_You_should_play_too_Use_my_code_username(Text prize, Text twitterHandle, Text username);
 
   /// "I just won %{prize} playing %{gameName}! Sign up at https://zktrivia.example with my code \"%{username}\" and play for the next prize."
-  [[nodiscard]] static std::string I_just_won_prize_playing_gameName_Sign_up_at_https_zktrivia_example_with_my_code_username_and_play_f(std::string_view prize, std::string_view gameName, std::string_view username);
+  [[nodiscard]] static std::string I_just_won_prize_playing_gameName_Sign_up_at_https_zktrivia_example_with_my_code_username_and_play_f(Text prize, Text gameName, Text username);
 
   /// "I just won %{prize} playing ZK Trivia! Play the next game with me: https://zktrivia.example"
-  [[nodiscard]] static std::string I_just_won_prize_playing_ZK_Trivia_Play_the_next_game_with_me_https_zktrivia_example(std::string_view prize);
+  [[nodiscard]] static std::string I_just_won_prize_playing_ZK_Trivia_Play_the_next_game_with_me_https_zktrivia_example(Text prize);
 
   /// "I just won %{prize} playing ZK Trivia! Sign up at https://zktrivia.example with my code \"%{username}\" and play for the next prize."
-  [[nodiscard]] static std::string I_just_won_prize_playing_ZK_Trivia_Sign_up_at_https_zktrivia_example_with_my_code_username_and_play_(std::string_view prize, std::string_view username);
+  [[nodiscard]] static std::string I_just_won_prize_playing_ZK_Trivia_Sign_up_at_https_zktrivia_example_with_my_code_username_and_play_(Text prize, Text username);
 
   /// "I just won %{prize} playing @zktrivia! Sign up at https://zktrivia.example with my code \"%{username}\" and play for the next prize."
-  [[nodiscard]] static std::string I_just_won_prize_playing_zktrivia_Sign_up_at_https_zktrivia_example_with_my_code_username_and_play_f(std::string_view prize, std::string_view username);
+  [[nodiscard]] static std::string I_just_won_prize_playing_zktrivia_Sign_up_at_https_zktrivia_example_with_my_code_username_and_play_f(Text prize, Text username);
 
   /// "I'm playing a game called %{appName}! You should play too."
-  [[nodiscard]] static std::string I_m_playing_a_game_called_appName_You_should_play_too(std::string_view appName);
+  [[nodiscard]] static std::string I_m_playing_a_game_called_appName_You_should_play_too(Text appName);
 
   /// "I won %{prize} playing\n%{zkNameVariant}"
-  [[nodiscard]] static std::string I_won_prize_playing_n_zkNameVariant(std::string_view prize, std::string_view zkNameVariant);
+  [[nodiscard]] static std::string I_won_prize_playing_n_zkNameVariant(Text prize, Text zkNameVariant);
 
   /// "If everyone gets eliminated, the\nprize rolls over to the next day."
   [[nodiscard]] static std::string If_everyone_gets_eliminated_the_n_prize_rolls_over_to_the_next_day();
@@ -1053,7 +1054,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Join();
 
   /// "Join me on ZK Trivia! Use my code \"%{username}\" to sign up: https://zktrivia.example"
-  [[nodiscard]] static std::string Join_me_on_ZK_Trivia_Use_my_code_username_to_sign_up_https_zktrivia_example(std::string_view username);
+  [[nodiscard]] static std::string Join_me_on_ZK_Trivia_Use_my_code_username_to_sign_up_https_zktrivia_example(Text username);
 
   /// "Joining game..."
   [[nodiscard]] static std::string Joining_game();
@@ -1062,7 +1063,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Keep_playing();
 
   /// "Keep playing for *%{amount}*!"
-  [[nodiscard]] static std::string Keep_playing_for_amount(std::string_view amount);
+  [[nodiscard]] static std::string Keep_playing_for_amount(Text amount);
 
   /// "Keep tapping!"
   [[nodiscard]] static std::string Keep_tapping();
@@ -1071,7 +1072,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Kick();
 
   /// "Kicking %{username} failed"
-  [[nodiscard]] static std::string Kicking_username_failed(std::string_view username);
+  [[nodiscard]] static std::string Kicking_username_failed(Text username);
 
   /// "Later"
   [[nodiscard]] static std::string Later();
@@ -1095,13 +1096,13 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Level();
 
   /// "%{level} Bonus Strikes"
-  [[nodiscard]] static std::string level_Bonus_Strikes(std::string_view level);
+  [[nodiscard]] static std::string level_Bonus_Strikes(Text level);
 
   /// "Level %{level} rewards"
-  [[nodiscard]] static std::string Level_level_rewards(std::string_view level);
+  [[nodiscard]] static std::string Level_level_rewards(Text level);
 
   /// "Level %{levelNumber}"
-  [[nodiscard]] static std::string Level_levelNumber(std::string_view levelNumber);
+  [[nodiscard]] static std::string Level_levelNumber(Text levelNumber);
 
   /// "Level Unlock"
   [[nodiscard]] static std::string Level_Unlock();
@@ -1172,13 +1173,13 @@ struct ZK_EXPORT ZKStrings {
   /// - 2: "%{messageCount} new messages"
   /// - 3 to 5: "%{messageCount} new messages"
   /// - 6 and more: "%{messageCount} new messages"
-  [[nodiscard]] static std::string messageCount_new_messages(std::string_view messageCount, std::int64_t count);
+  [[nodiscard]] static std::string messageCount_new_messages(Text messageCount, std::int64_t count);
 
   /// "Mini-games"
   [[nodiscard]] static std::string Mini_games();
 
   /// "%{minPoints}-%{maxPoints} points"
-  [[nodiscard]] static std::string minPoints_maxPoints_points(std::string_view minPoints, std::string_view maxPoints);
+  [[nodiscard]] static std::string minPoints_maxPoints_points(Text minPoints, Text maxPoints);
 
   /// "Month"
   [[nodiscard]] static std::string Month();
@@ -1204,7 +1205,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Music();
 
   /// "My new record on %{socialNetwork}"
-  [[nodiscard]] static std::string My_new_record_on_socialNetwork(std::string_view socialNetwork);
+  [[nodiscard]] static std::string My_new_record_on_socialNetwork(Text socialNetwork);
 
   /// "Nah"
   [[nodiscard]] static std::string Nah();
@@ -1218,7 +1219,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 2: "%{nearbyCount} people nearby"
   /// - 3 to 5: "%{nearbyCount} people nearby"
   /// - 6 and more: "%{nearbyCount} people nearby"
-  [[nodiscard]] static std::string nearbyCount_people_nearby(std::string_view nearbyCount, std::int64_t count);
+  [[nodiscard]] static std::string nearbyCount_people_nearby(Text nearbyCount, std::int64_t count);
 
   /// "New Feature:\nFind Friends on ZK"
   [[nodiscard]] static std::string New_Feature_n_Find_Friends_on_ZK();
@@ -1236,10 +1237,10 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Next_Game();
 
   /// "Next Game in %{timer}"
-  [[nodiscard]] static std::string Next_Game_in_timer(std::string_view timer);
+  [[nodiscard]] static std::string Next_Game_in_timer(Text timer);
 
   /// "Next Game: %{showTitle}"
-  [[nodiscard]] static std::string Next_Game_showTitle(std::string_view showTitle);
+  [[nodiscard]] static std::string Next_Game_showTitle(Text showTitle);
 
   /// "Next prize in %{questionCount} questions"
   /// - 0: "Next prize now"
@@ -1247,7 +1248,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 2: "Next prize in %{questionCount} questions"
   /// - 3 to 5: "Next prize in %{questionCount} questions"
   /// - 6 and more: "Next prize in %{questionCount} questions"
-  [[nodiscard]] static std::string Next_prize_in_questionCount_questions(std::string_view questionCount, std::int64_t count);
+  [[nodiscard]] static std::string Next_prize_in_questionCount_questions(Text questionCount, std::int64_t count);
 
   /// "*Next prize*\nin %{questionCount} questions"
   /// - 0: "*Next prize*\nnow"
@@ -1255,10 +1256,10 @@ struct ZK_EXPORT ZKStrings {
   /// - 2: "*Next prize*\nin %{questionCount} questions"
   /// - 3 to 5: "*Next prize*\nin %{questionCount} questions"
   /// - 6 and more: "*Next prize*\nin %{questionCount} questions"
-  [[nodiscard]] static std::string Next_prize_n_in_questionCount_questions(std::string_view questionCount, std::int64_t count);
+  [[nodiscard]] static std::string Next_prize_n_in_questionCount_questions(Text questionCount, std::int64_t count);
 
   /// "Next Round in %{time}"
-  [[nodiscard]] static std::string Next_Round_in_time(std::string_view time);
+  [[nodiscard]] static std::string Next_Round_in_time(Text time);
 
   /// "Next time, continue playing with an Extra Life! Get Extra Lives by inviting friends."
   [[nodiscard]] static std::string Next_time_continue_playing_with_an_Extra_Life_Get_Extra_Lives_by_inviting_friends();
@@ -1300,10 +1301,10 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Now_playing_in_Rewards_Mode();
 
   /// "%{number} correct"
-  [[nodiscard]] static std::string number_correct(std::string_view number);
+  [[nodiscard]] static std::string number_correct(Text number);
 
   /// "%{number} incorrect"
-  [[nodiscard]] static std::string number_incorrect(std::string_view number);
+  [[nodiscard]] static std::string number_incorrect(Text number);
 
   /// "Oh no!"
   [[nodiscard]] static std::string Oh_no();
@@ -1315,7 +1316,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Okay_we_ll_call_you_with_the_verification_code();
 
   /// "Okay, we'll resend the verification code to %{phoneNumber}"
-  [[nodiscard]] static std::string Okay_we_ll_resend_the_verification_code_to_phoneNumber(std::string_view phoneNumber);
+  [[nodiscard]] static std::string Okay_we_ll_resend_the_verification_code_to_phoneNumber(Text phoneNumber);
 
   /// "Once you have won, you can cashout\ndirectly to your PayPal account."
   [[nodiscard]] static std::string Once_you_have_won_you_can_cashout_n_directly_to_your_PayPal_account();
@@ -1342,7 +1343,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string or_();
 
   /// "or sign in via %{via}"
-  [[nodiscard]] static std::string or_sign_in_via_via(std::string_view via);
+  [[nodiscard]] static std::string or_sign_in_via_via(Text via);
 
   /// "Order It"
   [[nodiscard]] static std::string Order_It();
@@ -1351,7 +1352,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Out_of_time();
 
   /// "P%{puzzleNumber} of %{puzzleCount}"
-  [[nodiscard]] static std::string P_puzzleNumber_of_puzzleCount(std::string_view puzzleNumber, std::string_view puzzleCount);
+  [[nodiscard]] static std::string P_puzzleNumber_of_puzzleCount(Text puzzleNumber, Text puzzleCount);
 
   /// "Payment for one or more shows that this account has won is temporarily disabled. Please try again later."
   [[nodiscard]] static std::string Payment_for_one_or_more_shows_that_this_account_has_won_is_temporarily_disabled_Please_try_again_lat();
@@ -1369,7 +1370,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string People_nearby();
 
   /// "%{percent} complete"
-  [[nodiscard]] static std::string percent_complete(std::string_view percent);
+  [[nodiscard]] static std::string percent_complete(Text percent);
 
   /// "phone number"
   [[nodiscard]] static std::string phone_number();
@@ -1398,7 +1399,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 2: "Play %{days} more days in a row"
   /// - 3 to 5: "Play %{days} more days in a row"
   /// - 6 and more: "Play %{days} more days in a row"
-  [[nodiscard]] static std::string Play_days_more_days_in_a_row(std::string_view days, std::int64_t count);
+  [[nodiscard]] static std::string Play_days_more_days_in_a_row(Text days, std::int64_t count);
 
   /// "Play %{days} more days in a row to earn an Extra Life!"
   /// - 0: "You've played enough days in a row to earn an Extra Life!"
@@ -1406,13 +1407,13 @@ struct ZK_EXPORT ZKStrings {
   /// - 2: "Play %{days} more days in a row to earn an Extra Life!"
   /// - 3 to 5: "Play %{days} more days in a row to earn an Extra Life!"
   /// - 6 and more: "Play %{days} more days in a row to earn an Extra Life!"
-  [[nodiscard]] static std::string Play_days_more_days_in_a_row_to_earn_an_Extra_Life(std::string_view days, std::int64_t count);
+  [[nodiscard]] static std::string Play_days_more_days_in_a_row_to_earn_an_Extra_Life(Text days, std::int64_t count);
 
   /// "Play for points"
   [[nodiscard]] static std::string Play_for_points();
 
   /// "Play %{game} now with"
-  [[nodiscard]] static std::string Play_game_now_with(std::string_view game);
+  [[nodiscard]] static std::string Play_game_now_with(Text game);
 
   /// "Play %{gameCount} games"
   /// - 0: "No more games to play"
@@ -1420,10 +1421,10 @@ struct ZK_EXPORT ZKStrings {
   /// - 2: "Play %{gameCount} games"
   /// - 3 to 5: "Play %{gameCount} games"
   /// - 6 and more: "Play %{gameCount} games"
-  [[nodiscard]] static std::string Play_gameCount_games(std::string_view gameCount, std::int64_t count);
+  [[nodiscard]] static std::string Play_gameCount_games(Text gameCount, std::int64_t count);
 
   /// "Play %{gameName} with me! Use my code \"%{username}\" to sign up: https://zktrivia.example"
-  [[nodiscard]] static std::string Play_gameName_with_me_Use_my_code_username_to_sign_up_https_zktrivia_example(std::string_view gameName, std::string_view username);
+  [[nodiscard]] static std::string Play_gameName_with_me_Use_my_code_username_to_sign_up_https_zktrivia_example(Text gameName, Text username);
 
   /// "Play ZK Trivia, ZK Sports, and ZK Words"
   [[nodiscard]] static std::string Play_ZK_Trivia_ZK_Sports_and_ZK_Words();
@@ -1432,10 +1433,10 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Play_ZK_Trivia_Sports();
 
   /// "Play live game shows and win cash prizes with me on %{gameName}. Use my code '%{username}' to sign up! %{downloadUrl}"
-  [[nodiscard]] static std::string Play_live_game_shows_and_win_cash_prizes_with_me_on_gameName_Use_my_code_username_to_sign_up_downloa(std::string_view gameName, std::string_view username, std::string_view downloadUrl);
+  [[nodiscard]] static std::string Play_live_game_shows_and_win_cash_prizes_with_me_on_gameName_Use_my_code_username_to_sign_up_downloa(Text gameName, Text username, Text downloadUrl);
 
   /// "Play live game shows with me on ZK Trivia! Sign up at https://zktrivia.example with my code \"%{username}\" and win cash prizes."
-  [[nodiscard]] static std::string Play_live_game_shows_with_me_on_ZK_Trivia_Sign_up_at_https_zktrivia_example_with_my_code_username_an(std::string_view username);
+  [[nodiscard]] static std::string Play_live_game_shows_with_me_on_ZK_Trivia_Sign_up_at_https_zktrivia_example_with_my_code_username_an(Text username);
 
   /// "Play Now"
   [[nodiscard]] static std::string Play_Now();
@@ -1444,13 +1445,13 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Play_warm_up_game();
 
   /// "Play with %{cost} nearby players and you'll each earn an Eraser"
-  [[nodiscard]] static std::string Play_with_cost_nearby_players_and_you_ll_each_earn_an_Eraser(std::string_view cost);
+  [[nodiscard]] static std::string Play_with_cost_nearby_players_and_you_ll_each_earn_an_Eraser(Text cost);
 
   /// "%{players} in VIP Prize"
-  [[nodiscard]] static std::string players_in_VIP_Prize(std::string_view players);
+  [[nodiscard]] static std::string players_in_VIP_Prize(Text players);
 
   /// "%{players} remain"
-  [[nodiscard]] static std::string players_remain(std::string_view players);
+  [[nodiscard]] static std::string players_remain(Text players);
 
   /// "%{playersCount} players"
   /// - 0: "%{playersCount} players"
@@ -1458,7 +1459,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 2: "%{playersCount} players"
   /// - 3 to 5: "%{playersCount} players"
   /// - 6 and more: "%{playersCount} players"
-  [[nodiscard]] static std::string playersCount_players(std::string_view playersCount, std::int64_t count);
+  [[nodiscard]] static std::string playersCount_players(Text playersCount, std::int64_t count);
 
   /// "Playing for points"
   [[nodiscard]] static std::string Playing_for_points();
@@ -1482,7 +1483,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Please_enter_a_valid_verification_code();
 
   /// "Please enter the verification code sent to %{phoneNumber}"
-  [[nodiscard]] static std::string Please_enter_the_verification_code_sent_to_phoneNumber(std::string_view phoneNumber);
+  [[nodiscard]] static std::string Please_enter_the_verification_code_sent_to_phoneNumber(Text phoneNumber);
 
   /// "Please tell us a bit about the bug:"
   [[nodiscard]] static std::string Please_tell_us_a_bit_about_the_bug();
@@ -1497,7 +1498,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Please_try_the_next_game();
 
   /// "Please try the next game: %{gameInfo}"
-  [[nodiscard]] static std::string Please_try_the_next_game_gameInfo(std::string_view gameInfo);
+  [[nodiscard]] static std::string Please_try_the_next_game_gameInfo(Text gameInfo);
 
   /// "Please verify that the email used above is a valid PayPal email account. Transfers to your account may take up to 15 days."
   [[nodiscard]] static std::string Please_verify_that_the_email_used_above_is_a_valid_PayPal_email_account_Transfers_to_your_account_ma();
@@ -1522,7 +1523,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 2: "%{pointCount} pts away from Level %{level}"
   /// - 3 to 5: "%{pointCount} pts away from Level %{level}"
   /// - 6 and more: "%{pointCount} pts away from Level %{level}"
-  [[nodiscard]] static std::string pointCount_pts_away_from_Level_level(std::string_view pointCount, std::string_view level, std::int64_t count);
+  [[nodiscard]] static std::string pointCount_pts_away_from_Level_level(Text pointCount, Text level, std::int64_t count);
 
   /// "points"
   [[nodiscard]] static std::string points();
@@ -1534,10 +1535,10 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Points_on_this_game();
 
   /// "%{points} points"
-  [[nodiscard]] static std::string points_points(std::string_view points);
+  [[nodiscard]] static std::string points_points(Text points);
 
   /// "%{pointsMultiplier}x Points"
-  [[nodiscard]] static std::string pointsMultiplier_x_Points(std::string_view pointsMultiplier);
+  [[nodiscard]] static std::string pointsMultiplier_x_Points(Text pointsMultiplier);
 
   /// "Power Ups"
   [[nodiscard]] static std::string Power_Ups();
@@ -1555,7 +1556,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Prize();
 
   /// "%{prizeAmount} prize"
-  [[nodiscard]] static std::string prizeAmount_prize(std::string_view prizeAmount);
+  [[nodiscard]] static std::string prizeAmount_prize(Text prizeAmount);
 
   /// "Profile"
   [[nodiscard]] static std::string Profile();
@@ -1564,22 +1565,22 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Pull_down_to_leave_the_game();
 
   /// "Puzzle %{puzzleNumber}"
-  [[nodiscard]] static std::string Puzzle_puzzleNumber(std::string_view puzzleNumber);
+  [[nodiscard]] static std::string Puzzle_puzzleNumber(Text puzzleNumber);
 
   /// "Q1 is about to start!"
   [[nodiscard]] static std::string Q1_is_about_to_start();
 
   /// "Q%{questionNumber} of %{questionCount}"
-  [[nodiscard]] static std::string Q_questionNumber_of_questionCount(std::string_view questionNumber, std::string_view questionCount);
+  [[nodiscard]] static std::string Q_questionNumber_of_questionCount(Text questionNumber, Text questionCount);
 
   /// "Question"
   [[nodiscard]] static std::string Question();
 
   /// "%{questionNumber} of %{questionCount}"
-  [[nodiscard]] static std::string questionNumber_of_questionCount(std::string_view questionNumber, std::string_view questionCount);
+  [[nodiscard]] static std::string questionNumber_of_questionCount(Text questionNumber, Text questionCount);
 
   /// "%{questions} &\n%{players} remain"
-  [[nodiscard]] static std::string questions_n_players_remain(std::string_view questions, std::string_view players);
+  [[nodiscard]] static std::string questions_n_players_remain(Text questions, Text players);
 
   /// "%{questionsCount} questions"
   /// - 0: "%{questionsCount} questions"
@@ -1587,10 +1588,10 @@ struct ZK_EXPORT ZKStrings {
   /// - 2: "%{questionsCount} questions"
   /// - 3 to 5: "%{questionsCount} questions"
   /// - 6 and more: "%{questionsCount} questions"
-  [[nodiscard]] static std::string questionsCount_questions(std::string_view questionsCount, std::int64_t count);
+  [[nodiscard]] static std::string questionsCount_questions(Text questionsCount, std::int64_t count);
 
   /// "R%{roundNumber} of %{roundCount}"
-  [[nodiscard]] static std::string R_roundNumber_of_roundCount(std::string_view roundNumber, std::string_view roundCount);
+  [[nodiscard]] static std::string R_roundNumber_of_roundCount(Text roundNumber, Text roundCount);
 
   /// "Rank"
   [[nodiscard]] static std::string Rank();
@@ -1607,7 +1608,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 2: "%{recommendedCount} recommended friends"
   /// - 3 to 5: "%{recommendedCount} recommended friends"
   /// - 6 and more: "%{recommendedCount} recommended friends"
-  [[nodiscard]] static std::string recommendedCount_recommended_friends(std::string_view recommendedCount, std::int64_t count);
+  [[nodiscard]] static std::string recommendedCount_recommended_friends(Text recommendedCount, std::int64_t count);
 
   /// "Reconnecting…"
   [[nodiscard]] static std::string Reconnecting();
@@ -1636,7 +1637,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 2: "%{referralCount} referrals left"
   /// - 3 to 5: "%{referralCount} referrals left"
   /// - 6 and more: "%{referralCount} referrals left"
-  [[nodiscard]] static std::string referralCount_referrals_left(std::string_view referralCount, std::int64_t count);
+  [[nodiscard]] static std::string referralCount_referrals_left(Text referralCount, std::int64_t count);
 
   /// "Refresh contacts"
   [[nodiscard]] static std::string Refresh_contacts();
@@ -1675,7 +1676,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Resend_code();
 
   /// "Resend code in %{timeLeft}"
-  [[nodiscard]] static std::string Resend_code_in_timeLeft(std::string_view timeLeft);
+  [[nodiscard]] static std::string Resend_code_in_timeLeft(Text timeLeft);
 
   /// "Rest of World Privacy Policy"
   [[nodiscard]] static std::string Rest_of_World_Privacy_Policy();
@@ -1708,10 +1709,10 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Round_1_is_about_to_start();
 
   /// "Round %{roundNumber}"
-  [[nodiscard]] static std::string Round_roundNumber(std::string_view roundNumber);
+  [[nodiscard]] static std::string Round_roundNumber(Text roundNumber);
 
   /// "Round %{roundNumber} Results"
-  [[nodiscard]] static std::string Round_roundNumber_Results(std::string_view roundNumber);
+  [[nodiscard]] static std::string Round_roundNumber_Results(Text roundNumber);
 
   /// "Round Winners"
   [[nodiscard]] static std::string Round_Winners();
@@ -1738,7 +1739,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Search_ZK_users();
 
   /// "Search results for \"%{searchTerm}\""
-  [[nodiscard]] static std::string Search_results_for_searchTerm(std::string_view searchTerm);
+  [[nodiscard]] static std::string Search_results_for_searchTerm(Text searchTerm);
 
   /// "Searching for %{cost} nearby players to collect an *Eraser* power up"
   /// - 0: "No more nearby players needed to collect an *Eraser* power up"
@@ -1746,7 +1747,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 2: "Searching for %{cost} nearby players to collect an *Eraser* power up"
   /// - 3 to 5: "Searching for %{cost} nearby players to collect an *Eraser* power up"
   /// - 6 and more: "Searching for %{cost} nearby players to collect an *Eraser* power up"
-  [[nodiscard]] static std::string Searching_for_cost_nearby_players_to_collect_an_Eraser_power_up(std::string_view cost, std::int64_t count);
+  [[nodiscard]] static std::string Searching_for_cost_nearby_players_to_collect_an_Eraser_power_up(Text cost, std::int64_t count);
 
   /// "Season Ended!"
   [[nodiscard]] static std::string Season_Ended();
@@ -1788,7 +1789,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Share_code();
 
   /// "Share code: %{username}"
-  [[nodiscard]] static std::string Share_code_username(std::string_view username);
+  [[nodiscard]] static std::string Share_code_username(Text username);
 
   /// "Share to Facebook"
   [[nodiscard]] static std::string Share_to_Facebook();
@@ -1808,7 +1809,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 2: "%{shareCount} shares left"
   /// - 3 to 5: "%{shareCount} shares left"
   /// - 6 and more: "%{shareCount} shares left"
-  [[nodiscard]] static std::string shareCount_shares_left(std::string_view shareCount, std::int64_t count);
+  [[nodiscard]] static std::string shareCount_shares_left(Text shareCount, std::int64_t count);
 
   /// "Show details"
   [[nodiscard]] static std::string Show_details();
@@ -1859,7 +1860,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Sorry_you_don_t_have_enough_coins_You_ll_be_able_to_buy_more_soon();
 
   /// "Sorry, you need a minimum balance of %{minBalance} to cashout. Win some more games!"
-  [[nodiscard]] static std::string Sorry_you_need_a_minimum_balance_of_minBalance_to_cashout_Win_some_more_games(std::string_view minBalance);
+  [[nodiscard]] static std::string Sorry_you_need_a_minimum_balance_of_minBalance_to_cashout_Win_some_more_games(Text minBalance);
 
   /// "Spin normal wheel"
   [[nodiscard]] static std::string Spin_normal_wheel();
@@ -1906,7 +1907,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 2: "%{strikeCount} strikes left"
   /// - 3 to 5: "%{strikeCount} strikes left"
   /// - 6 and more: "%{strikeCount} strikes left"
-  [[nodiscard]] static std::string strikeCount_strikes_left(std::string_view strikeCount, std::int64_t count);
+  [[nodiscard]] static std::string strikeCount_strikes_left(Text strikeCount, std::int64_t count);
 
   /// "%{strikeCount} strikes left this round!"
   /// - 0: "No strikes left this round!"
@@ -1914,7 +1915,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 2: "%{strikeCount} strikes left this round!"
   /// - 3 to 5: "%{strikeCount} strikes left this round!"
   /// - 6 and more: "%{strikeCount} strikes left this round!"
-  [[nodiscard]] static std::string strikeCount_strikes_left_this_round(std::string_view strikeCount, std::int64_t count);
+  [[nodiscard]] static std::string strikeCount_strikes_left_this_round(Text strikeCount, std::int64_t count);
 
   /// "Submit"
   [[nodiscard]] static std::string Submit();
@@ -1943,10 +1944,10 @@ struct ZK_EXPORT ZKStrings {
   /// - 2: "Success! You bought %{extraLifeCount} Extra Lives to help you win."
   /// - 3 to 5: "Success! You bought %{extraLifeCount} Extra Lives to help you win."
   /// - 6 and more: "Success! You bought %{extraLifeCount} Extra Lives to help you win."
-  [[nodiscard]] static std::string Success_You_bought_extraLifeCount_Extra_Lives_to_help_you_win(std::string_view extraLifeCount, std::int64_t count);
+  [[nodiscard]] static std::string Success_You_bought_extraLifeCount_Extra_Lives_to_help_you_win(Text extraLifeCount, std::int64_t count);
 
   /// "Success! You have %{count} %{name}."
-  [[nodiscard]] static std::string Success_You_have_count_name(std::string_view count, std::string_view name);
+  [[nodiscard]] static std::string Success_You_have_count_name(Text count, Text name);
 
   /// "Suggested friends"
   [[nodiscard]] static std::string Suggested_friends();
@@ -1957,7 +1958,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 2: "%{suggestedCount} suggested friends"
   /// - 3 to 5: "%{suggestedCount} suggested friends"
   /// - 6 and more: "%{suggestedCount} suggested friends"
-  [[nodiscard]] static std::string suggestedCount_suggested_friends(std::string_view suggestedCount, std::int64_t count);
+  [[nodiscard]] static std::string suggestedCount_suggested_friends(Text suggestedCount, std::int64_t count);
 
   /// "Super Spins"
   [[nodiscard]] static std::string Super_Spins();
@@ -2019,7 +2020,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Terms_of_Use();
 
   /// "Thank you %{username}, your request to donate %{amount} to %{charityName} has been submitted."
-  [[nodiscard]] static std::string Thank_you_username_your_request_to_donate_amount_to_charityName_has_been_submitted(std::string_view username, std::string_view amount, std::string_view charityName);
+  [[nodiscard]] static std::string Thank_you_username_your_request_to_donate_amount_to_charityName_has_been_submitted(Text username, Text amount, Text charityName);
 
   /// "Thanks for being patient! \n Your game will resume shortly."
   [[nodiscard]] static std::string Thanks_for_being_patient_n_Your_game_will_resume_shortly();
@@ -2189,7 +2190,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Unlocks(std::int64_t count);
 
   /// "%{unlocks} Unlocks left"
-  [[nodiscard]] static std::string unlocks_Unlocks_left(std::string_view unlocks);
+  [[nodiscard]] static std::string unlocks_Unlocks_left(Text unlocks);
 
   /// "Unsubscribe"
   [[nodiscard]] static std::string Unsubscribe();
@@ -2237,10 +2238,10 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Use_my_code();
 
   /// "Use my code \"%{code}\" to sign up %{url}"
-  [[nodiscard]] static std::string Use_my_code_code_to_sign_up_url(std::string_view code, std::string_view url);
+  [[nodiscard]] static std::string Use_my_code_code_to_sign_up_url(Text code, Text url);
 
   /// "%{user} was kicked out."
-  [[nodiscard]] static std::string user_was_kicked_out(std::string_view user);
+  [[nodiscard]] static std::string user_was_kicked_out(Text user);
 
   /// "%{userCount} others"
   /// - 0: "%{userCount} others"
@@ -2248,7 +2249,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 2: "%{userCount} others"
   /// - 3 to 5: "%{userCount} others"
   /// - 6 and more: "%{userCount} others"
-  [[nodiscard]] static std::string userCount_others(std::string_view userCount, std::int64_t count);
+  [[nodiscard]] static std::string userCount_others(Text userCount, std::int64_t count);
 
   /// "%{userCount} others still in"
   /// - 0: "No others still in"
@@ -2256,7 +2257,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 2: "%{userCount} others still in"
   /// - 3 to 5: "%{userCount} others still in"
   /// - 6 and more: "%{userCount} others still in"
-  [[nodiscard]] static std::string userCount_others_still_in(std::string_view userCount, std::int64_t count);
+  [[nodiscard]] static std::string userCount_others_still_in(Text userCount, std::int64_t count);
 
   /// "%{userCount} people"
   /// - 0: "%{userCount} people"
@@ -2264,7 +2265,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 2: "%{userCount} people"
   /// - 3 to 5: "%{userCount} people"
   /// - 6 and more: "%{userCount} people"
-  [[nodiscard]] static std::string userCount_people(std::string_view userCount, std::int64_t count);
+  [[nodiscard]] static std::string userCount_people(Text userCount, std::int64_t count);
 
   /// "%{userCount} VIPs"
   /// - 0: "%{userCount} VIPs"
@@ -2272,7 +2273,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 2: "%{userCount} VIPs"
   /// - 3 to 5: "%{userCount} VIPs"
   /// - 6 and more: "%{userCount} VIPs"
-  [[nodiscard]] static std::string userCount_VIPs(std::string_view userCount, std::int64_t count);
+  [[nodiscard]] static std::string userCount_VIPs(Text userCount, std::int64_t count);
 
   /// "%{userCount} VIPs still in"
   /// - 0: "No VIPs still in"
@@ -2280,7 +2281,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 2: "%{userCount} VIPs still in"
   /// - 3 to 5: "%{userCount} VIPs still in"
   /// - 6 and more: "%{userCount} VIPs still in"
-  [[nodiscard]] static std::string userCount_VIPs_still_in(std::string_view userCount, std::int64_t count);
+  [[nodiscard]] static std::string userCount_VIPs_still_in(Text userCount, std::int64_t count);
 
   /// "Username"
   [[nodiscard]] static std::string Username();
@@ -2289,19 +2290,19 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Username_already_taken();
 
   /// "%{username} and %{username2} were eliminated."
-  [[nodiscard]] static std::string username_and_username2_were_eliminated(std::string_view username, std::string_view username2);
+  [[nodiscard]] static std::string username_and_username2_were_eliminated(Text username, Text username2);
 
   /// "Username available!"
   [[nodiscard]] static std::string Username_available();
 
   /// "%{username} joined the game."
-  [[nodiscard]] static std::string username_joined_the_game(std::string_view username);
+  [[nodiscard]] static std::string username_joined_the_game(Text username);
 
   /// "Username unavailable!"
   [[nodiscard]] static std::string Username_unavailable();
 
   /// "%{username} used an Extra Life."
-  [[nodiscard]] static std::string username_used_an_Extra_Life(std::string_view username);
+  [[nodiscard]] static std::string username_used_an_Extra_Life(Text username);
 
   /// "%{username}, %{username2}, and %{friendCount} other friends were eliminated."
   /// - 0: "%{username} and %{username2} were eliminated."
@@ -2309,25 +2310,25 @@ struct ZK_EXPORT ZKStrings {
   /// - 2: "%{username}, %{username2}, and %{friendCount} other friends were eliminated."
   /// - 3 to 5: "%{username}, %{username2}, and %{friendCount} other friends were eliminated."
   /// - 6 and more: "%{username}, %{username2}, and %{friendCount} other friends were eliminated."
-  [[nodiscard]] static std::string username_username2_and_friendCount_other_friends_were_eliminated(std::string_view username, std::string_view username2, std::string_view friendCount, std::int64_t count);
+  [[nodiscard]] static std::string username_username2_and_friendCount_other_friends_were_eliminated(Text username, Text username2, Text friendCount, std::int64_t count);
 
   /// "%{username} was eliminated."
-  [[nodiscard]] static std::string username_was_eliminated(std::string_view username);
+  [[nodiscard]] static std::string username_was_eliminated(Text username);
 
   /// "%{username} was kicked successfully"
-  [[nodiscard]] static std::string username_was_kicked_successfully(std::string_view username);
+  [[nodiscard]] static std::string username_was_kicked_successfully(Text username);
 
   /// "%{username} was silently kicked"
-  [[nodiscard]] static std::string username_was_silently_kicked(std::string_view username);
+  [[nodiscard]] static std::string username_was_silently_kicked(Text username);
 
   /// "%{username} won the game!"
-  [[nodiscard]] static std::string username_won_the_game(std::string_view username);
+  [[nodiscard]] static std::string username_won_the_game(Text username);
 
   /// "Usernames must be 3-15 characters long and can contain only letters, numbers, - , or _ . Inappropriate language in usernames is a violation of the Terms of Use. Your username will also be your referral code."
   [[nodiscard]] static std::string Usernames_must_be_3_15_characters_long_and_can_contain_only_letters_numbers_or_Inappropriate_languag();
 
   /// "Using Extra Life in %{seconds}"
-  [[nodiscard]] static std::string Using_Extra_Life_in_seconds(std::string_view seconds);
+  [[nodiscard]] static std::string Using_Extra_Life_in_seconds(Text seconds);
 
   /// "Valid referral code!"
   [[nodiscard]] static std::string Valid_referral_code();
@@ -2348,7 +2349,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string VIP_Prize_Rules();
 
   /// "%{votes} votes"
-  [[nodiscard]] static std::string votes_votes(std::string_view votes);
+  [[nodiscard]] static std::string votes_votes(Text votes);
 
   /// "Warm up & win coins"
   [[nodiscard]] static std::string Warm_up_win_coins();
@@ -2437,7 +2438,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Welcome_back_You_ve_been_eliminated_but_can_still_watch();
 
   /// "Win *%{amount}* now"
-  [[nodiscard]] static std::string Win_amount_now(std::string_view amount);
+  [[nodiscard]] static std::string Win_amount_now(Text amount);
 
   /// "Winner"
   [[nodiscard]] static std::string Winner();
@@ -2451,7 +2452,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 2: "%{winnerCount} Winners!"
   /// - 3 to 5: "%{winnerCount} Winners!"
   /// - 6 and more: "%{winnerCount} Winners!"
-  [[nodiscard]] static std::string winnerCount_Winners(std::string_view winnerCount, std::int64_t count);
+  [[nodiscard]] static std::string winnerCount_Winners(Text winnerCount, std::int64_t count);
 
   /// "Winners"
   [[nodiscard]] static std::string Winners();
@@ -2466,7 +2467,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Word_Search();
 
   /// "%{words} words found"
-  [[nodiscard]] static std::string words_words_found(std::string_view words);
+  [[nodiscard]] static std::string words_words_found(Text words);
 
   /// "Wrong answer? Continue playing with an Extra Life."
   [[nodiscard]] static std::string Wrong_answer_Continue_playing_with_an_Extra_Life();
@@ -2483,7 +2484,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 2: "Yay! You played %{days} days in a row!"
   /// - 3 to 5: "Yay! You played %{days} days in a row!"
   /// - 6 and more: "Yay! You played %{days} days in a row!"
-  [[nodiscard]] static std::string Yay_You_played_days_days_in_a_row(std::string_view days, std::int64_t count);
+  [[nodiscard]] static std::string Yay_You_played_days_days_in_a_row(Text days, std::int64_t count);
 
   /// "Year"
   [[nodiscard]] static std::string Year();
@@ -2512,7 +2513,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 2: "You can't win the cash prize, but get %{pointsToGo} more points to earn an Extra Life!"
   /// - 3 to 5: "You can't win the cash prize, but get %{pointsToGo} more points to earn an Extra Life!"
   /// - 6 and more: "You can't win the cash prize, but get %{pointsToGo} more points to earn an Extra Life!"
-  [[nodiscard]] static std::string You_can_t_win_the_cash_prize_but_get_pointsToGo_more_points_to_earn_an_Extra_Life(std::string_view pointsToGo, std::int64_t count);
+  [[nodiscard]] static std::string You_can_t_win_the_cash_prize_but_get_pointsToGo_more_points_to_earn_an_Extra_Life(Text pointsToGo, std::int64_t count);
 
   /// "You can use your purchased ticket for the next game."
   [[nodiscard]] static std::string You_can_use_your_purchased_ticket_for_the_next_game();
@@ -2530,13 +2531,13 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string You_earned_an_Eraser();
 
   /// "You earned an Eraser by playing with %{player1}!"
-  [[nodiscard]] static std::string You_earned_an_Eraser_by_playing_with_player1(std::string_view player1);
+  [[nodiscard]] static std::string You_earned_an_Eraser_by_playing_with_player1(Text player1);
 
   /// "You earned an Eraser by playing with %{player1} and %{player2}!"
-  [[nodiscard]] static std::string You_earned_an_Eraser_by_playing_with_player1_and_player2(std::string_view player1, std::string_view player2);
+  [[nodiscard]] static std::string You_earned_an_Eraser_by_playing_with_player1_and_player2(Text player1, Text player2);
 
   /// "You earned an Eraser by playing with %{player1}, %{player2}, and %{player3}!"
-  [[nodiscard]] static std::string You_earned_an_Eraser_by_playing_with_player1_player2_and_player3(std::string_view player1, std::string_view player2, std::string_view player3);
+  [[nodiscard]] static std::string You_earned_an_Eraser_by_playing_with_player1_player2_and_player3(Text player1, Text player2, Text player3);
 
   /// "You earned an Extra Life!"
   [[nodiscard]] static std::string You_earned_an_Extra_Life();
@@ -2548,7 +2549,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string You_got_a_box();
 
   /// "You got a %{product}!"
-  [[nodiscard]] static std::string You_got_a_product(std::string_view product);
+  [[nodiscard]] static std::string You_got_a_product(Text product);
 
   /// "You got an Extra Life!"
   [[nodiscard]] static std::string You_got_an_Extra_Life();
@@ -2562,7 +2563,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 2: "You got %{coinCount} coins!"
   /// - 3 to 5: "You got %{coinCount} coins!"
   /// - 6 and more: "You got %{coinCount} coins!"
-  [[nodiscard]] static std::string You_got_coinCount_coins(std::string_view coinCount, std::int64_t count);
+  [[nodiscard]] static std::string You_got_coinCount_coins(Text coinCount, std::int64_t count);
 
   /// "You got %{dollarCount} dollars!"
   /// - 0: "No dollars this time"
@@ -2570,7 +2571,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 2: "You got %{dollarCount} dollars!"
   /// - 3 to 5: "You got %{dollarCount} dollars!"
   /// - 6 and more: "You got %{dollarCount} dollars!"
-  [[nodiscard]] static std::string You_got_dollarCount_dollars(std::string_view dollarCount, std::int64_t count);
+  [[nodiscard]] static std::string You_got_dollarCount_dollars(Text dollarCount, std::int64_t count);
 
   /// "You got %{lifeCount} Extra Lives!"
   /// - 0: "No Extra Lives this time"
@@ -2578,7 +2579,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 2: "You got %{lifeCount} Extra Lives!"
   /// - 3 to 5: "You got %{lifeCount} Extra Lives!"
   /// - 6 and more: "You got %{lifeCount} Extra Lives!"
-  [[nodiscard]] static std::string You_got_lifeCount_Extra_Lives(std::string_view lifeCount, std::int64_t count);
+  [[nodiscard]] static std::string You_got_lifeCount_Extra_Lives(Text lifeCount, std::int64_t count);
 
   /// "You got %{lifeCount} Extra Lives from %{sender}!"
   /// - 0: "No Extra Lives from %{sender} this time"
@@ -2586,19 +2587,19 @@ struct ZK_EXPORT ZKStrings {
   /// - 2: "You got %{lifeCount} Extra Lives from %{sender}!"
   /// - 3 to 5: "You got %{lifeCount} Extra Lives from %{sender}!"
   /// - 6 and more: "You got %{lifeCount} Extra Lives from %{sender}!"
-  [[nodiscard]] static std::string You_got_lifeCount_Extra_Lives_from_sender(std::string_view lifeCount, std::string_view sender, std::int64_t count);
+  [[nodiscard]] static std::string You_got_lifeCount_Extra_Lives_from_sender(Text lifeCount, Text sender, std::int64_t count);
 
   /// "You got %{number} %{products}!"
-  [[nodiscard]] static std::string You_got_number_products(std::string_view number, std::string_view products);
+  [[nodiscard]] static std::string You_got_number_products(Text number, Text products);
 
   /// "You got %{points} more points!"
-  [[nodiscard]] static std::string You_got_points_more_points(std::string_view points);
+  [[nodiscard]] static std::string You_got_points_more_points(Text points);
 
   /// "You got %{round} of %{totalAnswers} correct!"
-  [[nodiscard]] static std::string You_got_round_of_totalAnswers_correct(std::string_view round, std::string_view totalAnswers);
+  [[nodiscard]] static std::string You_got_round_of_totalAnswers_correct(Text round, Text totalAnswers);
 
   /// "You got the letter %{letter}!"
-  [[nodiscard]] static std::string You_got_the_letter_letter(std::string_view letter);
+  [[nodiscard]] static std::string You_got_the_letter_letter(Text letter);
 
   /// "You got the letter %{letter} and %{extraLifeCount} extra lives!"
   /// - 0: "You got the letter %{letter}!"
@@ -2606,7 +2607,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 2: "You got the letter %{letter} and %{extraLifeCount} extra lives!"
   /// - 3 to 5: "You got the letter %{letter} and %{extraLifeCount} extra lives!"
   /// - 6 and more: "You got the letter %{letter} and %{extraLifeCount} extra lives!"
-  [[nodiscard]] static std::string You_got_the_letter_letter_and_extraLifeCount_extra_lives(std::string_view letter, std::string_view extraLifeCount, std::int64_t count);
+  [[nodiscard]] static std::string You_got_the_letter_letter_and_extraLifeCount_extra_lives(Text letter, Text extraLifeCount, std::int64_t count);
 
   /// "You got the letters %{letters}!"
   /// - 0: "No letters this time"
@@ -2614,13 +2615,13 @@ struct ZK_EXPORT ZKStrings {
   /// - 2: "You got the letters %{letters}!"
   /// - 3 to 5: "You got the letters %{letters}!"
   /// - 6 and more: "You got the letters %{letters}!"
-  [[nodiscard]] static std::string You_got_the_letters_letters(std::string_view letters, std::int64_t count);
+  [[nodiscard]] static std::string You_got_the_letters_letters(Text letters, std::int64_t count);
 
   /// "You got the\n%{product}!"
-  [[nodiscard]] static std::string You_got_the_n_product(std::string_view product);
+  [[nodiscard]] static std::string You_got_the_n_product(Text product);
 
   /// "You got to Level %{level}"
-  [[nodiscard]] static std::string You_got_to_Level_level(std::string_view level);
+  [[nodiscard]] static std::string You_got_to_Level_level(Text level);
 
   /// "*You have 0 Extra Lives*\nBuy some to help you win!"
   /// - 0: "*You have 0 Extra Lives*\nBuy some to help you win!"
@@ -2645,13 +2646,13 @@ struct ZK_EXPORT ZKStrings {
   /// - 2: "You have %{extraLifeCount} Extra Lives!"
   /// - 3 to 5: "You have %{extraLifeCount} Extra Lives!"
   /// - 6 and more: "You have %{extraLifeCount} Extra Lives!"
-  [[nodiscard]] static std::string You_have_extraLifeCount_Extra_Lives(std::string_view extraLifeCount, std::int64_t count);
+  [[nodiscard]] static std::string You_have_extraLifeCount_Extra_Lives(Text extraLifeCount, std::int64_t count);
 
   /// "You have reached the maximum number of Friends. We are working to increase this limit soon."
   [[nodiscard]] static std::string You_have_reached_the_maximum_number_of_Friends_We_are_working_to_increase_this_limit_soon();
 
   /// "You leveled up to Level %{level}"
-  [[nodiscard]] static std::string You_leveled_up_to_Level_level(std::string_view level);
+  [[nodiscard]] static std::string You_leveled_up_to_Level_level(Text level);
 
   /// "You'll receive an email with further instructions."
   [[nodiscard]] static std::string You_ll_receive_an_email_with_further_instructions();
@@ -2702,10 +2703,10 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string You_re_using_an_Eraser();
 
   /// "You reached Q%{reached} and got %{correctCount} of %{totalCount} Qs correct."
-  [[nodiscard]] static std::string You_reached_Q_reached_and_got_correctCount_of_totalCount_Qs_correct(std::string_view reached, std::string_view correctCount, std::string_view totalCount);
+  [[nodiscard]] static std::string You_reached_Q_reached_and_got_correctCount_of_totalCount_Qs_correct(Text reached, Text correctCount, Text totalCount);
 
   /// "You successfully linked your %{provider} account."
-  [[nodiscard]] static std::string You_successfully_linked_your_provider_account(std::string_view provider);
+  [[nodiscard]] static std::string You_successfully_linked_your_provider_account(Text provider);
 
   /// "You unlocked %{badgeCount} Badges"
   /// - 0: "No Badges unlocked this time"
@@ -2713,7 +2714,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 2: "You unlocked %{badgeCount} Badges"
   /// - 3 to 5: "You unlocked %{badgeCount} Badges"
   /// - 6 and more: "You unlocked %{badgeCount} Badges"
-  [[nodiscard]] static std::string You_unlocked_badgeCount_Badges(std::string_view badgeCount, std::int64_t count);
+  [[nodiscard]] static std::string You_unlocked_badgeCount_Badges(Text badgeCount, std::int64_t count);
 
   /// "You've been eliminated from the game. You can watch and chat only."
   [[nodiscard]] static std::string You_ve_been_eliminated_from_the_game_You_can_watch_and_chat_only();
@@ -2728,19 +2729,19 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string You_ve_got_a_bunch_of_letters();
 
   /// "You've got the letter %{firstLetter}!"
-  [[nodiscard]] static std::string You_ve_got_the_letter_firstLetter(std::string_view firstLetter);
+  [[nodiscard]] static std::string You_ve_got_the_letter_firstLetter(Text firstLetter);
 
   /// "You've got the letters %{firstLetter} and %{secondLetter}!"
-  [[nodiscard]] static std::string You_ve_got_the_letters_firstLetter_and_secondLetter(std::string_view firstLetter, std::string_view secondLetter);
+  [[nodiscard]] static std::string You_ve_got_the_letters_firstLetter_and_secondLetter(Text firstLetter, Text secondLetter);
 
   /// "You've got the letters %{firstLetter}, %{secondLetter}, and %{thirdLetter}!"
-  [[nodiscard]] static std::string You_ve_got_the_letters_firstLetter_secondLetter_and_thirdLetter(std::string_view firstLetter, std::string_view secondLetter, std::string_view thirdLetter);
+  [[nodiscard]] static std::string You_ve_got_the_letters_firstLetter_secondLetter_and_thirdLetter(Text firstLetter, Text secondLetter, Text thirdLetter);
 
   /// "You've got the letters %{firstLetter}, %{secondLetter}, %{thirdLetter}, and %{fourthLetter}!"
-  [[nodiscard]] static std::string You_ve_got_the_letters_firstLetter_secondLetter_thirdLetter_and_fourthLetter(std::string_view firstLetter, std::string_view secondLetter, std::string_view thirdLetter, std::string_view fourthLetter);
+  [[nodiscard]] static std::string You_ve_got_the_letters_firstLetter_secondLetter_thirdLetter_and_fourthLetter(Text firstLetter, Text secondLetter, Text thirdLetter, Text fourthLetter);
 
   /// "You've got the letters %{firstLetter}, %{secondLetter}, %{thirdLetter}, %{fourthLetter}, and %{fifthLetter}!"
-  [[nodiscard]] static std::string You_ve_got_the_letters_firstLetter_secondLetter_thirdLetter_fourthLetter_and_fifthLetter(std::string_view firstLetter, std::string_view secondLetter, std::string_view thirdLetter, std::string_view fourthLetter, std::string_view fifthLetter);
+  [[nodiscard]] static std::string You_ve_got_the_letters_firstLetter_secondLetter_thirdLetter_fourthLetter_and_fifthLetter(Text firstLetter, Text secondLetter, Text thirdLetter, Text fourthLetter, Text fifthLetter);
 
   /// "You’ve violated the terms of service so you will not be able to cash out. If you think this may be a mistake, please contact support. Learn more"
   [[nodiscard]] static std::string You_ve_violated_the_terms_of_service_so_you_will_not_be_able_to_cash_out_If_you_think_this_may_be_a_();
@@ -2752,7 +2753,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string You_won();
 
   /// "You won %{level} points!"
-  [[nodiscard]] static std::string You_won_level_points(std::string_view level);
+  [[nodiscard]] static std::string You_won_level_points(Text level);
 
   /// "You won the\nVIP Prize!"
   [[nodiscard]] static std::string You_won_the_nVIP_Prize();
@@ -2767,7 +2768,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Your_available_balance_may_be_lower_because_a_show_you_won_is_currently_in_review_Learn_more();
 
   /// "Your available balance may be lower because a show you won is currently in review. %{learnMore}"
-  [[nodiscard]] static std::string Your_available_balance_may_be_lower_because_a_show_you_won_is_currently_in_review_learnMore(std::string_view learnMore);
+  [[nodiscard]] static std::string Your_available_balance_may_be_lower_because_a_show_you_won_is_currently_in_review_learnMore(Text learnMore);
 
   /// "Your Balance"
   [[nodiscard]] static std::string Your_Balance();
@@ -2832,7 +2833,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Your_question_has_been_submitted();
 
   /// "Your rating: %{percent}%"
-  [[nodiscard]] static std::string Your_rating_percent(std::string_view percent);
+  [[nodiscard]] static std::string Your_rating_percent(Text percent);
 
   /// "Your referral can't be processed due to a possible violation of the Terms of Use. Please contact help at support@zktrivia.example if you have any questions."
   [[nodiscard]] static std::string Your_referral_can_t_be_processed_due_to_a_possible_violation_of_the_Terms_of_Use_Please_contact_help();
@@ -2844,7 +2845,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Your_referral_code_can_t_be_the_same_as_your_username();
 
   /// "Your request to cash out %{amount} has been submitted"
-  [[nodiscard]] static std::string Your_request_to_cash_out_amount_has_been_submitted(std::string_view amount);
+  [[nodiscard]] static std::string Your_request_to_cash_out_amount_has_been_submitted(Text amount);
 
   /// "Your Results"
   [[nodiscard]] static std::string Your_Results();

@@ -4,8 +4,19 @@ set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib)
 set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib)
 
-file(MAKE_DIRECTORY ${PROJECT_BINARY_DIR}/share ${PROJECT_BINARY_DIR}/include)
-file(CREATE_LINK ${PROJECT_SOURCE_DIR}/resources ${PROJECT_BINARY_DIR}/share/ZKStrings SYMBOLIC)
+# The resources' place at or above the directory of the module's file, and their place in the installation as it is
+# configured, seen from the library's directory.
+if(IS_ABSOLUTE "${CMAKE_INSTALL_DATADIR}")
+  set(resources_above share/ZKStrings)
+  set(resources_installed ${CMAKE_INSTALL_DATADIR}/ZKStrings)
+else()
+  set(resources_above ${CMAKE_INSTALL_DATADIR}/ZKStrings)
+  file(RELATIVE_PATH resources_installed ${CMAKE_INSTALL_FULL_LIBDIR} ${CMAKE_INSTALL_FULL_DATADIR}/ZKStrings)
+endif()
+
+cmake_path(GET resources_above PARENT_PATH above)
+file(MAKE_DIRECTORY ${PROJECT_BINARY_DIR}/${above} ${PROJECT_BINARY_DIR}/include)
+file(CREATE_LINK ${PROJECT_SOURCE_DIR}/resources ${PROJECT_BINARY_DIR}/${resources_above} SYMBOLIC)
 
 # All headers are included as <ZKStrings/...>, in the tree as by users.
 file(CREATE_LINK ${PROJECT_SOURCE_DIR} ${PROJECT_BINARY_DIR}/include/ZKStrings SYMBOLIC)

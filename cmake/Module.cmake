@@ -8,11 +8,13 @@ set(public_headers
   engine/BundleGlobals.h
   engine/StringLookup.h
   engine/Substitutions.h
+  engine/Text.h
   platform/Bundle.h
   platform/CacheLines.h
   platform/Dictionary.h
   platform/Export.h
   platform/Locale.h
+  platform/Registration.h
   platform/Resolver.h
   platform/SharedArray.h
   platform/ZKCommon.h
@@ -24,17 +26,25 @@ set(public_headers
 add_library(zk_objects OBJECT
   catalogue/ZKStrings.cpp
   engine/BundleGlobals.cpp
+  engine/LanguageChoice.cpp
   engine/PlaceholderSubstitution.cpp
   engine/StringLookup.cpp
+  engine/Substitutions.cpp
   platform/Bundle.cpp
   platform/system/CodeLocation.cpp
+  platform/system/DirectoryListing.cpp
   platform/system/File.cpp
+  platform/system/ProcessSeed.cpp
+  platform/system/ResourceDirectory.cpp
   platform/formats/Json.cpp
   platform/Locale.cpp
+  platform/registry/ServiceView.cpp
   platform/Resolver.cpp
   platform/formats/StringTable.cpp
   platform/formats/StringTableReader.cpp
   platform/formats/TextEncoding.cpp
+  platform/text/CanonicalForm.cpp
+  platform/text/GraphemeClusters.cpp
   platform/text/TextSearch.cpp
   platform/text/UnicodeText.cpp
   platform/ZKCommon.cpp
@@ -45,6 +55,8 @@ add_library(zk_objects OBJECT
   region/LanguageDerivation.cpp)
 target_include_directories(zk_objects PUBLIC ${PROJECT_BINARY_DIR}/include)
 target_link_libraries(zk_objects PRIVATE zk_compile_options ICU::uc nlohmann_json::nlohmann_json)
+set_source_files_properties(platform/system/ResourceDirectory.cpp PROPERTIES COMPILE_DEFINITIONS
+  "ZK_RESOURCES_ABOVE=\"${resources_above}\";ZK_RESOURCES_INSTALLED=\"${resources_installed}\"")
 # Nobody replaces the module's functions from outside, so that they may be called directly and inlined.
 target_compile_options(zk_objects PRIVATE -fno-semantic-interposition)
 
@@ -62,6 +74,8 @@ if(BUILD_SHARED_LIBS)
   # Hidden visibility does not reach the instances of the standard library's templates.
   target_link_options(ZKStrings PRIVATE -Wl,--version-script=${PROJECT_SOURCE_DIR}/cmake/ExportedNames.map -Wl,--no-undefined
     -Wl,-Bsymbolic-functions)
+  # What a thread keeps is freed by the library when the thread ends, however late.
+  target_link_options(ZKStrings PRIVATE -Wl,-z,nodelete)
   set_target_properties(ZKStrings PROPERTIES LINK_DEPENDS ${PROJECT_SOURCE_DIR}/cmake/ExportedNames.map)
 endif()
 

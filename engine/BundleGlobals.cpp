@@ -1,5 +1,6 @@
 #include <ZKStrings/engine/BundleGlobals.h>
 
+#include <system_error>
 #include <typeinfo>
 
 namespace zk {
@@ -11,14 +12,28 @@ class BundleClass {};
 
 }  // namespace
 
+const Bundle* moduleBundle() {
+  try {
+    // When this throws, the next call runs it again.
+    static const Bundle& bundle = Bundle::bundleForClass(typeid(BundleClass));
+    return &bundle;
+  } catch (const std::system_error&) {
+    return nullptr;
+  }
+}
+
 const Bundle& bundle() {
-  static const Bundle& bundle = Bundle::bundleForClass(typeid(BundleClass));
-  return bundle;
+  const Bundle* const found = moduleBundle();
+  return found ? *found : Bundle::withoutResources("");
 }
 
 const Bundle& mainBundle() {
-  static const Bundle& bundle = Bundle::mainBundle();
-  return bundle;
+  try {
+    static const Bundle& bundle = Bundle::mainBundle();
+    return bundle;
+  } catch (const std::system_error&) {
+    return Bundle::withoutResources("");
+  }
 }
 
 }  // namespace zk

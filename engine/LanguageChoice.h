@@ -1,5 +1,6 @@
 #pragma once
 
+#include <ZKStrings/platform/Export.h>
 #include <ZKStrings/platform/SharedArray.h>
 #include <ZKStrings/platform/text/UnicodeText.h>
 
@@ -15,6 +16,13 @@ namespace zk {
   return code == "en" ? "Base" : code;
 }
 
+/// Stops the process: there is no Base.lproj among the module's resources, or there are no resources where the
+/// module looks for them. The name is what a debugger shows.
+[[noreturn, gnu::cold, gnu::noinline]] ZK_EXPORT void baseLprojIsMissingAmongTheResources();
+
+/// Stops the process: the directory of a language was there, and was gone a moment later.
+[[noreturn, gnu::cold, gnu::noinline]] ZK_EXPORT void languageDirectoryHasVanished();
+
 /// The bundle of the language directory that `preferredLanguages` chooses among the resources of `bundle`:
 /// that of the first entry whose directory exists and opens, or else Base.lproj. Stops the process when that
 /// is missing or does not open.
@@ -26,21 +34,22 @@ namespace zk {
 template <class PlatformBundle>
 const PlatformBundle& chosenLanguageBundle(const PlatformBundle& bundle,
                                            const SharedArray<std::string>& preferredLanguages) {
-  const auto open = [&](std::string_view code) {
+  const auto open = [&](std::string_view code) -> const PlatformBundle* {
     const auto* const path = bundle.pathForResource(code, "lproj");
-    if (!path) __builtin_trap();
+    if (!path) languageDirectoryHasVanished();
     return PlatformBundle::initWithPath(*path);
-  };
-  const auto opened = [&](std::string_view code) -> const PlatformBundle& {
-    const PlatformBundle* const language = open(code);
-    if (!language) __builtin_trap();
-    return *language;
   };
   for (const std::string& identifier : preferredLanguages) {
     const std::string_view code = languageCode(identifier);
-    if (bundle.pathForResource(code, "lproj") && open(code)) return opened(code);
+    if (!bundle.pathForResource(code, "lproj") || !open(code)) continue;
+    const PlatformBundle* const winner = open(code);
+    if (!winner) languageDirectoryHasVanished();
+    return *winner;
   }
-  return opened("Base");
+  const auto* const base = bundle.pathForResource("Base", "lproj");
+  const PlatformBundle* const english = base ? PlatformBundle::initWithPath(*base) : nullptr;
+  if (!english) baseLprojIsMissingAmongTheResources();
+  return *english;
 }
 
 }  // namespace zk

@@ -1,16 +1,75 @@
 #include <ZKStrings/engine/JoinedText.h>
 #include <ZKStrings/engine/PlaceholderSubstitution.h>
+#include <ZKStrings/platform/text/Bytes.h>
 #include <ZKStrings/platform/text/TextSearch.h>
+
+#include <cstddef>
 
 namespace zk {
 
+namespace {
+
+/// Whether no name can reach across the end or the beginning of a placeholder.
+bool haveSimpleNames(const Substitutions& substitutions) {
+  for (const Substitutions::Pair& pair : substitutions) {
+    if (!isAsciiWithout(pair.name, {'%', '}'})) return false;
+  }
+  return true;
+}
+
+/// The pair whose placeholder stands at the beginning of `text`, which is "%{"; null when there is none.
+const Substitutions::Pair* pairAt(std::string_view text, const Substitutions& substitutions) {
+  const std::string_view rest = text.substr(2);
+  for (const Substitutions::Pair& pair : substitutions) {
+    const std::size_t size = pair.name.size();
+    const bool isClosed = rest.size() > size && rest[size] == '}';
+    if (isClosed && sameBytes(rest.data(), pair.name.data(), size)) return &pair;
+  }
+  return nullptr;
+}
+
+constexpr std::size_t kRoom = 512;
+
+/// Writes `text` with all its placeholders filled in to `to`, which has room for `kRoom` bytes, and gives the
+/// end. Null when the result has no room, and when it may not be what replacing one pair after the other gives:
+/// then a placeholder has no pair, its surroundings change it by an accent, or values bring forth another one.
+char* fillInAtOnce(char* to, std::string_view text, const Substitutions& substitutions) {
+  const char* const begin = to;
+  std::size_t room = kRoom - kCopySlack;
+  if (text.size() > room || !haveSimpleNames(substitutions)) return nullptr;
+  room -= text.size();
+  bool hasPercent = false;
+  for (std::size_t at = 0;;) {
+    const std::size_t mark = copyUntil('%', to, text, at);
+    to += mark - at;
+    if (mark == text.size()) break;
+    if (mark + 1 == text.size() || text[mark + 1] != '{') {
+      hasPercent = true;
+      *to++ = '%';
+      at = mark + 1;
+      continue;
+    }
+    const Substitutions::Pair* const pair = pairAt(text.substr(mark), substitutions);
+    if (!pair) return nullptr;
+    const std::string_view value = pair->text;
+    at = mark + pair->name.size() + 3;
+    if (value.size() > room || !hasBorderBefore(value) || !hasBorderBefore(text.substr(at))) return nullptr;
+    if (!isAsciiWithout(value, {'%'})) hasPercent = true;
+    room -= value.size();
+    to = copyBytes(to, value.data(), value.size());
+  }
+  const bool bringsForthAnother =
+      hasPercent && std::string_view(begin, to).find("%{") != std::string_view::npos;
+  return bringsForthAnother ? nullptr : to;
+}
+
+}  // namespace
+
 std::string applySubstitutions(std::string_view text, const Substitutions& substitutions) {
   if (substitutions.begin() == substitutions.end()) return std::string(text);
-  std::size_t size = text.size();
-  for (const auto& [name, value] : substitutions) size += value.size();
-  std::string result;
-  result.reserve(size);  // enough for each placeholder once, so that one buffer serves for all of them
-  result = text;
+  char filled[kRoom];
+  if (char* const end = fillInAtOnce(filled, text, substitutions)) return {filled, end};
+  std::string result(text);
   for (const auto& [name, value] : substitutions) {
     replaceOccurrences(result, JoinedText{"%{", name, "}"}, value);
   }

@@ -4,7 +4,7 @@
 #include <ZKStrings/engine/PlaceholderSubstitution.h>
 #include <ZKStrings/engine/PluralSuffix.h>
 #include <ZKStrings/engine/StringLookup.h>
-#include <ZKStrings/platform/Resolver.h>
+#include <ZKStrings/platform/registry/ServiceView.h>
 #include <ZKStrings/region/Language.h>
 
 namespace zk {
@@ -13,8 +13,10 @@ namespace {
 
 std::string finishedText(std::string_view suffixedKey, std::string_view defaultValue,
                          const Substitutions& substitutions) {
-  const Resolver::View<Language> language = Resolver::view<Language>();
-  const Bundle& chosen = chosenLanguageBundle(bundle(), language->preferredLanguages);
+  const ServiceView<Language> language;
+  const Bundle* const resources = moduleBundle();
+  const Bundle& chosen =
+      resources ? chosenLanguageBundle(*resources, language->preferredLanguages) : bundle();
   return applySubstitutions(chosen.localizedStringForKey(suffixedKey, defaultValue), substitutions);
 }
 

@@ -11,22 +11,23 @@
 namespace zk {
 
 /// The finished text of one entry for the user: looked up in the table of the language that
-/// `Current::language` prefers, with the placeholders filled in.
+/// `Current::language` prefers, with the placeholders filled in. For a player who prefers German,
 ///
-///     zk::localizedString("badgeCount_Badges", "%{badgeCount} Badges", 4, {{"badgeCount", "4"}});   // "4
-///     Abzeichen"
+///     zk::localizedString("badgeCount_Badges", "%{badgeCount} Badges", 4, {{"badgeCount", "4"}})
 ///
-/// @param key            the entry's key. With a count, the table is asked for the key and the count's
-/// suffix: "_zero",
-///                       "_one", "_two", "_few" (3 to 5) or "_many" (6 and more, and negative counts).
-/// @param defaultValue   the English text, for when the table has none for that key. When it is empty too,
-/// the key.
-/// @param count          the number that chooses the plural form, or nothing. It is not filled in anywhere.
-/// @param substitutions  the texts for the placeholders; those without one stay as they are.
+/// is "4 Abzeichen".
 ///
-/// All texts are UTF-8. Any thread may call it, at the same time as others. The process stops when no
-/// `Current::language` was assigned (with a message on standard error), and when Base.lproj is needed but
-/// missing among the module's resources.
+/// - `key` is the entry's key. With a count, the table is asked for the key and the count's suffix: "_zero",
+///   "_one", "_two", "_few" (3 to 5) or "_many" (6 and more, and negative counts).
+/// - `defaultValue` is the English text, for when the table has none for that key. When it is empty too, the
+///   key is used.
+/// - `count` chooses the plural form; it is not filled in anywhere.
+/// - `substitutions` are the texts for the placeholders; those without one stay as they are.
+///
+/// All texts are UTF-8. Any thread may call it, at the same time as others. While the table cannot be opened for
+/// want of file descriptors or memory, the text is the English one. The process stops when no `Current::language`
+/// was assigned (with a message on standard error), and when Base.lproj is needed but missing among the module's
+/// resources (in a function whose name says so).
 [[nodiscard]] ZK_EXPORT std::string localizedString(std::string_view key, std::string_view defaultValue,
                                                     std::optional<std::int64_t> count,
                                                     const Substitutions& substitutions);

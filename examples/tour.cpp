@@ -6,7 +6,6 @@
 
 #include <ZKStrings/ZKStrings.h>
 
-#include <algorithm>
 #include <cstdint>
 #include <cstdlib>
 #include <iostream>
@@ -43,7 +42,7 @@ void explainIgnoredLanguage() {
 }
 
 void showTexts() {
-  const zk::Language now = language;
+  const zk::Language now = language.get();
   showHeading("Preferred languages: " + joined(now.preferredLanguages));
   for (const std::string& identifier : now.preferredLanguages) {
     if (!hasTexts(identifier)) std::cout << "  (" << identifier << " has no table)\n";
@@ -82,10 +81,10 @@ void showLiveSwitch() {
   }
 }
 
-void showCountries(const zk::SharedArray<zk::Country>& countries) {
-  showHeading("The first of " + std::to_string(countries.size()) + " countries");
-  for (std::size_t i = 0; i < std::min<std::size_t>(countries.size(), 6); ++i) {
-    std::cout << "  " << countries[i].displayName() << "\n";
+void showCountries() {
+  showHeading("The countries that call by +44, of " + std::to_string(language->countries.size()));
+  for (const zk::Country& country : language.get().countries) {
+    if (country.phoneCode() == 44) std::cout << "  " << country.displayName() << "\n";
   }
 }
 
@@ -97,8 +96,7 @@ void showEverything() {
   for (const char* identifier : {"en-US", "de-DE", "ja-JP", "el-GR"}) showTexts({identifier});
   showFallback();
   showLiveSwitch();
-  const zk::Language now = language;
-  showCountries(now.countries);
+  showCountries();
 }
 
 }  // namespace

@@ -19,12 +19,15 @@ struct CacheLineAllocator {
   CacheLineAllocator(const CacheLineAllocator<Other>&) {}
 
   [[nodiscard]] Object* allocate(std::size_t count) {
-    const std::size_t lines = (count * sizeof(Object) + kCacheLine - 1) / kCacheLine;
-    return static_cast<Object*>(::operator new (lines* kCacheLine, std::align_val_t{kCacheLine}));
+    const std::size_t bytes = (count * sizeof(Object) + kCacheLine - 1) / kCacheLine * kCacheLine;
+    return static_cast<Object*>(::operator new(bytes, kAlignment));
   }
-  void deallocate(Object* objects, std::size_t) { ::operator delete (objects, std::align_val_t{kCacheLine}); }
+  void deallocate(Object* objects, std::size_t) { ::operator delete(objects, kAlignment); }
 
   friend bool operator==(const CacheLineAllocator&, const CacheLineAllocator&) { return true; }
+
+ private:
+  static constexpr std::align_val_t kAlignment{alignof(Object) > kCacheLine ? alignof(Object) : kCacheLine};
 };
 
 }  // namespace zk

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <concepts>
 #include <cstddef>
 #include <cstdint>
 #include <initializer_list>
@@ -38,6 +39,12 @@ class Dictionary {
   std::vector<Member> members_;
 };
 
+/// The integers that are numbers, and neither a truth value nor a character.
+template <class Type>
+concept IntegerNumber = std::integral<Type> && !std::same_as<Type, bool> && !std::same_as<Type, char> &&
+                        !std::same_as<Type, wchar_t> && !std::same_as<Type, char8_t> &&
+                        !std::same_as<Type, char16_t> && !std::same_as<Type, char32_t>;
+
 /// One JSON value: null, a boolean, a number, a text, a list or a dictionary.
 class Value {
  public:
@@ -45,11 +52,19 @@ class Value {
 
   Value() = default;
   Value(std::nullptr_t) {}
-  Value(bool value) : value_(value) {}
-  Value(int value) : value_(std::int64_t{value}) {}
-  Value(std::int64_t value) : value_(value) {}
-  Value(double value) : value_(value) {}
+  /// Only a boolean itself: a pointer or a number does not become one.
+  Value(std::same_as<bool> auto value) : value_(value) {}
+  /// An integer of any type; one beyond `std::int64_t` becomes the nearest `double`, as in JSON.
+  Value(IntegerNumber auto value) {
+    if (std::in_range<std::int64_t>(value)) {
+      value_ = static_cast<std::int64_t>(value);
+    } else {
+      value_ = static_cast<double>(value);
+    }
+  }
+  Value(std::floating_point auto value) : value_(static_cast<double>(value)) {}
   Value(const char* value) : value_(std::string(value)) {}
+  Value(std::string_view value) : value_(std::string(value)) {}
   Value(const std::string& value) : value_(value) {}
   Value(std::string&& value) : value_(std::move(value)) {}
   Value(List value) : value_(std::move(value)) {}

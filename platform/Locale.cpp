@@ -5,6 +5,7 @@
 #include <memory>
 #include <mutex>
 #include <optional>
+#include <set>
 #include <string_view>
 #include <utility>
 
@@ -25,31 +26,34 @@ std::string_view environment(const char* name) {
 
 /// The script that the modifier stands for, for example "Latn" for "latin"; empty for other modifiers.
 std::string_view scriptOf(std::string_view modifier) {
-  const auto* const script =
-      std::ranges::find(kScripts, modifier, &std::pair<std::string_view, std::string_view>::first);
-  return script == std::end(kScripts) ? std::string_view() : script->second;
+  for (const auto& [name, script] : kScripts) {
+    if (name == modifier) return script;
+  }
+  return {};
 }
 
-/// The identifier of a POSIX locale name, language[_region][.encoding][@modifier]; nothing for C, POSIX and a
-/// name without language.
+/// A POSIX locale name, language[_region][.encoding][@modifier], without encoding and modifier.
+std::string_view languageAndRegion(std::string_view posixName) {
+  return posixName.substr(0, posixName.find_first_of(".@"));
+}
+
+bool isCOrPosix(std::string_view posixName) {
+  const std::string_view name = languageAndRegion(posixName);
+  return name == "C" || name == "POSIX";
+}
+
+/// The identifier of a POSIX locale name; nothing for C, POSIX and a name without language.
 std::optional<std::string> identifierOf(std::string_view posixName) {
-  const std::string_view name = posixName.substr(0, posixName.find_first_of(".@"));
-  if (name.empty() || name == "C" || name == "POSIX") return std::nullopt;
+  const std::string_view name = languageAndRegion(posixName);
+  const std::size_t languageSize = std::min(name.find('_'), name.size());
+  if (languageSize == 0 || isCOrPosix(name)) return std::nullopt;
   const std::size_t at = posixName.find('@');
   const std::string_view script = at == std::string_view::npos ? "" : scriptOf(posixName.substr(at + 1));
 
   std::string identifier(name);
-  std::ranges::replace(identifier, '_', '-');
-  if (!script.empty()) {
-    const std::size_t end = std::min(identifier.find('-'), identifier.size());
-    identifier.insert(end, 1, '-').insert(end + 1, script);
-  }
+  std::replace(identifier.begin(), identifier.end(), '_', '-');
+  if (!script.empty()) identifier.insert(languageSize, 1, '-').insert(languageSize + 1, script);
   return identifier;
-}
-
-void appendOnce(std::vector<std::string>& identifiers, std::string identifier) {
-  if (std::ranges::find(identifiers, identifier) == identifiers.end())
-    identifiers.push_back(std::move(identifier));
 }
 
 /// The settings that the process environment spells.
@@ -63,13 +67,17 @@ LocaleSettings settingsFromEnvironment() {
   if (!identifier) return {std::string(kDefaultIdentifier), {std::string(kDefaultIdentifier)}};
 
   LocaleSettings settings{*identifier, {}};
+  std::set<std::string> known;
+  const auto prefer = [&](const std::string& language) {
+    if (known.insert(language).second) settings.preferredLanguages.push_back(language);
+  };
   for (std::string_view rest = environment("LANGUAGE"); !rest.empty();) {
     const std::string_view name = rest.substr(0, rest.find(':'));
     rest.remove_prefix(std::min(name.size() + 1, rest.size()));
-    if (!name.empty())
-      appendOnce(settings.preferredLanguages, identifierOf(name).value_or(std::string(kDefaultIdentifier)));
+    if (isCOrPosix(name)) prefer(std::string(kDefaultIdentifier));
+    if (const std::optional<std::string> preferred = identifierOf(name)) prefer(*preferred);
   }
-  appendOnce(settings.preferredLanguages, *identifier);
+  prefer(*identifier);
   return settings;
 }
 

@@ -20,9 +20,10 @@ struct LocaleSettings {
 /// asked.
 ///
 /// On a POSIX system both the locale and the preferred languages come from the environment: the locale from
-/// the first of LC_ALL, LC_MESSAGES and LANG that is set and not empty ("en" when none is, or when it is C or
-/// POSIX); the languages from LANGUAGE, a list separated by colons, and then the locale, without repetitions.
-/// LANGUAGE is ignored when the locale is C or POSIX. `setlocale` is neither called nor asked.
+/// the first of LC_ALL, LC_MESSAGES and LANG that is set and not empty ("en" when none is, or when it is C,
+/// POSIX or names no language); the languages from LANGUAGE, a list separated by colons, and then the locale,
+/// without repetitions. LANGUAGE is ignored when the locale is C, POSIX or names no language; C and POSIX in
+/// it stand for "en". `setlocale` is neither called nor asked.
 ///
 /// Any thread may call anything. As the environment is read at each call, a program that changes it
 /// (`setenv`) must not do so while another thread asks; an app that changes its settings while it runs uses

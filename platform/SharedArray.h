@@ -1,6 +1,7 @@
 #pragma once
 
 #include <ZKStrings/platform/CacheLines.h>
+#include <ZKStrings/platform/Export.h>
 
 #include <cstddef>
 #include <initializer_list>
@@ -40,10 +41,19 @@ class SharedArray {
   [[nodiscard]] bool empty() const { return size() == 0; }
 
   /// The element at `index`, which must be less than `size()`.
-  [[nodiscard]] const Element& operator[](std::size_t index) const { return (*elements_)[index]; }
+  [[nodiscard]] const Element& operator[](std::size_t index) const ZK_REFERRED_TO {
+    return (*elements_)[index];
+  }
 
-  [[nodiscard]] const Element* begin() const { return elements_ ? elements_->data() : nullptr; }
-  [[nodiscard]] const Element* end() const { return begin() + size(); }
+  [[nodiscard]] const Element* begin() const ZK_REFERRED_TO {
+    return elements_ ? elements_->data() : nullptr;
+  }
+  [[nodiscard]] const Element* end() const ZK_REFERRED_TO { return begin() + size(); }
+
+  /// Whether one is a copy of the other, neither changed since.
+  [[nodiscard]] bool sharesElementsWith(const SharedArray& other) const {
+    return elements_ == other.elements_;
+  }
 
   void append(Element element) {
     edit([&](Elements& elements) { elements.push_back(std::move(element)); });

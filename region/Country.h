@@ -12,8 +12,9 @@ namespace zk {
 /// One country that the app offers, with texts for country pickers and telephone-number fields. An immutable
 /// value; any thread may read it.
 ///
-///     const auto country = zk::Country::fromDictionary({{"name", "Austria"}, {"phoneCode", 43}, {"iso",
-///     "AT"}}); country->displayName();   // "🇦🇹 Austria +43"
+///     const zk::Dictionary austria = {{"name", "Austria"}, {"phoneCode", 43}, {"iso", "AT"}};
+///     const std::optional<zk::Country> country = zk::Country::fromDictionary(austria);
+///     country->displayName();  // "🇦🇹 Austria +43"
 class ZK_EXPORT Country {
  public:
   /// The country that `dictionary` describes by "name" (a text), "phoneCode" (an integer of 64 bits, not 44.0

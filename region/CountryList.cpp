@@ -15,14 +15,14 @@ SharedArray<Country> loadCountries() {
 }
 
 SharedArray<Country> countriesIn(const Bundle& bundle) {
-  const ResourcePath* const path = bundle.URLForResource("countries", "json");
+  const std::optional<std::string> path = bundle.URLForResource("countries", "json");
   if (!path) return {};
-  std::optional<std::string> bytes = contentsOfFile(path->string());
+  std::optional<std::string> bytes = contentsOfFile(*path);
   if (!bytes) return {};
   const std::optional<Value> content = parseJson(*std::move(bytes));
   const Value::List* const elements = content ? content->as<Value::List>() : nullptr;
   const auto isObject = [](const Value& element) { return element.as<Dictionary>() != nullptr; };
-  if (!elements || !std::ranges::all_of(*elements, isObject)) return {};
+  if (!elements || !std::all_of(elements->begin(), elements->end(), isObject)) return {};
 
   SharedArray<Country>::Elements countries;
   countries.reserve(elements->size());

@@ -12,7 +12,7 @@ namespace zk {
 /// out. The list is empty when there is no such file, when it cannot be read or is not JSON, and when
 /// anything but objects stands in the array.
 ///
-/// Every call reads the file again. Any thread may call it.
+/// Every call looks for the file and reads it again. Any thread may call it.
 [[nodiscard]] ZK_EXPORT SharedArray<Country> loadCountries();
 
 /// The same for the resource of another bundle than the module's own.

@@ -1,6 +1,7 @@
 #include <ZKStrings/tools/AccessorGenerator.h>
 
 #include <algorithm>
+#include <iterator>
 #include <string_view>
 #include <vector>
 
@@ -10,17 +11,19 @@ namespace zk::tools {
 
 namespace {
 
-constexpr std::string_view kKeywords[] = {
-    "alignas",  "alignof",   "and",     "and_eq",    "asm",      "auto",     "bitand",   "bitor",
-    "bool",     "break",     "case",    "catch",     "char",     "class",    "co_await", "co_return",
-    "co_yield", "compl",     "concept", "const",     "continue", "decltype", "default",  "delete",
-    "do",       "double",    "else",    "enum",      "explicit", "export",   "extern",   "false",
-    "float",    "for",       "friend",  "goto",      "if",       "inline",   "int",      "long",
-    "mutable",  "namespace", "new",     "noexcept",  "not",      "not_eq",   "nullptr",  "operator",
-    "or",       "or_eq",     "private", "protected", "public",   "register", "requires", "return",
-    "short",    "signed",    "sizeof",  "static",    "struct",   "switch",   "template", "this",
-    "throw",    "true",      "try",     "typedef",   "typeid",   "typename", "union",    "unsigned",
-    "using",    "virtual",   "void",    "volatile",  "while",    "xor",      "xor_eq"};
+/// What cannot be the name of an accessor: the reserved words, and the two names that the class itself needs.
+constexpr std::string_view kReserved[] = {
+    "Text",     "ZKStrings", "alignas",  "alignof",   "and",     "and_eq",    "asm",      "auto",
+    "bitand",   "bitor",     "bool",     "break",     "case",    "catch",     "char",     "class",
+    "co_await", "co_return", "co_yield", "compl",     "concept", "const",     "continue", "decltype",
+    "default",  "delete",    "do",       "double",    "else",    "enum",      "explicit", "export",
+    "extern",   "false",     "float",    "for",       "friend",  "goto",      "if",       "inline",
+    "int",      "long",      "mutable",  "namespace", "new",     "noexcept",  "not",      "not_eq",
+    "nullptr",  "operator",  "or",       "or_eq",     "private", "protected", "public",   "register",
+    "requires", "return",    "short",    "signed",    "sizeof",  "static",    "struct",   "switch",
+    "template", "this",      "throw",    "true",      "try",     "typedef",   "typeid",   "typename",
+    "union",    "unsigned",  "using",    "virtual",   "void",    "volatile",  "while",    "xor",
+    "xor_eq"};
 
 constexpr std::string_view kCounts[] = {"0", "1", "2", "3 to 5", "6 and more"};
 
@@ -34,15 +37,16 @@ constexpr const char* kHeaderBegin = R"(#pragma once
 {}
 #include <cstdint>
 #include <string>
-#include <string_view>
 
+#include <ZKStrings/engine/Text.h>
 #include <ZKStrings/platform/Export.h>
 
 namespace zk {{
 
 /// The catalogue: one accessor for each text of the app, named as the entry's key, giving the text in the user's
-/// language. Text arguments fill the placeholders of the same name; `count`, the last argument of counted entries,
-/// chooses the plural form and is filled in nowhere. Each comment shows the English text.
+/// language. Text arguments (a literal, a `std::string`, a `std::string_view`) fill the placeholders of the same name;
+/// `count`, the last argument of counted entries, chooses the plural form and is filled in nowhere. Each comment shows
+/// the English text.
 ///
 ///     std::string title = zk::ZKStrings::badgeCount_Badges("4", 4);
 ///
@@ -63,14 +67,14 @@ namespace zk {{
 
 /// `name` as C++ takes it: a reserved word gets an underscore.
 std::string identifier(std::string_view name) {
-  const bool isReserved = std::ranges::find(kKeywords, name) != std::end(kKeywords);
+  const bool isReserved = std::find(std::begin(kReserved), std::end(kReserved), name) != std::end(kReserved);
   return std::string(name) + (isReserved ? "_" : "");
 }
 
 std::string parametersOf(const Entry& entry) {
   std::vector<std::string> parameters;
   for (const std::string_view name : placeholderNames(entry.text)) {
-    parameters.push_back("std::string_view " + identifier(name));
+    parameters.push_back("Text " + identifier(name));
   }
   if (entry.plural) parameters.push_back("std::int64_t count");
   return fmt::format("{}", fmt::join(parameters, ", "));

@@ -12,7 +12,8 @@ namespace {
 constexpr std::string_view kNumberNames[] = {"cost", "days", "pointsToGo", "remaining"};
 
 bool saysNumber(std::string_view name) {
-  return name.ends_with("Count") || std::ranges::find(kNumberNames, name) != std::end(kNumberNames);
+  return name.ends_with("Count") ||
+         std::find(std::begin(kNumberNames), std::end(kNumberNames), name) != std::end(kNumberNames);
 }
 
 }  // namespace
@@ -20,7 +21,7 @@ bool saysNumber(std::string_view name) {
 std::vector<std::string_view> EnglishText::placeholders() const {
   std::vector<std::string_view> names = placeholderNames(text);
   for (const std::string_view name : placeholderNames(entry->text)) {
-    if (std::ranges::find(names, name) == names.end()) names.push_back(name);
+    if (std::find(names.begin(), names.end(), name) == names.end()) names.push_back(name);
   }
   return names;
 }
@@ -29,7 +30,7 @@ std::string_view EnglishText::dispensable() const {
   if (suffix != "_zero" && suffix != "_one") return "";
   const std::vector<std::string_view> names = placeholderNames(entry->text);
   if (names.size() == 1) return names.front();
-  const auto number = std::ranges::find_if(names, saysNumber);
+  const auto number = std::find_if(names.begin(), names.end(), saysNumber);
   return number == names.end() ? "" : *number;
 }
 

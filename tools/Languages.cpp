@@ -86,7 +86,7 @@ std::vector<std::string> languagesIn(const std::string& root) {
     throw CommandFailed{{{Severity::error, kResources, 1, 1, "",
                           "the directory cannot be listed; see that it exists and may be read"}}};
   }
-  std::ranges::sort(languages);
+  std::sort(languages.begin(), languages.end());
   return languages;
 }
 
@@ -105,7 +105,7 @@ std::string languageCodeOf(std::string_view word) {
 std::string existingLanguage(const std::string& root, std::string_view word) {
   const std::vector<std::string> languages = languagesIn(root);
   const auto exists = [&](std::string_view name) {
-    return std::ranges::find(languages, name) != languages.end();
+    return std::find(languages.begin(), languages.end(), name) != languages.end();
   };
   const std::string name(withoutPath(word));
   if (exists(name)) return name;
@@ -134,7 +134,7 @@ std::string whyNeverChosen(std::string_view language) {
 }
 
 bool inflectsForNumber(std::string_view language) {
-  return std::ranges::find(kUninflected, language) == std::end(kUninflected);
+  return std::find(std::begin(kUninflected), std::end(kUninflected), language) == std::end(kUninflected);
 }
 
 }  // namespace zk::tools

@@ -24,7 +24,7 @@ std::size_t distance(std::string_view from, std::string_view to, std::size_t mos
       diagonal = row[j + 1];
       row[j + 1] = std::min({replaced, diagonal + 1, row[j] + 1});
     }
-    if (std::ranges::min(row) > most) return most + 1;
+    if (*std::min_element(row.begin(), row.end()) > most) return most + 1;
   }
   return row.back();
 }

@@ -100,13 +100,13 @@ std::vector<std::string> numbersIn(std::string_view text) {
       numbers.back() += static_cast<char>('0' + u_charDigitValue(static_cast<UChar32>(*character.value)));
     isInNumber = isDigit;
   });
-  std::ranges::sort(numbers);
+  std::sort(numbers.begin(), numbers.end());
   return numbers;
 }
 
 Brackets bracketsIn(std::string_view text) {
   const auto isOneOf = [](const auto& forms, std::string_view spelled) {
-    return std::ranges::find(forms, spelled) != std::end(forms);
+    return std::find(std::begin(forms), std::end(forms), spelled) != std::end(forms);
   };
   Brackets brackets;
   forEachCharacter(text, [&](const CodePoint& character) {

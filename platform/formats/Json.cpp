@@ -1,21 +1,26 @@
 #include <ZKStrings/platform/formats/Json.h>
 #include <ZKStrings/platform/formats/TextEncoding.h>
 
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <cstdlib>
+#include <new>
 #include <string_view>
 #include <utility>
 #include <vector>
 
+#include <locale.h>
 #include <nlohmann/json.hpp>
 
 namespace zk {
 
 namespace {
 
-constexpr std::size_t kDeepestKept = 100;  // so that no chain of destructors gets long
-constexpr int kNumberOverflow = 406;       // the library's number for "a number beyond every double"
+/// So that no chain of destructors gets long.
+constexpr std::size_t kDeepestKept = 100;
+/// The library's number for "a number beyond every double".
+constexpr int kNumberOverflow = 406;
 
 /// Builds a value in its place from the events of the library's parser.
 class Builder final : public nlohmann::json_sax<nlohmann::json> {
@@ -28,9 +33,8 @@ class Builder final : public nlohmann::json_sax<nlohmann::json> {
     return add(static_cast<double>(value));
   }
   bool number_float(number_float_t value, const string_t&) override { return add(value); }
-  bool string(string_t& value) override {
-    return add(std::as_const(value));
-  }  // the parser goes on with its buffer
+  // Copied, since the parser goes on with its buffer.
+  bool string(string_t& value) override { return add(std::as_const(value)); }
   bool binary(binary_t&) override { return false; }
 
   bool start_object(std::size_t) override { return open(Dictionary()); }
@@ -92,8 +96,8 @@ class Builder final : public nlohmann::json_sax<nlohmann::json> {
   bool sawOverflow_ = false;
 };
 
-/// The length of the JSON number at the beginning of `text`; 0 when none stands there.
-std::size_t numberLength(std::string_view text) {
+/// Whether `text` is one number of JSON, from its first character to its last.
+bool isNumber(std::string_view text) {
   std::size_t at = text.starts_with('-') ? 1 : 0;
   const auto skipDigits = [&] {
     const std::size_t begin = at;
@@ -102,17 +106,17 @@ std::size_t numberLength(std::string_view text) {
   };
   const bool startsWithZero = text.substr(at).starts_with('0');
   const std::size_t integer = at;
-  if (!skipDigits() || (startsWithZero && at > integer + 1)) return 0;
+  if (!skipDigits() || (startsWithZero && at > integer + 1)) return false;
   if (text.substr(at).starts_with('.')) {
     ++at;
-    if (!skipDigits()) return 0;
+    if (!skipDigits()) return false;
   }
   if (at < text.size() && (text[at] == 'e' || text[at] == 'E')) {
     ++at;
     if (at < text.size() && (text[at] == '+' || text[at] == '-')) ++at;
-    if (!skipDigits()) return 0;
+    if (!skipDigits()) return false;
   }
-  return at;
+  return at == text.size();
 }
 
 /// Overwrites the numbers beyond every double, for which the library would give up the whole text, by nulls.
@@ -121,20 +125,48 @@ void blankHugeNumbers(std::string& text) {
   for (std::size_t at = 0; at < text.size(); ++at) {
     if (text[at] == '"') inString = !inString;
     if (inString && text[at] == '\\') ++at;
-    const std::size_t length = inString ? 0 : numberLength(std::string_view(text).substr(at));
-    if (length == 0) continue;
-    if (std::isinf(std::strtod(text.c_str() + at, nullptr))) {
+    if (inString) continue;
+    const std::size_t end = std::min(text.find_first_not_of("+-.0123456789eE", at), text.size());
+    if (end == at) continue;
+    const std::size_t length = end - at;
+    if (isNumber({text.data() + at, length}) && std::isinf(std::strtod(text.data() + at, nullptr))) {
       text.replace(at, length, std::string("null").append(length - 4, ' '));
     }
-    at += length - 1;
+    at = end - 1;
   }
+}
+
+/// As long as it lives, this thread reads numbers with a decimal point, whatever the process's locale says.
+class PlainNumbers {
+ public:
+  PlainNumbers() : plain_(newlocale(LC_ALL_MASK, "C", nullptr)) {
+    if (!plain_) throw std::bad_alloc();
+    before_ = uselocale(plain_);
+  }
+  PlainNumbers(const PlainNumbers&) = delete;
+  PlainNumbers& operator=(const PlainNumbers&) = delete;
+  ~PlainNumbers() {
+    uselocale(before_);
+    freelocale(plain_);
+  }
+
+ private:
+  locale_t plain_;
+  locale_t before_;
+};
+
+/// Whether the library would pass over characters that are not JSON: a byte-order mark at the beginning, and
+/// all that follows a NUL.
+bool holdsUnseen(std::string_view text) {
+  return text.starts_with("\xEF\xBB\xBF") || text.find('\0') != std::string_view::npos;
 }
 
 }  // namespace
 
 std::optional<Value> parseJson(std::string bytes) {
   std::optional<std::string> text = decodedText(std::move(bytes), UnmarkedText::mayBeUtf16Or32);
-  if (!text) return std::nullopt;
+  if (!text || holdsUnseen(*text)) return std::nullopt;
+  const PlainNumbers plainNumbers;
   Builder builder;
   if (nlohmann::json::sax_parse(*text, &builder)) return builder.takeValue();
   if (!builder.sawOverflow()) return std::nullopt;

@@ -2,6 +2,7 @@
 #include <ZKStrings/platform/formats/StringTableReader.h>
 #include <ZKStrings/platform/formats/TextEncoding.h>
 #include <ZKStrings/platform/system/File.h>
+#include <ZKStrings/platform/system/ProcessSeed.h>
 #include <ZKStrings/platform/text/Bytes.h>
 
 #include <limits>
@@ -13,8 +14,8 @@ namespace {
 
 constexpr std::uint32_t kFree = std::numeric_limits<std::uint32_t>::max();
 
-std::uint32_t shortHashOf(std::string_view key) {
-  return static_cast<std::uint32_t>(hashOf(key) >> 32);
+std::uint32_t shortHashOf(std::string_view key, std::uint64_t seed) {
+  return static_cast<std::uint32_t>(hashOf(key, seed) >> 32);
 }
 
 /// The place among `slots` where the search for `hash` begins: the hash as a fraction of the whole.
@@ -22,36 +23,43 @@ std::size_t placeOf(std::uint32_t hash, std::size_t slots) {
   return static_cast<std::size_t>((std::uint64_t{hash} * slots) >> 32);
 }
 
+/// A place or a size in a table's text, which ends at 256 MiB of its file.
+std::uint32_t narrow(std::size_t number) {
+  return static_cast<std::uint32_t>(number);
+}
+
 }  // namespace
 
-StringTable StringTable::inFile(const std::string& path) {
-  std::optional<std::string> bytes = contentsOfFile(path);
+StringTable StringTable::inFile(const std::string& path, std::error_code& failure) {
+  std::optional<std::string> bytes = contentsOfFile(path, failure);
   if (!bytes) return StringTable();
   std::optional<std::string> text = decodedText(*std::move(bytes), UnmarkedText::isUtf8);
   if (!text) return StringTable();
 
-  std::vector<Slot> entries;
-  entries.reserve(text->size() / 64);
-  const auto place = [](std::size_t offset) {
-    return static_cast<std::uint32_t>(offset);
-  };  // files end at 256 MiB
+  const std::uint64_t seed = processSeed();
   const auto unescaped = [&](const StringTableReader::Token& token) {
     const std::size_t size = token.end - token.begin;
     return token.hasEscapes ? unescape(text->data() + token.begin, size) : size;
   };
+  std::vector<Slot> entries;
+  entries.reserve(text->size() / 64);
   StringTableReader reader(*text);
   while (reader.next()) {
     const std::size_t keySize = unescaped(reader.key());
-    const std::uint32_t hash = shortHashOf({text->data() + reader.key().begin, keySize});
-    entries.push_back({hash, place(reader.key().begin), place(keySize), place(reader.value().begin),
-                       place(unescaped(reader.value()))});
+    const std::size_t valueSize = unescaped(reader.value());
+    const std::uint32_t hash = shortHashOf({text->data() + reader.key().begin, keySize}, seed);
+    entries.push_back(
+        {hash, narrow(reader.key().begin), narrow(keySize), narrow(reader.value().begin), narrow(valueSize)});
   }
   if (reader.fault()) return StringTable();
-  return StringTable(*std::move(text), entries);
+  return StringTable(*std::move(text), seed, entries);
 }
 
-StringTable::StringTable(std::string text, const std::vector<Slot>& entries)
-    : text_(std::move(text)), slots_(entries.size() * 5 / 4 + 1, Slot{0, kFree, 0, 0, 0}) {
+StringTable::StringTable() : StringTable(std::string(), 0, {}) {
+}
+
+StringTable::StringTable(std::string text, std::uint64_t seed, const std::vector<Slot>& entries)
+    : text_(std::move(text)), slots_(entries.size() * 3 / 2 + 1, Slot{0, kFree, 0, 0, 0}), seed_(seed) {
   for (const Slot& entry : entries) {
     slots_[slotFor(entry.hash, {text_.data() + entry.key, entry.keySize})] = entry;
   }
@@ -69,7 +77,7 @@ std::size_t StringTable::slotFor(std::uint32_t hash, std::string_view key) const
 }
 
 std::optional<std::string_view> StringTable::find(std::string_view key) const {
-  const Slot& slot = slots_[slotFor(shortHashOf(key), key)];
+  const Slot& slot = slots_[slotFor(shortHashOf(key, seed_), key)];
   if (slot.key == kFree) return std::nullopt;
   return std::string_view(text_.data() + slot.value, slot.valueSize);
 }

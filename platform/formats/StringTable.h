@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <system_error>
 #include <vector>
 
 namespace zk {
@@ -16,8 +17,8 @@ class alignas(kCacheLine) StringTable {
  public:
   /// The table in the file at `path`, in UTF-8 (with or without byte-order mark) or UTF-16 (with it). A file
   /// that cannot be read, or is not a well-formed table from its first byte to its last, gives a table
-  /// without texts.
-  [[nodiscard]] static StringTable inFile(const std::string& path);
+  /// without texts. `failure` says why the file could not be read, and is cleared when it could.
+  [[nodiscard]] static StringTable inFile(const std::string& path, std::error_code& failure);
 
   /// The text of `key`, which lives as long as the table; nothing when there is none. Of several entries for
   /// one key the last counts.
@@ -29,17 +30,19 @@ class alignas(kCacheLine) StringTable {
  private:
   struct Slot {
     std::uint32_t hash;
-    std::uint32_t key, keySize;      // the key: keySize bytes of text_ from key on
-    std::uint32_t value, valueSize;  // its text, likewise
+    // The key: keySize bytes of text_ from key on. Its text likewise.
+    std::uint32_t key, keySize;
+    std::uint32_t value, valueSize;
   };
 
-  StringTable() : StringTable(std::string(), {}) {}
-  StringTable(std::string text, const std::vector<Slot>& entries);
+  StringTable();
+  StringTable(std::string text, std::uint64_t seed, const std::vector<Slot>& entries);
   [[nodiscard]] std::size_t slotFor(std::uint32_t hash, std::string_view key) const;
 
   std::string text_;
-  std::vector<Slot>
-      slots_;  // open addressing: an entry stands in the first free slot from its hash's place on
+  /// Open addressing: an entry stands in the first free slot from its hash's place on.
+  std::vector<Slot> slots_;
+  std::uint64_t seed_;
 };
 
 }  // namespace zk

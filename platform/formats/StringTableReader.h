@@ -68,11 +68,14 @@ class StringTableReader {
   std::optional<Fault> fault_;
 };
 
-/// Replaces the escapes in the `size` bytes at `token` by what they stand for, which is never longer, and
-/// gives the new size:
-/// \" \\ \n \t \r \a \b \f \v, one to three octal digits, \U and four hexadecimal digits (of a surrogate pair
-/// both; a lone surrogate gives U+FFFD). Any other escaped character stands for itself; `unknown` receives
-/// the offsets of those.
+/// Replaces the escapes in the `size` bytes at `token` by what they stand for, which is never longer, and gives
+/// the new size. Escapes are a backslash and
+///
+///     " \ n t r a b f v        the character, as in C
+///     101                      one to three octal digits: a character up to U+00FF
+///     Ue9, U00e9, Ud83c\Udf89  one to four hexadecimal digits, or two surrogates; a lone one gives U+FFFD
+///
+/// Any other escaped character stands for itself; `unknown` receives the offsets of those backslashes.
 std::size_t unescape(char* token, std::size_t size, std::vector<std::size_t>* unknown = nullptr);
 
 }  // namespace zk

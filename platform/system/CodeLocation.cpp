@@ -1,54 +1,87 @@
 #include <ZKStrings/platform/system/CodeLocation.h>
+#include <ZKStrings/platform/system/Failure.h>
 
 #include <cinttypes>
+#include <climits>
 #include <cstdint>
 #include <cstdio>
+#include <cstring>
 #include <filesystem>
-#include <fstream>
-#include <system_error>
+#include <memory>
 
 #include <dlfcn.h>
 #include <link.h>
+#include <sys/auxv.h>
 
 namespace zk {
 
 namespace {
 
-/// The file that the kernel has mapped at `address`, always by its absolute path. Slower than asking the
-/// dynamic loader, which knows some files by the relative path under which they were loaded, and the
-/// executable not at all.
-std::string fileMappedAt(std::uintptr_t address) {
-  std::ifstream maps("/proc/self/maps");
-  for (std::string line; std::getline(maps, line);) {
+namespace fs = std::filesystem;
+
+/// What the dynamic loader calls the file that holds `address`: the path under which it was loaded, which may be
+/// relative, and nothing for the executable. A program without a dynamic loader is one executable.
+std::string loadedName(const void* address) {
+  Dl_info info{};
+  link_map* loaded = nullptr;
+  void** const result = reinterpret_cast<void**>(&loaded);
+  return dladdr1(address, &info, result, RTLD_DL_LINKMAP) != 0 ? loaded->l_name : std::string();
+}
+
+struct Closer {
+  void operator()(FILE* file) const { std::fclose(file); }
+};
+
+/// The file that the kernel has mapped at `address`, always by its absolute path without links.
+std::string mappedFile(const void* address, std::error_code& failure) {
+  failure.clear();
+  const auto wanted = reinterpret_cast<std::uintptr_t>(address);
+  const std::unique_ptr<FILE, Closer> maps(std::fopen("/proc/self/maps", "re"));
+  if (!maps) {
+    failure = lastFailure();
+    return {};
+  }
+  char line[PATH_MAX + 128];
+  while (std::fgets(line, sizeof(line), maps.get())) {
     std::uintptr_t begin = 0;
     std::uintptr_t end = 0;
-    if (std::sscanf(line.c_str(), "%" SCNxPTR "-%" SCNxPTR, &begin, &end) != 2) continue;
-    if (address < begin || address >= end) continue;
-    const std::size_t path = line.find('/');
-    return path == std::string::npos ? std::string() : line.substr(path);
+    if (std::sscanf(line, "%" SCNxPTR "-%" SCNxPTR, &begin, &end) != 2) continue;
+    if (wanted < begin || wanted >= end) continue;
+    const char* const path = std::strchr(line, '/');
+    return path ? std::string(path, std::strcspn(path, "\n")) : std::string();
   }
+  if (std::ferror(maps.get())) failure = make_error_code(std::errc::io_error);
   return {};
+}
+
+/// `path`, if need be from the working directory on; empty when no file is there.
+std::string existingFile(const std::string& path, std::error_code& failure) {
+  const fs::path absolute = fs::absolute(path, failure);
+  return !failure && fs::exists(absolute, failure) ? absolute.string() : std::string();
+}
+
+/// The path by which the program was started.
+std::string startedPath(std::error_code& failure) {
+  const auto* const path = reinterpret_cast<const char*>(getauxval(AT_EXECFN));
+  return path ? existingFile(path, failure) : std::string();
 }
 
 }  // namespace
 
-std::string fileHolding(const void* address) {
-  Dl_info info{};
-  link_map* loaded = nullptr;
-  void** const result = reinterpret_cast<void**>(&loaded);
-  if (dladdr1(address, &info, result, RTLD_DL_LINKMAP) != 0 && loaded->l_name[0] == '/')
-    return loaded->l_name;
-  return fileMappedAt(reinterpret_cast<std::uintptr_t>(address));
+std::string fileHolding(const void* address, std::error_code& failure) {
+  failure.clear();
+  std::string loaded = loadedName(address);
+  if (loaded.starts_with('/')) return loaded;
+  // The executable is asked for here too: /proc/self/exe is not always it, but the dynamic loader when that was
+  // started with the program as its argument.
+  std::string mapped = mappedFile(address, failure);
+  if (!mapped.empty() || isPassing(failure)) return mapped;
+  return loaded.empty() ? executablePath(failure) : existingFile(loaded, failure);
 }
 
-std::string executablePath() {
-  std::error_code failure;
-  return std::filesystem::read_symlink("/proc/self/exe", failure).string();
-}
-
-std::string directoryOf(const std::string& path) {
-  const std::size_t slash = path.rfind('/');
-  return slash == std::string::npos ? std::string() : path.substr(0, slash);
+std::string executablePath(std::error_code& failure) {
+  const fs::path path = fs::read_symlink("/proc/self/exe", failure);
+  return failure && !isPassing(failure) ? startedPath(failure) : path.string();
 }
 
 }  // namespace zk

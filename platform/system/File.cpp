@@ -1,3 +1,4 @@
+#include <ZKStrings/platform/system/Failure.h>
 #include <ZKStrings/platform/system/File.h>
 
 #include <cerrno>
@@ -44,15 +45,27 @@ bool readInto(std::string& bytes, int file) {
 }  // namespace
 
 std::optional<std::string> contentsOfFile(const std::string& path) {
-  if (path.find('\0') != std::string::npos) return std::nullopt;
+  std::error_code unused;
+  return contentsOfFile(path, unused);
+}
+
+std::optional<std::string> contentsOfFile(const std::string& path, std::error_code& failure) {
+  const auto fail = [&](std::error_code reason) {
+    failure = reason;
+    return std::nullopt;
+  };
+  failure.clear();
+  if (path.find('\0') != std::string::npos)
+    return fail(make_error_code(std::errc::no_such_file_or_directory));
   // Without O_NONBLOCK, opening a FIFO would wait for a writer.
   const Descriptor file(open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
-  if (file.number() < 0) return std::nullopt;
+  if (file.number() < 0) return fail(lastFailure());
   struct stat status {};
-  if (fstat(file.number(), &status) != 0) return std::nullopt;
-  if (!S_ISREG(status.st_mode) || status.st_size > kLargestFile) return std::nullopt;
+  if (fstat(file.number(), &status) != 0) return fail(lastFailure());
+  if (!S_ISREG(status.st_mode)) return fail(make_error_code(std::errc::not_supported));
+  if (status.st_size > kLargestFile) return fail(make_error_code(std::errc::file_too_large));
   std::string bytes(static_cast<std::size_t>(status.st_size), '\0');
-  if (!readInto(bytes, file.number())) return std::nullopt;
+  if (!readInto(bytes, file.number())) return fail(lastFailure());
   return bytes;
 }
 

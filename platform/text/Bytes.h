@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <bit>
 #include <cstddef>
 #include <cstdint>
@@ -28,14 +29,37 @@ bool sameEnds(const char* a, const char* b, std::size_t size) {
   return ((load<Word>(a) ^ load<Word>(b)) | (load<Word>(a + last) ^ load<Word>(b + last))) == 0;
 }
 
+/// Multiplies to 128 bits and folds the halves together, so that every bit of both factors reaches the
+/// result. This way serves every machine.
+constexpr std::uint64_t foldByHalves(std::uint64_t a, std::uint64_t b) {
+  constexpr std::uint64_t kLow = 0xFFFFFFFF;
+  const std::uint64_t low = (a & kLow) * (b & kLow);
+  const std::uint64_t oneMiddle = (a >> 32) * (b & kLow) + (low >> 32);
+  const std::uint64_t otherMiddle = (a & kLow) * (b >> 32) + (oneMiddle & kLow);
+  const std::uint64_t high = (a >> 32) * (b >> 32) + (oneMiddle >> 32) + (otherMiddle >> 32);
+  return (otherMiddle << 32 | (low & kLow)) ^ high;
+}
+
+#ifdef __SIZEOF_INT128__
 __extension__ using Product = unsigned __int128;
 
-/// Multiplies to 128 bits and folds the halves together, so that every bit of both factors reaches the
-/// result.
-inline std::uint64_t fold(std::uint64_t a, std::uint64_t b) {
+/// The same, in one instruction where the machine multiplies to 128 bits.
+constexpr std::uint64_t fold(std::uint64_t a, std::uint64_t b) {
   const Product product = static_cast<Product>(a) * b;
   return static_cast<std::uint64_t>(product) ^ static_cast<std::uint64_t>(product >> 64);
 }
+#else
+constexpr std::uint64_t fold(std::uint64_t a, std::uint64_t b) {
+  return foldByHalves(a, b);
+}
+#endif
+
+static_assert(fold(0x9E3779B97F4A7C15, 0xD1B54A32D192ED03) ==
+              foldByHalves(0x9E3779B97F4A7C15, 0xD1B54A32D192ED03));
+static_assert(fold(~0ULL, ~0ULL) == foldByHalves(~0ULL, ~0ULL));
+
+inline constexpr std::uint64_t kFirst = 0x9E3779B97F4A7C15;
+inline constexpr std::uint64_t kSeed = 0xD1B54A32D192ED03;
 
 inline constexpr std::uint64_t kHighBits = 0x8080808080808080;
 
@@ -62,17 +86,19 @@ inline bool sameBytes(const char* a, const char* b, std::size_t size) {
   return size == 0 || *a == *b;
 }
 
-/// A hash of `bytes` for the indexes in memory. Its values differ between machines and are never stored.
-inline std::uint64_t hashOf(std::string_view bytes) {
-  using bytes_detail::fold;
+/// A hash of two words for the indexes in memory. Who does not know `seed` cannot choose words that collide.
+inline std::uint64_t hashOfWords(std::uint64_t first, std::uint64_t last, std::uint64_t seed) {
+  return bytes_detail::fold(first ^ seed, last ^ std::rotl(seed, 32));
+}
+
+/// A hash of `bytes`, likewise. Its values differ between machines and are never stored.
+inline std::uint64_t hashOf(std::string_view bytes, std::uint64_t seed = bytes_detail::kSeed) {
   using bytes_detail::load;
-  constexpr std::uint64_t kFirst = 0x9E3779B97F4A7C15;
-  constexpr std::uint64_t kSecond = 0xD1B54A32D192ED03;
   const char* at = bytes.data();
   std::size_t left = bytes.size();
-  std::uint64_t hash = kFirst ^ left;
+  std::uint64_t hash = bytes_detail::kFirst ^ left;
   for (; left > 16; at += 16, left -= 16) {
-    hash = fold(load<std::uint64_t>(at) ^ kSecond, load<std::uint64_t>(at + 8) ^ hash);
+    hash = hashOfWords(load<std::uint64_t>(at), load<std::uint64_t>(at + 8) ^ hash, seed);
   }
   std::uint64_t first = 0;
   std::uint64_t last = 0;
@@ -87,15 +113,15 @@ inline std::uint64_t hashOf(std::string_view bytes) {
     last = static_cast<std::uint64_t>(static_cast<unsigned char>(at[left / 2])) << 8 |
            static_cast<unsigned char>(at[left - 1]);
   }
-  return fold(first ^ kSecond, last ^ hash);
+  return hashOfWords(first, last ^ hash, seed);
 }
 
 /// A text as one word: its bytes when it is at most eight long, which together with the size tell texts
 /// apart, or else a hash of them.
-inline std::uint64_t wordOf(std::string_view text) {
+inline std::uint64_t wordOf(std::string_view text, std::uint64_t seed = bytes_detail::kSeed) {
   using bytes_detail::load;
   const char* const last = text.data() + text.size();
-  if (text.size() > 8) return hashOf(text);
+  if (text.size() > 8) return hashOf(text, seed);
   if (text.size() >= 4)
     return load<std::uint32_t>(text.data()) | std::uint64_t{load<std::uint32_t>(last - 4)} << 32;
   if (text.size() >= 2)
@@ -176,6 +202,35 @@ inline char* copyBytes(char* to, const char* from, std::size_t size) {
     *to = *from;
   }
   return to + size;
+}
+
+/// What `copyUntil` may write behind the end of its copy.
+inline constexpr std::size_t kCopySlack = 8;
+
+/// Copies `text` from `from` on to `to`, up to where the ASCII character `mark` first stands or to its end,
+/// and gives that place. `to` must have room for all of it and `kCopySlack` bytes more.
+inline std::size_t copyUntil(char mark, char* to, std::string_view text, std::size_t from) {
+  using bytes_detail::load;
+  if (std::endian::native != std::endian::little || text.size() < 8) {
+    const std::size_t end = std::min(findAscii(mark, text, from), text.size());
+    copyBytes(to, text.data() + from, end - from);
+    return end;
+  }
+  const auto copyWord = [&](std::uint64_t word) {
+    std::memcpy(to, &word, sizeof(word));
+    to += sizeof(word);
+    return bytes_detail::marksOf(mark, word);
+  };
+  for (; from + 8 <= text.size(); from += 8) {
+    const std::uint64_t marks = copyWord(load<std::uint64_t>(text.data() + from));
+    if (marks != 0) return from + static_cast<std::size_t>(std::countr_zero(marks)) / 8;
+  }
+  const std::size_t left = text.size() - from;
+  if (left == 0) return from;
+  // The last word of the text, without what was copied before.
+  const std::uint64_t last = load<std::uint64_t>(text.data() + text.size() - 8) >> (64 - 8 * left);
+  const std::uint64_t marks = copyWord(last);
+  return marks == 0 ? text.size() : from + static_cast<std::size_t>(std::countr_zero(marks)) / 8;
 }
 
 }  // namespace zk

@@ -1,9 +1,10 @@
 #include <ZKStrings/platform/text/Bytes.h>
+#include <ZKStrings/platform/text/ICUMemory.h>
 #include <ZKStrings/platform/text/TextSearch.h>
 #include <ZKStrings/platform/text/UnicodeText.h>
 
-#include <cstdint>
-#include <cstring>
+#include <algorithm>
+#include <new>
 #include <utility>
 
 #include <unicode/normalizer2.h>
@@ -13,103 +14,135 @@ namespace zk {
 
 namespace {
 
+using Unit = CanonicalSearch::Unit;
+
 constexpr char32_t kFirstByteValue = 0x110000;
 
-const icu::Normalizer2& composition() {
-  UErrorCode status = U_ZERO_ERROR;
-  return *icu::Normalizer2::getNFCInstance(status);
-}
-
-const icu::Normalizer2& decomposition() {
-  UErrorCode status = U_ZERO_ERROR;
-  return *icu::Normalizer2::getNFDInstance(status);
+/// The canonical decompositions and compositions of Unicode.
+const icu::Normalizer2& normalForms() {
+  static const icu::Normalizer2& forms = []() -> const icu::Normalizer2& {
+    requireMemoryForICU();
+    UErrorCode status = U_ZERO_ERROR;
+    const icu::Normalizer2* const composition = icu::Normalizer2::getNFCInstance(status);
+    if (U_FAILURE(status)) throw std::bad_alloc();
+    return *composition;
+  }();
+  return forms;
 }
 
 /// Whether no canonical equivalence reaches across the place before `codePoint`.
 bool isBorderBefore(const CodePoint& codePoint) {
-  return !codePoint.value || composition().hasBoundaryBefore(static_cast<UChar32>(*codePoint.value));
+  return !codePoint.value || normalForms().hasBoundaryBefore(static_cast<UChar32>(*codePoint.value));
+}
+
+/// Appends the code points that `codePoint` decomposes to.
+void appendDecomposed(std::vector<Unit>& units, const CodePoint& codePoint) {
+  const auto append = [&](char32_t value, std::uint8_t combiningClass) {
+    units.push_back({value, combiningClass, 0, 0});
+  };
+  if (!codePoint.value) return append(kFirstByteValue + static_cast<unsigned char>(codePoint.bytes[0]), 0);
+  if (*codePoint.value < 0x80) return append(*codePoint.value, 0);
+  const auto whole = static_cast<UChar32>(*codePoint.value);
+  icu::UnicodeString parts;  // few enough for its own memory
+  if (!normalForms().getDecomposition(whole, parts)) {
+    return append(*codePoint.value, normalForms().getCombiningClass(whole));
+  }
+  for (std::int32_t i = 0; i < parts.length(); i = parts.moveIndex32(i, 1)) {
+    const UChar32 part = parts.char32At(i);
+    append(static_cast<char32_t>(part), normalForms().getCombiningClass(part));
+  }
+}
+
+/// Puts marks that follow one another into their canonical order.
+void reorderMarks(std::vector<Unit>& units) {
+  const auto isMark = [](const Unit& unit) { return unit.combiningClass != 0; };
+  for (auto begin = units.begin(); begin != units.end();) {
+    begin = std::find_if(begin, units.end(), isMark);
+    const auto end = std::find_if_not(begin, units.end(), isMark);
+    std::stable_sort(begin, end,
+                     [](const Unit& a, const Unit& b) { return a.combiningClass < b.combiningClass; });
+    begin = end;
+  }
 }
 
 /// The canonical decomposition of `text`. The units of what lies between two borders share their `begin` and
 /// `end`.
-std::vector<CanonicalSearch::Unit> decomposed(std::string_view text) {
-  std::vector<CanonicalSearch::Unit> units;
-  icu::UnicodeString segment;
+std::vector<Unit> decomposed(std::string_view text) {
+  std::vector<Unit> units;
+  std::size_t firstUnit = 0;
   std::size_t begin = 0;
-  std::size_t at = 0;
-  const auto endSegment = [&] {
-    UErrorCode status = U_ZERO_ERROR;
-    const icu::UnicodeString plain = decomposition().normalize(segment, status);
-    for (std::int32_t i = 0; i < plain.length(); i = plain.moveIndex32(i, 1)) {
-      units.push_back({static_cast<char32_t>(plain.char32At(i)), begin, at});
+  bool isBehindByte = false;  // a byte that is not UTF-8 has borders on both sides
+  const auto endSegment = [&](std::size_t end) {
+    for (; firstUnit < units.size(); ++firstUnit) {
+      units[firstUnit].begin = begin;
+      units[firstUnit].end = end;
     }
-    segment.remove();
-    begin = at;
+    begin = end;
   };
-  while (at < text.size()) {
+  for (std::size_t at = 0; at < text.size();) {
     const CodePoint next = firstCodePoint(text.substr(at));
-    if (isBorderBefore(next)) endSegment();
+    if (isBehindByte || isBorderBefore(next)) endSegment(at);
+    appendDecomposed(units, next);
+    isBehindByte = !next.value;
     at += next.bytes.size();
-    if (next.value) {
-      segment.append(static_cast<UChar32>(*next.value));
-    } else {
-      units.push_back({kFirstByteValue + static_cast<unsigned char>(next.bytes[0]), begin, at});
-      begin = at;
-    }
   }
-  endSegment();
+  endSegment(text.size());
+  reorderMarks(units);
   return units;
 }
 
-void replace(std::string& text, Occurrence occurrence, std::string_view replacement) {
-  const std::size_t length = occurrence.end - occurrence.begin;
-  if (replacement.size() > length) {
-    text.replace(occurrence.begin, length, replacement);
-    return;
+/// How many units at the end of each beginning of `target` are the beginning of `target` again, all of them
+/// not counted: from there the search by Knuth, Morris and Pratt goes on when the next unit differs.
+std::vector<std::size_t> repeatedBeginnings(const std::vector<Unit>& target) {
+  std::vector<std::size_t> lengths(target.size());
+  std::size_t length = 0;
+  for (std::size_t i = 1; i < target.size(); ++i) {
+    while (length > 0 && target[length].value != target[i].value) length = lengths[length - 1];
+    if (target[length].value == target[i].value) ++length;
+    lengths[i] = length;
   }
-  char* const behind = copyBytes(text.data() + occurrence.begin, replacement.data(), replacement.size());
-  std::memmove(behind, text.data() + occurrence.end, text.size() - occurrence.end);
-  text.resize(text.size() - (length - replacement.size()));
+  return lengths;
 }
 
-/// Replaces `first` and all that `search` finds behind it.
+/// Replaces all that `search` finds in `text`.
 template <class Search>
-void replaceAll(std::string& text, Occurrence first, Search& search, std::string_view replacement) {
-  std::optional<Occurrence> found = search.next();
-  if (!found) {  // nearly always: in place, so that a buffer that is large enough serves for all replacements
-    replace(text, first, replacement);
-    return;
-  }
-  std::string result(text, 0, first.begin);
-  result += replacement;
-  std::size_t done = first.end;
-  for (; found; found = search.next()) {
+void replaceAll(std::string& text, Search search, std::string_view replacement) {
+  std::string result;
+  std::size_t done = 0;
+  while (const std::optional<Occurrence> found = search.next()) {
+    if (done == 0) result.reserve(text.size() + replacement.size());
     result.append(text, done, found->begin - done).append(replacement);
     done = found->end;
   }
+  if (done == 0) return;
   result.append(text, done);
   text = std::move(result);
 }
 
 }  // namespace
 
+bool isBorderBeforeNonAscii(std::string_view text) {
+  return isBorderBefore(firstCodePoint(text));
+}
+
 CanonicalSearch::CanonicalSearch(std::string_view text, std::string_view target)
-    : text_(decomposed(text)), target_(decomposed(target)) {
+    : text_(decomposed(text)), target_(decomposed(target)), repeatedBeginnings_(repeatedBeginnings(target_)) {
+}
+
+bool CanonicalSearch::isBorder(std::size_t at) const {
+  return at == 0 || at == text_.size() || text_[at].begin != text_[at - 1].begin;
 }
 
 std::optional<Occurrence> CanonicalSearch::next() {
-  const auto isBorder = [&](std::size_t at) {
-    return at == 0 || at == text_.size() || text_[at].begin != text_[at - 1].begin;
-  };
-  for (; at_ + target_.size() <= text_.size(); ++at_) {
-    const std::size_t end = at_ + target_.size();
-    if (!isBorder(at_) || !isBorder(end)) continue;
-    std::size_t same = 0;
-    while (same < target_.size() && text_[at_ + same].value == target_[same].value) ++same;
+  std::size_t same = 0;
+  while (at_ < text_.size() && !target_.empty()) {
+    const char32_t value = text_[at_++].value;
+    while (same > 0 && target_[same].value != value) same = repeatedBeginnings_[same - 1];
+    if (target_[same].value == value) ++same;
     if (same < target_.size()) continue;
-    const Occurrence found{text_[at_].begin, text_[end - 1].end};
-    at_ = end;
-    return found;
+    const std::size_t begin = at_ - target_.size();
+    if (isBorder(begin) && isBorder(at_)) return Occurrence{text_[begin].begin, text_[at_ - 1].end};
+    same = repeatedBeginnings_[same - 1];
   }
   return std::nullopt;
 }
@@ -120,9 +153,7 @@ std::optional<Occurrence> AsciiSearch::next() {
   for (; (at_ = findAscii(target_[0], text_, at_)) + size <= text_.size(); ++at_) {
     const char* const place = text_.data() + at_;
     if (place[middle] != target_[middle] || !sameBytes(place, target_.data(), size)) continue;
-    const std::string_view rest = text_.substr(at_ + size);
-    const bool isBeforeAscii = rest.empty() || static_cast<signed char>(rest[0]) >= 0;
-    if (!isBeforeAscii && !isBorderBefore(firstCodePoint(rest))) continue;
+    if (!hasBorderBefore(text_.substr(at_ + size))) continue;
     at_ += size;
     return Occurrence{at_ - size, at_};
   }
@@ -133,20 +164,16 @@ std::optional<Occurrence> AsciiSearch::next() {
 bool AsciiSearch::serves(std::string_view target) {
   // K, ; and ` are what the Kelvin sign, the Greek question mark and the Greek varia decompose to, the only
   // other characters whose canonical decomposition is ASCII.
-  return !target.empty() && isAsciiWithout(target, {'K', ';', '`'});
+  constexpr std::size_t kLongest = 64;  // it is compared anew at each place of a text
+  return !target.empty() && target.size() <= kLongest && isAsciiWithout(target, {'K', ';', '`'});
 }
 
 void replaceOccurrences(std::string& text, std::string_view target, std::string_view replacement) {
-  if (target.empty()) return;
-  AsciiSearch quick(text, target);
-  const std::optional<Occurrence> first = quick.next();
-  if (AsciiSearch::serves(
-          target)) {  // asked only now: to read at once what was just joined makes the processor wait
-    if (first) replaceAll(text, *first, quick, replacement);
-    return;
+  if (AsciiSearch::serves(target)) {
+    replaceAll(text, AsciiSearch(text, target), replacement);
+  } else {
+    replaceAll(text, CanonicalSearch(text, target), replacement);
   }
-  CanonicalSearch search(text, target);
-  if (const std::optional<Occurrence> found = search.next()) replaceAll(text, *found, search, replacement);
 }
 
 }  // namespace zk

@@ -1,19 +1,19 @@
 #include <ZKStrings/platform/text/Bytes.h>
+#include <ZKStrings/platform/text/GraphemeClusters.h>
 #include <ZKStrings/platform/text/UnicodeText.h>
 
 #include <cstdint>
-#include <memory>
+#include <new>
 
-#include <unicode/bytestream.h>
 #include <unicode/casemap.h>
-#include <unicode/ubrk.h>
 #include <unicode/uchar.h>
-#include <unicode/utext.h>
 #include <unicode/utf8.h>
 
 namespace zk {
 
 namespace {
+
+#pragma GCC diagnostic ignored "-Wsign-conversion"  // within the library's macros
 
 /// The code point at `at`, behind which `at` moves; negative for a byte that is not UTF-8.
 UChar32 nextCodePoint(std::string_view text, std::size_t& at) {
@@ -29,36 +29,21 @@ bool isAscii(char byte) {
   return static_cast<unsigned char>(byte) < 0x80;
 }
 
-/// The borders between the user-perceived characters of a text.
-class CharacterBorders {
- public:
-  explicit CharacterBorders(std::string_view text) : size_(text.size()) {
-    utext_openUTF8(&text_, text.data(), static_cast<std::int64_t>(text.size()), &status_);
-    iterator_ = ubrk_open(UBRK_CHARACTER, "", nullptr, 0, &status_);
-    ubrk_setUText(iterator_, &text_, &status_);
+/// One code point after the other: without regard to a language, none depends on its neighbours.
+void appendUpperCased(std::string& text, std::string_view codePoint) {
+  if (isAscii(codePoint[0])) {
+    const char letter = codePoint[0];
+    text += letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - 'a' + 'A') : letter;
+    return;
   }
-  CharacterBorders(const CharacterBorders&) = delete;
-  CharacterBorders& operator=(const CharacterBorders&) = delete;
-  ~CharacterBorders() {
-    ubrk_close(iterator_);
-    utext_close(&text_);
-  }
-
-  /// The first border behind the byte `at`; the end of the text when there is none.
-  [[nodiscard]] std::size_t after(std::size_t at) const {
-    const std::int32_t border = ubrk_following(iterator_, static_cast<std::int32_t>(at));
-    return border == UBRK_DONE ? size_ : static_cast<std::size_t>(border);
-  }
-  [[nodiscard]] bool isAt(std::size_t at) const {
-    return ubrk_isBoundary(iterator_, static_cast<std::int32_t>(at)) != 0;
-  }
-
- private:
-  std::size_t size_;
-  UErrorCode status_ = U_ZERO_ERROR;
-  UText text_ = UTEXT_INITIALIZER;
-  UBreakIterator* iterator_;
-};
+  char capitals[16];  // the longest, of U+0390 and others, has six bytes
+  UErrorCode status = U_ZERO_ERROR;
+  const std::int32_t size =
+      icu::CaseMap::utf8ToUpper("", 0, codePoint.data(), static_cast<std::int32_t>(codePoint.size()),
+                                capitals, sizeof(capitals), nullptr, status);
+  if (U_FAILURE(status)) throw std::bad_alloc();
+  text.append(capitals, static_cast<std::size_t>(size));
+}
 
 }  // namespace
 
@@ -94,48 +79,33 @@ bool isUtf8(std::string_view bytes) {
   return true;
 }
 
-std::string_view firstTwoGraphemeClusters(std::string_view text) {
-  const CharacterBorders borders(text);
-  return text.substr(0, borders.after(borders.after(0)));
+std::string_view firstTwoClusters(std::string_view text) {
+  std::size_t size = 0;
+  for (int i = 0; i < 2 && size < text.size(); ++i) size += firstClusterSize(text.substr(size));
+  return text.substr(0, size);
 }
 
 std::size_t findCharacter(std::string_view text, char wanted) {
-  const auto isAsciiAt = [&](std::size_t at) { return at >= text.size() || isAscii(text[at]); };
-  for (std::size_t at = 0; (at = text.find(wanted, at)) != std::string_view::npos; ++at) {
-    const bool isAlone = (at == 0 || isAsciiAt(at - 1)) && isAsciiAt(at + 1);
-    if (isAlone) return at;
-    const CharacterBorders borders(text);
-    if (borders.isAt(at) && borders.isAt(at + 1)) return at;
+  for (std::size_t at = 0; at < text.size();) {
+    const std::size_t size = firstClusterSize(text.substr(at));
+    if (size == 1 && text[at] == wanted) return at;
+    at += size;
   }
   return std::string_view::npos;
 }
 
 std::string upperCased(std::string_view text) {
   std::string result;
-  if (findNonAscii(text, 0) == text.size()) {
-    result = text;
-    for (char& letter : result) {
-      if (letter >= 'a' && letter <= 'z') letter = static_cast<char>(letter - 'a' + 'A');
-    }
-    return result;
-  }
-  const auto appendUpper = [&](std::string_view valid) {
-    UErrorCode status = U_ZERO_ERROR;
-    icu::StringByteSink<std::string> sink(&result);
-    icu::CaseMap::utf8ToUpper("", 0, icu::StringPiece(valid.data(), static_cast<std::int32_t>(valid.size())),
-                              sink, nullptr, status);
-  };
-  std::size_t begin = 0;
+  result.reserve(text.size());
   for (std::size_t at = 0; at < text.size();) {
     const CodePoint next = firstCodePoint(text.substr(at));
-    if (!next.value) {
-      appendUpper(text.substr(begin, at - begin));
+    if (next.value) {
+      appendUpperCased(result, next.bytes);
+    } else {
       result += next.bytes;
-      begin = at + 1;
     }
     at += next.bytes.size();
   }
-  appendUpper(text.substr(begin));
   return result;
 }
 

@@ -40,16 +40,17 @@ void appendCodePoint(std::string& text, char32_t codePoint);
 /// "STRASSE".
 [[nodiscard]] std::string upperCased(std::string_view text);
 
-/// The same by the full rules, also for what the quick way serves.
-[[nodiscard]] std::string_view firstTwoGraphemeClusters(std::string_view text);
+/// The same as `firstTwoCharacters`, by the full rules, also for what the quick way serves.
+[[nodiscard]] std::string_view firstTwoClusters(std::string_view text);
 
 inline std::string_view firstTwoCharacters(std::string_view text) {
   // Between two ASCII characters there is always a border, but between CR and LF.
   const auto isPlain = [](char character) {
     return static_cast<signed char>(character) >= 0 && character != '\r';
   };
-  const bool isQuick = text.size() > 2 && isPlain(text[0]) && isPlain(text[1]) && isPlain(text[2]);
-  return isQuick ? text.substr(0, 2) : firstTwoGraphemeClusters(text);
+  if (text.size() < 2) return text;
+  const bool isQuick = isPlain(text[0]) && isPlain(text[1]) && (text.size() == 2 || isPlain(text[2]));
+  return isQuick ? text.substr(0, 2) : firstTwoClusters(text);
 }
 
 }  // namespace zk

@@ -2,6 +2,7 @@
 #include <ZKStrings/region/CurrentLanguage.h>
 
 #include <string>
+#include <string_view>
 #include <type_traits>
 #include <utility>
 
@@ -11,6 +12,18 @@ namespace zk {
 namespace {
 
 static_assert(!std::is_default_constructible_v<ZKStrings>);
+
+template <class Catalogue>
+constexpr bool takesANumberForAText = requires {
+  Catalogue::badgeCount_Badges(0, 0);
+}
+|| requires {
+  Catalogue::badgeCount_Badges(4, 4);
+}
+|| requires {
+  Catalogue::badgeCount_Badges(nullptr, 4);
+};
+static_assert(!takesANumberForAText<ZKStrings>);
 
 TEST(Accessor, GivesTheTextOfItsEntry) {
   Current::language = Language{};
@@ -28,6 +41,8 @@ TEST(Accessor, GivesTheTextOfItsEntry) {
       {ZKStrings::Daily_nChallenge(), "Daily\nChallenge"},
       {ZKStrings::You_got_an_Extra_Life_from_ZK_️(), "You got an Extra Life from ZK! ❤️"},
       {ZKStrings::badgeCount_Badges("0", 0), "No Badges yet"},
+      {ZKStrings::badgeCount_Badges(std::to_string(7), 7), "7 Badges"},
+      {ZKStrings::badgeCount_Badges(std::string_view("8"), 8), "8 Badges"},
       {ZKStrings::pointCount_pts_away_from_Level_level("7", "3", 7), "7 pts away from Level 3"},
       {ZKStrings::username_username2_and_friendCount_other_friends_were_eliminated("a", "b", "1", 1),
        "a, b, and 1 other friend were eliminated."},

@@ -1,6 +1,14 @@
 #include <ZKStrings/engine/PlaceholderSubstitution.h>
+#include <ZKStrings/platform/text/TextSearch.h>
 
+#include <algorithm>
+#include <map>
+#include <random>
 #include <string>
+#include <string_view>
+#include <type_traits>
+#include <utility>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -30,6 +38,9 @@ TEST(Substitution, FillsInThePlaceholdersThatHaveAText) {
        {{"f", "6"}, {"e", "5"}, {"d", "4"}, {"c", "3"}, {"b", "2"}, {"a", "1"}},
        "123456"},
       {"%{a} \xFF", {{"a", "\xFE"}}, "\xFE \xFF"},
+      {"%{a}%{c}}", {{"c", "b"}, {"a}b", "x"}, {"a", "y"}}, "x"},
+      {"%{b}%{a}", {{"a", "\u0301"}, {"b", "x"}}, "%{b}\u0301"},
+      {"100% %{a}%", {{"a", "5%"}}, "100% 5%%"},
   };
   for (const Case& item : cases)
     EXPECT_EQ(applySubstitutions(item.text, item.substitutions), item.expected) << item.text;
@@ -37,8 +48,95 @@ TEST(Substitution, FillsInThePlaceholdersThatHaveAText) {
   EXPECT_EQ(applySubstitutions("%{" + longName + "}", {{longName, "x"}}), "x");
 }
 
+using Texts = std::vector<std::pair<std::string, std::string>>;
+
+/// As many pairs as asked for: n0 and 0, n1 and 1, ...
+Texts numbered(int count) {
+  Texts pairs;
+  for (int i = 0; i < count; ++i)
+    pairs.emplace_back(std::string("n").append(std::to_string(i)), std::to_string(i));
+  return pairs;
+}
+
+TEST(Substitution, TakesAnyRangeOfPairs) {
+  const std::map<std::string, std::string> map = {{"a", "1"}, {"b", "2"}};
+  EXPECT_EQ(applySubstitutions("%{a}%{b}", map), "12");
+  const std::pair<const char*, std::string_view> array[] = {{"a", "3"}, {"b", "4"}};
+  EXPECT_EQ(applySubstitutions("%{a}%{b}", array), "34");
+  EXPECT_EQ(applySubstitutions("%{a}", Texts()), "%{a}");
+  EXPECT_EQ(applySubstitutions("%{n0} %{n4}", numbered(5)), "0 4");
+  EXPECT_EQ(applySubstitutions("%{n0} %{n999}", numbered(1000)), "0 999");
+  static_assert(!std::is_constructible_v<Substitutions, std::vector<std::string>>);
+}
+
+TEST(Substitution, IsAValue) {
+  const std::string text = "%{n0}%{n1}%{n2}%{n3}%{n4}%{n5}";
+  for (const int count : {0, 1, 5, 6}) {
+    const Texts pairs = numbered(count);
+    const Substitutions original = pairs;
+    const std::string expected = applySubstitutions(text, original);
+    Substitutions copy = original;
+    Substitutions moved = std::move(copy);
+    EXPECT_EQ(applySubstitutions(text, copy), text) << count;
+    copy = std::move(moved);
+    EXPECT_EQ(applySubstitutions(text, moved), text) << count;
+    moved = copy;
+    EXPECT_EQ(applySubstitutions(text, copy), expected) << count;
+    EXPECT_EQ(applySubstitutions(text, moved), expected) << count;
+    moved = Substitutions{{"n0", "-"}};
+    EXPECT_EQ(applySubstitutions("%{n0}%{n1}", moved), "-%{n1}") << count;
+  }
+}
+
+TEST(Substitution, IsOnePairAfterTheOther) {
+  const std::string pieces[] = {
+      "%{a}", "%{b}",   "%{ab}", "%{}",  "%",          "{",       "}",    "a",
+      "b",    "\u0301", "é",     "%{é}", "%{e\u0301}", "%{a%{b}", "\xFF", "some longer text "};
+  std::string names[] = {"a", "b", "ab", "", "é", "a%{b", "%", "c}", "a}b", "a}%{b", "{"};
+  std::mt19937 random(20240901);
+  const auto mixed = [&](std::size_t most) {
+    std::string text;
+    for (auto i = random() % (most + 1); i > 0; --i) text += pieces[random() % std::size(pieces)];
+    return text;
+  };
+  for (int round = 0; round < 50000; ++round) {
+    const std::string text = mixed(8);
+    const std::string values[] = {mixed(2), mixed(1), mixed(1)};
+    std::shuffle(std::begin(names), std::end(names), random);
+    std::string expected = text;
+    for (int i = 0; i < 3; ++i) replaceOccurrences(expected, "%{" + names[i] + "}", values[i]);
+    ASSERT_EQ(applySubstitutions(text, {{names[0], values[0]}, {names[1], values[1]}, {names[2], values[2]}}),
+              expected)
+        << text << " " << names[0] << " " << names[1] << " " << names[2];
+  }
+}
+
+TEST(Substitution, FillsInTextsOfEverySize) {
+  for (std::size_t size = 0; size < 1200; ++size) {
+    const std::string plain(size, 'x');
+    EXPECT_EQ(applySubstitutions(plain + "%{a}" + plain, {{"a", "kim"}}), plain + "kim" + plain) << size;
+    EXPECT_EQ(applySubstitutions("%{a} 5% %{a}", {{"a", plain}}), plain + " 5% " + plain) << size;
+  }
+}
+
 TEST(SubstitutionDeathTest, ARepeatedNameStopsTheProcess) {
   EXPECT_DEATH((Substitutions{{"a", "1"}, {"b", "2"}, {"a", "1"}}), "^$");
+  EXPECT_DEATH((Substitutions{{"", "1"}, {"", "2"}}), "^$");
+  EXPECT_DEATH((Substitutions{{"größe", "1"}, {"gro\u0308ße", "2"}}), "^$");
+  EXPECT_DEATH((Substitutions{{"K", "1"}, {"\u212A", "2"}}), "^$");
+  EXPECT_DEATH((Substitutions{{"\u212Be", "1"}, {"A\u030Ae", "2"}}), "^$");
+  Texts many = numbered(10);
+  many.emplace_back("n0", "again");
+  EXPECT_DEATH(Substitutions{many}, "^$");
+  many.back().first = "é";
+  many.emplace_back("e\u0301", "again");
+  EXPECT_DEATH(Substitutions{many}, "^$");
+}
+
+TEST(Substitution, NamesThatOnlyLookAlikeDiffer) {
+  const Substitutions pairs = {
+      {"firstLetter", "1"}, {"fourthLetter", "2"}, {"é", "3"}, {"e", "4"}, {"É", "5"}};
+  EXPECT_EQ(applySubstitutions("%{firstLetter}%{fourthLetter}%{é}%{e}%{É}", pairs), "12345");
 }
 
 }  // namespace

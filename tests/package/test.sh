@@ -1,38 +1,98 @@
 #!/usr/bin/env bash
-# Installs the module, moves the installation, and uses it from another project: shared, and linked statically.
-# Also looks at what the shared library exports and runs when it is loaded.
+# Installs the module, moves the installation, and uses it from another project in every way in which a program may come
+# by it: shared, linked statically, built as a part of the project. Also looks at what the shared library exports and
+# runs when it is loaded, and at how it is linked.
 #   test.sh CMAKE SOURCE_DIRECTORY BUILD_DIRECTORY CXX_COMPILER
 set -euo pipefail
 cmake=$1 source=$2 build=$3 compiler=$4
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 fail() { echo "$*" >&2; exit 1; }
+expect() {  # expect NAME OUTPUT COMMAND...: runs the command elsewhere
+  local output
+  output=$(cd / && "${@:3}" 2>&1) || fail "$1: ended with $?: $output"
+  [ "$output" = "$2" ] || fail "$1: the program says: $output"
+}
+text="Über uns, 246 countries"
 
 library=$build/lib/libZKStrings.so
 foreign=$(nm -D --defined-only "$library" | awk '{print $3}' | grep -v -E '^_Z(N|NK|TIN|TSN|TVN)2zk' || true)
 [ -z "$foreign" ] || fail "exported, but not public: $foreign"
 initialisers=$(readelf -W -S "$library" | awk '$2 == ".init_array" || $3 == ".init_array"' | sed 's/.*INIT_ARRAY *//' | awk '{print $3}')
 [ "$initialisers" = 000008 ] || fail "the library has dynamic initialisers (.init_array holds 0x$initialisers bytes; the compiler's own are 8)"
+for file in "$library" "$build/bin/zkstrings"; do
+  readelf -W -d "$file" | grep 'FLAGS_1.*NOW' >/dev/null || fail "$file: names are bound late"
+  readelf -W -l "$file" | grep GNU_RELRO >/dev/null || fail "$file: relocations stay writable"
+  nm -D "$file" | grep __stack_chk_fail >/dev/null || fail "$file: the stack is not guarded"
+done
 
-use() {  # use NAME PREFIX: builds the consumer against the installation, and runs it from elsewhere
-  "$cmake" -G Ninja -S "$source/tests/package" -B "$work/$1-build" -DCMAKE_CXX_COMPILER="$compiler" -DCMAKE_PREFIX_PATH="$2" >/dev/null
-  "$cmake" --build "$work/$1-build" >/dev/null
+configure() { "$cmake" -G Ninja -DCMAKE_CXX_COMPILER="$compiler" "$@" >/dev/null; }
+consumer() {  # consumer NAME PREFIX: builds the consumer against the installation
+  configure -S "$source/tests/package" -B "$work/$1" -DCMAKE_PREFIX_PATH="$2"
+  "$cmake" --build "$work/$1" >/dev/null
   mkdir -p "$2/bin"
-  cp "$work/$1-build/consumer" "$2/bin/consumer"
-  output=$(cd / && "$2/bin/consumer")
-  [ "$output" = "Über uns, 246 countries" ] || fail "$1: the consumer says: $output"
+  cp "$work/$1/consumer" "$2/bin"
 }
 
+# Shared.
 "$cmake" --install "$build" --prefix "$work/first" >/dev/null
 mv "$work/first" "$work/moved"
-use shared "$work/moved"
+moved=$work/moved
+consumer shared "$moved"
+expect "shared" "$text" "$moved/bin/consumer"
+lib=$(dirname "$(cd "$moved" && find lib* -name libZKStrings.so)")
+loaded_from() { env LD_LIBRARY_PATH="$1" "$moved/bin/consumer" "${@:2}"; }
+
+mkdir -p "$moved/lib/app" "$work/links/lib" "$work/links/share"
+"$compiler" -std=c++20 "$source/tests/package/consumer.cpp" -o "$moved/lib/app/program" -I"$moved/include" -L"$moved/$lib" -lZKStrings \
+  -Wl,--enable-new-dtags,-rpath,"\$ORIGIN/../${lib#lib}"
+expect "a program in lib/app" "$text" "$moved/lib/app/program"
+
+cp -P "$moved/$lib"/libZKStrings.so* "$moved/lib/app"
+expect "a path that ends in /." "$text" loaded_from "$moved/lib/app/."
+expect "a path with .." "$text" loaded_from "$moved/lib/app/../app"
+
+ln -s "$moved/$lib/libZKStrings.so.1" "$work/links/lib"
+expect "a link from another tree" "$text" loaded_from "$work/links/lib"
+touch "$work/links/lib/share" "$work/links/share/ZKStrings"
+expect "files that are called like the resources" "$text" loaded_from "$work/links/lib"
+rm "$work/links/share/ZKStrings"
+cp -r "$moved/share/ZKStrings" "$work/links/share"
+echo "[]" >"$work/links/share/ZKStrings/countries.json"
+expect "a link beside resources of its own" "Über uns, 0 countries" loaded_from "$work/links/lib"
 
 # Loaded by a relative path, and asked for the first text after the working directory has changed.
-cp -r "$work/moved/lib" "$work/moved/share" "$work/shared-build/"
-output=$(cd "$work/shared-build" && LD_LIBRARY_PATH=$(cd "$work/shared-build" && dirname "$(find lib -name 'libZKStrings.so')") ./consumer /)
-[ "$output" = "Über uns, 246 countries" ] || fail "relative: the consumer says: $output"
+relative() { cd "$moved" && loaded_from "$lib" /; }
+expect "loaded by a relative path" "$text" relative
 
-"$cmake" -G Ninja -S "$source" -B "$work/static" -DBUILD_SHARED_LIBS=OFF -DZK_TOOLS=OFF -DZK_EXAMPLES=OFF -DZK_TESTS=OFF -DCMAKE_CXX_COMPILER="$compiler" >/dev/null
-"$cmake" --build "$work/static" >/dev/null
-"$cmake" --install "$work/static" --prefix "$work/static-installed" >/dev/null
-use static "$work/static-installed"
+mv "$moved/share" "$moved/gone"
+expect "without resources" _ZN2zk35baseLprojIsMissingAmongTheResourcesEv "$moved/bin/consumer"
+
+# Static, as a part of the project, in its build folder and installed; then without /proc.
+part() {  # part PREFIX OPTION...: builds the consumer with the module as a part of it, and installs both
+  configure -S "$source/tests/package" -B "$work/part" -DZKSTRINGS_SOURCE="$source" -DCMAKE_INSTALL_PREFIX="$1" "${@:2}"
+  "$cmake" --build "$work/part" >/dev/null
+  "$cmake" --install "$work/part" >/dev/null
+}
+part "$work/static" -DBUILD_SHARED_LIBS=OFF
+expect "static, in the build folder" "$text" "$work/part/consumer"
+expect "static, installed deeply" "$text" "$work/static/programs/of/many/kinds/consumer"
+
+consumer static-found "$work/static"
+expect "static, found, in the build folder" "$text" "$work/static-found/consumer"
+expect "static, found" "$text" "$work/static/bin/consumer"
+"$compiler" -std=c++20 -shared -fPIC "$source/tests/package/without_proc.cpp" -o "$work/without_proc.so" -ldl
+expect "without /proc" "$text" env LD_PRELOAD="$work/without_proc.so" "$work/static/bin/consumer"
+relative() { cd "$work/static/bin" && env LD_PRELOAD="$work/without_proc.so" ./consumer; }
+expect "without /proc, started by a relative path" "$text" relative
+nowhere() { env LD_PRELOAD="$work/without_proc.so" WITHOUT_NAMES=1 "$work/static/bin/consumer" || echo "stopped"; }
+expect "without any names" "stopped" nowhere
+
+# Installed to other places than the usual ones.
+elsewhere() {  # elsewhere NAME DATADIR LIBDIR
+  part "$work/$1" -DBUILD_SHARED_LIBS=ON -DCMAKE_INSTALL_DATADIR="$2" -DCMAKE_INSTALL_LIBDIR="$3"
+  expect "$1" "$text" loaded_from "$work/$1/$3"
+}
+elsewhere other-names data/of/texts libraries
+elsewhere deep-libraries share lib/of/many/different/kinds
+elsewhere absolute-data "$work/data" lib

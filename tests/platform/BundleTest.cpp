@@ -22,8 +22,8 @@ TEST(Bundle, ListsItsDirectoryByExactNames) {
   ASSERT_NE(bundle, nullptr);
   ASSERT_NE(bundle->pathForResource("de", "lproj"), nullptr);
   EXPECT_EQ(bundle->pathForResource("de", "lproj")->string(), directory.path() + "/de.lproj");
-  EXPECT_NE(bundle->URLForResource("countries", "json"), nullptr);
-  EXPECT_NE(bundle->URLForResource("fr", "lproj"), nullptr);
+  EXPECT_EQ(bundle->URLForResource("countries", "json"), directory.path() + "/countries.json");
+  EXPECT_EQ(bundle->URLForResource("fr", "lproj"), directory.path() + "/fr.lproj");
   const std::pair<std::string_view, std::string_view> absent[] = {{"fr", "lproj"},
                                                                   {"DE", "lproj"},
                                                                   {"", "lproj"},
@@ -38,11 +38,36 @@ TEST(Bundle, ListsItsDirectoryByExactNames) {
     EXPECT_EQ(bundle->pathForResource(name, type), nullptr) << name << " " << type;
 }
 
+TEST(Bundle, LooksForAFileAfreshByOneName) {
+  const TemporaryDirectory directory;
+  directory.write("inner/countries.json", "[]");
+  const Bundle& bundle = *Bundle::initWithPath(directory.path() + "/inner");
+  const Bundle& outer = *Bundle::initWithPath(directory.path());
+  EXPECT_EQ(outer.URLForResource("countries", "json"), std::nullopt);
+  directory.write("countries.json", "[]");
+  EXPECT_EQ(outer.URLForResource("countries", "json"), directory.path() + "/countries.json");
+  std::filesystem::remove(directory.path() + "/inner/countries.json");
+  const std::pair<std::string_view, std::string_view> absent[] = {
+      {"countries", "json"}, {"../countries", "json"},    {".", ""},
+      {"", "json"},          {"/", "/../countries.json"}, {"countries", std::string_view("json\0", 5)}};
+  for (const auto& [name, extension] : absent)
+    EXPECT_EQ(bundle.URLForResource(name, extension), std::nullopt) << name << " " << extension;
+  EXPECT_EQ(Bundle::withoutResources("").URLForResource("tmp", ""), std::nullopt);
+}
+
 TEST(Bundle, OpensDirectoriesOnly) {
   const TemporaryDirectory directory;
   EXPECT_EQ(Bundle::initWithPath(directory.write("file", "")), nullptr);
   EXPECT_EQ(Bundle::initWithPath(directory.path() + "/missing"), nullptr);
   EXPECT_EQ(Bundle::initWithPath(directory.path()), Bundle::initWithPath(directory.path()));
+}
+
+TEST(Bundle, OfAModuleWithoutResourcesIsMadeOnce) {
+  // This type belongs to the standard library, which has no texts of ours beside it.
+  const Bundle& none = Bundle::bundleForClass(typeid(int));
+  EXPECT_EQ(&none, &Bundle::bundleForClass(typeid(int)));
+  EXPECT_EQ(none.path(), "");
+  EXPECT_EQ(none.pathForResource("Base", "lproj"), nullptr);
 }
 
 TEST(Bundle, GivesTheValueAndThenTheKeyForAMissingText) {

@@ -1,5 +1,8 @@
 #include <ZKStrings/platform/formats/Json.h>
+#include <ZKStrings/tests/TemporaryDirectory.h>
 
+#include <clocale>
+#include <cstdlib>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -39,9 +42,31 @@ TEST(Json, ReadsEveryEncodingWithAndWithoutMark) {
 
 TEST(Json, RefusesWhatIsNotJson) {
   const std::string deep(100000, '[');
-  for (const std::string& text :
-       {""s, " "s, "[1,]"s, "[1"s, "[1] 2"s, "{\"a\" 1}"s, "[01]"s, "\"\xFF\""s, "[\"\xC3\"]"s, "nul"s, deep,
-        deep + "]", "[1e999, 1e]"s, "[1e999 1]"s, "\xFF\xFE["s, "\0[\0]"s.substr(0, 3)}) {
+  for (const std::string& text : {""s,
+                                  " "s,
+                                  "[1,]"s,
+                                  "[1"s,
+                                  "[1] 2"s,
+                                  "{\"a\" 1}"s,
+                                  "[01]"s,
+                                  "\"\xFF\""s,
+                                  "[\"\xC3\"]"s,
+                                  "nul"s,
+                                  deep,
+                                  deep + "]",
+                                  "[1e999, 1e]"s,
+                                  "[1e999 1]"s,
+                                  "[1e999, 1e999.5]"s,
+                                  "[1e999, -]"s,
+                                  "\xFF\xFE["s,
+                                  "\0[\0]"s.substr(0, 3),
+                                  "[1]\0"s,
+                                  "[1] \0[2]"s,
+                                  "[\0]\0 \0\0\0"s,
+                                  "[\"\0\"]"s,
+                                  "\xEF\xBB\xBF\xEF\xBB\xBF[1]"s,
+                                  "\xFF\xFE\xFF\xFE[\0]\0"s,
+                                  "[1]\xEF\xBB\xBF"s}) {
     EXPECT_FALSE(parseJson(text)) << text.substr(0, 40);
   }
 }
@@ -67,6 +92,43 @@ TEST(Json, ANumberTooLargeIsNoInteger) {
   }
   EXPECT_EQ(*parseJson("-9223372036854775808")->as<std::int64_t>(), INT64_MIN);
   EXPECT_EQ(*parseJson("9223372036854775807")->as<std::int64_t>(), INT64_MAX);
+}
+
+// It would take minutes if the work grew by the square.
+TEST(Json, LongNumbersAreReadOnce) {
+  const std::string digits(1000000, '9');
+  EXPECT_TRUE(parseJson("[" + digits + ", 0." + digits + ", 1e" + digits + "]"));
+  EXPECT_FALSE(parseJson("[1e999, " + digits + ".]"));
+  EXPECT_FALSE(parseJson("[1e999, " + std::string(1000000, '0') + "]"));
+}
+
+/// The process's locale has a decimal comma, as most have; made here, since machines need not have one.
+class DecimalComma : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    directory_.write("source", "LC_NUMERIC\ndecimal_point \",\"\nthousands_sep \"\"\nEND LC_NUMERIC\n");
+    setenv("LOCPATH", directory_.path().c_str(), 1);
+    // It warns of the categories that are missing, and tells so by its status too.
+    static_cast<void>(std::system("cd \"$LOCPATH\" && localedef --no-archive -ci source ./comma >log 2>&1"));
+    if (!std::setlocale(LC_NUMERIC, "comma")) GTEST_SKIP() << "this machine cannot make a locale";
+  }
+  void TearDown() override {
+    std::setlocale(LC_NUMERIC, "C");
+    unsetenv("LOCPATH");
+  }
+
+ private:
+  const testing::TemporaryDirectory directory_;
+};
+
+TEST_F(DecimalComma, JsonNumbersHaveAPointAllTheSame) {
+  const std::optional<Value> value = parseJson("[1.5e999, 1.25, 7]");
+  ASSERT_TRUE(value);
+  const Value::List& list = *value->as<Value::List>();
+  EXPECT_TRUE(list[0].as<std::nullptr_t>());
+  EXPECT_EQ(*list[1].as<double>(), 1.25);
+  EXPECT_EQ(*list[2].as<std::int64_t>(), 7);
+  EXPECT_EQ(std::localeconv()->decimal_point, ","s);
 }
 
 TEST(Json, DeepNestingIsCheckedAndWhatFollowsItRead) {

@@ -36,6 +36,8 @@ TEST(Locale, ReadsTheEnvironment) {
       {{{"LANG", "de_DE.UTF-8"}, {"LANGUAGE", "de_AT:de_DE::fr:de_AT"}}, "de-DE", {"de-AT", "de-DE", "fr"}},
       {{{"LANG", "es_ES.UTF-8"}, {"LANGUAGE", "ca:C"}}, "es-ES", {"ca", "en", "es-ES"}},
       {{{"LANG", "es"}, {"LANGUAGE", ":"}}, "es", {"es"}},
+      {{{"LANG", "_DE.UTF-8"}, {"LANGUAGE", "fr"}}, "en", {"en"}},
+      {{{"LANG", "es_ES"}, {"LANGUAGE", "_DE:.UTF-8:@latin:it"}}, "es-ES", {"it", "es-ES"}},
   };
   for (const Case& item : cases) {
     setEnvironment(item.environment);

@@ -1,9 +1,14 @@
 #include <ZKStrings/platform/formats/StringTable.h>
 #include <ZKStrings/platform/formats/StringTableReader.h>
+#include <ZKStrings/platform/system/ProcessSeed.h>
+#include <ZKStrings/platform/text/Bytes.h>
 #include <ZKStrings/tests/TemporaryDirectory.h>
 
-#include <map>
+#include <cstdint>
+#include <cstring>
+#include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -24,6 +29,11 @@ std::string utf16(const std::u16string& text, bool bigEndian) {
     bytes += bigEndian ? low : high;
   }
   return bytes;
+}
+
+StringTable tableIn(const std::string& path) {
+  std::error_code unused;
+  return StringTable::inFile(path, unused);
 }
 
 struct Case {
@@ -48,7 +58,9 @@ TEST(StringTable, FindsTheTextThatTheFileSpells) {
       {R"("a\"b" = "\"\\\n\t\r\a\b\f\v";)", "a\"b", "\"\\\n\t\r\a\b\f\v"},
       {R"("a" = "\101\7x\0";)", "a", "A\ax\0"s},
       {R"("a" = "\U00e9\Ud83c\Udf89\Ud83c!";)", "a", "é🎉\uFFFD!"},
-      {R"("a" = "\q\U12\é";)", "a", "qU12é"},
+      {R"("a" = "\U41,\U41g\Ue9\U7ff\U1234";)", "a", "A,Agé\u07FF\u1234"},
+      {R"("a" = "\Ud83c\Udf8 \Ud83c\U9";)", "a", "\uFFFD\u0DF8 \uFFFD\t"},
+      {R"("a" = "\q\Ug\é\U";)", "a", "qUgéU"},
       {"\"\" = \"\";", "", ""},
       {"\"a_one\" = \"1\";", "a", std::nullopt},
       {"", "a", std::nullopt},
@@ -65,7 +77,7 @@ TEST(StringTable, FindsTheTextThatTheFileSpells) {
   };
   const TemporaryDirectory directory;
   for (const Case& item : cases) {
-    const StringTable table = StringTable::inFile(directory.write("t.strings", item.file));
+    const StringTable table = tableIn(directory.write("t.strings", item.file));
     EXPECT_EQ(table.find(item.key), item.text) << item.file;
   }
 }
@@ -75,9 +87,35 @@ TEST(StringTable, FindsEveryKeyOfALargeTable) {
   for (int i = 0; i < 20000; ++i)
     file += "\"key_" + std::to_string(i) + "\" = \"" + std::to_string(i * 7) + "\";\n";
   const TemporaryDirectory directory;
-  const StringTable table = StringTable::inFile(directory.write("t.strings", file));
+  const StringTable table = tableIn(directory.write("t.strings", file));
   for (int i = 0; i < 20000; ++i) ASSERT_EQ(table.find("key_" + std::to_string(i)), std::to_string(i * 7));
   for (int i = 20000; i < 40000; ++i) ASSERT_EQ(table.find("key_" + std::to_string(i)), std::nullopt);
+}
+
+/// How many different numbers `hash` gives for 0, 1, 2, ... 9,999.
+template <class Hash>
+std::size_t differentHashes(Hash hash) {
+  std::set<std::uint64_t> different;
+  for (std::uint64_t number = 0; number < 10000; ++number) different.insert(hash(number));
+  return different.size();
+}
+
+TEST(StringTable, TextsThatCollideUnderOneSeedDoNotUnderThatOfTheProcess) {
+  const std::uint64_t known = 0x0123456789ABCDEF;
+  ASSERT_NE(processSeed(), 0u);
+  EXPECT_EQ(processSeed(), processSeed());
+  for (const auto& [seed, expected] : {std::pair{known, 1}, std::pair{processSeed(), 10000}}) {
+    const auto collidingKey = [&, seed = seed](std::uint64_t number) {
+      char key[16];
+      std::memcpy(key, &known, 8);
+      std::memcpy(key + 8, &number, 8);
+      return hashOf({key, 16}, seed);
+    };
+    EXPECT_EQ(differentHashes(collidingKey), expected) << seed;
+  }
+  // A resource whose name and type are the same, such as "X.X".
+  const auto sameTwice = [](std::uint64_t number) { return hashOfWords(number, number, processSeed()); };
+  EXPECT_EQ(differentHashes(sameTwice), 10000u);
 }
 
 TEST(StringTable, WhatIsNoReadableFileHoldsNothing) {
@@ -88,7 +126,7 @@ TEST(StringTable, WhatIsNoReadableFileHoldsNothing) {
   std::filesystem::resize_file(huge, std::uintmax_t{1} << 40);
   for (const std::string& path :
        {directory.path(), fifo, huge, directory.path() + "/missing", "/dev/zero"s, ""s}) {
-    EXPECT_EQ(StringTable::inFile(path).find("a"), std::nullopt) << path;
+    EXPECT_EQ(tableIn(path).find("a"), std::nullopt) << path;
   }
 }
 

@@ -3,10 +3,12 @@
 #include <ZKStrings/region/CurrentLanguage.h>
 #include <ZKStrings/region/Language.h>
 
+#include <atomic>
 #include <cstdlib>
 #include <memory>
 #include <stdexcept>
 #include <string>
+#include <thread>
 #include <utility>
 #include <vector>
 
@@ -120,6 +122,82 @@ TEST(CurrentLanguage, AChangeInPlaceIsWrittenBackAlsoWhenAnExceptionEndsIt) {
   };
   EXPECT_THROW(changeAndThrow(Current::language->preferredLanguages), std::runtime_error);
   EXPECT_EQ(Language(Current::language).preferredLanguages[0], "fr-FR");
+}
+
+TEST(CurrentLanguage, ReadingWritesNothing) {
+  int calls = 0;
+  Language language;
+  Resolver::register_<Language>([&] {
+    language.preferredLanguages = {std::to_string(++calls)};
+    return language;
+  });
+  EXPECT_EQ(Current::language->preferredLanguages[0], "1");
+  EXPECT_FALSE(Current::language->countries.empty());
+  Current::language.change([](const Language& now) { EXPECT_EQ(now.preferredLanguages[0], "3"); });
+  EXPECT_EQ(Current::language.get().preferredLanguages[0], "4");
+}
+
+TEST(CurrentLanguage, ReadingUndoesNoOtherThreadsAssignment) {
+  Language language;
+  Current::language = language;
+  std::atomic<bool> done = false;
+  std::vector<std::thread> readers;
+  for (int i = 0; i < 2; ++i) {
+    readers.emplace_back([&] {
+      while (!done) EXPECT_FALSE(Current::language->countries.empty());
+    });
+  }
+  for (int round = 0; round < 2000; ++round) {
+    language.preferredLanguages = {std::to_string(round)};
+    Current::language = language;
+    EXPECT_TRUE(Current::language.get().preferredLanguages.sharesElementsWith(language.preferredLanguages));
+  }
+  done = true;
+  for (std::thread& reader : readers) reader.join();
+}
+
+TEST(CurrentLanguage, MayBeReadWhereItIsChanged) {
+  Current::language = Language{};
+  Current::language->preferredLanguages = {"de-DE"};
+  Current::language->preferredLanguages = {Current::language->preferredLanguages[0], "en"};
+  EXPECT_EQ(listOf(Current::language), (std::vector<std::string>{"de-DE", "en"}));
+  Current::language->preferredLanguages.append(Current::language->preferredLanguages[0]);
+  EXPECT_EQ(listOf(Current::language), (std::vector<std::string>{"de-DE", "en", "de-DE"}));
+}
+
+TEST(CurrentLanguage, EveryKindOfChangeIsSeen) {
+  const std::vector<void (*)(Language&)> changes = {
+      [](Language& language) { language.countries = {}; },
+      [](Language& language) { language.preferredLanguages = {}; },
+      [](Language& language) { language.preferredLanguages.append("fr"); },
+      [](Language& language) { language.preferredLanguages.edit([](auto& list) { list.clear(); }); },
+      [](Language& language) { language.countries.append(language.countries[0]); },
+      [](Language& language) { language = Language(); },
+  };
+  for (std::size_t i = 0; i < changes.size(); ++i) {
+    Language expected;
+    expected.preferredLanguages = {"de-DE"};
+    Current::language = expected;
+    changes[i](expected);
+    Current::language.change(changes[i]);
+    EXPECT_EQ(listOf(Current::language), listOf(expected)) << i;
+    EXPECT_EQ(Current::language.get().countries.size(), expected.countries.size()) << i;
+  }
+}
+
+TEST(CurrentLanguage, ChangesOfTheWholeRecordAreOneAssignment) {
+  Current::language = Language{};
+  std::size_t shown = 0;
+  for (const Country& country : Current::language.get().countries) shown += country.ISO().empty() ? 0U : 1U;
+  EXPECT_EQ(shown, Current::language->countries.size());
+  const auto changeAndThrow = [](Language& language) {
+    language.preferredLanguages = {"fr-FR"};
+    language.countries = {};
+    throw std::runtime_error("after the change");
+  };
+  EXPECT_THROW(Current::language.change(changeAndThrow), std::runtime_error);
+  EXPECT_EQ(Current::language->preferredLanguages[0], "fr-FR");
+  EXPECT_TRUE(Current::language->countries.empty());
 }
 
 TEST(CurrentLanguageDeathTest, MustBeAssignedFirst) {

@@ -28,9 +28,11 @@ class Checker {
       checkTable(language, Table::read(root_, language), catalogue, base);
     }
     if (options_.languages.empty()) checkCountries();
-    std::ranges::sort(result_.faults, {}, [](const Fault& fault) {
+    const auto order = [](const Fault& fault) {
       return std::tie(fault.file, fault.line, fault.column, fault.severity, fault.rule, fault.message);
-    });
+    };
+    std::sort(result_.faults.begin(), result_.faults.end(),
+              [&](const Fault& one, const Fault& other) { return order(one) < order(other); });
     return std::move(result_);
   }
 
@@ -88,7 +90,7 @@ class Checker {
 
   [[nodiscard]] bool applies(const Rule& rule) const {
     if (rule.severity == Severity::note && !options_.notes) return false;
-    return std::ranges::find(options_.off, rule.name) == options_.off.end();
+    return std::find(options_.off.begin(), options_.off.end(), rule.name) == options_.off.end();
   }
 
   const std::string& root_;
@@ -108,7 +110,8 @@ std::vector<Rule> checkRules() {
   add(textRules());
   add(noteRules());
   add(countryRules());
-  std::ranges::stable_sort(rules, {}, &Rule::severity);
+  std::stable_sort(rules.begin(), rules.end(),
+                   [](const Rule& one, const Rule& other) { return one.severity < other.severity; });
   return rules;
 }
 

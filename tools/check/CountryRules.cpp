@@ -61,7 +61,7 @@ void findCodes(const CountryFile& file, Findings& findings) {
   const auto isCapital = [](char c) { return c >= 'A' && c <= 'Z'; };
   forEachCountry(file, [&](const Dictionary& country, Position at) {
     const auto* const code = country.find<std::string>("iso");
-    if (!code || (code->size() == 2 && std::ranges::all_of(*code, isCapital))) return;
+    if (!code || (code->size() == 2 && std::all_of(code->begin(), code->end(), isCapital))) return;
     findings.add(
         at, fmt::format("the code \"{}\" is not two capital letters; write the country's ISO 3166-1 code",
                         escaped(*code)));

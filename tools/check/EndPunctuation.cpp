@@ -57,9 +57,9 @@ bool isPartOfEmoji(UChar32 character) {
   constexpr UProperty kProperties[] = {UCHAR_EXTENDED_PICTOGRAPHIC, UCHAR_EMOJI_MODIFIER,
                                        UCHAR_REGIONAL_INDICATOR};
   if (character == 0x203C || character == 0x2049) return false;  // ‼ and ⁉ are punctuation as well
-  return character == kVariationSelector || std::ranges::any_of(kProperties, [&](UProperty property) {
-           return u_hasBinaryProperty(character, property) != 0;
-         });
+  return character == kVariationSelector ||
+         std::any_of(std::begin(kProperties), std::end(kProperties),
+                     [&](UProperty property) { return u_hasBinaryProperty(character, property) != 0; });
 }
 
 /// Whether the character says nothing of how the text before it ends.
@@ -93,8 +93,9 @@ bool isOrdinal(std::string_view text) {
 
 Ending endingOf(std::string_view text, std::string_view language) {
   text = withoutWhatFollows(text);
-  const auto* const last = std::ranges::find_if(
-      kPunctuation, [&](const Punctuation& punctuation) { return text.ends_with(punctuation.spelled); });
+  const auto* const last =
+      std::find_if(std::begin(kPunctuation), std::end(kPunctuation),
+                   [&](const Punctuation& punctuation) { return text.ends_with(punctuation.spelled); });
   if (last == std::end(kPunctuation) || isOrdinal(text)) return Ending::none;
   const bool isGreekQuestion = language == "el" && last->ending == Ending::semicolon;
   return isGreekQuestion ? Ending::question : last->ending;
@@ -102,7 +103,8 @@ Ending endingOf(std::string_view text, std::string_view language) {
 
 bool endsAlike(Ending ending, Ending english, std::string_view language) {
   if (ending == english) return true;
-  const bool doesWithout = std::ranges::find(kWithoutStops, language) != std::end(kWithoutStops);
+  const bool doesWithout =
+      std::find(std::begin(kWithoutStops), std::end(kWithoutStops), language) != std::end(kWithoutStops);
   return doesWithout && ending == Ending::none && (english == Ending::stop || english == Ending::question);
 }
 

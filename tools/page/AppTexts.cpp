@@ -24,10 +24,7 @@ std::string AppTexts::text(std::string_view language, const Entry& entry,
 
 std::string AppTexts::finishedText(std::string_view language, const Entry& entry,
                                    std::optional<std::int64_t> count, const Values& values) const {
-  std::string result = text(language, entry, count);
-  // The engine takes the pairs one after the other too; this way there may be any number of them.
-  for (const auto& [name, value] : values) result = applySubstitutions(result, {{name, value}});
-  return result;
+  return applySubstitutions(text(language, entry, count), values);
 }
 
 }  // namespace zk::tools

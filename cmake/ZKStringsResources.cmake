@@ -1,0 +1,25 @@
+# zkstrings_add_resources(<target> [DESTINATION <directory>])
+#
+# Gives the executable <target> the module's resources. A program that links ZKStrings statically needs them: the module
+# looks for share/ZKStrings at or above the program's own directory, two levels up at most.
+#
+# In the build folder they are linked beside the program, so that it runs from there. An installation gets a copy: at its
+# root, for a program in bin/, or in DESTINATION, which is best the directory that the program itself is installed in.
+function(zkstrings_add_resources target)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "DESTINATION" "")
+  if(arg_UNPARSED_ARGUMENTS OR arg_KEYWORDS_MISSING_VALUES)
+    message(FATAL_ERROR "zkstrings_add_resources(<target> [DESTINATION <directory>]): cannot use \"${ARGN}\"")
+  endif()
+  get_property(resources GLOBAL PROPERTY ZKSTRINGS_RESOURCES)
+  get_property(place GLOBAL PROPERTY ZKSTRINGS_RESOURCES_PLACE)
+  cmake_path(GET place PARENT_PATH above)
+
+  add_custom_command(TARGET ${target} POST_BUILD
+    COMMAND ${CMAKE_COMMAND} -E make_directory "$<TARGET_FILE_DIR:${target}>/${above}"
+    COMMAND ${CMAKE_COMMAND} -E create_symlink "${resources}" "$<TARGET_FILE_DIR:${target}>/${place}"
+    VERBATIM)
+  if(NOT arg_DESTINATION)
+    set(arg_DESTINATION .)
+  endif()
+  install(DIRECTORY "${resources}/" DESTINATION "${arg_DESTINATION}/${place}" PATTERN "*.md" EXCLUDE)
+endfunction()
