@@ -31,6 +31,8 @@ function onKey(event) {
     controls.search.select();
   } else if (event.key === "Escape") {
     onEscape(event);
+  } else if (event.key === "Enter" && event.target === controls.search) {
+    shownEntries[0]?.link.click();
   } else if (["ArrowDown", "ArrowUp"].includes(event.key) && (event.target === controls.search || list.contains(event.target))) {
     event.preventDefault();
     moveInList(event.key === "ArrowDown" ? 1 : -1);
@@ -53,10 +55,7 @@ showCoverage((language) => {
   updateList();
 });
 document.getElementById("filters").addEventListener("input", updateList);
-document.getElementById("filters").addEventListener("submit", (event) => {
-  event.preventDefault();
-  if (shownEntries.length > 0) location.hash = shownEntries[0].link.hash;
-});
+document.getElementById("filters").addEventListener("submit", (event) => event.preventDefault());
 document.getElementById("reset").addEventListener("click", () => {
   resetFilters();
   updateList();

@@ -75,11 +75,11 @@ function score(entry, query, words) {
   if (texts.includes(`\n${query}\n`)) return 5;
   if (key.startsWith(query)) return 4;
   if (texts.includes(query) || key.includes(query)) return 3;
+  if (words.length > 1 && words.every((word) => texts.includes(word) || key.includes(word))) return 2;
   let own = 0;
   for (const pieces of patterns) own = Math.max(own, ownCharacters(query, pieces));
   const ENOUGH = 3;
-  if (own >= ENOUGH && own * 3 >= query.length) return 1 + own / query.length;
-  return words.length > 1 && words.every((word) => texts.includes(word) || key.includes(word)) ? 1 : 0;
+  return own >= ENOUGH && own * 3 >= query.length ? 1 + own / query.length : 0;
 }
 
 /** Those of `some` entries that fit what was typed, the best first. */
