@@ -1,5 +1,6 @@
 #include <ZKStrings/tools/Languages.h>
 #include <ZKStrings/tools/Lengths.h>
+#include <ZKStrings/tools/Table.h>
 #include <ZKStrings/tools/page/ExampleValues.h>
 
 #include <algorithm>
@@ -47,15 +48,16 @@ std::vector<Length> widestTranslations(const std::string& root, const std::vecto
                                        std::size_t limit) {
   const Catalogue catalogue = Catalogue::read(root);
   const AppTexts texts(root);
-  const std::vector<std::string> asked = languages.empty() ? translationsIn(root) : languages;
   std::vector<Length> lengths;
-  for (const Entry& entry : catalogue.entries()) {
-    const std::vector<TextSize> english = sizesOf(texts, catalogue, kBase, entry);
-    for (const std::string& language : asked) {
+  for (const std::string& language : languages.empty() ? translationsIn(root) : languages) {
+    const Table table = Table::read(root, language);
+    if (!table.faults.empty()) continue;  // the module shows none of its texts
+    for (const Entry& entry : catalogue.entries()) {
+      const std::vector<TextSize> english = sizesOf(texts, catalogue, kBase, entry);
       const std::vector<TextSize> translation = sizesOf(texts, catalogue, language, entry);
       for (std::size_t form = 0; form < english.size(); ++form) {
-        const std::string_view suffix = entry.plural ? kPluralSuffixes[form] : "";
-        lengths.push_back({language, entry.key + std::string(suffix), english[form], translation[form]});
+        const std::string key = entry.key + std::string(entry.plural ? kPluralSuffixes[form] : "");
+        if (table.find(key)) lengths.push_back({language, key, english[form], translation[form]});
       }
     }
   }

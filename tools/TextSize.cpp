@@ -16,8 +16,10 @@ namespace {
 constexpr char32_t kEmojiPresentation = 0xFE0F;
 
 bool isWide(char32_t codePoint) {
-  const int width = u_getIntPropertyValue(static_cast<UChar32>(codePoint), UCHAR_EAST_ASIAN_WIDTH);
-  return width == U_EA_WIDE || width == U_EA_FULLWIDTH || codePoint == kEmojiPresentation;
+  const auto character = static_cast<UChar32>(codePoint);
+  const int width = u_getIntPropertyValue(character, UCHAR_EAST_ASIAN_WIDTH);
+  return width == U_EA_WIDE || width == U_EA_FULLWIDTH || codePoint == kEmojiPresentation ||
+         u_hasBinaryProperty(character, UCHAR_EMOJI_PRESENTATION) != 0;
 }
 
 bool isInvisible(char32_t codePoint) {

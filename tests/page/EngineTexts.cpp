@@ -40,8 +40,8 @@ int main(int, char** arguments) {
       const Entry& entry = catalogue.entries()[index];
       const auto print = [&](const std::optional<std::int64_t> count, const Values& values) {
         const std::string text = texts.finishedText(languages[language], entry, count, values);
-        std::cout << nlohmann::json{language, index, count ? nlohmann::json(*count) : nlohmann::json(), values,
-                                    text}
+        std::cout << nlohmann::json{language, index, count ? nlohmann::json(*count) : nlohmann::json(),
+                                    values, text}
                   << "\n";
       };
       const auto printBoth = [&](std::optional<std::int64_t> count) {

@@ -12,7 +12,7 @@ const OUTPUT = process.env.ZK_OUTPUT;
 
 /** Writes the page of the project at `root`; gives its file. */
 function makePage(root, name) {
-  const file = path.join(OUTPUT, `${name}-${process.pid}.html`);
+  const file = path.join(OUTPUT, `${name}.html`);
   execFileSync(path.join(PROGRAMS, "zkstrings"), ["--root", root, "page", "-o", file]);
   return file;
 }

@@ -19,8 +19,8 @@ using Values = std::vector<std::pair<std::string, std::string>>;
 /// substitution give them, whatever the process's own resources and language are.
 class AppTexts {
  public:
-  /// The resources of the project at `root`, as they are now. Throws `CommandFailed` when there is no
-  /// Base.lproj, without which the module does not run.
+  /// The resources of the project at `root`, as the process first saw them. Throws `CommandFailed` when there
+  /// is no Base.lproj, without which the module does not run.
   explicit AppTexts(const std::string& root);
 
   /// The text of `entry` in `language`, "Base" or a code, before its placeholders are filled in.
