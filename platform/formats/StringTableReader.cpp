@@ -25,8 +25,8 @@ bool StringTableReader::fail(std::size_t offset, std::string expected) {
   return false;
 }
 
-/// Skips a comment when one begins here; false when it has no end. Stands by itself, so that what guards its stack
-/// does not slow down the skipping of blanks.
+/// Skips a comment when one begins here; false when it has no end. Stands by itself, so that what guards its
+/// stack does not slow down the skipping of blanks.
 [[gnu::noinline]] bool StringTableReader::skipComment() {
   const std::string_view rest = text_.substr(at_);
   const bool isLine = rest.starts_with("//");
@@ -119,7 +119,8 @@ struct Number {
   std::size_t digits = 0;
 };
 
-/// The number that up to `most` digits of `base` spell at the beginning of `text`, and how many digits those are.
+/// The number that up to `most` digits of `base` spell at the beginning of `text`, and how many digits those
+/// are.
 Number numberAt(std::string_view text, char32_t base, std::size_t most) {
   constexpr std::string_view kDigits = "0123456789abcdef";
   Number number;
