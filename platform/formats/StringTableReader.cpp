@@ -131,7 +131,8 @@ struct Number {
   std::size_t digits = 0;
 };
 
-/// The number that up to `most` digits of `base` spell at the beginning of `text`, and how many digits those are.
+/// The number that up to `most` digits of `base` spell at the beginning of `text`, and how many digits those
+/// are.
 Number numberAt(std::string_view text, char32_t base, std::size_t most) {
   constexpr std::string_view kDigits = "0123456789abcdef";
   Number number;
