@@ -59,6 +59,11 @@ TEST(TranslationCommandLine, EndsWithAStatusThatTellsTheGravestFault) {
       {"check fr --off missing-key --off unknown-placeholder --strict", 0},
       {"check nl --off missing-key --notes --strict", 0},
       {"check xx", 1},
+      {"check german", 0},
+      {"check resources/de.lproj/Localizable.strings", 0},
+      {"chekc", 2},
+      {"key", 2},
+      {"--version", 0},
       {"check --off no-such-rule", 2},
       {"check --format xml", 2},
       {"check --rules", 0},
@@ -116,8 +121,9 @@ TEST(TranslationCommandLine, TellsGapsInOneShortLine) {
 
 TEST(TranslationCommandLine, WhatItSaysOfItselfFitsATerminal) {
   const TemporaryProject project;
-  for (const char* const arguments : {"--help", "check --help", "coverage --help", "template --help",
-                                      "update --help", "add --help", "change --help", "check --rules", "coverage"}) {
+  for (const char* const arguments :
+       {"--help", "check --help", "coverage --help", "template --help", "update --help", "add --help",
+        "change --help", "check --rules", "coverage"}) {
     const Answer answer = answerTo(project, arguments);
     EXPECT_EQ(answer.status, 0) << arguments;
     for (const std::string_view line : zk::tools::linesOf(answer.output)) {
