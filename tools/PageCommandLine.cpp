@@ -58,7 +58,10 @@ void addLengthsCommand(CLI::App& app, const RootFinder& inRoot) {
   const auto arguments = std::make_shared<Arguments>();
   auto* const command = app.add_subcommand("lengths", "List the texts that come out longest beside English");
   command->add_option("languages", arguments->languages, "The languages; without any, all");
-  command->add_option("--limit", arguments->limit, "How many to list")->type_name("N")->capture_default_str();
+  command->add_option("--limit", arguments->limit, "How many to list")
+      ->check(CLI::NonNegativeNumber)
+      ->type_name("N")
+      ->capture_default_str();
   command->callback([arguments, inRoot] {
     const std::string root = inRoot();
     for (std::string& language : arguments->languages) language = existingLanguage(root, language);

@@ -42,7 +42,6 @@ int run(int argc, char** argv) {
   app.formatter(std::make_shared<HelpFormatter>());
   app.set_version_flag("--version", "zkstrings " ZK_VERSION);
   app.require_subcommand(1);
-  app.allow_extras();
   std::string root;
   app.add_option("--root", root, "The project's folder; found from here upward otherwise")->type_name("DIR");
   const auto inRoot = [&] { return root.empty() ? findRoot() : rootAt(root); };

@@ -71,7 +71,7 @@ test("A bar shows how far a language has come, and chooses it", async () => {
     (await bars.allTextContents()).map((text) => text.replace(/^.*\)/, "")),
     ["70 %", "88 %", "unreadable"],
   );
-  assert.match(await bars.nth(1).getAttribute("title"), /^German: 24 translated, 1 to review, 1 untranslated, 1 missing$/);
+  assert.match(await bars.nth(1).getAttribute("title"), /^German: 24 translated, 1 needs review, 1 untranslated, 1 missing$/);
   await bars.nth(1).click();
   assert.strictEqual(await bars.nth(1).getAttribute("aria-pressed"), "true");
   assert.strictEqual(await page.locator("#list [lang=de]").first().textContent(), "Über uns");

@@ -13,8 +13,8 @@ namespace zk::tools {
 ///
 /// English is the first language. Its arrays have an element for each key that the module looks up, in
 /// catalogue order: the text as the engine finds it; the same filled in with the example values, 0 when that
-/// changes nothing; its length in characters; one letter, m, u, r or t, for missing, untranslated, to review
-/// and translated. A finding is an array of the index of such a key (null for the table as a whole),
+/// changes nothing; its length in characters; one letter, m, u, r or t, for missing, untranslated, needs
+/// review and translated. A finding is an array of the index of such a key (null for the table as a whole),
 /// severity, rule, message, line and column. The value of a placeholder is null for the count, and an array
 /// with one for each language where they differ.
 ///

@@ -5,7 +5,7 @@ const english = languages[0];
 const translations = languages.slice(1);
 
 const FORM_NAMES = ["zero", "one", "two", "few", "many"];
-const STATE_NAMES = { m: "missing", u: "untranslated", r: "to review", t: "translated" };
+const STATE_NAMES = { m: "missing", u: "untranslated", r: "needs review", t: "translated" };
 
 languages.forEach((language, index) => {
   language.index = index;
