@@ -12,8 +12,8 @@ namespace zk::tools {
 /// and a third longer, and "xb", from right to left. Both are English, and readable.
 inline constexpr std::array<std::string_view, 2> kPseudoLanguages = {"xa", "xb"};
 
-/// `english` in "xa": "Kick %{username}?" gives "⟦Ķîîçķ %{username}?⟧". What is cut off lacks a bracket, what is
-/// joined has brackets in it, what comes from elsewhere has no accents. A plural form says which it is.
+/// `english` in "xa": "Kick %{username}?" gives "⟦Ķîîîçķ %{username}?⟧". What is cut off lacks a bracket,
+/// what is joined has brackets in it, what comes from elsewhere has no accents. A plural form says which it is.
 [[nodiscard]] std::string accentedText(const EnglishText& english);
 
 /// `english` in "xb": each word runs from right to left by marks of direction, and so do the lines.

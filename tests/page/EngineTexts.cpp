@@ -1,6 +1,7 @@
-// Prints what the engine makes of the texts of a project, for the tests of the page's script: one JSON array a line
-// with the index of the language on the page, that of the entry in the catalogue, the count (or null), the values for
-// the placeholders, and the text. The values are the page's own ones, and such that contain other placeholders.
+// Prints what the engine makes of the texts of a project, for the tests of the page's script: one JSON array a
+// line with the index of the language on the page, that of the entry in the catalogue, the count (or null),
+// the values for the placeholders, and the text. The values are the page's own ones, and such that contain
+// other placeholders.
 //
 //     zk_engine_texts ROOT
 

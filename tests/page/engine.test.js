@@ -30,7 +30,10 @@ for (const [name, root] of Object.entries({ shipped: ROOT, hostile: PROJECT })) 
       assert.strictEqual(filled.text, text, about);
       assert.strictEqual(filled.owners.length, text.length, about);
 
-      const shown = examples.map(([name, value]) => [name, Array.isArray(value) ? value[language] : (value ?? `${count}`)]);
+      const shown = examples.map(([name, value]) => [
+        name,
+        Array.isArray(value) ? value[language] : (value ?? `${count}`),
+      ]);
       const isExample = JSON.stringify(shown) === JSON.stringify(values);
       if (isExample && (count === null || count === data.counts[form])) {
         assert.strictEqual(finished[place] || templates[place], text, about);

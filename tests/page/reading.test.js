@@ -47,12 +47,18 @@ test("Filters leave the texts that are so", async () => {
     [{ "#family": "counted" }, ["Coins"]],
     [{ "#family": "counted formatted" }, ["badgeCount_Badges"]],
     [{ "#family": "with count" }, ["badgeCount_Badges", "Coins"]],
-    [{ "#family": "formatted" }, ["active_limit_players", "DATA_and_STYLE", "first_beats_second", "Kick_username"]],
+    [
+      { "#family": "formatted" },
+      ["active_limit_players", "DATA_and_STYLE", "first_beats_second", "Kick_username"],
+    ],
     [{ "#language": German, "#state": "m" }, ["badgeCount_Badges"]],
     [{ "#language": German, "#state": "u" }, ["First_line_nSecond_line"]],
     [{ "#language": German, "#state": "r" }, ["Be_quick"]],
     [{ "#language": German, "#state": "gap" }, ["badgeCount_Badges", "Be_quick", "First_line_nSecond_line"]],
-    [{ "#language": German, "#state": "finding" }, ["first_beats_second", "Kick_username", "script_script_broken_1_script"]],
+    [
+      { "#language": German, "#state": "finding" },
+      ["first_beats_second", "Kick_username", "script_script_broken_1_script"],
+    ],
     [{ "#language": Arabic, "#state": "m" }, []],
     [{ "#language": German, "#longer": "200" }, ["badgeCount_Badges"]],
     [{ "#language": German, "#longer": "200", "#family": "plain" }, []],
@@ -69,9 +75,12 @@ test("A bar shows how far a language has come, and chooses it", async () => {
   const bars = page.locator("#coverage button");
   assert.deepStrictEqual(
     (await bars.allTextContents()).map((text) => text.replace(/^.*\)/, "")),
-    ["70 %", "88 %", "unreadable"],
+    ["70 %", "88 %", "faulty"],
   );
-  assert.match(await bars.nth(1).getAttribute("title"), /^German: 24 translated, 1 needs review, 1 untranslated, 1 missing$/);
+  assert.match(
+    await bars.nth(1).getAttribute("title"),
+    /^German: 24 translated, 1 needs review, 1 untranslated, 1 missing$/,
+  );
   await bars.nth(1).click();
   assert.strictEqual(await bars.nth(1).getAttribute("aria-pressed"), "true");
   assert.strictEqual(await page.locator("#list [lang=de]").first().textContent(), "Über uns");
@@ -84,11 +93,29 @@ test("A bar shows how far a language has come, and chooses it", async () => {
 test("A card shows one text in every language, for each count", async () => {
   const page = await open(browser, small, { address: "#badgeCount_Badges" });
   const rows = (language) => page.locator(`#card table[aria-label^="${language}"] tr`).allInnerTexts();
-  assert.deepStrictEqual(await rows("English"), ["0\tNo Badges yet", "1\t1 Badge", "2\t2 Badges", "3\t3 Badges", "6\t6 Badges"]);
-  assert.deepStrictEqual(await rows("Arabic"), ["0\tلا شارات بعد", "1\tشارة واحدة", "2\tشارتان", "3\t3 شارات", "6\tعدد الشارات: 6"]);
+  assert.deepStrictEqual(await rows("English"), [
+    "0\tNo Badges yet",
+    "1\t1 Badge",
+    "2\t2 Badges",
+    "3\t3 Badges",
+    "6\t6 Badges",
+  ]);
+  assert.deepStrictEqual(await rows("Arabic"), [
+    "0\tلا شارات بعد",
+    "1\tشارة واحدة",
+    "2\tشارتان",
+    "3\t3 شارات",
+    "6\tعدد الشارات: 6",
+  ]);
   assert.strictEqual((await rows("German"))[3], "3\t3 Badges"); // missing, so English
-  assert.match(await page.locator(".language", { hasText: "German" }).locator("header").innerText(), /missing/);
-  assert.match(await page.locator(".language", { hasText: "Arabic" }).locator(".findings").innerText(), /unused-placeholder/);
+  assert.match(
+    await page.locator(".language", { hasText: "German" }).locator("header").innerText(),
+    /missing/,
+  );
+  assert.match(
+    await page.locator(".language", { hasText: "Arabic" }).locator(".findings").innerText(),
+    /unused-placeholder/,
+  );
   await page.getByRole("textbox", { name: "count" }).fill("-5, 11");
   assert.deepStrictEqual(await rows("German"), ["-5\t-5 Abzeichen", "11\t11 Abzeichen"]);
 });
@@ -118,7 +145,10 @@ test("A text's address opens its card, and any other says so", async () => {
 });
 
 test("The accessor call is copied", async () => {
-  const page = await open(browser, small, { address: "#active_limit_players", permissions: ["clipboard-read", "clipboard-write"] });
+  const page = await open(browser, small, {
+    address: "#active_limit_players",
+    permissions: ["clipboard-read", "clipboard-write"],
+  });
   await page.getByRole("button", { name: "Copy the accessor call" }).click();
   await page.waitForSelector("text=Copied");
   assert.strictEqual(

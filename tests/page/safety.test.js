@@ -21,13 +21,19 @@ test("Hostile texts show as themselves in the list and on their cards", async ()
     const isHostile = /broken|Turned|Isolated|Up_to|DATA/.test(key);
     if (isHostile) {
       await page.evaluate((address) => (location.hash = address), key);
-      await page.waitForFunction((title) => document.getElementById("card-title")?.textContent === title, key);
+      await page.waitForFunction(
+        (title) => document.getElementById("card-title")?.textContent === title,
+        key,
+      );
       for (const { tag, texts, finished } of languages) {
-        const shown = await page.locator(`#card p[lang=${tag}]`).textContent();
+        const shown = await page.locator(`#card .language:has(h3 [lang=${tag}]) p`).textContent();
         assert.strictEqual(shown, finished[text] || texts[text], `${tag} ${key}`);
       }
       const row = page.locator("#list li", { has: page.locator(`a[href="#${key}"]`) });
-      assert.ok((await row.textContent()).includes(languages[german].texts[text].replace("%{STYLE}", "STYLE")), key);
+      assert.ok(
+        (await row.textContent()).includes(languages[german].texts[text].replace("%{STYLE}", "STYLE")),
+        key,
+      );
     }
     text += counted ? 5 : 1;
   }
@@ -37,9 +43,14 @@ test("Hostile texts show as themselves in the list and on their cards", async ()
 
 test("Texts become no elements, and their direction stays in them", async () => {
   const page = await open(browser, file, { address: "#Turned_gnp_exe_back" });
-  assert.strictEqual(await page.locator("img, svg, style:not(head style), iframe, [onerror], [onload]").count(), 0);
+  assert.strictEqual(
+    await page.locator("img, svg, style:not(head style), iframe, [onerror], [onload]").count(),
+    0,
+  );
   assert.strictEqual(await page.locator("script").count(), 2);
-  const isolations = await page.locator(".text").evaluateAll((texts) => texts.map((text) => getComputedStyle(text).unicodeBidi));
+  const isolations = await page
+    .locator(".text")
+    .evaluateAll((texts) => texts.map((text) => getComputedStyle(text).unicodeBidi));
   assert.ok(isolations.every((isolation) => isolation === "isolate"));
 });
 
@@ -47,7 +58,7 @@ test("What a reader types is shown, and never run", async () => {
   const page = await open(browser, file, { address: "#Kick_username" });
   const typed = "<img src=x onerror='broken = 1'></script>";
   await page.getByLabel("username").fill(typed);
-  assert.strictEqual(await page.locator("#card p[lang=en]").textContent(), `Kick ${typed}?`);
+  assert.strictEqual(await page.locator("#card p[lang=en]").first().textContent(), `Kick ${typed}?`);
   await page.fill("#search", typed);
   assert.strictEqual(await page.locator("img").count(), 0);
   await page.evaluate(() => (location.hash = "<img src=x onerror=broken=1>"));
@@ -60,8 +71,11 @@ test("The browser refuses what is not the page's own", async () => {
   const page = await open(browser, file);
   const refused = await page.evaluate(async () => {
     const violations = [];
-    addEventListener("securitypolicyviolation", ({ effectiveDirective }) => violations.push(effectiveDirective));
-    const add = (name, properties) => document.body.append(Object.assign(document.createElement(name), properties));
+    addEventListener("securitypolicyviolation", ({ effectiveDirective }) =>
+      violations.push(effectiveDirective),
+    );
+    const add = (name, properties) =>
+      document.body.append(Object.assign(document.createElement(name), properties));
     const attempt = (act) => {
       try {
         act();
@@ -79,7 +93,13 @@ test("The browser refuses what is not the page's own", async () => {
     await new Promise((done) => setTimeout(done, 200));
     return violations;
   });
-  for (const directive of ["img-src", "style-src-elem", "frame-src", "connect-src", "require-trusted-types-for"]) {
+  for (const directive of [
+    "img-src",
+    "style-src-elem",
+    "frame-src",
+    "connect-src",
+    "require-trusted-types-for",
+  ]) {
     assert.ok(refused.includes(directive), `${directive} of ${refused}`);
   }
   assert.strictEqual(await page.evaluate("typeof broken"), "undefined");

@@ -25,8 +25,14 @@ function dataOf(file) {
 
 /** What the engine makes of the texts of the project at `root`. */
 function engineTexts(root) {
-  const output = execFileSync(path.join(PROGRAMS, "zk_engine_texts"), [root], { maxBuffer: 1 << 28, encoding: "utf8" });
-  return output.trimEnd().split("\n").map((line) => JSON.parse(line));
+  const output = execFileSync(path.join(PROGRAMS, "zk_engine_texts"), [root], {
+    maxBuffer: 1 << 28,
+    encoding: "utf8",
+  });
+  return output
+    .trimEnd()
+    .split("\n")
+    .map((line) => JSON.parse(line));
 }
 
 async function startBrowser() {

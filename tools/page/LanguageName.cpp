@@ -24,7 +24,8 @@ std::string nameIn(const icu::Locale& reader, const icu::Locale& language) {
 LanguageName nameOfLanguage(std::string_view language) {
   const std::string tag(language == kBase ? "en" : language);
   const icu::Locale locale(tag.c_str());
-  return {tag, nameIn(icu::Locale::getEnglish(), locale), nameIn(locale, locale), locale.isRightToLeft() != 0};
+  return {tag, nameIn(icu::Locale::getEnglish(), locale), nameIn(locale, locale),
+          locale.isRightToLeft() != 0};
 }
 
 }  // namespace zk::tools

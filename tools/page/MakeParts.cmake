@@ -1,5 +1,5 @@
-# Writes the source file OUTPUT with the page around its data: page.html with the style and the scripts in it, and the
-# only style and script that the browser may run named by their hashes.
+# Writes the source file OUTPUT with the page around its data: the file PAGE with the files STYLES and SCRIPTS in
+# it, and the one style and the one script that the browser may use named by their hashes.
 cmake_minimum_required(VERSION 3.25)
 
 # The Base64 form of the SHA-256 hash of `text`.
@@ -19,15 +19,20 @@ function(hash_of text result)
   set(${result} "${encoded}" PARENT_SCOPE)
 endfunction()
 
-set(script "'use strict';\n{\n")
-foreach(file IN LISTS SCRIPTS)
-  file(READ ${SOURCE}/${file} text)
-  string(APPEND script "${text}")
-endforeach()
-string(APPEND script "}\n")
-file(READ ${SOURCE}/page.css style)
-file(READ ${SOURCE}/page.html page)
+# The texts of the files named behind `result`, one after the other.
+function(read_all result)
+  set(all "")
+  foreach(file IN LISTS ARGN)
+    file(READ ${file} text)
+    string(APPEND all "${text}")
+  endforeach()
+  set(${result} "${all}" PARENT_SCOPE)
+endfunction()
 
+read_all(page ${PAGE})
+read_all(style ${STYLES})
+read_all(script ${SCRIPTS})
+set(script "'use strict';\n{\n${script}}\n")
 hash_of("${style}" style_hash)
 hash_of("${script}" script_hash)
 foreach(part IN ITEMS style_hash script_hash style script)

@@ -36,7 +36,14 @@ function headOf(entry) {
 }
 
 function valueField(name, value, onInput) {
-  const input = element("input", { type: "text", value, maxLength: 200, autocomplete: "off", spellcheck: false, dir: "auto" });
+  const input = element("input", {
+    type: "text",
+    value,
+    maxLength: 200,
+    autocomplete: "off",
+    spellcheck: false,
+    dir: "auto",
+  });
   input.addEventListener("input", () => onInput(input.value));
   return element("label", {}, element("span", {}, name), input);
 }
@@ -66,7 +73,13 @@ function valuesForm(entry, onChange) {
     openCard(entry);
   });
   const title = element("h3", { id: "values-title" }, "Example values");
-  const form = element("form", { className: "values", attributes: { "aria-labelledby": "values-title" } }, title, ...fields, reset);
+  const form = element(
+    "form",
+    { className: "values", attributes: { "aria-labelledby": "values-title" } },
+    title,
+    ...fields,
+    reset,
+  );
   form.addEventListener("submit", (event) => event.preventDefault());
   return form;
 }
@@ -75,9 +88,17 @@ function lengthTag(entry, language) {
   let most = -Infinity;
   someText(entry, (text) => void (most = Math.max(most, excess(language, text))));
   const sign = most > 0 ? "+" : most < 0 ? "−" : "±";
-  const length = element("span", { className: most >= 100 ? "tag long" : "tag" }, `${sign}${Math.abs(most)} %`);
+  const length = element(
+    "span",
+    { className: most >= 100 ? "tag long" : "tag" },
+    `${sign}${Math.abs(most)} %`,
+  );
   length.title = "Length beside English, with the example values";
   return length;
+}
+
+function isMissing(entry, language) {
+  return !someText(entry, (text) => language.states[text] !== "m");
 }
 
 function stateTags(entry, language) {
@@ -95,22 +116,25 @@ function languageHead(entry, language) {
     element("h3", {}, element("span", { lang: language.tag, dir: "auto" }, language.native)),
     element("span", { className: "english-name" }, language === english ? "" : language.english),
     ...stateTags(entry, language),
-    language === english ? "" : lengthTag(entry, language),
+    language === english || isMissing(entry, language) ? "" : lengthTag(entry, language),
   );
 }
 
 function countRow(entry, language, count) {
   const text = element("td");
   showText(text, entry, language, count, edits);
-  if (language.states[entry.first + formOf(count)] === "m") text.classList.add("is-gap");
-  return element("tr", {}, element("th", { scope: "row", title: FORM_NAMES[formOf(count)] }, String(count)), text);
+  return element(
+    "tr",
+    {},
+    element("th", { scope: "row", title: FORM_NAMES[formOf(count)] }, String(count)),
+    text,
+  );
 }
 
 function textsOf(entry, language, counts) {
   if (!entry.counted) {
     const text = element("p");
     showText(text, entry, language, undefined, edits);
-    if (language.states[entry.first] === "m") text.classList.add("is-gap");
     return text;
   }
   const table = element("table", { attributes: { "aria-label": `${language.english}, by count` } });
@@ -124,7 +148,8 @@ function languageBlock(entry, language) {
   someText(entry, (text) => void findings.push(...(language.findingsByText.get(text) ?? [])));
   const place = element("div");
   const block = element("article", { className: "language" }, languageHead(entry, language), place);
-  if (findings.length > 0) block.append(element("ul", { className: "findings" }, ...findings.map(findingItem)));
+  if (findings.length > 0)
+    block.append(element("ul", { className: "findings" }, ...findings.map(findingItem)));
   return { block, show: (counts) => place.replaceChildren(textsOf(entry, language, counts)) };
 }
 
@@ -153,8 +178,16 @@ function showHelp() {
     ["Enter", "open one"],
     ["Esc", "back"],
   ];
-  const rows = keys.flatMap(([key, use]) => [element("dt", {}, element("kbd", {}, key)), element("dd", {}, use)]);
+  const rows = keys.flatMap(([key, use]) => [
+    element("dt", {}, element("kbd", {}, key)),
+    element("dd", {}, use),
+  ]);
   card.replaceChildren(
-    element("div", { className: "help" }, element("p", {}, "Choose a text to see it in every language."), element("dl", {}, ...rows)),
+    element(
+      "div",
+      { className: "help" },
+      element("p", {}, "Choose a text to see it in every language."),
+      element("dl", {}, ...rows),
+    ),
   );
 }

@@ -31,7 +31,9 @@ const entries = data.entries.map((entry) => {
     first, // its first text, in each language's list
     last: nextText - 1,
     address: isTwin ? `${entry.key}/count` : entry.key,
-    family: [entry.counted && "counted", entry.values.length > 0 && "formatted"].filter(Boolean).join(" ") || "plain",
+    family:
+      [entry.counted && "counted", entry.values.length > 0 && "formatted"].filter(Boolean).join(" ") ||
+      "plain",
   };
 });
 const entriesByAddress = new Map(entries.map((entry) => [entry.address, entry]));

@@ -1,5 +1,5 @@
-// The plural form and the placeholders of a text as the engine chooses and fills them, for values that the reader edits.
-// A test holds both together over all texts.
+// The plural form and the placeholders of a text as the engine chooses and fills them, for values that the
+// reader edits. A test holds both together over all texts.
 
 /** The form of a counted text that is shown for `count`: an index into FORM_NAMES. */
 function formOf(count) {
@@ -8,15 +8,15 @@ function formOf(count) {
 }
 
 /**
- * `text` with its placeholders filled in, one pair of [name, value] after the other: a value that itself contains the
- * placeholder of a later pair is filled in. `owners` has for each code unit of the result the name of the placeholder
- * that it comes from, or "".
+ * `text` with its placeholders filled in, one pair of [name, value] after the other: a value that itself
+ * contains the placeholder of a later pair is filled in. `owners` has for each code unit of the result the
+ * name of the placeholder that it comes from, or "".
  */
 function fill(text, values) {
   let owners = new Array(text.length).fill("");
   for (const [name, value] of values) {
     const placeholder = `%{${name}}`;
-    for (let at = 0; (at = inComparableForm(text).indexOf(placeholder, at)) >= 0; ) {
+    for (let at = 0; (at = inComparableForm(text).indexOf(placeholder, at)) >= 0;) {
       const end = at + placeholder.length;
       if (continuesCharacter(text, end)) {
         ++at;

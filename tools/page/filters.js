@@ -45,7 +45,8 @@ function filtered() {
     asked.some((language) =>
       someText(
         entry,
-        (text) => isInState(language, text, state) && (longer === undefined || excess(language, text) >= longer),
+        (text) =>
+          isInState(language, text, state) && (longer === undefined || excess(language, text) >= longer),
       ),
     );
   return found(entries.filter(isShown), controls.search.value);

@@ -13,7 +13,12 @@ function rowOf(entry) {
   entry.link = element(
     "a",
     { href: `#${encodeURIComponent(entry.address)}` },
-    element("span", { className: "key" }, element("span", {}, ...breakable(entry.key)), entry.counted ? element("span", { className: "tag" }, "count") : ""),
+    element(
+      "span",
+      { className: "key" },
+      element("span", {}, ...breakable(entry.key)),
+      entry.counted ? element("span", { className: "tag" }, "count") : "",
+    ),
     text,
     entry.translation,
   );
@@ -27,7 +32,6 @@ function showTranslation(entry) {
   entry.translation.hidden = !listedLanguage;
   if (!listedLanguage) return;
   showText(entry.translation, entry, listedLanguage, listedCount(entry));
-  entry.translation.classList.toggle("is-gap", someText(entry, (text) => "mu".includes(listedLanguage.states[text])));
 }
 
 function findingItem({ severity, rule, message, place }) {
@@ -58,7 +62,9 @@ function updateList() {
   markChosenLanguage(listedLanguage);
   showTableFindings();
   const all = shownEntries.length === entries.length;
-  document.getElementById("count").textContent = all ? `${entries.length} texts` : `${shownEntries.length} of ${entries.length} texts`;
+  document.getElementById("count").textContent = all
+    ? `${entries.length} texts`
+    : `${shownEntries.length} of ${entries.length} texts`;
   document.getElementById("nothing").hidden = shownEntries.length > 0;
   document.getElementById("reset").hidden = !isAnyFilterSet();
 }

@@ -33,7 +33,10 @@ function onKey(event) {
     onEscape(event);
   } else if (event.key === "Enter" && event.target === controls.search) {
     shownEntries[0]?.link.click();
-  } else if (["ArrowDown", "ArrowUp"].includes(event.key) && (event.target === controls.search || list.contains(event.target))) {
+  } else if (
+    ["ArrowDown", "ArrowUp"].includes(event.key) &&
+    (event.target === controls.search || list.contains(event.target))
+  ) {
     event.preventDefault();
     moveInList(event.key === "ArrowDown" ? 1 : -1);
   }
@@ -52,8 +55,9 @@ function onEscape(event) {
 showCoverage((language) => {
   const isChosen = chosenLanguage() === language;
   controls.language.value = isChosen ? "" : String(language.index);
-  updateList();
+  controls.language.dispatchEvent(new Event("input", { bubbles: true }));
 });
+controls.language.addEventListener("input", () => openEntry && openCard(openEntry));
 document.getElementById("filters").addEventListener("input", updateList);
 document.getElementById("filters").addEventListener("submit", (event) => event.preventDefault());
 document.getElementById("reset").addEventListener("click", () => {

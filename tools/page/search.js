@@ -1,7 +1,7 @@
-// Search over keys and texts in all languages, also by what a screen shows: "12/50 players" finds "%{active}/%{limit}
-// players".
+// Search over keys and texts in all languages, also by what a screen shows: "12/50 players" finds
+// "%{active}/%{limit} players".
 
-/** `text` without what a searcher need not know: capitals, accents, marks, kinds of quotes, spaces and breaks. */
+/** `text` without what a searcher need not know: capitals, accents, marks, kinds of quotes and spaces. */
 function folded(text) {
   return text
     .replace(/<\/?b>|\*/g, "")
@@ -44,8 +44,8 @@ function overlap(text, begin) {
 }
 
 /**
- * How many characters of `query` are the text's own, when `query` is a part of what the text shows for some values;
- * 0 when it is not. `pieces` is the text around its placeholders.
+ * How many characters of `query` are the text's own, when `query` is a part of what the text shows for some
+ * values; 0 when it is not. `pieces` is the text around its placeholders.
  */
 function ownCharacters(query, pieces) {
   let best = 0;
