@@ -3,9 +3,11 @@
 #include <ZKStrings/tools/CatalogueCommands.h>
 #include <ZKStrings/tools/Fault.h>
 #include <ZKStrings/tools/Files.h>
+#include <ZKStrings/tools/HelpFormatter.h>
 #include <ZKStrings/tools/TranslationCommandLine.h>
 
 #include <cstdio>
+#include <memory>
 #include <string>
 
 #include <CLI/CLI.hpp>
@@ -26,6 +28,7 @@ std::string withLineBreaks(std::string text) {
 
 int run(int argc, char** argv) {
   CLI::App app{"Keeps the catalogue of texts and its translations right.", "zkstrings"};
+  app.formatter(std::make_shared<HelpFormatter>());
   app.require_subcommand(1);
   std::string root;
   app.add_option("--root", root,
@@ -60,6 +63,7 @@ int run(int argc, char** argv) {
   addCheckCommand(app, inRoot, status);
   addCoverageCommand(app, inRoot);
   addTemplateCommand(app, inRoot);
+  addUpdateCommand(app, inRoot);
 
   try {
     app.parse(argc, argv);
