@@ -1,6 +1,6 @@
 # How all targets of this project are compiled.
 add_library(zk_compile_options INTERFACE)
-target_compile_options(zk_compile_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow)
+target_compile_options(zk_compile_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow)
 if(ZK_WERROR)
   target_compile_options(zk_compile_options INTERFACE -Werror)
 endif()

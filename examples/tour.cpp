@@ -42,7 +42,7 @@ void explainIgnoredLanguage() {
 }
 
 void showTexts() {
-  const zk::Language now = language;
+  const zk::Language now = language.get();
   showHeading("Preferred languages: " + joined(now.preferredLanguages));
   for (const std::string& identifier : now.preferredLanguages) {
     if (!hasTexts(identifier)) std::cout << "  (" << identifier << " has no table)\n";
@@ -96,8 +96,7 @@ void showEverything() {
   for (const char* identifier : {"en-US", "de-DE", "ja-JP", "el-GR"}) showTexts({identifier});
   showFallback();
   showLiveSwitch();
-  const zk::Language now = language;
-  showCountries(now.countries);
+  showCountries();
 }
 
 }  // namespace

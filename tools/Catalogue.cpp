@@ -131,6 +131,11 @@ void checkEntry(const Entry& entry, const std::string& file, Faults& faults) {
                        name));
     }
   }
+  for (const PlaceholderUse& use : placeholderUses(entry.text)) {
+    if (use.isRight || !use.spelled.starts_with("%{")) continue;
+    fail(fmt::format("\"{}\" is no placeholder; write %{{name}}, with letters and digits in the braces",
+                     use.spelled));
+  }
   if (entry.plural && seen.contains("count")) {
     fail("a counted entry has the argument count already; name its placeholder otherwise");
   }

@@ -105,7 +105,7 @@ std::string languageCodeOf(std::string_view word) {
 std::string existingLanguage(const std::string& root, std::string_view word) {
   const std::vector<std::string> languages = languagesIn(root);
   const auto exists = [&](std::string_view name) {
-    return std::ranges::find(languages, name) != languages.end();
+    return std::find(languages.begin(), languages.end(), name) != languages.end();
   };
   const std::string name(withoutPath(word));
   if (exists(name)) return name;

@@ -32,8 +32,9 @@ struct Sign {
   /// The size of the sign or of one like it at the beginning of `text`; 0 when there is none.
   [[nodiscard]] std::size_t sizeAt(std::string_view text) const {
     if (text.starts_with(plain)) return plain.size();
-    const auto* const found = std::ranges::find_if(
-        lookAlikes, [&](std::string_view lookAlike) { return text.starts_with(lookAlike); });
+    const auto* const found =
+        std::find_if(std::begin(lookAlikes), std::end(lookAlikes),
+                     [&](std::string_view lookAlike) { return text.starts_with(lookAlike); });
     return found == std::end(lookAlikes) ? 0 : found->size();
   }
 };
@@ -68,7 +69,7 @@ std::optional<PlaceholderUse> useAtBegin(std::string_view text) {
   const std::string_view inside = upToSign(rest);
   const std::size_t closing = kClosing.sizeAt(rest.substr(inside.size()));
   const bool isRight = percent == 1 && brace == 1 && closing == 1 && !inside.empty() &&
-                       std::ranges::all_of(inside, isLetterOrDigit);
+                       std::all_of(inside.begin(), inside.end(), isLetterOrDigit);
   const std::string_view name = isRight ? inside : nameIn(inside);
   const std::size_t insideSize = closing > 0 ? inside.size() + closing : inside.find(name) + name.size();
   return PlaceholderUse{0, text.substr(0, percent + brace + insideSize), name, true, isRight};

@@ -87,8 +87,11 @@ TableEditor::InsertionPlace TableEditor::placeBehind(const TableEntry* entry) co
   const TableEntry* const first = table_.entries.empty() ? nullptr : &table_.entries.front();
   const TableEntry* const neighbour = entry ? entry : first;
   if (!neighbour) return {text_.size(), false};
-  const std::size_t begin = beginWithComments(*neighbour);
-  return {entry ? endOfLine(text_, *entry) : begin, blankLineBefore(begin).has_value()};
+  const std::size_t place = entry ? endOfLine(text_, *entry) : beginWithComments(*neighbour);
+  // What stands before the first entry is the file's head, and tells nothing of the entries.
+  const TableEntry* const second =
+      neighbour == first && table_.entries.size() > 1 ? &table_.entries[1] : neighbour;
+  return {place, blankLineBefore(beginWithComments(*second)).has_value()};
 }
 
 void TableEditor::insertBehind(const TableEntry* entry, std::string_view lines) {
@@ -118,6 +121,12 @@ void TableEditor::setState(const TableEntry& entry, TranslationState state) {
   const std::size_t key = entry.span.begin;
   const std::string indent = text_.substr(blanksBegin(key), key - blanksBegin(key));
   change({key, key}, isFirstOnLine(key) ? mark + "\n" + indent : mark + " ");
+}
+
+void TableEditor::setExplanation(const TableEntry& entry, const std::string& explanation) {
+  for (const TableEntry::Comment& comment : entry.comments) {
+    if (!wordsTold(comment, kExplanation).empty()) change(comment.span, explanation);
+  }
 }
 
 void TableEditor::remove(const TableEntry& entry) {

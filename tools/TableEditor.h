@@ -40,6 +40,8 @@ class TableEditor {
   void replaceText(const TableEntry& entry, std::string_view text);
   /// Marks the entry so, on a line before it, instead of as before. A translated one has no mark.
   void setState(const TableEntry& entry, TranslationState state);
+  /// Replaces the comment before the entry that explains its English text, if there is one, by `explanation`.
+  void setExplanation(const TableEntry& entry, const std::string& explanation);
   /// Removes the entry and the comments before it that tell the tools about it; others stay.
   void remove(const TableEntry& entry);
 

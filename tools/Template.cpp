@@ -15,10 +15,10 @@ namespace zk::tools {
 
 namespace {
 
-/// `text` as a comment on one line, which no text ends early.
+/// `text` as a comment, which no text ends early.
 std::string comment(std::string text) {
   replaceOccurrences(text, "*/", "* /");
-  return fmt::format("/* {} */\n", text);
+  return fmt::format("/* {} */", text);
 }
 
 [[noreturn]] void refuse(const std::string& path, std::string message) {
@@ -27,18 +27,23 @@ std::string comment(std::string text) {
 
 }  // namespace
 
-std::string untranslatedEntry(const EnglishText& english) {
+std::string explanationOf(const EnglishText& english) {
   std::string about = fmt::format("{} \"{}\"", kExplanation, escaped(english.text));
   const std::vector<std::string_view> names = english.placeholders();
   if (!names.empty()) about += fmt::format("; placeholders: %{{{}}}", fmt::join(names, "}, %{"));
+  return comment(std::move(about));
+}
+
+std::string untranslatedEntry(const EnglishText& english) {
   const std::string mark =
       isSameEverywhere(english.text) ? "" : markFor(TranslationState::untranslated) + "\n";
-  return comment(std::move(about)) + mark + tableLine(english.key, english.text);
+  return explanationOf(english) + "\n" + mark + tableLine(english.key, english.text);
 }
 
 std::string templateFor(std::string_view language, const EnglishTexts& english) {
   std::string table = comment(fmt::format(
       "Language {}. Translate the texts behind the equals signs; keep keys and placeholders.", language));
+  table += "\n";
   for (const EnglishText& text : english.all()) table += "\n" + untranslatedEntry(text);
   return table;
 }

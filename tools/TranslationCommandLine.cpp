@@ -62,7 +62,9 @@ void addCount(std::vector<std::string>& counts, std::size_t count, std::string_v
 /// "13 tables, 246 countries: 1 error, 2 gaps".
 std::string summaryOf(const CheckResult& result) {
   const auto count = [&](Severity severity) {
-    return static_cast<std::size_t>(std::ranges::count(result.faults, severity, &Fault::severity));
+    return static_cast<std::size_t>(
+        std::count_if(result.faults.begin(), result.faults.end(),
+                      [&](const Fault& fault) { return fault.severity == severity; }));
   };
   std::vector<std::string> checked;
   addCount(checked, result.tables, "table", "tables");
@@ -139,7 +141,7 @@ void addCheckCommand(CLI::App& app, const RootFinder& inRoot, int& status) {
              (fault.severity == Severity::warning && arguments->isStrict) ||
              (fault.severity == Severity::gap && arguments->isForRelease);
     };
-    status = std::ranges::any_of(result.faults, fails) ? 1 : 0;
+    status = std::any_of(result.faults.begin(), result.faults.end(), fails) ? 1 : 0;
   });
 }
 

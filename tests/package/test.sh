@@ -27,8 +27,8 @@ for file in "$library" "$build/bin/zkstrings"; do
 done
 
 configure() { "$cmake" -G Ninja -DCMAKE_CXX_COMPILER="$compiler" "$@" >/dev/null; }
-consumer() {  # consumer NAME PREFIX [LIBDIR]: builds the consumer against the installation
-  configure -S "$source/tests/package" -B "$work/$1" -DCMAKE_PREFIX_PATH="$2;$2/${3:-lib}/cmake/ZKStrings"
+consumer() {  # consumer NAME PREFIX: builds the consumer against the installation
+  configure -S "$source/tests/package" -B "$work/$1" -DCMAKE_PREFIX_PATH="$2"
   "$cmake" --build "$work/$1" >/dev/null
   mkdir -p "$2/bin"
   cp "$work/$1/consumer" "$2/bin"
@@ -65,7 +65,34 @@ expect "a link beside resources of its own" "Über uns, 0 countries" loaded_from
 relative() { cd "$moved" && loaded_from "$lib" /; }
 expect "loaded by a relative path" "$text" relative
 
-"$cmake" -G Ninja -S "$source" -B "$work/static" -DBUILD_SHARED_LIBS=OFF -DZK_TOOLS=OFF -DZK_EXAMPLES=OFF -DZK_TESTS=OFF -DCMAKE_CXX_COMPILER="$compiler" >/dev/null
-"$cmake" --build "$work/static" >/dev/null
-"$cmake" --install "$work/static" --prefix "$work/static-installed" >/dev/null
-use static "$work/static-installed"
+mv "$moved/share" "$moved/gone"
+expect "without resources" _ZN2zk35baseLprojIsMissingAmongTheResourcesEv "$moved/bin/consumer"
+
+# Static, as a part of the project, in its build folder and installed; then without /proc.
+part() {  # part PREFIX OPTION...: builds the consumer with the module as a part of it, and installs both
+  configure -S "$source/tests/package" -B "$work/part" -DZKSTRINGS_SOURCE="$source" -DCMAKE_INSTALL_PREFIX="$1" "${@:2}"
+  "$cmake" --build "$work/part" >/dev/null
+  "$cmake" --install "$work/part" >/dev/null
+}
+part "$work/static" -DBUILD_SHARED_LIBS=OFF
+expect "static, in the build folder" "$text" "$work/part/consumer"
+expect "static, installed deeply" "$text" "$work/static/programs/of/many/kinds/consumer"
+
+consumer static-found "$work/static"
+expect "static, found, in the build folder" "$text" "$work/static-found/consumer"
+expect "static, found" "$text" "$work/static/bin/consumer"
+"$compiler" -std=c++20 -shared -fPIC "$source/tests/package/without_proc.cpp" -o "$work/without_proc.so" -ldl
+expect "without /proc" "$text" env LD_PRELOAD="$work/without_proc.so" "$work/static/bin/consumer"
+relative() { cd "$work/static/bin" && env LD_PRELOAD="$work/without_proc.so" ./consumer; }
+expect "without /proc, started by a relative path" "$text" relative
+nowhere() { env LD_PRELOAD="$work/without_proc.so" WITHOUT_NAMES=1 "$work/static/bin/consumer" || echo "stopped"; }
+expect "without any names" "stopped" nowhere
+
+# Installed to other places than the usual ones.
+elsewhere() {  # elsewhere NAME DATADIR LIBDIR
+  part "$work/$1" -DBUILD_SHARED_LIBS=ON -DCMAKE_INSTALL_DATADIR="$2" -DCMAKE_INSTALL_LIBDIR="$3"
+  expect "$1" "$text" loaded_from "$work/$1/$3"
+}
+elsewhere other-names data/of/texts libraries
+elsewhere deep-libraries share lib/of/many/different/kinds
+elsewhere absolute-data "$work/data" lib

@@ -15,7 +15,7 @@ namespace fs = std::filesystem;
 std::size_t filesIn(const std::string& directory) {
   std::size_t files = 0;
   for (const auto& entry : fs::recursive_directory_iterator(directory))
-    files += entry.is_regular_file() ? 1 : 0;
+    files += entry.is_regular_file() ? 1U : 0U;
   return files;
 }
 

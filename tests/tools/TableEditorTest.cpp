@@ -7,6 +7,7 @@
 
 namespace {
 
+using namespace std::string_literals;
 using namespace zk::tools;
 
 struct Case {
@@ -56,8 +57,12 @@ const Case kCases[] = {
     {"at the end without line break", "a = b;", insertion("a"), "a = b;\n" + kInserted},
     {"among blank lines", "/* a */\n\na = b;\n\nc = d;\n", insertion("a"),
      "/* a */\n\na = b;\n\n" + kInserted + "\nc = d;\n"},
-    {"before all", "/* German. */\n\n/* of a */ // more\na = b;\n", insertion(nullptr),
-     "/* German. */\n\n" + kInserted + "\n/* of a */ // more\na = b;\n"},
+    {"before all", "/* German. */\n\n/* of a */ // more\na = b;\nc = d;\n", insertion(nullptr),
+     "/* German. */\n\n" + kInserted + "/* of a */ // more\na = b;\nc = d;\n"},
+    {"before all, among blank lines", "/* German. */\n\na = b;\n\nc = d;\n", insertion(nullptr),
+     "/* German. */\n\n" + kInserted + "\na = b;\n\nc = d;\n"},
+    {"behind the first, below the head", "/* German. */\n\na = b;\nc = d;\n", insertion("a"),
+     "/* German. */\n\na = b;\n" + kInserted + "c = d;\n"},
     {"before what is told of the first", "/* check: off marks */\n\n/* of a */\na = b;\n", insertion(nullptr),
      kInserted + "/* check: off marks */\n\n/* of a */\na = b;\n"},
     {"into nothing", "", insertion(nullptr), kInserted},
@@ -119,7 +124,9 @@ TEST(TableEditor, RefusesWhatItCouldHarm) {
   for (const std::string bytes : {"a = b", "/*", "\"a\" = \"\xFF\";"}) {
     EXPECT_THROW(TableEditor(bytes, "table"), CommandFailed) << bytes;
   }
-  EXPECT_THROW(TableEditor(std::string("\xFF\xFE\"\0A\0\"\0=\0\"\0a\0\"\0;\0", 20), "table"), CommandFailed);
+  const std::string utf16 = "\xFF\xFE\"\0A\0\"\0=\0\"\0a\0\"\0;\0"s;
+  ASSERT_TRUE(Table::parse(utf16, "table").faults.empty());
+  EXPECT_THROW(TableEditor(utf16, "table"), CommandFailed);
 }
 
 }  // namespace

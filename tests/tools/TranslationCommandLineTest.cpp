@@ -27,9 +27,16 @@ Answer outputOf(const std::string& command) {
   return {WEXITSTATUS(pclose(pipe)), output};
 }
 
+/// The command with its project and `arguments`, for a shell to which no character in a path means anything.
+std::string inShell(const TemporaryProject& project, const std::string& arguments) {
+  setenv("ZK_COMMAND", ZK_COMMAND, 1);
+  setenv("ZK_ROOT", project.root().c_str(), 1);
+  return "export LC_ALL=C; \"$ZK_COMMAND\" --root \"$ZK_ROOT\" " + arguments;
+}
+
 /// What the built command answers to `arguments`, in a pipe.
 Answer answerTo(const TemporaryProject& project, const std::string& arguments) {
-  return outputOf(ZK_COMMAND " --root " + project.root() + " " + arguments + " 2>&1");
+  return outputOf(inShell(project, arguments) + " 2>&1");
 }
 
 TEST(TranslationCommandLine, EndsWithAStatusThatTellsTheGravestFault) {
@@ -109,8 +116,9 @@ TEST(TranslationCommandLine, TellsGapsInOneShortLine) {
 
 TEST(TranslationCommandLine, WhatItSaysOfItselfFitsATerminal) {
   const TemporaryProject project;
-  for (const char* const arguments : {"--help", "check --help", "coverage --help", "template --help",
-                                      "update --help", "check --rules", "coverage"}) {
+  for (const char* const arguments :
+       {"--help", "check --help", "coverage --help", "template --help", "update --help", "add --help",
+        "change --help", "check --rules", "coverage"}) {
     const Answer answer = answerTo(project, arguments);
     EXPECT_EQ(answer.status, 0) << arguments;
     for (const std::string_view line : zk::tools::linesOf(answer.output)) {
@@ -122,7 +130,7 @@ TEST(TranslationCommandLine, WhatItSaysOfItselfFitsATerminal) {
 TEST(TranslationCommandLine, EndsWithOneLineOnATerminal) {
   const TemporaryProject project;
   const std::string terminal =
-      fmt::format("script --quiet --command '{} --root {} check' /dev/null", ZK_COMMAND, project.root());
+      "export LC_ALL=C; script --quiet --command '" + inShell(project, "check") + "' /dev/null";
   EXPECT_EQ(outputOf(terminal).output, "1 table, 1 country: nothing to mend\r\n");
 }
 

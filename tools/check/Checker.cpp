@@ -28,9 +28,11 @@ class Checker {
       checkTable(language, Table::read(root_, language), catalogue, base);
     }
     if (options_.languages.empty()) checkCountries();
-    std::ranges::sort(result_.faults, {}, [](const Fault& fault) {
+    const auto order = [](const Fault& fault) {
       return std::tie(fault.file, fault.line, fault.column, fault.severity, fault.rule, fault.message);
-    });
+    };
+    std::sort(result_.faults.begin(), result_.faults.end(),
+              [&](const Fault& one, const Fault& other) { return order(one) < order(other); });
     return std::move(result_);
   }
 
