@@ -55,7 +55,8 @@ class Reader {
     if (language == titles.end())
       fail({1, 1}, "no column is titled with the code of a language; title that of the translations \"de\"");
     const auto target = static_cast<std::size_t>(language - titles.begin());
-    const auto state = static_cast<std::size_t>(std::find(titles.begin(), titles.end(), kStateTitle) - titles.begin());
+    const auto state =
+        static_cast<std::size_t>(std::find(titles.begin(), titles.end(), kStateTitle) - titles.begin());
 
     Translations translations{*language, {}};
     while (at_ < text_.size()) {
@@ -127,8 +128,10 @@ class Reader {
       cell += '"';
       ++at_;
     }
-    const bool isEnd = at_ == text_.size() || text_[at_] == separator_ || text_[at_] == '\r' || text_[at_] == '\n';
-    if (!isEnd) fail(positionOf(text_, at_), "text behind the cell's closing quote; double each quote within a cell");
+    const bool isEnd =
+        at_ == text_.size() || text_[at_] == separator_ || text_[at_] == '\r' || text_[at_] == '\n';
+    if (!isEnd)
+      fail(positionOf(text_, at_), "text behind the cell's closing quote; double each quote within a cell");
     return cell;
   }
 

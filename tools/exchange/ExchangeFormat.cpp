@@ -49,8 +49,8 @@ std::string written(const Translations& translations, ExchangeFormat format) {
 Translations readTranslations(const std::string& path) {
   std::error_code failure;
   if (const std::uintmax_t size = std::filesystem::file_size(path, failure); !failure && size > kLargest) {
-    throw CommandFailed{
-        {{Severity::error, path, 1, 1, "", "the file is larger than 32 MiB, which no export is; import another"}}};
+    throw CommandFailed{{{Severity::error, path, 1, 1, "",
+                          "the file is larger than 32 MiB, which no export is; import another"}}};
   }
   std::string bytes = readFile("", path);
   const ExchangeFormat format = formatNamedBy(path);

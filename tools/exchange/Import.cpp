@@ -64,8 +64,8 @@ class Importer {
   void accept(const TranslationUnit& unit) {
     const EnglishText* const english = english_.find(unit.key);
     if (!english) {
-      return refuse(unit, fmt::format("nothing looks up the key \"{}\"; the text was left out",
-                                      escaped(unit.key)));
+      return refuse(unit,
+                    fmt::format("nothing looks up the key \"{}\"; the text was left out", escaped(unit.key)));
     }
     if (isBlank(unit.target)) return noteMissing(unit);
     const bool isOutdated = unit.source != english->text;
@@ -76,7 +76,8 @@ class Importer {
     }
     const TranslationState state = isOutdated ? TranslationState::needsReview : unit.state;
     if (!taken_.emplace(english->key, Taken{&unit, state}).second)
-      refuse(unit, fmt::format("the key \"{}\" stands twice in the file; the first text counts", escaped(unit.key)));
+      refuse(unit, fmt::format("the key \"{}\" stands twice in the file; the first text counts",
+                               escaped(unit.key)));
   }
 
   /// What a file does not translate stays; where the table does, somebody may have meant to remove it.
@@ -123,11 +124,12 @@ class Importer {
   /// Throws the errors in what was taken; other findings there are reported.
   void refuseErrors(const Table& table) {
     for (const Fault& fault : checkTable(translations_.language, table, catalogue_, base_)) {
+      if (fault.severity > Severity::warning) continue;
       const TableEntry* const entry = entryAt(table, fault.line);
       const auto taken = entry ? taken_.find(entry->key) : taken_.end();
       if (taken == taken_.end()) continue;
-      report(fault.severity, *taken->second.unit, fmt::format("\"{}\": {}", escaped(entry->key), fault.message),
-             fault.rule);
+      report(fault.severity, *taken->second.unit,
+             fmt::format("\"{}\": {}", escaped(entry->key), fault.message), fault.rule);
     }
     const auto isError = [](const Fault& fault) { return fault.severity == Severity::error; };
     if (std::none_of(result_.faults.begin(), result_.faults.end(), isError)) return;
@@ -159,8 +161,8 @@ class Importer {
 Import importTranslations(const std::string& root, const Translations& translations, const std::string& file,
                           bool force) {
   if (translations.language == kBase) {
-    throw CommandFailed{
-        {{Severity::error, file, 1, 1, "", "the English texts are not imported; change them in their table"}}};
+    throw CommandFailed{{{Severity::error, file, 1, 1, "",
+                          "the English texts are not imported; change them in their table"}}};
   }
   return Importer(root, translations, file, force).run();
 }

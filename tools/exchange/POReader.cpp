@@ -78,8 +78,8 @@ class Reader {
   };
 
   [[noreturn]] void fail(std::string message) const {
-    throw CommandFailed{{{Severity::error, file_, std::max<std::size_t>(at_.line, 1), at_.column, "",
-                          std::move(message)}}};
+    throw CommandFailed{
+        {{Severity::error, file_, std::max<std::size_t>(at_.line, 1), at_.column, "", std::move(message)}}};
   }
 
   void readLine(std::string_view line) {

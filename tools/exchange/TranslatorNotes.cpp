@@ -33,9 +33,8 @@ std::string placeholderNote(const EnglishText& english) {
 
 bool hasMarks(const EnglishText& english) {
   const std::vector<TextPiece> pieces = piecesOf(english.text);
-  return std::any_of(pieces.begin(), pieces.end(), [](const TextPiece& piece) {
-    return piece.kind == TextPiece::Kind::opening;
-  });
+  return std::any_of(pieces.begin(), pieces.end(),
+                     [](const TextPiece& piece) { return piece.kind == TextPiece::Kind::opening; });
 }
 
 }  // namespace

@@ -66,9 +66,8 @@ std::string unit12(const TranslationUnit& unit) {
   const Pieces source = piecesOf(unit.source);
   const std::string key = inAttribute(unit.key);
   const bool isApproved = !unit.target.empty() && isReviewed(unit);
-  std::string lines =
-      fmt::format("      <trans-unit id=\"{}\" resname=\"{}\"{} xml:space=\"preserve\">\n", key, key,
-                  isApproved ? " approved=\"yes\"" : "");
+  std::string lines = fmt::format("      <trans-unit id=\"{}\" resname=\"{}\"{} xml:space=\"preserve\">\n",
+                                  key, key, isApproved ? " approved=\"yes\"" : "");
   lines += fmt::format("        <source>{}</source>\n", content12(source, source));
   if (!unit.target.empty()) {
     lines += fmt::format("        <target state=\"{}\">{}</target>\n",
@@ -76,8 +75,7 @@ std::string unit12(const TranslationUnit& unit) {
                          content12(piecesOf(unit.target), source));
   }
   for (const std::string& note : unit.notes) {
-    lines +=
-        fmt::format("        <note from=\"developer\" annotates=\"source\">{}</note>\n", inText(note));
+    lines += fmt::format("        <note from=\"developer\" annotates=\"source\">{}</note>\n", inText(note));
   }
   return lines + "      </trans-unit>\n";
 }
@@ -175,22 +173,24 @@ bool fitsXML(std::string_view text) {
 }
 
 std::string toXLIFF12(const Translations& translations) {
-  std::string document = fmt::format(R"(<?xml version="1.0" encoding="UTF-8"?>
+  std::string document =
+      fmt::format(R"(<?xml version="1.0" encoding="UTF-8"?>
 <xliff version="1.2" xmlns="urn:oasis:names:tc:xliff:document:1.2">
   <file original="{}" source-language="en" target-language="{}" datatype="plaintext">
     <body>
 )",
-                                     inAttribute(tablePath(translations.language)), inAttribute(translations.language));
+                  inAttribute(tablePath(translations.language)), inAttribute(translations.language));
   for (const TranslationUnit& unit : translations.units) document += unit12(unit);
   return document + "    </body>\n  </file>\n</xliff>\n";
 }
 
 std::string toXLIFF20(const Translations& translations) {
-  std::string document = fmt::format(R"(<?xml version="1.0" encoding="UTF-8"?>
+  std::string document =
+      fmt::format(R"(<?xml version="1.0" encoding="UTF-8"?>
 <xliff version="2.0" xmlns="urn:oasis:names:tc:xliff:document:2.0" srcLang="en" trgLang="{}">
   <file id="f1" original="{}">
 )",
-                                     inAttribute(translations.language), inAttribute(tablePath(translations.language)));
+                  inAttribute(translations.language), inAttribute(tablePath(translations.language)));
   std::size_t number = 0;
   for (const TranslationUnit& unit : translations.units) document += unit20(unit, ++number);
   return document + "  </file>\n</xliff>\n";

@@ -40,10 +40,9 @@ std::size_t unknownEntity(std::string_view xml) {
       continue;
     }
     const std::string_view name = rest.substr(1, rest.substr(0, 12).find(';') - 1);
-    const bool isCharacter = name.starts_with('#') && name.find_first_not_of("0123456789abcdefABCDEFx", 1) ==
-                                                          std::string_view::npos;
-    const auto* const known =
-        std::find(std::begin(kPredefinedEntities), std::end(kPredefinedEntities), name);
+    const bool isCharacter = name.starts_with('#') &&
+                             name.find_first_not_of("0123456789abcdefABCDEFx", 1) == std::string_view::npos;
+    const auto* const known = std::find(std::begin(kPredefinedEntities), std::end(kPredefinedEntities), name);
     if (!isCharacter && known == std::end(kPredefinedEntities)) return at;
   }
   return std::string_view::npos;
@@ -53,10 +52,9 @@ std::size_t unknownEntity(std::string_view xml) {
 
 XMLFile::XMLFile(std::string bytes, std::string file)
     : file_(std::move(file)), text_(decoded(std::move(bytes), file_)), positions_(text_) {
-  const pugi::xml_parse_result result =
-      document_.load_buffer(text_.data(), text_.size(),
-                            pugi::parse_default | pugi::parse_ws_pcdata | pugi::parse_doctype,
-                            pugi::encoding_utf8);
+  const pugi::xml_parse_result result = document_.load_buffer(
+      text_.data(), text_.size(), pugi::parse_default | pugi::parse_ws_pcdata | pugi::parse_doctype,
+      pugi::encoding_utf8);
   for (const pugi::xml_node node : document_.children()) {
     if (node.type() == pugi::node_doctype) {
       fail(text_.find("<!DOCTYPE"),
