@@ -2,6 +2,7 @@
 #include <ZKStrings/tools/Fault.h>
 #include <ZKStrings/tools/Files.h>
 #include <ZKStrings/tools/exchange/PO.h>
+#include <ZKStrings/tools/exchange/POReference.h>
 
 #include <algorithm>
 #include <cstddef>
@@ -47,6 +48,12 @@ std::optional<char> takeEscape(std::string_view& text) {
   if (known == std::string_view::npos) return std::nullopt;
   text.remove_prefix(1);
   return kCharacters[known];
+}
+
+/// Whether `text` is `part` once or several times.
+bool isMadeOf(std::string_view text, std::string_view part) {
+  while (!part.empty() && text.starts_with(part)) text.remove_prefix(part.size());
+  return text.empty();
 }
 
 class Reader {
@@ -103,7 +110,7 @@ class Reader {
     const std::string_view told = comment.size() > 2 ? behindBlanks(comment.substr(2)) : "";
     if (comment.starts_with("#,") && comment.find("fuzzy") != std::string_view::npos)
       entry_.unit.state = TranslationState::needsReview;
-    if (comment.starts_with("#:") && entry_.reference.empty()) entry_.reference = firstWord(told);
+    if (comment.starts_with("#:") && entry_.reference.empty()) entry_.reference = keyNamedBy(firstWord(told));
     if (comment.starts_with("#.") && told.starts_with(kIdentifier))
       entry_.identifier = firstWord(told.substr(kIdentifier.size()));
   }
@@ -158,10 +165,16 @@ class Reader {
     hasEntries_ = true;
     const bool isHeader = entry.unit.source.empty() && entry.context.empty();
     if (isHeader) return readHeader(entry.unit.target);
-    for (std::string* const key : {&entry.context, &entry.identifier, &entry.reference}) {
-      if (entry.unit.key.empty()) entry.unit.key = std::move(*key);
-    }
+    entry.unit.key = keyOf(entry);
     translations_.units.push_back(std::move(entry.unit));
+  }
+
+  /// Programs keep the context, or a comment instead. translate-toolkit repeats the reference as a context,
+  /// and leaves it out where it is the text itself.
+  static std::string keyOf(const Entry& entry) {
+    if (!entry.context.empty() && !isMadeOf(entry.context, entry.reference)) return entry.context;
+    if (!entry.identifier.empty()) return entry.identifier;
+    return entry.reference.empty() ? entry.unit.source : entry.reference;
   }
 
   void readHeader(std::string_view header) {

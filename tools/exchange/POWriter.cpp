@@ -1,7 +1,7 @@
-#include <ZKStrings/platform/text/TextSearch.h>
 #include <ZKStrings/tools/Files.h>
 #include <ZKStrings/tools/Table.h>
 #include <ZKStrings/tools/exchange/PO.h>
+#include <ZKStrings/tools/exchange/POReference.h>
 
 #include <algorithm>
 #include <string_view>
@@ -41,8 +41,8 @@ std::string entryOf(const TranslationUnit& unit) {
   for (const std::string& note : unit.notes) {
     for (const std::string_view line : linesOf(note)) lines += fmt::format("#. {}\n", line);
   }
-  // Programs that drop the context keep the reference, which cannot hold blanks.
-  if (unit.key.find_first_of(" \t\r\n") == std::string::npos) lines += fmt::format("#: {}\n", unit.key);
+  // Programs that drop the context keep the reference.
+  lines += fmt::format("#: {}\n", referenceTo(unit.key));
   if (unit.state == TranslationState::needsReview) lines += "#, fuzzy\n";
   return lines + statement("msgctxt", unit.key) + statement("msgid", unit.source) +
          statement("msgstr", unit.target);

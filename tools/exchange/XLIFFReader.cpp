@@ -46,15 +46,14 @@ std::string contextOf(pugi::xml_node unit, std::string_view type) {
   return "";
 }
 
-/// The key of a unit of XLIFF 1.2. Programs keep the name and the id; those that come by way of PO keep the
-/// msgctxt or the reference instead, and number the units.
+/// The key of a unit of XLIFF 1.2; empty when only its text tells it. Programs keep the name and the id; those
+/// that come by way of PO keep the msgctxt or the reference instead, and number the units.
 std::string keyOf(pugi::xml_node unit) {
   const std::string id = unit.attribute("id").value();
   if (const std::string name = unit.attribute("resname").value(); !name.empty()) return name;
   if (std::string context = contextOf(unit, "x-gettext-msgctxt"); !context.empty()) return context;
   if (id.find_first_not_of("0123456789") != std::string::npos) return id;
-  std::string reference = contextOf(unit, "sourcefile");
-  return reference.empty() ? id : reference;
+  return contextOf(unit, "sourcefile");
 }
 
 /// Whether the translation is no more than a beginning. A program that tells nothing means that it is done.
@@ -111,6 +110,7 @@ class Reader {
     unit.key = keyOf(element);
     Codes codes;
     unit.source = textOf(childNamed(element, "source"), codes, 0);
+    if (unit.key.empty()) unit.key = unit.source;
     const pugi::xml_node target = childNamed(element, "target");
     unit.target = textOf(target, codes, 0);
     if (needsReview12(element, target)) unit.state = TranslationState::needsReview;
