@@ -1,6 +1,7 @@
 #include <ZKStrings/tools/Characters.h>
 #include <ZKStrings/tools/Fault.h>
 #include <ZKStrings/tools/Files.h>
+#include <ZKStrings/tools/Table.h>
 #include <ZKStrings/tools/exchange/CSV.h>
 #include <ZKStrings/tools/exchange/ExchangeFormat.h>
 #include <ZKStrings/tools/exchange/PO.h>
@@ -10,6 +11,8 @@
 #include <filesystem>
 #include <system_error>
 #include <utility>
+
+#include <fmt/format.h>
 
 namespace zk::tools {
 
@@ -23,6 +26,16 @@ bool beginsAsXML(std::string_view bytes) {
   return first != std::string_view::npos && bytes[first] == '<';
 }
 
+void refuseWhatNoXMLHolds(const Translations& translations) {
+  for (const TranslationUnit& unit : translations.units) {
+    if (fitsXML(unit.key) && fitsXML(unit.source) && fitsXML(unit.target)) continue;
+    throw CommandFailed{{{Severity::error, tablePath(translations.language), 1, 1, "",
+                          fmt::format("the text of \"{}\" has a control character, which XLIFF cannot hold; "
+                                      "remove it, or export with --format po",
+                                      escaped(unit.key))}}};
+  }
+}
+
 }  // namespace
 
 ExchangeFormat formatNamedBy(std::string_view path) {
@@ -33,17 +46,10 @@ ExchangeFormat formatNamedBy(std::string_view path) {
 }
 
 std::string written(const Translations& translations, ExchangeFormat format) {
-  switch (format) {
-    case ExchangeFormat::xliff12:
-      break;
-    case ExchangeFormat::xliff20:
-      return toXLIFF20(translations);
-    case ExchangeFormat::po:
-      return toPO(translations);
-    case ExchangeFormat::csv:
-      return toCSV(translations);
-  }
-  return toXLIFF12(translations);
+  if (format == ExchangeFormat::po) return toPO(translations);
+  if (format == ExchangeFormat::csv) return toCSV(translations);
+  refuseWhatNoXMLHolds(translations);
+  return format == ExchangeFormat::xliff20 ? toXLIFF20(translations) : toXLIFF12(translations);
 }
 
 Translations readTranslations(const std::string& path) {

@@ -13,6 +13,7 @@ enum class ExchangeFormat { xliff12, xliff20, po, csv };
 /// The format that the ending of `path` names: .po and .pot, .csv and .tsv; XLIFF 1.2 for all others.
 [[nodiscard]] ExchangeFormat formatNamedBy(std::string_view path);
 
+/// The bytes of a file of that format. Throws `CommandFailed` for XLIFF when XML cannot hold a text.
 [[nodiscard]] std::string written(const Translations& translations, ExchangeFormat format);
 
 /// Reads the file at `path`, from the working directory: a document that begins with "<" as XLIFF, others in

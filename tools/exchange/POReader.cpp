@@ -112,7 +112,8 @@ class Reader {
       entry_.unit.state = TranslationState::needsReview;
     if (comment.starts_with("#:") && entry_.reference.empty()) entry_.reference = keyNamedBy(firstWord(told));
     if (comment.starts_with("#.") && told.starts_with(kIdentifier))
-      entry_.identifier = firstWord(told.substr(kIdentifier.size()));
+      entry_.identifier =
+          told.substr(kIdentifier.size(), told.find_last_not_of(kBlanks) + 1 - kIdentifier.size());
   }
 
   void beginStatement(std::string_view keyword) {

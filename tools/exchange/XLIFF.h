@@ -3,10 +3,11 @@
 #include <ZKStrings/tools/exchange/Translations.h>
 
 #include <string>
+#include <string_view>
 
 namespace zk::tools {
 
-/// The characters that XML cannot hold: controls but for tab and line ends. Texts with them have no XLIFF.
+/// Whether XML can hold `text`: not with control characters other than tab and line ends.
 [[nodiscard]] bool fitsXML(std::string_view text);
 
 /// XLIFF 1.2, which all translators' programs read. Codes in texts are <ph> elements with what they stand

@@ -166,7 +166,9 @@ std::string unit20(const TranslationUnit& unit, std::size_t number) {
 }  // namespace
 
 bool fitsXML(std::string_view text) {
-  return std::none_of(text.begin(), text.end(), [](char character) {
+  const bool hasNoncharacter =
+      text.find("\uFFFE") != std::string_view::npos || text.find("\uFFFF") != std::string_view::npos;
+  return !hasNoncharacter && std::none_of(text.begin(), text.end(), [](char character) {
     const auto byte = static_cast<unsigned char>(character);
     return byte < 0x20 && character != '\t' && character != '\n' && character != '\r';
   });
