@@ -114,10 +114,9 @@ TEST(ExchangeFormat, WritesNothingThatASpreadsheetTakesForAFormula) {
   for (const char* const text : {"=1+1", "+1", "-1", "@SUM(A1)", "\t=1", "\r=1", "'=1", "＝1"})
     sent.units.push_back({text, text, text, TranslationState::translated, {text}});
   const std::string table = written(sent, ExchangeFormat::csv);
-  for (const char* const begin : {"\"=", "\"+", "\"-", "\"@", "\"	",
-                                  ",\"
-                                  ", "\"＝",
-                                  ",=", ",+", ",-", ",@"})
+  constexpr const char* kFormulas[] = {"\"=",  "\"+", "\"-", "\"@", "\"\t", ",\"\r",
+                                       "\"＝", ",=",  ",+",  ",-",  ",@"};
+  for (const char* const begin : kFormulas)
     EXPECT_EQ(table.find(begin), std::string::npos) << begin << "\n" << table;
 }
 
