@@ -16,6 +16,9 @@ constexpr std::string_view kOpeningTag = "<b>";
 constexpr std::string_view kClosingTag = "</b>";
 constexpr std::string_view kStar = "*";
 
+/// More pairs within each other than in any text are no pairs, but a mistake.
+constexpr std::size_t kDeepestPair = 8;
+
 /// The marks and words of `text`, in which there are no placeholders. The kind of a star is left open.
 void addMarksAndWords(std::string_view text, Pieces& pieces) {
   while (!text.empty()) {
@@ -49,8 +52,9 @@ bool pairUp(Pieces& pieces) {
     const bool isOpenStar = !open.empty() && open.back() == kStar;
     if (piece.text == kStar) piece.kind = isOpenStar ? Kind::closing : Kind::opening;
     if (piece.kind == Kind::opening) open.push_back(piece.text);
+    if (open.size() > kDeepestPair) return false;
     if (piece.kind != Kind::closing) continue;
-    if (open.empty() || open.back() != (piece.text == kStar ? kStar : kOpeningTag)) return false;
+    if (open.empty() || closingOf(open.back()) != piece.text) return false;
     open.pop_back();
   }
   return open.empty();
@@ -73,6 +77,10 @@ std::vector<TextPiece> piecesOf(std::string_view text) {
     if (piece.kind != Kind::words) piece.kind = Kind::placeholder;
   }
   return pieces;
+}
+
+std::string_view closingOf(std::string_view text) {
+  return text == kStar ? kStar : kClosingTag;
 }
 
 std::vector<std::size_t> codeNumbers(const Pieces& target, const Pieces& source) {

@@ -20,8 +20,11 @@ struct TextPiece {
 };
 
 /// The pieces of `text`, in order; together they are the text. Every opening has its closing behind it, and
-/// pairs lie within each other: where marks cross, or miss their partners, they are all placeholders.
+/// pairs lie within each other: where marks cross, miss their partners, or nest too deep, they are all placeholders.
 [[nodiscard]] std::vector<TextPiece> piecesOf(std::string_view text);
+
+/// The text of the closing that belongs to the opening `text`.
+[[nodiscard]] std::string_view closingOf(std::string_view text);
 
 /// Numbers for the codes of `target`, the same, from 1, that they have in `source`, where codes count in
 /// order. What `source` does not have gets numbers behind. Words have 0.

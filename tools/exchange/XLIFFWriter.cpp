@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <map>
 #include <string_view>
 
 #include <fmt/format.h>
@@ -87,7 +88,8 @@ class OriginalData {
       : source_(piecesOf(unit.source)), target_(piecesOf(unit.target)) {
     for (const Pieces* const pieces : {&source_, &target_}) {
       for (const TextPiece& piece : *pieces) {
-        if (piece.kind != Kind::words && placeOf(piece) == texts_.size()) texts_.push_back(piece.text);
+        if (piece.kind != Kind::words && places_.try_emplace(piece.text, texts_.size()).second)
+          texts_.push_back(piece.text);
       }
     }
   }
@@ -103,16 +105,14 @@ class OriginalData {
   [[nodiscard]] std::string target() const { return content(target_); }
 
  private:
-  [[nodiscard]] std::size_t placeOf(const TextPiece& piece) const {
-    return static_cast<std::size_t>(std::find(texts_.begin(), texts_.end(), piece.text) - texts_.begin());
-  }
+  [[nodiscard]] std::size_t placeOf(std::string_view text) const { return places_.find(text)->second; }
 
   [[nodiscard]] std::string content(const Pieces& pieces) const {
     const std::vector<std::size_t> numbers = codeNumbers(pieces, source_);
     std::string result;
     for (std::size_t i = 0; i < pieces.size(); ++i) {
       const std::string text = inText(pieces[i].text);
-      const std::size_t data = placeOf(pieces[i]) + 1;
+      const std::size_t data = placeOf(pieces[i].text) + 1;
       switch (pieces[i].kind) {
         case Kind::words:
           result += text;
@@ -122,7 +122,7 @@ class OriginalData {
           break;
         case Kind::opening:
           result += fmt::format("<pc id=\"{}\" dataRefStart=\"d{}\" dataRefEnd=\"d{}\">", numbers[i], data,
-                                closingOf(pieces, i));
+                                placeOf(closingOf(pieces[i].text)) + 1);
           break;
         case Kind::closing:
           result += "</pc>";
@@ -131,18 +131,10 @@ class OriginalData {
     return result;
   }
 
-  /// The data of the code that closes the one at `opening`.
-  [[nodiscard]] std::size_t closingOf(const Pieces& pieces, std::size_t opening) const {
-    std::size_t depth = 0;
-    for (std::size_t i = opening;; ++i) {
-      if (pieces[i].kind == Kind::opening) ++depth;
-      if (pieces[i].kind == Kind::closing && --depth == 0) return placeOf(pieces[i]) + 1;
-    }
-  }
-
   const Pieces source_;
   const Pieces target_;
   std::vector<std::string_view> texts_;
+  std::map<std::string_view, std::size_t> places_;  // of the texts
 };
 
 std::string unit20(const TranslationUnit& unit, std::size_t number) {
