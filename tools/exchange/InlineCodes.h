@@ -20,7 +20,8 @@ struct TextPiece {
 };
 
 /// The pieces of `text`, in order; together they are the text. Every opening has its closing behind it, and
-/// pairs lie within each other: where marks cross, miss their partners, or nest too deep, they are all placeholders.
+/// pairs lie within each other: where marks cross, miss their partners, or nest too deep, they are all
+/// placeholders.
 [[nodiscard]] std::vector<TextPiece> piecesOf(std::string_view text);
 
 /// The text of the closing that belongs to the opening `text`.

@@ -1,10 +1,10 @@
 #include <ZKStrings/tests/TemporaryDirectory.h>
 #include <ZKStrings/tools/Fault.h>
 #include <ZKStrings/tools/Languages.h>
-#include <ZKStrings/tools/exchange/CSVGuard.h>
 #include <ZKStrings/tools/exchange/ExchangeFormat.h>
 #include <ZKStrings/tools/exchange/Export.h>
 
+#include <filesystem>
 #include <string>
 #include <string_view>
 #include <vector>

@@ -1,13 +1,12 @@
 #include <ZKStrings/tests/tools/TemporaryProject.h>
-#include <ZKStrings/tools/exchange/ExchangeFormat.h>
 #include <ZKStrings/tools/exchange/Export.h>
 #include <ZKStrings/tools/exchange/Import.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <string>
 #include <vector>
 
-#include <fmt/format.h>
 #include <gtest/gtest.h>
 
 namespace {
