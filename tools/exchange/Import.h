@@ -23,8 +23,8 @@ struct Import {
 /// `root`. A text is refused whose key nothing looks up or stands twice in the file, or whose English has
 /// changed since it was exported; with `force`, the latter is taken and marked for review. Texts without a
 /// translation are left as they are. Nothing else in the table changes. Throws `CommandFailed`, having
-/// changed nothing, when `check` finds an error in a text that was taken, for a language without a table, when
-/// the table, the English one or the catalogue is wrong, and when the table cannot be written.
+/// changed nothing, when `check` finds an error in a text that was taken, for a language without a table,
+/// when the table, the English one or the catalogue is wrong, and when the table cannot be written.
 Import importTranslations(const std::string& root, const Translations& translations, const std::string& file,
                           bool force);
 

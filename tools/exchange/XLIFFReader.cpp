@@ -46,8 +46,8 @@ std::string contextOf(pugi::xml_node unit, std::string_view type) {
   return "";
 }
 
-/// The key of a unit of XLIFF 1.2; empty when only its text tells it. Programs keep the name and the id; those
-/// that come by way of PO keep the msgctxt or the reference instead, and number the units.
+/// The key of a unit of XLIFF 1.2; empty when only its text tells it. Programs keep the name and the id;
+/// those that come by way of PO keep the msgctxt or the reference instead, and number the units.
 std::string keyOf(pugi::xml_node unit) {
   const std::string id = unit.attribute("id").value();
   if (const std::string name = unit.attribute("resname").value(); !name.empty()) return name;
