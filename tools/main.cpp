@@ -1,4 +1,5 @@
 #include <ZKStrings/tools/CatalogueCommandLine.h>
+#include <ZKStrings/tools/ExchangeCommandLine.h>
 #include <ZKStrings/tools/Fault.h>
 #include <ZKStrings/tools/Files.h>
 #include <ZKStrings/tools/HelpFormatter.h>
@@ -52,6 +53,8 @@ int run(int argc, char** argv) {
   addCoverageCommand(app, inRoot);
   addTemplateCommand(app, inRoot);
   addUpdateCommand(app, inRoot);
+  addExportCommand(app, inRoot);
+  addImportCommand(app, inRoot, status);
   addPageCommands(app, inRoot);
   for (CLI::App* const command : app.get_subcommands({})) command->fallthrough();
 

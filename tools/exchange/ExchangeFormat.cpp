@@ -1,0 +1,67 @@
+#include <ZKStrings/tools/Characters.h>
+#include <ZKStrings/tools/Fault.h>
+#include <ZKStrings/tools/Files.h>
+#include <ZKStrings/tools/Table.h>
+#include <ZKStrings/tools/exchange/CSV.h>
+#include <ZKStrings/tools/exchange/ExchangeFormat.h>
+#include <ZKStrings/tools/exchange/PO.h>
+#include <ZKStrings/tools/exchange/XLIFF.h>
+
+#include <cstdint>
+#include <filesystem>
+#include <system_error>
+#include <utility>
+
+#include <fmt/format.h>
+
+namespace zk::tools {
+
+namespace {
+
+constexpr std::uintmax_t kLargest = 32U << 20U;
+
+bool beginsAsXML(std::string_view bytes) {
+  constexpr std::string_view kMarksAndBlanks("\xEF\xBB\xBF\xFE\xFF\0 \t\r\n", 10);
+  const std::size_t first = bytes.find_first_not_of(kMarksAndBlanks);
+  return first != std::string_view::npos && bytes[first] == '<';
+}
+
+void refuseWhatNoXMLHolds(const Translations& translations) {
+  for (const TranslationUnit& unit : translations.units) {
+    if (fitsXML(unit.key) && fitsXML(unit.source) && fitsXML(unit.target)) continue;
+    throw CommandFailed{{{Severity::error, tablePath(translations.language), 1, 1, "",
+                          fmt::format("the text of \"{}\" has a control character, which XLIFF cannot hold; "
+                                      "remove it, or export with --format po",
+                                      escaped(unit.key))}}};
+  }
+}
+
+}  // namespace
+
+ExchangeFormat formatNamedBy(std::string_view path) {
+  const std::string ending = lowerCased(std::filesystem::path(path).extension().string());
+  if (ending == ".po" || ending == ".pot") return ExchangeFormat::po;
+  if (ending == ".csv" || ending == ".tsv") return ExchangeFormat::csv;
+  return ExchangeFormat::xliff12;
+}
+
+std::string written(const Translations& translations, ExchangeFormat format) {
+  if (format == ExchangeFormat::po) return toPO(translations);
+  if (format == ExchangeFormat::csv) return toCSV(translations);
+  refuseWhatNoXMLHolds(translations);
+  return format == ExchangeFormat::xliff20 ? toXLIFF20(translations) : toXLIFF12(translations);
+}
+
+Translations readTranslations(const std::string& path) {
+  std::error_code failure;
+  if (const std::uintmax_t size = std::filesystem::file_size(path, failure); !failure && size > kLargest) {
+    throw CommandFailed{{{Severity::error, path, 1, 1, "",
+                          "the file is larger than 32 MiB, which no export is; import another"}}};
+  }
+  std::string bytes = readFile("", path);
+  const ExchangeFormat format = formatNamedBy(path);
+  if (beginsAsXML(bytes) || format == ExchangeFormat::xliff12) return fromXLIFF(std::move(bytes), path);
+  return format == ExchangeFormat::po ? fromPO(std::move(bytes), path) : fromCSV(std::move(bytes), path);
+}
+
+}  // namespace zk::tools
