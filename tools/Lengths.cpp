@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <string_view>
-#include <tuple>
 #include <utility>
 
 #include <fmt/format.h>
@@ -61,8 +60,9 @@ std::vector<Length> widestTranslations(const std::string& root, const std::vecto
       }
     }
   }
-  std::ranges::stable_sort(lengths, std::greater(), [](const Length& length) {
-    return std::tuple(length.times(), length.translation.columns);
+  std::stable_sort(lengths.begin(), lengths.end(), [](const Length& one, const Length& other) {
+    return std::pair(one.times(), one.translation.columns) >
+           std::pair(other.times(), other.translation.columns);
   });
   lengths.resize(std::min(limit, lengths.size()));
   return lengths;

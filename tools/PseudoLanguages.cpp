@@ -96,12 +96,12 @@ std::string_view stretchable(const std::vector<Piece>& pieces) {
   const auto hasVowel = [](const Piece& piece) {
     return piece.isPlain && piece.text.find_first_of(kVowels) != std::string_view::npos;
   };
-  return std::ranges::any_of(pieces, hasVowel) ? kVowels : kLetters;
+  return std::any_of(pieces.begin(), pieces.end(), hasVowel) ? kVowels : kLetters;
 }
 
 std::size_t countOfAny(std::string_view text, std::string_view letters) {
-  return static_cast<std::size_t>(std::ranges::count_if(
-      text, [&](char letter) { return letters.find(letter) != std::string_view::npos; }));
+  return static_cast<std::size_t>(std::count_if(
+      text.begin(), text.end(), [&](char letter) { return letters.find(letter) != std::string_view::npos; }));
 }
 
 std::string accentedAndLonger(std::string_view text) {

@@ -35,7 +35,8 @@ int main(int, char** arguments) {
   const Catalogue catalogue = Catalogue::read(root);
   const AppTexts texts(root);
   std::vector<std::string> languages = languagesIn(root);
-  std::ranges::stable_partition(languages, [](const std::string& language) { return language == kBase; });
+  std::stable_partition(languages.begin(), languages.end(),
+                        [](const std::string& language) { return language == kBase; });
   for (std::size_t language = 0; language < languages.size(); ++language) {
     for (std::size_t index = 0; index < catalogue.entries().size(); ++index) {
       const Entry& entry = catalogue.entries()[index];

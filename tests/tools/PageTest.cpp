@@ -5,6 +5,7 @@
 #include <ZKStrings/tools/page/Page.h>
 #include <ZKStrings/tools/page/PageData.h>
 
+#include <algorithm>
 #include <filesystem>
 
 #include <gtest/gtest.h>
@@ -100,7 +101,9 @@ TEST(Page, HasNoTextOutsideItsData) {
   const TemporaryProject hostile;
   hostile.write(TemporaryProject::table("Base"), "\"About\" = \"</script><!--<script>@DATA@]]>\";");
   const std::string page = pageOf(hostile.root());
-  const auto linesOutsideData = [](const std::string& text) { return std::ranges::count(text, '\n'); };
+  const auto linesOutsideData = [](const std::string& text) {
+    return std::count(text.begin(), text.end(), '\n');
+  };
   EXPECT_EQ(linesOutsideData(page), linesOutsideData(pageOf(peaceful.root())));
   EXPECT_EQ(page.find("<!--"), std::string::npos);
   EXPECT_NE(page.find("\\u003c/script>\\u003c!--\\u003cscript>@DATA@]]>"), std::string::npos);

@@ -119,14 +119,16 @@ bool isCountName(std::string_view name) {
 }
 
 const Example* exampleFor(std::string_view placeholder) {
-  const Example* const example = std::ranges::find(kExamples, placeholder, &Example::placeholder);
+  const auto isMeant = [&](const Example& example) { return example.placeholder == placeholder; };
+  const Example* const example = std::find_if(std::begin(kExamples), std::end(kExamples), isMeant);
   return example == std::end(kExamples) ? nullptr : example;
 }
 
 const Nested* nestedFor(std::string_view placeholder, const Entry& entry) {
-  const Nested* const nested = std::ranges::find_if(kNested, [&](const Nested& candidate) {
-    return candidate.placeholder == placeholder && (candidate.in.empty() || candidate.in == entry.key);
-  });
+  const Nested* const nested =
+      std::find_if(std::begin(kNested), std::end(kNested), [&](const Nested& candidate) {
+        return candidate.placeholder == placeholder && (candidate.in.empty() || candidate.in == entry.key);
+      });
   return nested == std::end(kNested) ? nullptr : nested;
 }
 
@@ -140,7 +142,7 @@ const Entry* find(const Catalogue& catalogue, const Nested& nested) {
   const auto isMeant = [&](const Entry& entry) {
     return entry.key == nested.key && entry.plural == nested.count.has_value();
   };
-  const auto entry = std::ranges::find_if(catalogue.entries(), isMeant);
+  const auto entry = std::find_if(catalogue.entries().begin(), catalogue.entries().end(), isMeant);
   return entry == catalogue.entries().end() ? nullptr : &*entry;
 }
 
@@ -155,9 +157,10 @@ std::string plainValue(const Entry& entry, std::string_view placeholder, std::op
 std::string_view countPlaceholder(const Entry& entry) {
   if (!entry.plural) return "";
   const std::vector<std::string_view> names = placeholderNames(entry.text);
-  auto found = std::ranges::find_if(names, isCountName);
+  auto found = std::find_if(names.begin(), names.end(), isCountName);
   if (found == names.end()) {
-    found = std::ranges::find_if(names, [&](std::string_view name) { return takesNumber(name, entry); });
+    found = std::find_if(names.begin(), names.end(),
+                         [&](std::string_view name) { return takesNumber(name, entry); });
   }
   return found == names.end() ? "" : *found;
 }

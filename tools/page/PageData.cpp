@@ -23,7 +23,7 @@ using Json = nlohmann::ordered_json;
 
 /// The count for which a key with the plural form `suffix` is looked up.
 std::optional<std::int64_t> exampleCount(std::string_view suffix) {
-  const auto form = std::ranges::find(kPluralSuffixes, suffix);
+  const auto form = std::find(std::begin(kPluralSuffixes), std::end(kPluralSuffixes), suffix);
   if (form == std::end(kPluralSuffixes)) return std::nullopt;
   return kExampleCounts[static_cast<std::size_t>(form - std::begin(kPluralSuffixes))];
 }
@@ -63,7 +63,8 @@ class PageDataMaker {
         languages_(languagesIn(root)),
         faults_(check(root, {.languages = {}, .off = {}, .notes = true}).faults) {
     std::erase_if(languages_, [](const std::string& language) { return !whyNeverChosen(language).empty(); });
-    std::ranges::stable_partition(languages_, [](const std::string& language) { return language == kBase; });
+    std::stable_partition(languages_.begin(), languages_.end(),
+                          [](const std::string& language) { return language == kBase; });
     for (std::size_t i = 0; i < english_.all().size(); ++i) places_.emplace(english_.all()[i].key, i);
   }
 
@@ -91,11 +92,12 @@ class PageDataMaker {
     }
     Json values = Json::array();
     for (std::size_t i = 0; i < byLanguage.front().size(); ++i) {
-      const auto& [name, value] = byLanguage.front()[i];
+      const std::string& name = byLanguage.front()[i].first;
+      const std::string& value = byLanguage.front()[i].second;
       const auto isSame = [&](const Values& others) { return others[i].second == value; };
       if (name == countPlaceholder(entry)) {
         values.push_back({name, nullptr});
-      } else if (std::ranges::all_of(byLanguage, isSame)) {
+      } else if (std::all_of(byLanguage.begin(), byLanguage.end(), isSame)) {
         values.push_back({name, value});
       } else {
         Json each = Json::array();
