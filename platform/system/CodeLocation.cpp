@@ -2,11 +2,12 @@
 #include <ZKStrings/platform/system/Failure.h>
 
 #include <cinttypes>
+#include <climits>
 #include <cstdint>
 #include <cstdio>
+#include <cstring>
 #include <filesystem>
-#include <fstream>
-#include <string_view>
+#include <memory>
 
 #include <dlfcn.h>
 #include <link.h>
@@ -18,8 +19,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// What the dynamic loader calls the file that holds `address`: the path under which it was loaded, which may be
-/// relative, and nothing for the executable. A program without a dynamic loader is one executable.
+/// What the dynamic loader calls the file that holds `address`: the path under which it was loaded, which may
+/// be relative, and nothing for the executable. A program without a dynamic loader is one executable.
 std::string loadedName(const void* address) {
   Dl_info info{};
   link_map* loaded = nullptr;
@@ -27,21 +28,29 @@ std::string loadedName(const void* address) {
   return dladdr1(address, &info, result, RTLD_DL_LINKMAP) != 0 ? loaded->l_name : std::string();
 }
 
+struct Closer {
+  void operator()(FILE* file) const { std::fclose(file); }
+};
+
 /// The file that the kernel has mapped at `address`, always by its absolute path without links.
 std::string mappedFile(const void* address, std::error_code& failure) {
   failure.clear();
   const auto wanted = reinterpret_cast<std::uintptr_t>(address);
-  std::ifstream maps("/proc/self/maps");
-  if (!maps) failure = lastFailure();
-  for (std::string line; std::getline(maps, line);) {
+  const std::unique_ptr<FILE, Closer> maps(std::fopen("/proc/self/maps", "re"));
+  if (!maps) {
+    failure = lastFailure();
+    return {};
+  }
+  char line[PATH_MAX + 128];
+  while (std::fgets(line, sizeof(line), maps.get())) {
     std::uintptr_t begin = 0;
     std::uintptr_t end = 0;
-    if (std::sscanf(line.c_str(), "%" SCNxPTR "-%" SCNxPTR, &begin, &end) != 2) continue;
+    if (std::sscanf(line, "%" SCNxPTR "-%" SCNxPTR, &begin, &end) != 2) continue;
     if (wanted < begin || wanted >= end) continue;
-    const std::size_t path = line.find('/');
-    return path == std::string::npos ? std::string() : line.substr(path);
+    const char* const path = std::strchr(line, '/');
+    return path ? std::string(path, std::strcspn(path, "\n")) : std::string();
   }
-  if (maps.bad()) failure = make_error_code(std::errc::io_error);
+  if (std::ferror(maps.get())) failure = make_error_code(std::errc::io_error);
   return {};
 }
 
@@ -63,8 +72,8 @@ std::string fileHolding(const void* address, std::error_code& failure) {
   failure.clear();
   std::string loaded = loadedName(address);
   if (loaded.starts_with('/')) return loaded;
-  // The executable is asked for here too: /proc/self/exe is not always it, but the dynamic loader when that was
-  // started with the program as its argument.
+  // The executable is asked for here too: /proc/self/exe is not always it, but the dynamic loader when that
+  // was started with the program as its argument.
   std::string mapped = mappedFile(address, failure);
   if (!mapped.empty() || isPassing(failure)) return mapped;
   return loaded.empty() ? executablePath(failure) : existingFile(loaded, failure);
