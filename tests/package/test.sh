@@ -53,6 +53,7 @@ loaded_from() { env LD_LIBRARY_PATH="$1" "$moved/bin/consumer" "${@:2}"; }
 
 with_pkgconfig() {  # with_pkgconfig NAME PREFIX LIBDIR COMPILER: builds the consumer without CMake
   local flags
+  mkdir -p "$2/bin"
   flags=$(PKG_CONFIG_PATH="$2/$3/pkgconfig" pkg-config --cflags --libs zkstrings)
   # shellcheck disable=SC2086  # the flags are several words
   "$4" -std=c++20 "$source/tests/package/consumer.cpp" -o "$2/bin/$1" $flags -Wl,-rpath,"$2/$3"
