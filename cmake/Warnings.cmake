@@ -1,7 +1,7 @@
 # How all targets of this project are compiled.
 add_library(zk_compile_options INTERFACE)
 target_compile_options(zk_compile_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow)
-if(DEFINED ENV{CI} OR ZK_WERROR)
+if(ZK_WERROR)
   target_compile_options(zk_compile_options INTERFACE -Werror)
 endif()
 if(ZK_SANITIZE)

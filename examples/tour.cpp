@@ -1,43 +1,24 @@
 // A tour of the module, as an app would use it: texts of all four kinds in several languages, a change of
 // language while the program runs, and the list of countries.
 //
-//     tour                 the languages that this machine prefers, then English, German and Greek
-//     tour de-DE fr-FR     the given preferred languages, most preferred first, instead of this machine's
+//     tour                 the languages that this machine prefers, then some others
+//     tour pt-BR fr-FR     each of the given languages by itself, then the list as the player's preferred languages
 
 #include <ZKStrings/ZKStrings.h>
 
 #include <cstdint>
+#include <cstdlib>
 #include <iostream>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include <unistd.h>
+#include "Columns.h"
 
 namespace {
 
 using zk::ZKStrings;
 using zk::Current::language;
-
-/// `text` in bold, where the output is a terminal.
-std::string bold(std::string_view text) {
-  static const bool isTerminal = isatty(STDOUT_FILENO) == 1;
-  return isTerminal ? "\x1b[1m" + std::string(text) + "\x1b[0m" : std::string(text);
-}
-
-void showHeading(std::string_view title) {
-  std::cout << "\n" << bold(title) << "\n";
-}
-
-void show(std::string_view accessor, std::string text) {
-  constexpr std::size_t kWidth = 46;
-  const std::string indent = "\n  " + std::string(kWidth, ' ');
-  for (std::size_t at = text.find('\n'); at != std::string::npos; at = text.find('\n', at + indent.size())) {
-    text.replace(at, 1, indent);
-  }
-  const std::size_t gap = accessor.size() < kWidth ? kWidth - accessor.size() : 1;
-  std::cout << "  " << accessor << std::string(gap, ' ') << text << "\n";
-}
 
 std::string joined(const zk::SharedArray<std::string>& identifiers) {
   std::string list;
@@ -45,27 +26,50 @@ std::string joined(const zk::SharedArray<std::string>& identifiers) {
   return list.empty() ? "none" : list;
 }
 
+/// Whether the module has texts in the language: English, or one with a table of its own.
+bool hasTexts(std::string_view identifier) {
+  const std::string_view code = identifier.substr(0, 2);
+  return zk::bundle().pathForResource(code == "en" ? "Base" : code, "lproj") != nullptr;
+}
+
+/// In a container LANGUAGE is often set alone, and its user wonders why nothing changes.
+void explainIgnoredLanguage() {
+  const char* const list = std::getenv("LANGUAGE");
+  const zk::SharedArray<std::string> languages = zk::Locale::preferredLanguages();
+  if (list == nullptr || *list == '\0' || joined(languages) != "en" || std::string_view(list) == "en") return;
+  std::cout << "\nLANGUAGE=" << list
+            << " counts only beside a locale: set LANG as well, as in LANG=en_US.UTF-8\n";
+}
+
 void showTexts() {
-  showHeading("Preferred languages: " + joined(language->preferredLanguages));
+  const zk::Language now = language.get();
+  showHeading("Preferred languages: " + joined(now.preferredLanguages));
+  for (const std::string& identifier : now.preferredLanguages) {
+    if (!hasTexts(identifier)) std::cout << "  (" << identifier << " has no table)\n";
+  }
   show("About()", ZKStrings::About());
   show("Live_trivia_n_game_show()", ZKStrings::Live_trivia_n_game_show());
   show("active_limit_players(\"12\", \"50\")", ZKStrings::active_limit_players("12", "50"));
-  show("Are_you_sure_you_want_to_kick_username(\"kim\")",
-       ZKStrings::Are_you_sure_you_want_to_kick_username("kim"));
+  show("Round_roundNumber(\"2\")", ZKStrings::Round_roundNumber("2"));
   std::string coins;
   std::string badges;
-  for (std::int64_t count = 0; count <= 6; ++count) {
-    const std::string separator = count == 0 ? "" : count == 4 ? "\n" : " · ";
+  for (const std::int64_t count : {0, 1, 2, 6}) {
+    const std::string separator = count == 0 ? "" : " · ";
     coins += separator + ZKStrings::Coins(count);
     badges += separator + ZKStrings::badgeCount_Badges(std::to_string(count), count);
   }
-  show("Coins(n), n from 0 to 6", coins);
+  show("Coins(n), n = 0, 1, 2, 6", coins);
   show("badgeCount_Badges(\"n\", n)", badges);
+}
+
+void showTexts(const std::vector<std::string>& preferredLanguages) {
+  language->preferredLanguages = preferredLanguages;
+  showTexts();
 }
 
 void showFallback() {
   showHeading("A key that no table holds gives the English default");
-  show("localizedString(\"Confetti_for_name\", ...)",
+  show("localizedString(...)",
        zk::localizedString("Confetti_for_name", "Confetti for %{name}!", std::nullopt, {{"name", "kim"}}));
 }
 
@@ -73,8 +77,7 @@ void showLiveSwitch() {
   showHeading("A change of the language shows in the very next text");
   for (const char* identifier : {"en-US", "de-DE", "en-US"}) {
     language->preferredLanguages = {identifier};
-    show(std::string("Current::language -> ") + identifier,
-         ZKStrings::You_re_back_in_the_game_No_one_was_correct());
+    show(identifier, ZKStrings::You_re_back_in_the_game_No_one_was_correct());
   }
 }
 
@@ -85,19 +88,26 @@ void showCountries() {
   }
 }
 
+/// What the machine prefers, then some languages of every kind; Greek has no table, so that its texts are the
+/// English ones.
+void showEverything() {
+  explainIgnoredLanguage();
+  showTexts();
+  for (const char* identifier : {"en-US", "de-DE", "ja-JP", "el-GR"}) showTexts({identifier});
+  showFallback();
+  showLiveSwitch();
+  showCountries();
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
   language = zk::Language{};
-  if (argc > 1) language->preferredLanguages = std::vector<std::string>(argv + 1, argv + argc);
-  showTexts();
-
-  // Greek has no table, so that its texts are the English ones.
-  for (const char* identifier : {"en-US", "de-DE", "el-GR"}) {
-    language->preferredLanguages = {identifier};
-    showTexts();
+  const std::vector<std::string> given(argv + 1, argv + argc);
+  if (given.empty()) {
+    showEverything();
+    return 0;
   }
-  showFallback();
-  showLiveSwitch();
-  showCountries();
+  for (const std::string& identifier : given) showTexts({identifier});
+  if (given.size() > 1) showTexts(given);
 }

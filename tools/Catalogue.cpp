@@ -2,6 +2,7 @@
 #include <ZKStrings/tools/Catalogue.h>
 #include <ZKStrings/tools/Characters.h>
 #include <ZKStrings/tools/Files.h>
+#include <ZKStrings/tools/Position.h>
 
 #include <algorithm>
 #include <array>
@@ -18,6 +19,8 @@ namespace {
 
 constexpr std::pair<Entry::Kept, const char*> kKeptNames[] = {{Entry::Kept::key, "key"},
                                                               {Entry::Kept::place, "place"}};
+
+constexpr const char* kNoObject = R"(the line is no JSON object; write {"key": "...", "text": "..."})";
 
 /// Reads the lines of entries.json into entries and collects what is wrong with each by itself.
 class Reader {
@@ -45,16 +48,18 @@ class Reader {
   }
 
   std::optional<Entry> readLine(std::string_view line, bool isLast) {
-    if (line.ends_with(',') == isLast) {
-      fail(line_, line.size(),
+    const bool hasComma = line.ends_with(',');
+    if (hasComma) line.remove_suffix(1);
+    if (hasComma == isLast) {
+      fail(line_, positionOf(line, line.size()).column,
            isLast ? "a comma behind the last entry; remove it" : "no comma behind the entry; add one");
     }
-    if (line.ends_with(',')) line.remove_suffix(1);
     try {
       return entryFrom(nlohmann::json::parse(line));
     } catch (const nlohmann::json::parse_error& fault) {
-      fail(line_, positionOf(line, fault.byte - 1).column,
-           "the line is no JSON object; write {\"key\": \"...\", \"text\": \"...\"}");
+      fail(line_, positionOf(line, std::max<std::size_t>(fault.byte, 1) - 1).column, kNoObject);
+    } catch (const nlohmann::json::out_of_range&) {
+      fail(line_, 1, kNoObject);
     }
     return std::nullopt;
   }
@@ -64,7 +69,7 @@ class Reader {
     entry.line = line_;
     const std::size_t before = faults_.size();
     if (!object.is_object()) {
-      fail(line_, 1, "the line is no JSON object; write {\"key\": \"...\", \"text\": \"...\"}");
+      fail(line_, 1, kNoObject);
       return std::nullopt;
     }
     for (const auto& [name, value] : object.items()) {
@@ -125,6 +130,11 @@ void checkEntry(const Entry& entry, const std::string& file, Faults& faults) {
       fail(fmt::format("the placeholder \"%{{{}}}\" stands twice in one text; name the second otherwise",
                        name));
     }
+  }
+  for (const PlaceholderUse& use : placeholderUses(entry.text)) {
+    if (use.isRight || !use.spelled.starts_with("%{")) continue;
+    fail(fmt::format("\"{}\" is no placeholder; write %{{name}}, with letters and digits in the braces",
+                     use.spelled));
   }
   if (entry.plural && seen.contains("count")) {
     fail("a counted entry has the argument count already; name its placeholder otherwise");

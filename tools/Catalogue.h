@@ -25,6 +25,8 @@ struct Entry {
 
 /// The endings of the plural forms' keys, in the order of the counts.
 inline constexpr std::string_view kPluralSuffixes[] = {"_zero", "_one", "_two", "_few", "_many"};
+/// The counts that each of them serves, for people.
+inline constexpr std::string_view kCountsOfForms[] = {"0", "1", "2", "3, 4 and 5", "6 and more"};
 
 /// All texts of the app, in catalogue order.
 class Catalogue {
@@ -36,6 +38,7 @@ class Catalogue {
   [[nodiscard]] static Catalogue parse(std::string_view json, const std::string& file);
 
   [[nodiscard]] const std::vector<Entry>& entries() const { return entries_; }
+  [[nodiscard]] std::vector<Entry>& entries() { return entries_; }
 
   /// The keys that the module looks up: those of entries without a count, and the five plural forms of the
   /// others, in catalogue order. `entry` is the one whose English text the form translates.

@@ -12,4 +12,11 @@ namespace zk::tools {
 /// `text` with its ASCII capitals as small letters, as keys and language codes are compared.
 [[nodiscard]] std::string lowerCased(std::string_view text);
 
+/// `text` with line breaks instead of blanks, so that no line has more than `width` code points, but for
+/// words that have more. What begins a new line is behind `indent` blanks, but for the first.
+[[nodiscard]] std::string wrapped(std::string_view text, std::size_t width, std::size_t indent = 0);
+
+/// The columns that what the command prints about itself fits in.
+inline constexpr std::size_t kTerminalWidth = 80;
+
 }  // namespace zk::tools

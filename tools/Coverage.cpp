@@ -2,9 +2,9 @@
 #include <ZKStrings/tools/Coverage.h>
 #include <ZKStrings/tools/Languages.h>
 #include <ZKStrings/tools/Table.h>
+#include <ZKStrings/tools/TranslationState.h>
 
 #include <algorithm>
-#include <map>
 #include <string_view>
 
 #include <fmt/format.h>
@@ -14,52 +14,63 @@ namespace zk::tools {
 
 namespace {
 
-constexpr std::size_t kBarWidth = 20;
+constexpr std::size_t kBarWidth = 15;
+constexpr std::string_view kHeading = "language";
 
-Coverage coverageOf(const std::string& language, const Table& table, const Catalogue& catalogue) {
-  Coverage coverage{language, 0, 0, 0, table.faults.empty()};
-  std::map<std::string_view, std::string_view> texts;
-  if (coverage.isWellFormed) {
-    for (const TableEntry& entry : table.entries) texts[entry.key] = entry.text;
+std::size_t& countOf(TranslationState state, Coverage& coverage) {
+  switch (state) {
+    case TranslationState::missing:
+      return coverage.missing;
+    case TranslationState::untranslated:
+      return coverage.untranslated;
+    case TranslationState::needsReview:
+      return coverage.needsReview;
+    case TranslationState::translated:
+      break;
   }
-  for (const auto& [key, entry, suffix] : catalogue.lookedUpKeys()) {
-    const auto text = texts.find(key);
-    const bool isThere = text != texts.end() && !text->second.empty();
-    ++(isThere ? coverage.there : coverage.missing);
-    if (!isThere && !suffix.empty()) ++coverage.missingPluralForms;
+  return coverage.translated;
+}
+
+Coverage coverageOf(const std::string& language, const Table& table, const EnglishTexts& english) {
+  Coverage coverage{language};
+  coverage.isWellFormed = table.faults.empty();
+  for (const EnglishText& text : english.all()) {
+    const TableEntry* const entry = coverage.isWellFormed ? table.find(text.key) : nullptr;
+    ++countOf(stateOf(language, entry, text), coverage);
   }
   return coverage;
 }
 
 std::string lineOf(const Coverage& coverage, std::size_t nameWidth) {
   const std::size_t filled = coverage.percent() * kBarWidth / 100;
-  return fmt::format(
-      "{:<{}}  {:>5} there  {:>5} missing, {:>4} of them plural forms  {:>3}%  [{:#<{}}{:-<{}}]{}\n",
-      coverage.language, nameWidth, coverage.there, coverage.missing, coverage.missingPluralForms,
-      coverage.percent(), "", filled, "", kBarWidth - filled,
-      coverage.isWellFormed ? "" : "  no well-formed table: see zkstrings check");
+  const std::string bar = fmt::format("{:#<{}}{:-<{}}", "", filled, "", kBarWidth - filled);
+  return fmt::format("{:<{}}{:>12}{:>10}{:>14}{:>9}{:>6}%  {}\n", coverage.language, nameWidth,
+                     coverage.translated, coverage.needsReview, coverage.untranslated, coverage.missing,
+                     coverage.percent(), coverage.isWellFormed ? bar : "see check");
 }
 
 }  // namespace
 
 std::size_t Coverage::percent() const {
-  const std::size_t all = there + missing;
-  return all == 0 ? 100 : there * 100 / all;
+  const std::size_t all = translated + needsReview + untranslated + missing;
+  return all == 0 ? 100 : translated * 100 / all;
 }
 
 std::vector<Coverage> coverageOf(const std::string& root) {
   const Catalogue catalogue = Catalogue::read(root);
+  const EnglishTexts english(catalogue, Table::read(root, kBase));
   std::vector<Coverage> languages;
   for (const std::string& language : languagesIn(root)) {
-    languages.push_back(coverageOf(language, Table::read(root, language), catalogue));
+    languages.push_back(coverageOf(language, Table::read(root, language), english));
   }
   return languages;
 }
 
 std::string formatted(const std::vector<Coverage>& languages) {
-  std::size_t nameWidth = 0;
+  std::size_t nameWidth = kHeading.size();
   for (const Coverage& coverage : languages) nameWidth = std::max(nameWidth, coverage.language.size());
-  std::string lines;
+  std::string lines = fmt::format("{:<{}}{:>12}{:>10}{:>14}{:>9}\n", kHeading, nameWidth, "translated",
+                                  "to review", "untranslated", "missing");
   for (const Coverage& coverage : languages) lines += lineOf(coverage, nameWidth);
   return lines;
 }
@@ -68,9 +79,10 @@ std::string toJson(const std::vector<Coverage>& languages) {
   std::vector<std::string> objects;
   for (const Coverage& coverage : languages) {
     const nlohmann::ordered_json object = {
-        {"language", coverage.language}, {"there", coverage.there},
-        {"missing", coverage.missing},   {"missingPluralForms", coverage.missingPluralForms},
-        {"percent", coverage.percent()}, {"wellFormed", coverage.isWellFormed}};
+        {"language", coverage.language},       {"translated", coverage.translated},
+        {"needsReview", coverage.needsReview}, {"untranslated", coverage.untranslated},
+        {"missing", coverage.missing},         {"percent", coverage.percent()},
+        {"wellFormed", coverage.isWellFormed}};
     objects.push_back(object.dump(-1, ' ', false, nlohmann::ordered_json::error_handler_t::replace));
   }
   return objects.empty() ? "[]" : fmt::format("[\n  {}\n]", fmt::join(objects, ",\n  "));

@@ -6,16 +6,16 @@
 
 namespace zk::tools {
 
-/// How much of what the module looks up a language's table has. A text is there when its key is looked up and
-/// the table has it with a text that is not empty.
+/// How far the translations of what the module looks up have come in a language's table.
 struct Coverage {
   std::string language;
-  std::size_t there = 0;
+  std::size_t translated = 0;
+  std::size_t needsReview = 0;
+  std::size_t untranslated = 0;
   std::size_t missing = 0;
-  std::size_t missingPluralForms = 0;  ///< of those missing
-  bool isWellFormed = true;            ///< the module reads nothing of a table that is not
+  bool isWellFormed = true;  ///< the module reads nothing of a table that is not, so that all is missing
 
-  /// Rounded down, so that 100 means all.
+  /// Of the translated ones, rounded down, so that 100 means all.
   [[nodiscard]] std::size_t percent() const;
 };
 
@@ -24,11 +24,11 @@ struct Coverage {
 /// listed.
 [[nodiscard]] std::vector<Coverage> coverageOf(const std::string& root);
 
-/// One line for each language, aligned, with a bar.
+/// A heading and one line for each language, aligned, with a bar, within 80 columns.
 [[nodiscard]] std::string formatted(const std::vector<Coverage>& languages);
 
-/// A JSON array of objects with the members language, there, missing, missingPluralForms, percent and
-/// wellFormed, one object a line.
+/// A JSON array of objects with the members language, translated, needsReview, untranslated, missing, percent
+/// and wellFormed, one object a line.
 [[nodiscard]] std::string toJson(const std::vector<Coverage>& languages);
 
 }  // namespace zk::tools

@@ -37,7 +37,7 @@ std::string_view EnglishText::dispensable() const {
 EnglishTexts::EnglishTexts(const Catalogue& catalogue, const Table& base) {
   for (auto& [key, entry, suffix] : catalogue.lookedUpKeys()) {
     const TableEntry* const form = suffix.empty() ? nullptr : base.find(key);
-    places_.emplace(key, texts_.size());
+    if (!places_.emplace(key, texts_.size()).second) continue;
     texts_.push_back({key, entry, suffix, form ? form->text : entry->text});
   }
 }

@@ -1,7 +1,5 @@
 #include <ZKStrings/tools/Fault.h>
 
-#include <algorithm>
-
 #include <fmt/color.h>
 #include <fmt/format.h>
 #include <nlohmann/json.hpp>
@@ -21,29 +19,18 @@ Style styleOf(Severity severity) {
       return {"error", fmt::terminal_color::red};
     case Severity::warning:
       return {"warning", fmt::terminal_color::magenta};
+    case Severity::gap:
+      return {"gap", fmt::terminal_color::blue};
     case Severity::note:
       break;
   }
   return {"note", fmt::terminal_color::cyan};
 }
 
-bool isContinuationByte(char byte) {
-  return (static_cast<unsigned char>(byte) & 0xC0) == 0x80;
-}
-
 }  // namespace
 
 const char* nameOf(Severity severity) {
   return styleOf(severity).name;
-}
-
-Position positionOf(std::string_view text, std::size_t offset) {
-  const std::string_view before = text.substr(0, offset);
-  const auto lines = static_cast<std::size_t>(std::count(before.begin(), before.end(), '\n'));
-  const std::string_view line = before.substr(before.rfind('\n') + 1);
-  const auto continued =
-      static_cast<std::size_t>(std::count_if(line.begin(), line.end(), isContinuationByte));
-  return {lines + 1, line.size() - continued + 1};
 }
 
 std::string formatted(const Fault& fault, bool coloured) {

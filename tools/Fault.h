@@ -7,8 +7,8 @@
 
 namespace zk::tools {
 
-/// From the gravest to the mildest.
-enum class Severity { error, warning, note };
+/// From the gravest to the mildest. A gap is no fault: something that is not translated yet.
+enum class Severity { error, warning, gap, note };
 
 [[nodiscard]] const char* nameOf(Severity severity);
 
@@ -23,13 +23,6 @@ struct Fault {
 };
 
 using Faults = std::vector<Fault>;
-
-/// The line and column, both from 1, of the byte `offset` of the UTF-8 text `text`.
-struct Position {
-  std::size_t line;
-  std::size_t column;
-};
-[[nodiscard]] Position positionOf(std::string_view text, std::size_t offset);
 
 /// The fault as one line, "file:line:column: error: message [rule]", with colours when `coloured`.
 [[nodiscard]] std::string formatted(const Fault& fault, bool coloured);

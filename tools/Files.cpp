@@ -2,10 +2,15 @@
 #include <ZKStrings/tools/Fault.h>
 #include <ZKStrings/tools/Files.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <list>
 #include <optional>
 #include <system_error>
+#include <utility>
+
+#include <unistd.h>
 
 namespace zk::tools {
 
@@ -13,21 +18,97 @@ namespace fs = std::filesystem;
 
 namespace {
 
+constexpr const char* kMark = "catalogue/entries.json";
+
 [[noreturn]] void fail(const std::string& path, std::string message) {
   throw CommandFailed{{{Severity::error, path, 1, 1, "", std::move(message)}}};
 }
 
+[[noreturn]] void failToWrite(const std::string& path) {
+  fail(path, "the file cannot be written; see that it and its directory may be written and have room");
+}
+
+bool write(const fs::path& path, std::string_view bytes) {
+  std::ofstream file(path, std::ios::binary);
+  file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+  file.close();
+  return file.good();
+}
+
+/// The new contents of a file, written beside it; gone with this object unless they took the file's place.
+class StagedFile {
+ public:
+  StagedFile(const std::string& root, const FileChange& change) : path_(change.path) {
+    std::error_code failure;
+    target_ = fs::weakly_canonical(fs::path(root) / change.path, failure);
+    if (failure) target_ = fs::path(root) / change.path;
+    beside_ = target_.string() + ".new";
+    fs::create_directories(target_.parent_path(), failure);
+    const fs::file_status before = fs::status(target_, failure);
+    const bool exists = fs::exists(before);
+    if (exists && (!fs::is_regular_file(before) || access(target_.c_str(), W_OK) != 0)) failToWrite(path_);
+    old_ = exists ? contentsOfFile(target_.string()) : std::nullopt;
+    if (!write(beside_, change.bytes)) discard();
+    if (exists) fs::permissions(beside_, before.permissions(), failure);
+  }
+  ~StagedFile() {
+    std::error_code failure;
+    if (!isInPlace_) fs::remove(beside_, failure);
+  }
+  StagedFile(const StagedFile&) = delete;
+  StagedFile& operator=(const StagedFile&) = delete;
+
+  void putInPlace() {
+    std::error_code failure;
+    fs::rename(beside_, target_, failure);
+    if (failure) failToWrite(path_);
+    isInPlace_ = true;
+  }
+
+  void takeBack() const {
+    std::error_code failure;
+    if (!isInPlace_) return;
+    if (old_) {
+      write(target_, *old_);
+    } else {
+      fs::remove(target_, failure);
+    }
+  }
+
+ private:
+  [[noreturn]] void discard() const {
+    std::error_code failure;
+    fs::remove(beside_, failure);
+    failToWrite(path_);
+  }
+
+  const std::string path_;
+  fs::path target_;
+  fs::path beside_;
+  std::optional<std::string> old_;
+  bool isInPlace_ = false;
+};
+
 }  // namespace
 
 std::string findRoot() {
-  for (fs::path directory = fs::current_path();; directory = directory.parent_path()) {
-    std::error_code failure;
-    if (fs::exists(directory / "catalogue/entries.json", failure)) return directory.string();
+  std::error_code failure;
+  fs::path directory = fs::current_path(failure);
+  while (!failure) {
+    if (fs::exists(directory / kMark, failure)) return directory.string();
     if (directory == directory.parent_path()) break;
+    directory = directory.parent_path();
+    failure.clear();
   }
-  fail("catalogue/entries.json",
+  fail(kMark,
        "not found from the working directory upward; run the command inside the project, or name it with "
        "--root");
+}
+
+std::string rootAt(const std::string& directory) {
+  std::error_code failure;
+  if (fs::exists(fs::path(directory) / kMark, failure)) return directory;
+  fail((fs::path(directory) / kMark).string(), "no such file; --root names the folder that holds catalogue/");
 }
 
 std::string readFile(const std::string& root, const std::string& path) {
@@ -36,17 +117,19 @@ std::string readFile(const std::string& root, const std::string& path) {
   return *std::move(bytes);
 }
 
+void writeFiles(const std::string& root, const std::vector<FileChange>& changes) {
+  std::list<StagedFile> files;
+  for (const FileChange& change : changes) files.emplace_back(root, change);
+  try {
+    for (StagedFile& file : files) file.putInPlace();
+  } catch (const CommandFailed&) {
+    for (const StagedFile& file : files) file.takeBack();
+    throw;
+  }
+}
+
 void writeFile(const std::string& root, const std::string& path, std::string_view bytes) {
-  const fs::path target = fs::path(root) / path;
-  const fs::path beside = target.string() + ".new";
-  std::error_code failure;
-  fs::create_directories(target.parent_path(), failure);
-  std::ofstream file(beside, std::ios::binary);
-  file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-  file.close();
-  if (file) fs::rename(beside, target, failure);
-  if (!file || failure)
-    fail(path, "the file cannot be written; see that its directory may be written and has room");
+  writeFiles(root, {{path, std::string(bytes)}});
 }
 
 std::vector<std::string_view> linesOf(std::string_view text) {

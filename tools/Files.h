@@ -10,11 +10,23 @@ namespace zk::tools {
 /// catalogue/entries.json. Throws `CommandFailed` when there is none.
 [[nodiscard]] std::string findRoot();
 
+/// `directory`, if it is the root of a project. Throws `CommandFailed` when it holds no catalogue.
+[[nodiscard]] std::string rootAt(const std::string& directory);
+
 /// All bytes of the file at `path` below `root`. Throws `CommandFailed` when it cannot be read.
 [[nodiscard]] std::string readFile(const std::string& root, const std::string& path);
 
-/// Replaces the file as a whole, or not at all: it is written beside and renamed. Throws `CommandFailed` when
-/// it fails.
+/// What a file is to hold.
+struct FileChange {
+  std::string path;  ///< below the project's root
+  std::string bytes;
+};
+
+/// Replaces all of the files, or none: what is new is written beside them first and then put in their places. Files
+/// keep their permissions, links keep pointing to them. Throws `CommandFailed`, naming the file, when it fails.
+void writeFiles(const std::string& root, const std::vector<FileChange>& changes);
+
+/// The same for one file.
 void writeFile(const std::string& root, const std::string& path, std::string_view bytes);
 
 /// The lines of `text`, without their ends.

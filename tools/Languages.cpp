@@ -1,14 +1,18 @@
-#include <ZKStrings/platform/text/UnicodeText.h>
 #include <ZKStrings/tools/Characters.h>
 #include <ZKStrings/tools/Fault.h>
 #include <ZKStrings/tools/Languages.h>
+#include <ZKStrings/tools/Nearest.h>
 
 #include <algorithm>
+#include <array>
+#include <cstdint>
 #include <filesystem>
 #include <iterator>
 #include <system_error>
 
 #include <fmt/format.h>
+#include <unicode/uloc.h>
+#include <unicode/ustring.h>
 
 namespace zk::tools {
 
@@ -19,27 +23,54 @@ namespace {
 constexpr const char* kResources = "resources";
 constexpr const char* kExtension = ".lproj";
 
-/// ISO 639-1.
-constexpr std::string_view kLanguageCodes[] = {
-    "aa", "ab", "ae", "af", "ak", "am", "an", "ar", "as", "av", "ay", "az", "ba", "be", "bg", "bh", "bi",
-    "bm", "bn", "bo", "br", "bs", "ca", "ce", "ch", "co", "cr", "cs", "cu", "cv", "cy", "da", "de", "dv",
-    "dz", "ee", "el", "en", "eo", "es", "et", "eu", "fa", "ff", "fi", "fj", "fo", "fr", "fy", "ga", "gd",
-    "gl", "gn", "gu", "gv", "ha", "he", "hi", "ho", "hr", "ht", "hu", "hy", "hz", "ia", "id", "ie", "ig",
-    "ii", "ik", "io", "is", "it", "iu", "ja", "jv", "ka", "kg", "ki", "kj", "kk", "kl", "km", "kn", "ko",
-    "kr", "ks", "ku", "kv", "kw", "ky", "la", "lb", "lg", "li", "ln", "lo", "lt", "lu", "lv", "mg", "mh",
-    "mi", "mk", "ml", "mn", "mr", "ms", "mt", "my", "na", "nb", "nd", "ne", "ng", "nl", "nn", "no", "nr",
-    "nv", "ny", "oc", "oj", "om", "or", "os", "pa", "pi", "pl", "ps", "pt", "qu", "rm", "rn", "ro", "ru",
-    "rw", "sa", "sc", "sd", "se", "sg", "si", "sk", "sl", "sm", "sn", "so", "sq", "sr", "ss", "st", "su",
-    "sv", "sw", "ta", "te", "tg", "th", "ti", "tk", "tl", "tn", "to", "tr", "ts", "tt", "tw", "ty", "ug",
-    "uk", "ur", "uz", "ve", "vi", "vo", "wa", "wo", "xh", "yi", "yo", "za", "zh", "zu"};
-
 /// Languages whose nouns stay as they are behind a number.
 constexpr std::string_view kUninflected[] = {"az", "ba", "bo", "dz", "fa", "hu", "id", "ja", "jv", "ka",
                                              "kk", "km", "ko", "ky", "lo", "mn", "ms", "my", "su", "th",
                                              "tk", "tr", "tt", "ug", "uz", "vi", "za", "zh"};
 
+/// Whether ISO 639-1 has the code.
 bool isLanguageCode(std::string_view code) {
-  return std::binary_search(std::begin(kLanguageCodes), std::end(kLanguageCodes), code);
+  if (code.size() != 2) return false;
+  const char* const* known = uloc_getISOLanguages();
+  while (*known && code != *known) ++known;
+  return *known != nullptr;
+}
+
+/// The language's name, in lower case, as it is called in the language `in`.
+std::string nameOf(const char* language, const char* in) {
+  UErrorCode status = U_ZERO_ERROR;
+  std::array<UChar, 128> name{};
+  uloc_getDisplayLanguage(language, in, name.data(), static_cast<std::int32_t>(name.size()), &status);
+  std::array<char, 512> bytes{};
+  u_strToUTF8(bytes.data(), static_cast<std::int32_t>(bytes.size()), nullptr, name.data(), -1, &status);
+  return U_SUCCESS(status) ? lowerCased(bytes.data()) : "";
+}
+
+/// The code of the language that is called `name`, in lower case, in English or by itself; empty when none is.
+std::string codeOfName(std::string_view name) {
+  for (const char* const* code = uloc_getISOLanguages(); *code; ++code) {
+    if (isLanguageCode(*code) && (name == nameOf(*code, "en") || name == nameOf(*code, *code))) return *code;
+  }
+  return "";
+}
+
+/// What to do about `name`, which means no language that ICU knows.
+std::string adviceFor(std::string_view name, const std::vector<std::string>& languages) {
+  std::vector<std::string> names = languages;
+  for (const std::string& language : languages) names.push_back(nameOf(language.c_str(), "en"));
+  const auto meant = nearest(name, {names.begin(), names.end()});
+  return meant ? fmt::format("write \"{}\" if that is meant", *meant)
+               : "zkstrings coverage lists those that have one";
+}
+
+/// The name without the folders before it and the extension: "de" for "resources/de.lproj/Localizable.strings".
+std::string_view withoutPath(std::string_view word) {
+  constexpr std::string_view kTable = "/Localizable.strings";
+  while (word.ends_with('/')) word.remove_suffix(1);
+  if (word.ends_with(kTable)) word.remove_suffix(kTable.size());
+  word.remove_prefix(word.rfind('/') + 1);
+  if (word.ends_with(kExtension)) word.remove_suffix(std::string_view(kExtension).size());
+  return word;
 }
 
 }  // namespace
@@ -59,17 +90,47 @@ std::vector<std::string> languagesIn(const std::string& root) {
   return languages;
 }
 
+std::string languageCodeOf(std::string_view word) {
+  const std::string name = lowerCased(withoutPath(word));
+  const std::string language = name.substr(0, name.find_first_of("-_.@"));
+  if (isLanguageCode(language)) return language;
+  UErrorCode status = U_ZERO_ERROR;
+  std::array<char, ULOC_FULLNAME_CAPACITY> canonical{};
+  uloc_toLanguageTag(language.c_str(), canonical.data(), static_cast<std::int32_t>(canonical.size()), false,
+                     &status);
+  if (U_SUCCESS(status) && isLanguageCode(canonical.data())) return canonical.data();
+  return codeOfName(name);
+}
+
+std::string existingLanguage(const std::string& root, std::string_view word) {
+  const std::vector<std::string> languages = languagesIn(root);
+  const auto exists = [&](std::string_view name) {
+    return std::find(languages.begin(), languages.end(), name) != languages.end();
+  };
+  const std::string name(withoutPath(word));
+  if (exists(name)) return name;
+  const std::string code = languageCodeOf(word);
+  if (code == "en") return std::string(kBase);
+  if (exists(code)) return code;
+
+  const std::string advice = code.empty() ? adviceFor(lowerCased(name), languages)
+                                          : fmt::format("zkstrings template {} begins one", code);
+  throw CommandFailed{
+      {{Severity::error, kResources, 1, 1, "", fmt::format("no table for \"{}\"; {}", word, advice)}}};
+}
+
 std::string whyNeverChosen(std::string_view language) {
   if (language == kBase) return "";
   if (language == "en") {
     return "the module never chooses en.lproj, it takes English from Base.lproj; write the texts there";
   }
   if (isLanguageCode(language)) return "";
-  const std::string code = lowerCased(firstTwoCharacters(language));
+  const std::string code = languageCodeOf(language);
   return fmt::format(
-      "the module never chooses \"{}.lproj\", whose name is no language code of two characters; {}", language,
-      isLanguageCode(code) ? fmt::format("name it {}.lproj", code == "en" ? kBase : code)
-                           : "name it after the language's ISO 639-1 code");
+      "the module never chooses \"{}.lproj\", whose name is no language code of two letters; {}", language,
+      code == "en"   ? "write English in Base.lproj"
+      : code.empty() ? "only languages with an ISO 639-1 code can have a table"
+                     : fmt::format("name it {}.lproj", code));
 }
 
 bool inflectsForNumber(std::string_view language) {

@@ -13,6 +13,15 @@ inline constexpr std::string_view kBase = "Base";
 /// Throws `CommandFailed` when resources/ cannot be listed.
 [[nodiscard]] std::vector<std::string> languagesIn(const std::string& root);
 
+/// The two-letter code of the language that `word` means: a code of two or three letters ("sv", "swe"), an identifier
+/// ("sv-SE", "sv_SE.UTF-8"), the path of its table or of its directory, or the language's name in English or in the
+/// language itself, without regard to the case of ASCII letters. Empty when it means none, or one that has no such code.
+[[nodiscard]] std::string languageCodeOf(std::string_view word);
+
+/// The directory name, among those of `languagesIn`, of the language that the user's `word` means: "Base" or a code.
+/// Throws `CommandFailed`, with the nearest that exists, when there is none.
+[[nodiscard]] std::string existingLanguage(const std::string& root, std::string_view word);
+
 /// Why the module never chooses the directory that is named after `language`, and what to do; empty when it
 /// does. It looks for directories named by the first two characters of the user's languages, and for
 /// Base.lproj instead of English.

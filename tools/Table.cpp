@@ -16,38 +16,19 @@ namespace {
 
 constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
 
-/// Tells lines and columns of offsets that are asked for in rising order, reading the text once.
-class PositionTeller {
- public:
-  explicit PositionTeller(std::string_view text) : text_(text) {}
-  Position at(std::size_t offset) {
-    for (; at_ < offset; ++at_) {
-      if (text_[at_] != '\n') continue;
-      ++line_;
-      lineBegin_ = at_ + 1;
-    }
-    return {line_, positionOf(text_.substr(lineBegin_), offset - lineBegin_).column};
-  }
-
- private:
-  std::string_view text_;
-  std::size_t at_ = 0;
-  std::size_t line_ = 1;
-  std::size_t lineBegin_ = 0;
-};
-
 /// The escape that begins at the byte `offset` of `spelled`, with the whole of its character.
 std::string escapeAt(std::string_view spelled, std::size_t offset) {
   return "\\" + std::string(firstCodePoint(spelled.substr(offset + 1)).bytes);
 }
 
-TableEntry entryFrom(const StringTableReader& reader, const std::string& text, PositionTeller& positions) {
+/// The entry that `reader` has read. Comments before `commentsBegin` belong to the one before.
+TableEntry entryFrom(const StringTableReader& reader, std::string_view text, std::size_t commentsBegin,
+                     PositionTeller& positions) {
+  using Token = StringTableReader::Token;
   TableEntry entry;
-  const auto spelled = [&](const StringTableReader::Token& token) {
-    return text.substr(token.begin, token.end - token.begin);
-  };
-  const auto plain = [&](const StringTableReader::Token& token) {
-    std::string result = spelled(token);
+  const auto spelled = [&](const Token& token) { return text.substr(token.begin, token.end - token.begin); };
+  const auto plain = [&](const Token& token) {
+    std::string result(spelled(token));
     std::vector<std::size_t> unknown;
     result.resize(unescape(result.data(), result.size(), &unknown));
     for (const std::size_t offset : unknown) {
@@ -55,14 +36,34 @@ TableEntry entryFrom(const StringTableReader& reader, const std::string& text, P
     }
     return result;
   };
-  for (const auto& comment : reader.comments()) entry.comments.push_back(spelled(comment));
+  for (const Token& comment : reader.comments()) {
+    if (comment.begin < commentsBegin) continue;
+    const std::size_t closingMark = text[comment.begin - 1] == '*' ? 2 : 0;
+    entry.comments.push_back({std::string(spelled(comment)), {comment.begin - 2, comment.end + closingMark}});
+  }
+  const Token& value = reader.value();
+  const std::size_t quote = text[value.begin - 1] == '"' ? 1 : 0;
+  entry.span = {reader.entry().begin, reader.entry().end};
+  entry.spelledSpan = {value.begin - quote, value.end + quote};
   entry.keyAt = positions.at(reader.key().begin);
   entry.key = plain(reader.key());
-  entry.textAt = positions.at(reader.value().begin);
-  entry.text = plain(reader.value());
-  entry.spelled = spelled(reader.value());
-  entry.lastLine = positions.at(reader.value().end).line;
+  entry.textAt = positions.at(value.begin);
+  entry.text = plain(value);
+  entry.spelled = spelled(value);
+  entry.lastLine = positions.at(value.end).line;
   return entry;
+}
+
+/// How many bytes the text has that is spelled so.
+std::size_t textSize(std::string_view spelled) {
+  std::string text(spelled);
+  return unescape(text.data(), text.size());
+}
+
+/// Where the next escape behind `begin` begins, or the end.
+std::size_t nextEscape(std::string_view spelled, std::size_t begin) {
+  const bool isEscape = spelled.substr(begin).starts_with('\\');
+  return std::min(spelled.find('\\', begin + (isEscape ? 2 : 0)), spelled.size());
 }
 
 /// The first place on each line where the bytes are not UTF-8.
@@ -85,13 +86,27 @@ bool isMarkedUtf16Or32(std::string_view bytes) {
 
 }  // namespace
 
-Position TableEntry::placeOf(std::size_t offset) const {
-  const auto textSize = [&](std::size_t end) { return unescape(spelled.substr(0, end).data(), end); };
-  std::size_t end = spelled.size();
-  while (end > 0 && textSize(end) > offset) --end;
-  const Position within = positionOf(spelled, end);
-  const bool isOnFirstLine = within.line == 1;
-  return {textAt.line + within.line - 1, within.column + (isOnFirstLine ? textAt.column - 1 : 0)};
+TextPlaces::TextPlaces(const TableEntry& entry)
+    : spelled_(entry.spelled), positions_(spelled_, entry.textAt) {
+}
+
+void TextPlaces::readOn() {
+  const std::size_t begin = piece_.end;
+  const std::size_t end = nextEscape(spelled_, begin);
+  const std::size_t endOfTwo = nextEscape(spelled_, end);
+  const std::size_t size = textSize(spelled_.substr(begin, end - begin));
+  const std::size_t sizeOfTwo = textSize(spelled_.substr(begin, endOfTwo - begin));
+  // Two escapes that together stand for less than each by itself are one character, a surrogate pair.
+  const bool isPair = sizeOfTwo < size + textSize(spelled_.substr(end, endOfTwo - end));
+  piece_ = {begin, isPair ? endOfTwo : end};
+  text_ = {text_.end, text_.end + (isPair ? sizeOfTwo : size)};
+}
+
+Position TextPlaces::at(std::size_t offset) {
+  while (text_.end <= offset && piece_.end < spelled_.size()) readOn();
+  // Only what an escape stands for has another size than its spelling, and it comes first.
+  const std::size_t behind = text_.end - std::min(offset, text_.end);
+  return positions_.at(offset <= text_.begin ? piece_.begin : piece_.end - behind);
 }
 
 Table Table::read(const std::string& root, std::string_view language) {
@@ -102,12 +117,19 @@ Table Table::read(const std::string& root, std::string_view language) {
     return {path,
             {},
             {{Severity::error, path, 1, 1, kMissing,
-              "the language has no table that can be read; begin one with zkstrings template"}}};
+              "the language has no table that can be read; begin one with zkstrings template"}},
+            {}};
   }
 }
 
+Table Table::readWellFormed(const std::string& root, std::string_view language) {
+  Table table = read(root, language);
+  if (!table.faults.empty()) throw CommandFailed{std::move(table.faults)};
+  return table;
+}
+
 Table Table::parse(std::string bytes, std::string file) {
-  Table table{std::move(file), {}, {}};
+  Table table{std::move(file), {}, {}, {}};
   const auto fail = [&](Position at, const char* rule, std::string message) {
     table.faults.push_back({Severity::error, table.file, at.line, at.column, rule, std::move(message)});
   };
@@ -126,18 +148,37 @@ Table Table::parse(std::string bytes, std::string file) {
   PositionTeller positions(*text);
   StringTableReader reader(*text);
   for (;;) {
-    while (reader.next()) table.entries.push_back(entryFrom(reader, *text, positions));
+    while (reader.next()) {
+      const std::size_t commentsBegin = table.entries.empty() ? 0 : endOfLine(*text, table.entries.back());
+      table.entries.push_back(entryFrom(reader, *text, commentsBegin, positions));
+      table.places.insert_or_assign(table.entries.back().key, table.entries.size() - 1);
+    }
     if (!reader.fault()) return table;
-    fail(positionOf(*text, reader.fault()->offset), kSyntax,
+    fail(positions.at(reader.fault()->offset), kSyntax,
          fmt::format("expected {}; write \"key\" = \"text\";", reader.fault()->expected));
     reader.recover();
   }
 }
 
 const TableEntry* Table::find(std::string_view key) const {
-  const auto found = std::find_if(entries.rbegin(), entries.rend(),
-                                  [&](const TableEntry& entry) { return entry.key == key; });
-  return found == entries.rend() ? nullptr : &*found;
+  const auto place = places.find(key);
+  return place == places.end() ? nullptr : &entries[place->second];
+}
+
+std::size_t endOfLine(std::string_view text, const TableEntry& entry) {
+  for (std::size_t at = entry.span.end;;) {
+    at = std::min(text.find_first_not_of(" \t\r", at), text.size());
+    const std::string_view rest = text.substr(at);
+    if (rest.empty()) return at;
+    if (rest.starts_with('\n')) return at + 1;
+    if (rest.starts_with("//")) {
+      at = std::min(text.find('\n', at), text.size());
+    } else if (rest.starts_with("/*")) {
+      at = std::min(text.find("*/", at + 2), text.size() - 2) + 2;
+    } else {
+      return entry.span.end;
+    }
+  }
 }
 
 std::string tablePath(std::string_view language) {

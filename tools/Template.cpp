@@ -1,7 +1,9 @@
 #include <ZKStrings/platform/text/TextSearch.h>
+#include <ZKStrings/tools/EntryComments.h>
 #include <ZKStrings/tools/Files.h>
 #include <ZKStrings/tools/Languages.h>
 #include <ZKStrings/tools/Template.h>
+#include <ZKStrings/tools/TranslationState.h>
 
 #include <filesystem>
 #include <system_error>
@@ -13,17 +15,10 @@ namespace zk::tools {
 
 namespace {
 
-/// `text` as a comment on one line, which no text ends early.
+/// `text` as a comment, which no text ends early.
 std::string comment(std::string text) {
   replaceOccurrences(text, "*/", "* /");
-  return fmt::format("/* {} */\n", text);
-}
-
-std::string entryFor(const EnglishText& english) {
-  std::string about = fmt::format("English: \"{}\"", escaped(english.text));
-  const std::vector<std::string_view> names = english.placeholders();
-  if (!names.empty()) about += fmt::format("; placeholders: %{{{}}}", fmt::join(names, "}, %{"));
-  return "\n" + comment(std::move(about)) + tableLine(english.key, english.text);
+  return fmt::format("/* {} */", text);
 }
 
 [[noreturn]] void refuse(const std::string& path, std::string message) {
@@ -32,10 +27,24 @@ std::string entryFor(const EnglishText& english) {
 
 }  // namespace
 
+std::string explanationOf(const EnglishText& english) {
+  std::string about = fmt::format("{} \"{}\"", kExplanation, escaped(english.text));
+  const std::vector<std::string_view> names = english.placeholders();
+  if (!names.empty()) about += fmt::format("; placeholders: %{{{}}}", fmt::join(names, "}, %{"));
+  return comment(std::move(about));
+}
+
+std::string untranslatedEntry(const EnglishText& english) {
+  const std::string mark =
+      isSameEverywhere(english.text) ? "" : markFor(TranslationState::untranslated) + "\n";
+  return explanationOf(english) + "\n" + mark + tableLine(english.key, english.text);
+}
+
 std::string templateFor(std::string_view language, const EnglishTexts& english) {
   std::string table = comment(fmt::format(
       "Language {}. Translate the texts behind the equals signs; keep keys and placeholders.", language));
-  for (const EnglishText& text : english.all()) table += entryFor(text);
+  table += "\n";
+  for (const EnglishText& text : english.all()) table += "\n" + untranslatedEntry(text);
   return table;
 }
 
@@ -48,9 +57,7 @@ std::size_t writeTemplate(const std::string& root, const std::string& language) 
     refuse(path, "the table is there already, and its texts would be lost; remove it first to begin anew");
   }
   const Catalogue catalogue = Catalogue::read(root);
-  Table base = Table::read(root, kBase);
-  if (!base.faults.empty()) throw CommandFailed{std::move(base.faults)};
-  const EnglishTexts english(catalogue, base);
+  const EnglishTexts english(catalogue, Table::readWellFormed(root, kBase));
   writeFile(root, path, templateFor(language, english));
   return english.all().size();
 }

@@ -1,6 +1,8 @@
+#include <ZKStrings/tools/Characters.h>
 #include <ZKStrings/tools/Coverage.h>
 #include <ZKStrings/tools/Nearest.h>
 #include <ZKStrings/tools/Table.h>
+#include <ZKStrings/tools/TableUpdate.h>
 #include <ZKStrings/tools/Template.h>
 #include <ZKStrings/tools/TranslationCommandLine.h>
 #include <ZKStrings/tools/check/Checker.h>
@@ -29,7 +31,9 @@ void addFormat(CLI::App& command, std::string& format) {
 
 void printRules() {
   for (const auto& [name, severity, summary] : checkRules()) {
-    fmt::print("{:<22} {:<8} {}\n", name, nameOf(severity), summary);
+    constexpr std::size_t kIndent = 32;
+    fmt::print("{:<22} {:<8} {}\n", name, nameOf(severity),
+               wrapped(summary, kTerminalWidth - kIndent, kIndent));
   }
 }
 
@@ -49,13 +53,58 @@ CLI::Validator isRule() {
   return {refusal, ""};
 }
 
-void print(const Faults& faults, const std::string& format) {
-  if (format == kJson) {
-    fmt::print("{}\n", toJson(faults));
-    return;
-  }
+/// "2 warnings"; nothing for none.
+void addCount(std::vector<std::string>& counts, std::size_t count, std::string_view singular,
+              std::string_view plural) {
+  if (count > 0) counts.push_back(fmt::format("{} {}", count, count == 1 ? singular : plural));
+}
+
+/// "13 tables, 246 countries: 1 error, 2 gaps".
+std::string summaryOf(const CheckResult& result) {
+  const auto count = [&](Severity severity) {
+    return static_cast<std::size_t>(
+        std::count_if(result.faults.begin(), result.faults.end(),
+                      [&](const Fault& fault) { return fault.severity == severity; }));
+  };
+  std::vector<std::string> checked;
+  addCount(checked, result.tables, "table", "tables");
+  addCount(checked, result.countries, "country", "countries");
+  std::vector<std::string> found;
+  addCount(found, count(Severity::error), "error", "errors");
+  addCount(found, count(Severity::warning), "warning", "warnings");
+  if (found.empty()) found.emplace_back("nothing to mend");
+  addCount(found, count(Severity::gap), "gap", "gaps");
+  addCount(found, count(Severity::note), "note", "notes");
+  return fmt::format("{}: {}", fmt::join(checked, ", "), fmt::join(found, ", "));
+}
+
+void print(const Faults& faults) {
   const bool isTerminal = isatty(STDOUT_FILENO) == 1;
   for (const Fault& fault : faults) fmt::print("{}\n", formatted(fault, isTerminal));
+}
+
+void print(const CheckResult& result, const std::string& format) {
+  if (format == kJson) {
+    fmt::print("{}\n", toJson(result.faults));
+    return;
+  }
+  print(result.faults);
+  if (isatty(STDOUT_FILENO) == 1) fmt::print("{}\n", summaryOf(result));
+}
+
+/// "added 3 texts to translate, removed 1 entry".
+std::string summaryOf(const TableUpdate& update) {
+  std::vector<std::string> done;
+  const auto add = [&](std::string_view verb, std::size_t count, std::string_view singular,
+                       std::string_view plural) {
+    addCount(done, count, singular, plural);
+    if (count > 0) done.back().insert(0, std::string(verb) + " ");
+  };
+  add("added", update.added, "text to translate", "texts to translate");
+  add("marked", update.marked, "text as untranslated", "texts as untranslated");
+  add("unmarked", update.unmarked, "translated text", "translated texts");
+  add("removed", update.removed, "entry that nothing looks up", "entries that nothing looks up");
+  return fmt::format("{}", fmt::join(done, ", "));
 }
 
 }  // namespace
@@ -65,6 +114,7 @@ void addCheckCommand(CLI::App& app, const RootFinder& inRoot, int& status) {
     CheckOptions options;
     std::string format;
     bool isStrict = false;
+    bool isForRelease = false;
     bool showsRules = false;
   };
   const auto arguments = std::make_shared<Arguments>();
@@ -77,22 +127,28 @@ void addCheckCommand(CLI::App& app, const RootFinder& inRoot, int& status) {
       ->check(isRule())
       ->type_name("RULE");
   command->add_flag("--strict", arguments->isStrict, "Fail on warnings as well");
+  command->add_flag("--complete", arguments->isForRelease,
+                    "Fail on gaps as well, texts that are not translated yet: for a release");
   command->add_flag("--notes", arguments->options.notes, "Show also what may be right, but is worth a look");
   command->add_flag("--rules", arguments->showsRules, "List the rules instead");
   addFormat(*command, arguments->format);
   command->callback([arguments, inRoot, &status] {
     if (arguments->showsRules) return printRules();
-    const Faults faults = check(inRoot(), arguments->options);
-    print(faults, arguments->format);
-    const Severity mildest = arguments->isStrict ? Severity::warning : Severity::error;
-    const auto fails = [&](const Fault& fault) { return fault.severity <= mildest; };
-    status = std::any_of(faults.begin(), faults.end(), fails) ? 1 : 0;
+    const CheckResult result = check(inRoot(), arguments->options);
+    print(result, arguments->format);
+    const auto fails = [&](const Fault& fault) {
+      return fault.severity == Severity::error ||
+             (fault.severity == Severity::warning && arguments->isStrict) ||
+             (fault.severity == Severity::gap && arguments->isForRelease);
+    };
+    status = std::any_of(result.faults.begin(), result.faults.end(), fails) ? 1 : 0;
   });
 }
 
 void addCoverageCommand(CLI::App& app, const RootFinder& inRoot) {
   const auto format = std::make_shared<std::string>();
-  auto* const command = app.add_subcommand("coverage", "Show how many texts each language has");
+  auto* const command =
+      app.add_subcommand("coverage", "Show how far the translations of each language have come");
   addFormat(*command, *format);
   command->callback([format, inRoot] {
     const std::vector<Coverage> languages = coverageOf(inRoot());
@@ -107,6 +163,24 @@ void addTemplateCommand(CLI::App& app, const RootFinder& inRoot) {
   command->callback([language, inRoot] {
     const std::size_t texts = writeTemplate(inRoot(), *language);
     fmt::print("Wrote {} with {} texts to translate.\n", tablePath(*language), texts);
+  });
+}
+
+void addUpdateCommand(CLI::App& app, const RootFinder& inRoot) {
+  struct Arguments {
+    std::string language;
+    bool prunes = false;
+  };
+  const auto arguments = std::make_shared<Arguments>();
+  auto* const command = app.add_subcommand(
+      "update", "Add what a language's table lacks, in English, and mark what is still in English");
+  command->add_option("language", arguments->language, "The language, as its directory is named")->required();
+  command->add_flag("--prune", arguments->prunes, "Remove the entries that nothing looks up");
+  command->callback([arguments, inRoot] {
+    const TableUpdate update = updateTable(inRoot(), arguments->language, arguments->prunes);
+    print(update.notLookedUp);
+    fmt::print("{}: {}\n", tablePath(arguments->language),
+               update.isChange() ? summaryOf(update) : "up to date, nothing changed");
   });
 }
 

@@ -1,12 +1,18 @@
-#include <ZKStrings/catalogue/KeyRule.h>
-#include <ZKStrings/platform/text/TextSearch.h>
-#include <ZKStrings/tools/CatalogueCommands.h>
+#include <ZKStrings/tools/CatalogueCommandLine.h>
 #include <ZKStrings/tools/Fault.h>
 #include <ZKStrings/tools/Files.h>
+#include <ZKStrings/tools/HelpFormatter.h>
+#include <ZKStrings/tools/Nearest.h>
 #include <ZKStrings/tools/TranslationCommandLine.h>
 
 #include <cstdio>
+#include <exception>
+#include <memory>
+#include <optional>
+#include <stdexcept>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
@@ -16,55 +22,46 @@ namespace {
 
 using namespace zk::tools;
 
+constexpr int kFailure = 1;
 constexpr int kWrongUse = 2;
 
-/// What the shell passes as \n inside quotes is meant as a line break.
-std::string withLineBreaks(std::string text) {
-  zk::replaceOccurrences(text, "\\n", "\n");
-  return text;
+/// What is wrong with a command line that names no subcommand; empty when that is not what is wrong.
+std::string unknownCommand(const CLI::App& app) {
+  const std::vector<std::string> words = app.remaining();
+  if (!app.get_subcommands().empty() || words.empty()) return "";
+  std::vector<std::string_view> names;
+  for (const CLI::App* const command : app.get_subcommands({})) names.push_back(command->get_name());
+  const std::optional<std::string_view> meant = nearest(words.front(), names);
+  return fmt::format(
+      "\"{}\" is no command; {}", words.front(),
+      meant ? fmt::format("write \"{}\" if that is meant", *meant) : "zkstrings --help lists them");
 }
 
 int run(int argc, char** argv) {
   CLI::App app{"Keeps the catalogue of texts and its translations right.", "zkstrings"};
+  app.formatter(std::make_shared<HelpFormatter>());
+  app.set_version_flag("--version", "zkstrings " ZK_VERSION);
   app.require_subcommand(1);
+  app.allow_extras();
   std::string root;
-  app.add_option("--root", root,
-                 "The project's directory; without it, found from the working directory upward");
-  const auto inRoot = [&] { return root.empty() ? findRoot() : root; };
-
-  std::string text;
-  bool plural = false;
-  auto* const generateCommand =
-      app.add_subcommand("generate", "Make the accessors of catalogue/entries.json anew");
-  generateCommand->callback([&] { generate(inRoot()); });
-
-  auto* const keyCommand = app.add_subcommand("key", "Print the key that a text gets");
-  keyCommand->add_option("text", text, "The English text; \\n stands for a line break")->required();
-  keyCommand->callback([&] { fmt::print("{}\n", zk::keyForText(withLineBreaks(text))); });
-
-  auto* const addCommand =
-      app.add_subcommand("add", "Add a text to the catalogue, the English table and the accessors");
-  addCommand
-      ->add_option("text", text, "The English text, with %{name} placeholders; \\n stands for a line break")
-      ->required();
-  addCommand->add_flag("--count", plural, "The text has plural forms, chosen by a count");
-  addCommand->callback([&] {
-    const std::string key = addEntry(inRoot(), withLineBreaks(text), plural);
-    fmt::print("Added {}.{}\n", key,
-               plural ? " Now write its five plural forms in resources/Base.lproj/Localizable.strings and "
-                        "run zkstrings generate."
-                      : "");
-  });
+  app.add_option("--root", root, "The project's folder; found from here upward otherwise")->type_name("DIR");
+  const auto inRoot = [&] { return root.empty() ? findRoot() : rootAt(root); };
 
   int status = 0;
+  addCatalogueCommands(app, inRoot);
   addCheckCommand(app, inRoot, status);
   addCoverageCommand(app, inRoot);
   addTemplateCommand(app, inRoot);
+  addUpdateCommand(app, inRoot);
+  for (CLI::App* const command : app.get_subcommands({})) command->fallthrough();
 
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& wrongUse) {
-    return app.exit(wrongUse) == 0 ? 0 : kWrongUse;
+    const std::string message = unknownCommand(app);
+    if (message.empty()) return app.exit(wrongUse) == 0 ? 0 : kWrongUse;
+    fmt::print(stderr, "{}\n", message);
+    return kWrongUse;
   }
   return status;
 }
@@ -73,10 +70,17 @@ int run(int argc, char** argv) {
 
 int main(int argc, char** argv) {
   try {
-    return run(argc, argv);
+    const int status = run(argc, argv);
+    if (std::fflush(stdout) == 0) return status;
+    fmt::print(stderr, "the output cannot be written; see that its place has room\n");
   } catch (const CommandFailed& failed) {
     for (const Fault& fault : failed.faults)
       fmt::print(stderr, "{}\n", formatted(fault, isatty(STDERR_FILENO) == 1));
-    return 1;
+  } catch (const std::invalid_argument& refused) {
+    fmt::print(stderr, "{}\n", refused.what());
+    return kWrongUse;
+  } catch (const std::exception& failure) {
+    std::fprintf(stderr, "zkstrings: %s\n", failure.what());
   }
+  return kFailure;
 }

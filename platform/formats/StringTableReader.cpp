@@ -2,6 +2,7 @@
 #include <ZKStrings/platform/text/Bytes.h>
 #include <ZKStrings/platform/text/UnicodeText.h>
 
+#include <algorithm>
 #include <cstring>
 #include <utility>
 
@@ -20,19 +21,26 @@ bool isUnquoted(char c) {
 
 }  // namespace
 
+/// Where the line behind the one of `place` begins.
+std::size_t StringTableReader::lineBehind(std::size_t place) const {
+  return std::min(text_.find('\n', place), text_.size() - 1) + 1;
+}
+
+/// `at_` stands where what cannot be read ends.
 bool StringTableReader::fail(std::size_t offset, std::string expected) {
   fault_ = Fault{offset, std::move(expected)};
   return false;
 }
 
-/// Skips a comment when one begins here; false when it has no end.
-bool StringTableReader::skipComment() {
+/// Skips a comment when one begins here; false when it has no end, and the rest of the text is skipped. Stands by
+/// itself, so that what guards its stack does not slow down the skipping of blanks.
+[[gnu::noinline]] bool StringTableReader::skipComment() {
   const std::string_view rest = text_.substr(at_);
   const bool isLine = rest.starts_with("//");
   if (!isLine && !rest.starts_with("/*")) return true;
   std::size_t length = rest.find(isLine ? "\n" : "*/", 2);
   if (length == std::string_view::npos && !isLine)
-    return fail(at_, "the end \"*/\" of the comment that begins here");
+    return fail(std::exchange(at_, text_.size()), "the end \"*/\" of the comment that begins here");
   if (length == std::string_view::npos) length = rest.size();
   comments_.push_back({at_ + 2, at_ + length});
   at_ += isLine ? length : length + 2;
@@ -61,7 +69,7 @@ inline bool StringTableReader::readQuoted(Token& token) {
     token.hasEscapes = true;
     at_ += 2;
   }
-  at_ = text_.size();
+  at_ = lineBehind(quote);
   return fail(quote, "the closing quote of the text that begins here");
 }
 
@@ -77,38 +85,43 @@ inline bool StringTableReader::readToken(Token& token, const char* expected) {
 /// Reads "=" or ";" behind the token `after`. When another character stands there and the token runs over
 /// lines, it is that token's quote that was never closed.
 inline bool StringTableReader::readMark(char mark, const Token& after) {
+  const std::size_t tokenEnd = at_;
   if (!skipBlanks()) return false;
   if (at_ < text_.size() && text_[at_] == mark) {
     ++at_;
     return true;
   }
   if (text_.substr(after.begin, after.end - after.begin).find('\n') != std::string_view::npos) {
+    at_ = lineBehind(after.begin);
     return fail(after.begin - 1, "the closing quote of the text that begins here on the same line");
   }
-  return fail(at_, mark == '=' ? "\"=\" and the text of the key" : "\";\" at the end of the entry before");
+  return mark == '=' ? fail(at_, "\"=\" and the text of the key")
+                     : fail(tokenEnd, "\";\" at the end of the entry");
 }
 
 bool StringTableReader::next() {
   comments_.clear();
-  if (fault_ || !skipBlanks() || at_ == text_.size()) return false;
+  if (fault_) return false;
+  const bool areBlanksRead = skipBlanks();
   entryBegin_ = at_;
+  if (!areBlanksRead || at_ == text_.size()) return false;
   return readToken(key_, "a key, in quotes") && readMark('=', key_) && skipBlanks() &&
          readToken(value_, "the text of the key, in quotes") && readMark(';', value_);
 }
 
 void StringTableReader::recover() {
-  const std::size_t offset = std::exchange(fault_, std::nullopt)->offset;
-  const auto beginsEntry = [&](std::size_t line) {
-    while (line < text_.size() && (text_[line] == ' ' || text_[line] == '\t')) ++line;
-    return line < text_.size() &&
-           (text_[line] == '"' || text_.substr(line, 2) == "/*" || text_.substr(line, 2) == "//");
+  fault_.reset();
+  if (at_ == text_.size()) return;
+  const auto lineBegin = [&](std::size_t place) {
+    return place == 0 ? 0 : text_.rfind('\n', place - 1) + 1;
   };
-  const auto lineAt = [&](std::size_t place) { return place == 0 ? 0 : text_.rfind('\n', place - 1) + 1; };
-  at_ = lineAt(offset);
-  while (at_ < text_.size() && (at_ <= entryBegin_ || !beginsEntry(at_))) {
-    at_ = text_.find('\n', at_);
-    at_ = at_ == std::string_view::npos ? text_.size() : at_ + 1;
-  }
+  const auto beginsEntry = [&](std::size_t line) {
+    const std::string_view rest = text_.substr(std::min(text_.find_first_not_of(" \t", line), text_.size()));
+    return rest.starts_with('"') || rest.starts_with("/*") || rest.starts_with("//");
+  };
+  // Always behind the line on which the faulty entry began, so that each recovery gets on.
+  at_ = std::max(lineBegin(at_), lineBehind(entryBegin_));
+  while (at_ < text_.size() && !beginsEntry(at_)) at_ = lineBehind(at_);
 }
 
 namespace {

@@ -40,12 +40,14 @@ class StringTableReader {
   [[nodiscard]] const Token& key() const { return key_; }
   [[nodiscard]] const Token& value() const { return value_; }
   [[nodiscard]] const std::vector<Token>& comments() const { return comments_; }
+  /// And the whole of it, from the key's quote to the semicolon.
+  [[nodiscard]] Token entry() const { return {entryBegin_, at_}; }
 
   /// After `next` gave false: the fault, or nothing at the end of the text.
   [[nodiscard]] const std::optional<Fault>& fault() const { return fault_; }
 
   /// Forgets the fault and goes on with what looks like the next entry, for tools that show all faults at
-  /// once.
+  /// once. What stands behind a comment without end belongs to the comment.
   void recover();
 
  private:
@@ -55,6 +57,7 @@ class StringTableReader {
   bool readQuoted(Token& token);
   bool readMark(char mark, const Token& after);
   bool fail(std::size_t offset, std::string expected);
+  [[nodiscard]] std::size_t lineBehind(std::size_t place) const;
 
   std::string_view text_;
   std::size_t at_ = 0;

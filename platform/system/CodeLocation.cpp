@@ -2,11 +2,12 @@
 #include <ZKStrings/platform/system/Failure.h>
 
 #include <cinttypes>
+#include <climits>
 #include <cstdint>
 #include <cstdio>
+#include <cstring>
 #include <filesystem>
-#include <fstream>
-#include <string_view>
+#include <memory>
 
 #include <dlfcn.h>
 #include <link.h>
@@ -27,21 +28,29 @@ std::string loadedName(const void* address) {
   return dladdr1(address, &info, result, RTLD_DL_LINKMAP) != 0 ? loaded->l_name : std::string();
 }
 
+struct Closer {
+  void operator()(FILE* file) const { std::fclose(file); }
+};
+
 /// The file that the kernel has mapped at `address`, always by its absolute path without links.
 std::string mappedFile(const void* address, std::error_code& failure) {
   failure.clear();
   const auto wanted = reinterpret_cast<std::uintptr_t>(address);
-  std::ifstream maps("/proc/self/maps");
-  if (!maps) failure = lastFailure();
-  for (std::string line; std::getline(maps, line);) {
+  const std::unique_ptr<FILE, Closer> maps(std::fopen("/proc/self/maps", "re"));
+  if (!maps) {
+    failure = lastFailure();
+    return {};
+  }
+  char line[PATH_MAX + 128];
+  while (std::fgets(line, sizeof(line), maps.get())) {
     std::uintptr_t begin = 0;
     std::uintptr_t end = 0;
-    if (std::sscanf(line.c_str(), "%" SCNxPTR "-%" SCNxPTR, &begin, &end) != 2) continue;
+    if (std::sscanf(line, "%" SCNxPTR "-%" SCNxPTR, &begin, &end) != 2) continue;
     if (wanted < begin || wanted >= end) continue;
-    const std::size_t path = line.find('/');
-    return path == std::string::npos ? std::string() : line.substr(path);
+    const char* const path = std::strchr(line, '/');
+    return path ? std::string(path, std::strcspn(path, "\n")) : std::string();
   }
-  if (maps.bad()) failure = make_error_code(std::errc::io_error);
+  if (std::ferror(maps.get())) failure = make_error_code(std::errc::io_error);
   return {};
 }
 

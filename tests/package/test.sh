@@ -27,8 +27,8 @@ for file in "$library" "$build/bin/zkstrings"; do
 done
 
 configure() { "$cmake" -G Ninja -DCMAKE_CXX_COMPILER="$compiler" "$@" >/dev/null; }
-consumer() {  # consumer NAME PREFIX [LIBDIR]: builds the consumer against the installation
-  configure -S "$source/tests/package" -B "$work/$1" -DCMAKE_PREFIX_PATH="$2;$2/${3:-lib}/cmake/ZKStrings"
+consumer() {  # consumer NAME PREFIX: builds the consumer against the installation
+  configure -S "$source/tests/package" -B "$work/$1" -DCMAKE_PREFIX_PATH="$2"
   "$cmake" --build "$work/$1" >/dev/null
   mkdir -p "$2/bin"
   cp "$work/$1/consumer" "$2/bin"
@@ -91,8 +91,7 @@ expect "without any names" "stopped" nowhere
 # Installed to other places than the usual ones.
 elsewhere() {  # elsewhere NAME DATADIR LIBDIR
   part "$work/$1" -DBUILD_SHARED_LIBS=ON -DCMAKE_INSTALL_DATADIR="$2" -DCMAKE_INSTALL_LIBDIR="$3"
-  consumer "$1-found" "$work/$1" "$3"
-  expect "$1" "$text" "$work/$1/bin/consumer"
+  expect "$1" "$text" loaded_from "$work/$1/$3"
 }
 elsewhere other-names data/of/texts libraries
 elsewhere deep-libraries share lib/of/many/different/kinds

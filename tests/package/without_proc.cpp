@@ -37,8 +37,8 @@ extern "C" {
 ssize_t readlink(const char* path, char* target, size_t size) noexcept {
   return isHidden(path) ? -1 : real<ssize_t(const char*, char*, size_t)>("readlink")(path, target, size);
 }
-FILE* fopen64(const char* path, const char* mode) {
-  return isHidden(path) ? nullptr : real<FILE*(const char*, const char*)>("fopen64")(path, mode);
+FILE* fopen(const char* path, const char* mode) {
+  return isHidden(path) ? nullptr : real<FILE*(const char*, const char*)>("fopen")(path, mode);
 }
 int stat(const char* path, struct stat* status) noexcept {
   if (hasNoNames() && std::strcmp(path, "/share/ZKStrings") == 0) {

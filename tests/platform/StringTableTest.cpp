@@ -138,12 +138,15 @@ TEST(StringTableReader, SaysWhatWasExpectedWhereAndGoesOn) {
     std::vector<std::string> keys;  // of all entries that can be read
   };
   const std::vector<Faulty> cases = {
-      {"\"a\" = \"1\"\n\"b\" = \"2\";\n", "\"b\"", "\";\"", {"b"}},
+      {"\"a\" = \"1\"\n\"b\" = \"2\";\n", "\n\"b\"", "\";\"", {"b"}},
+      {"\"a\" =\n\"1\" /* x */\n\"b\" = \"2\";\n", " /* x */", "\";\"", {"b"}},
       {"\"a\" \"1\";\n\"b\" = \"2\";\n", "\"1\"", "\"=\"", {"b"}},
       {"\"a\" = ;\n\"b\" = \"2\";\n", ";\n", "the text of the key", {"b"}},
       {"\"a\" = \"1;\n\"b\" = \"2\";\n\"c\" = \"3\";\n", "\"1;", "closing quote", {"b", "c"}},
       {"\"a\" = \"1\";\nö = 2;\n\"c\" = \"3\";\n", "ö", "a key", {"a", "c"}},
       {"\"a\" = \"1\"; /* x\n", "/* x", "\"*/\"", {"a"}},
+      {"\n/*", "/*", "\"*/\"", {}},
+      {"\"a\" = \"1\";\n\"b\" /*\n/*\n\"c\" = \"3\";\n/*", "/*\n/*\n", "\"*/\"", {"a"}},
   };
   for (const Faulty& item : cases) {
     StringTableReader reader(item.text);

@@ -18,52 +18,62 @@ Coverage coverageOfGerman(const std::string& table) {
   return coverageOf(project.root()).at(1);
 }
 
-TEST(Coverage, CountsTextsThatAreLookedUpAndNotEmpty) {
+TEST(Coverage, CountsTextsByTheirState) {
   struct Case {
     const char* table;
-    std::size_t there;
-    std::size_t missingPluralForms;
+    std::size_t translated;
+    std::size_t untranslated = 0;
+    std::size_t needsReview = 0;
     bool isWellFormed = true;
   };
   constexpr Case kCases[] = {
-      {"", 0, 15},
-      {R"("About" = "Info"; "Coins" = "Geld";)", 2, 15},
-      {R"("Coins_one" = "Taler"; "Coins_two" = "Taler";)", 2, 13},
-      {R"("About" = ""; "Coins_one" = "";)", 0, 15},
-      {R"("badgeCount_Badges" = "nie gesucht"; "Abuot" = "falsch";)", 0, 15},
-      {R"("About" = ""; "About" = "Info";)", 1, 15},
-      {R"("About" = "Info"; "About" = "";)", 0, 15},
-      {R"("About" = "Info"; "Coins" = )", 0, 15, false},
+      {"", 0},
+      {R"("About" = "Info"; "Coins" = "Geld";)", 2},
+      {R"("Coins_one" = "Taler"; "Coins_two" = "Taler";)", 2},
+      {R"("About" = ""; "Coins_one" = " ";)", 0, 2},
+      {R"("badgeCount_Badges" = "nie gesucht"; "Abuot" = "falsch";)", 0},
+      {R"("About" = ""; "About" = "Info";)", 1},
+      {R"("About" = "Info"; "About" = "";)", 0, 1},
+      {R"("About" = "About"; "Tap_it_to_use_one" = "Tap it to use one";)", 1, 1},
+      {R"("About" = "Info"; /* state: needs-review */ "Coins" = "Geld";)", 1, 0, 1},
+      {R"("About" = "Info"; "Coins" = )", 0, 0, 0, false},
   };
-  for (const auto& [table, there, missingPluralForms, isWellFormed] : kCases) {
+  for (const auto& [table, translated, untranslated, needsReview, isWellFormed] : kCases) {
     const Coverage coverage = coverageOfGerman(table);
-    EXPECT_EQ(coverage.there, there) << table;
-    EXPECT_EQ(coverage.missing, 25 - there) << table;
-    EXPECT_EQ(coverage.missingPluralForms, missingPluralForms) << table;
+    EXPECT_EQ(coverage.translated, translated) << table;
+    EXPECT_EQ(coverage.untranslated, untranslated) << table;
+    EXPECT_EQ(coverage.needsReview, needsReview) << table;
+    EXPECT_EQ(coverage.missing, 25 - translated - untranslated - needsReview) << table;
     EXPECT_EQ(coverage.isWellFormed, isWellFormed) << table;
   }
 }
 
 TEST(Coverage, IsComplete100PercentOnly) {
-  EXPECT_EQ((Coverage{"de", 1000, 0, 0}).percent(), 100u);
-  EXPECT_EQ((Coverage{"de", 999, 1, 0}).percent(), 99u);
-  EXPECT_EQ((Coverage{"de", 0, 1, 0}).percent(), 0u);
+  EXPECT_EQ((Coverage{"de", 1000}).percent(), 100u);
+  EXPECT_EQ((Coverage{"de", 999, 1}).percent(), 99u);
+  EXPECT_EQ((Coverage{"de", 999, 0, 1}).percent(), 99u);
+  EXPECT_EQ((Coverage{"de", 999, 0, 0, 1}).percent(), 99u);
+  EXPECT_EQ((Coverage{"de", 0, 0, 0, 1}).percent(), 0u);
 }
 
 TEST(Coverage, IsShownInAlignedLines) {
-  EXPECT_EQ(formatted({{"Base", 1068, 0, 0}, {"de", 537, 531, 260}, {"fr", 0, 1068, 260, false}}),
-            "Base   1068 there      0 missing,    0 of them plural forms  100%  [####################]\n"
-            "de      537 there    531 missing,  260 of them plural forms   50%  [##########----------]\n"
-            "fr        0 there   1068 missing,  260 of them plural forms    0%  [--------------------]"
-            "  no well-formed table: see zkstrings check\n");
+  const std::string lines =
+      formatted({{"Base", 1068}, {"de", 537, 9, 22, 500}, {"fr", 0, 0, 0, 1068, false}});
+  EXPECT_EQ(lines,
+            "language  translated to review  untranslated  missing\n"
+            "Base            1068         0             0        0   100%  ###############\n"
+            "de               537         9            22      500    50%  #######--------\n"
+            "fr                 0         0             0     1068     0%  see check\n");
 }
 
 TEST(Coverage, IsShownAsJson) {
   const auto json =
-      nlohmann::json::parse(toJson(std::vector<Coverage>{{"de", 3, 1, 1}, {"fr", 0, 4, 2, false}}));
+      nlohmann::json::parse(toJson(std::vector<Coverage>{{"de", 3, 1, 2, 0}, {"fr", 0, 0, 0, 4, false}}));
   EXPECT_EQ(json, nlohmann::json::parse(R"([
-    {"language": "de", "there": 3, "missing": 1, "missingPluralForms": 1, "percent": 75, "wellFormed": true},
-    {"language": "fr", "there": 0, "missing": 4, "missingPluralForms": 2, "percent": 0, "wellFormed": false}])"));
+    {"language": "de", "translated": 3, "needsReview": 1, "untranslated": 2, "missing": 0, "percent": 50,
+     "wellFormed": true},
+    {"language": "fr", "translated": 0, "needsReview": 0, "untranslated": 0, "missing": 4, "percent": 0,
+     "wellFormed": false}])"));
 }
 
 }  // namespace

@@ -30,7 +30,8 @@ testing::AssertionResult isRefused(const TemporaryProject& project, const std::s
 TEST(Template, HoldsEachTextUnderItsExplanation) {
   const Catalogue catalogue = Catalogue::parse(R"([
   {"key": "Be_quick_n_tGo", "text": "*Be \"quick\"*/\n\tGo"},
-  {"key": "n_Coins_of_name", "text": "%{n} Coins of %{name}", "plural": true}
+  {"key": "n_Coins_of_name", "text": "%{n} Coins of %{name}", "plural": true},
+  {"key": "n_ZK", "text": "%{n} ZK"}
 ]
 )",
                                                "entries.json");
@@ -38,26 +39,35 @@ TEST(Template, HoldsEachTextUnderItsExplanation) {
   const std::string written = templateFor("de", EnglishTexts(catalogue, base));
   EXPECT_EQ(written.substr(written.find('\n') + 1), R"(
 /* English: "*Be \"quick\"* /\n\tGo" */
+/* state: untranslated */
 "Be_quick_n_tGo" = "*Be \"quick\"*/\n\tGo";
 
 /* English: "%{name} has no Coins"; placeholders: %{name}, %{n} */
+/* state: untranslated */
 "n_Coins_of_name_zero" = "%{name} has no Coins";
 
 /* English: "%{n} Coins of %{name}"; placeholders: %{n}, %{name} */
+/* state: untranslated */
 "n_Coins_of_name_one" = "%{n} Coins of %{name}";
 
 /* English: "%{n} Coins of %{name}"; placeholders: %{n}, %{name} */
+/* state: untranslated */
 "n_Coins_of_name_two" = "%{n} Coins of %{name}";
 
 /* English: "%{n} Coins of %{name}"; placeholders: %{n}, %{name} */
+/* state: untranslated */
 "n_Coins_of_name_few" = "%{n} Coins of %{name}";
 
 /* English: "%{n} Coins of %{name}"; placeholders: %{n}, %{name} */
+/* state: untranslated */
 "n_Coins_of_name_many" = "%{n} Coins of %{name}";
+
+/* English: "%{n} ZK"; placeholders: %{n} */
+"n_ZK" = "%{n} ZK";
 )");
 }
 
-TEST(Template, OfWhatShipsIsCompleteAndRight) {
+TEST(Template, OfWhatShipsIsRightButNoTranslation) {
   const TemporaryProject project;
   for (const char* const part : {"catalogue/entries.json", "resources/Base.lproj/Localizable.strings"}) {
     std::filesystem::copy_file(std::filesystem::path(ZK_PROJECT_ROOT) / part,
@@ -65,9 +75,13 @@ TEST(Template, OfWhatShipsIsCompleteAndRight) {
                                std::filesystem::copy_options::overwrite_existing);
   }
   writeTemplate(project.root(), "sw");
-  EXPECT_EQ(coverageOf(project.root()).at(1).percent(), 100u);
-  for (const Fault& fault : check(project.root(), {{"sw"}, {}, false}))
-    ADD_FAILURE() << formatted(fault, false);
+  const Coverage coverage = coverageOf(project.root()).at(1);
+  EXPECT_EQ(coverage.missing, 0u);
+  EXPECT_GT(coverage.untranslated, 1000u);
+  EXPECT_LE(coverage.percent(), 1u);
+  const Faults faults = check(project.root(), {{"sw"}, {}, false}).faults;
+  ASSERT_EQ(faults.size(), 1u);
+  EXPECT_EQ(faults[0].rule, "untranslated");
 }
 
 TEST(Template, IsRefusedWhereItWouldHarmOrHelpNobody) {

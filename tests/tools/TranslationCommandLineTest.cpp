@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <string>
 
+#include <fmt/format.h>
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 #include <sys/wait.h>
@@ -17,9 +18,7 @@ struct Answer {
   std::string output;
 };
 
-/// What the built command answers to `arguments`, in a pipe.
-Answer answerTo(const TemporaryProject& project, const std::string& arguments) {
-  const std::string command = ZK_COMMAND " --root " + project.root() + " " + arguments + " 2>&1";
+Answer outputOf(const std::string& command) {
   std::FILE* const pipe = popen(command.c_str(), "r");
   std::string output;
   std::array<char, 4096> buffer;
@@ -28,11 +27,26 @@ Answer answerTo(const TemporaryProject& project, const std::string& arguments) {
   return {WEXITSTATUS(pclose(pipe)), output};
 }
 
+/// The command with its project and `arguments`, for a shell to which no character in a path means anything.
+std::string inShell(const TemporaryProject& project, const std::string& arguments) {
+  setenv("ZK_COMMAND", ZK_COMMAND, 1);
+  setenv("ZK_ROOT", project.root().c_str(), 1);
+  return "export LC_ALL=C; \"$ZK_COMMAND\" --root \"$ZK_ROOT\" " + arguments;
+}
+
+/// What the built command answers to `arguments`, in a pipe.
+Answer answerTo(const TemporaryProject& project, const std::string& arguments) {
+  return outputOf(inShell(project, arguments) + " 2>&1");
+}
+
 TEST(TranslationCommandLine, EndsWithAStatusThatTellsTheGravestFault) {
   const TemporaryProject project;
   project.write(TemporaryProject::table("de"), "\"About\" = \"*Info\";\n");
   project.write(TemporaryProject::table("fr"), "\"About\" = \"%{info}\";\n");
   project.write(TemporaryProject::table("nl"), "\"About\" = \"About\";\n");
+  project.write(TemporaryProject::table("ja"), "");
+  project.write(TemporaryProject::table("it"), "/* state: needs-review */\n\"About\" = \"Info\";");
+  project.write(TemporaryProject::table("pl"), "\n/*");
   struct Case {
     const char* arguments;
     int status;
@@ -48,12 +62,27 @@ TEST(TranslationCommandLine, EndsWithAStatusThatTellsTheGravestFault) {
       {"check --off no-such-rule", 2},
       {"check --format xml", 2},
       {"check --rules", 0},
+      {"check ja", 0},
+      {"check ja --strict", 0},
+      {"check ja --complete", 1},
+      {"check Base --complete --strict", 0},
+      {"check de --off missing-key --complete", 0},
+      {"check it --strict", 0},
+      {"check it --off missing-key --complete", 1},
+      {"check it --off missing-key --off needs-review --complete", 0},
+      {"check pl", 1},
       {"coverage", 0},
       {"coverage --format json", 0},
       {"template", 2},
       {"template en", 1},
       {"template sv", 0},
       {"template sv", 1},
+      {"check sv --strict", 0},
+      {"check sv --complete", 1},
+      {"update sv --prune", 0},
+      {"update xx", 1},
+      {"update da", 1},
+      {"update", 2},
       {"--help", 0},
   };
   for (const auto& [arguments, status] : kCases) {
@@ -71,13 +100,46 @@ TEST(TranslationCommandLine, AnswersPlainlyInAPipe) {
       "part [marks]\n");
 }
 
+TEST(TranslationCommandLine, TellsGapsInOneShortLine) {
+  const TemporaryProject project;
+  project.write(TemporaryProject::table("de"), "\"About\" = \"Info\";\n");
+  const std::string table = TemporaryProject::table("de");
+  EXPECT_EQ(answerTo(project, "check de").output,
+            table + ":1:1: gap: 24 texts missing; zkstrings update de lists them [missing-key]\n");
+  EXPECT_EQ(answerTo(project, "update de").output, table + ": added 24 texts to translate\n");
+  EXPECT_EQ(answerTo(project, "update de").output, table + ": up to date, nothing changed\n");
+  EXPECT_EQ(
+      answerTo(project, "check de").output,
+      table +
+          ":4:16: gap: 23 texts untranslated, from here on; zkstrings update de marks them [untranslated]\n");
+}
+
+TEST(TranslationCommandLine, WhatItSaysOfItselfFitsATerminal) {
+  const TemporaryProject project;
+  for (const char* const arguments : {"--help", "check --help", "coverage --help", "template --help",
+                                      "update --help", "add --help", "change --help", "check --rules", "coverage"}) {
+    const Answer answer = answerTo(project, arguments);
+    EXPECT_EQ(answer.status, 0) << arguments;
+    for (const std::string_view line : zk::tools::linesOf(answer.output)) {
+      EXPECT_LE(line.size(), 80u) << arguments << ": " << line;
+    }
+  }
+}
+
+TEST(TranslationCommandLine, EndsWithOneLineOnATerminal) {
+  const TemporaryProject project;
+  const std::string terminal =
+      "export LC_ALL=C; script --quiet --command '" + inShell(project, "check") + "' /dev/null";
+  EXPECT_EQ(outputOf(terminal).output, "1 table, 1 country: nothing to mend\r\n");
+}
+
 TEST(TranslationCommandLine, AnswersInJsonWhateverTheBytes) {
   const TemporaryProject project;
   EXPECT_EQ(nlohmann::json::parse(answerTo(project, "check --format json").output), nlohmann::json::array());
   project.write(TemporaryProject::table("de"), "\"Ab\xFF\" = \"\";\n");
   const auto faults = nlohmann::json::parse(answerTo(project, "check de --format json").output);
-  ASSERT_EQ(faults.size(), 4u) << faults;
-  const auto& encoding = faults[2];
+  ASSERT_EQ(faults.size(), 3u) << faults;
+  const auto& encoding = faults[1];
   EXPECT_EQ(encoding["file"], "resources/de.lproj/Localizable.strings");
   EXPECT_EQ(encoding["line"], 1);
   EXPECT_EQ(encoding["column"], 4);

@@ -1,10 +1,11 @@
 #include <ZKStrings/tools/Catalogue.h>
 #include <ZKStrings/tools/EnglishTexts.h>
+#include <ZKStrings/tools/EntryComments.h>
 #include <ZKStrings/tools/Languages.h>
+#include <ZKStrings/tools/TextFeatures.h>
 #include <ZKStrings/tools/check/Checker.h>
 #include <ZKStrings/tools/check/CountryRules.h>
 #include <ZKStrings/tools/check/TableRules.h>
-#include <ZKStrings/tools/check/TextFeatures.h>
 #include <ZKStrings/tools/check/TextRules.h>
 
 #include <algorithm>
@@ -16,44 +17,23 @@ namespace zk::tools {
 
 namespace {
 
-/// The words of a comment, between spaces and commas.
-std::vector<std::string_view> wordsOfComment(std::string_view comment) {
-  constexpr std::string_view kSeparators = " ,\t\r\n";
-  std::vector<std::string_view> words;
-  while (true) {
-    comment.remove_prefix(std::min(comment.find_first_not_of(kSeparators), comment.size()));
-    if (comment.empty()) return words;
-    words.push_back(comment.substr(0, comment.find_first_of(kSeparators)));
-    comment.remove_prefix(words.back().size());
-  }
-}
-
-/// Whether one of the comments before the entry reads "check: off" and names the rule behind that.
-bool isSwitchedOff(const TableEntry& entry, std::string_view rule) {
-  return std::any_of(entry.comments.begin(), entry.comments.end(), [&](std::string_view comment) {
-    const std::vector<std::string_view> words = wordsOfComment(comment);
-    const bool isSwitch = words.size() > 2 && words[0] == "check:" && words[1] == "off";
-    return isSwitch && std::find(words.begin() + 2, words.end(), rule) != words.end();
-  });
-}
-
 class Checker {
  public:
   Checker(const std::string& root, const CheckOptions& options) : root_(root), options_(options) {}
 
-  Faults run() {
+  CheckResult run() {
     const std::optional<Catalogue> catalogue = readCatalogue();
     const Table base = Table::read(root_, kBase);
     for (const std::string& language : options_.languages.empty() ? languagesIn(root_) : options_.languages) {
       checkTable(language, Table::read(root_, language), catalogue, base);
     }
-    if (options_.languages.empty()) apply(countryRules(), CountryFile::read(root_), CountryFile::kFile);
+    if (options_.languages.empty()) checkCountries();
     const auto order = [](const Fault& fault) {
       return std::tie(fault.file, fault.line, fault.column, fault.severity, fault.rule, fault.message);
     };
-    std::sort(faults_.begin(), faults_.end(),
+    std::sort(result_.faults.begin(), result_.faults.end(),
               [&](const Fault& one, const Fault& other) { return order(one) < order(other); });
-    return std::move(faults_);
+    return std::move(result_);
   }
 
  private:
@@ -61,18 +41,26 @@ class Checker {
     try {
       return Catalogue::read(root_);
     } catch (const CommandFailed& failed) {
-      faults_ = failed.faults;
+      result_.faults = failed.faults;
       return std::nullopt;
     }
   }
 
+  void checkCountries() {
+    const CountryFile file = CountryFile::read(root_);
+    result_.countries = file.elements.size();
+    apply(countryRules(), file, CountryFile::kFile);
+  }
+
   void checkTable(const std::string& language, const Table& table, const std::optional<Catalogue>& catalogue,
                   const Table& base) {
+    ++result_.tables;
     apply(tableRules(), LanguageTable{language, table}, table.file);
     if (!catalogue) return;
     // The English table is no measure of itself.
     const EnglishTexts english(*catalogue, language == kBase ? Table{} : base);
     apply(keyRules(), KeyedTable{language, table, english}, table.file);
+    apply(gapRules(), KeyedTable{language, table, english}, table.file);
     for (const TableEntry& entry : table.entries) {
       const EnglishText* const text = english.find(entry.key);
       if (!text || isBlank(entry.text)) continue;
@@ -88,10 +76,14 @@ class Checker {
       if (!applies(rule)) continue;
       Findings findings;
       rule.find(subject, findings);
+      const TableEntry* last = nullptr;  // a rule may find much in one entry, which has many comments
+      bool isOff = false;
       for (Finding& finding : findings.all()) {
-        if (finding.entry && isSwitchedOff(*finding.entry, rule.name)) continue;
-        faults_.push_back({rule.severity, file, finding.at.line, finding.at.column, std::string(rule.name),
-                           std::move(finding.message)});
+        if (finding.entry != last) isOff = finding.entry && isSwitchedOff(*finding.entry, rule.name);
+        last = finding.entry;
+        if (isOff) continue;
+        result_.faults.push_back({rule.severity, file, finding.at.line, finding.at.column,
+                                  std::string(rule.name), std::move(finding.message)});
       }
     }
   }
@@ -103,7 +95,7 @@ class Checker {
 
   const std::string& root_;
   const CheckOptions& options_;
-  Faults faults_;
+  CheckResult result_;
 };
 
 }  // namespace
@@ -113,6 +105,7 @@ std::vector<Rule> checkRules() {
   const auto add = [&](const auto& some) { rules.insert(rules.end(), some.begin(), some.end()); };
   add(tableRules());
   add(keyRules());
+  add(gapRules());
   add(placeholderRules());
   add(textRules());
   add(noteRules());
@@ -122,7 +115,7 @@ std::vector<Rule> checkRules() {
   return rules;
 }
 
-Faults check(const std::string& root, const CheckOptions& options) {
+CheckResult check(const std::string& root, const CheckOptions& options) {
   return Checker(root, options).run();
 }
 

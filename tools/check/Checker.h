@@ -3,6 +3,7 @@
 #include <ZKStrings/tools/Fault.h>
 #include <ZKStrings/tools/check/Rule.h>
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -14,13 +15,19 @@ struct CheckOptions {
   bool notes = false;                  ///< whether rules apply that only note
 };
 
+struct CheckResult {
+  Faults faults;              ///< sorted by file and place
+  std::size_t tables = 0;     ///< how many were checked
+  std::size_t countries = 0;  ///< those of the list, if it was checked
+};
+
 /// All rules, errors first.
 [[nodiscard]] std::vector<Rule> checkRules();
 
-/// All that is wrong with the catalogue, the tables and the country list of the project at `root`, sorted by
-/// file and place. A comment `/* check: off RULE */` before an entry switches a rule off for the entry. A
+/// Finds all that is wrong or missing in the catalogue, the tables and the country list of the project at
+/// `root`. A comment `/* check: off RULE */` before an entry switches a rule off for the entry. A
 /// file that cannot be read is a fault like others; without a catalogue, texts are compared with nothing.
 /// Throws `CommandFailed` when resources/ cannot be listed.
-[[nodiscard]] Faults check(const std::string& root, const CheckOptions& options);
+[[nodiscard]] CheckResult check(const std::string& root, const CheckOptions& options);
 
 }  // namespace zk::tools

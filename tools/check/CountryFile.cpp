@@ -74,8 +74,9 @@ CountryFile CountryFile::parse(const std::string& bytes) {
     return {{}, Finding{{1, 1}, "the file is no array, and the module offers no country; write [ ... ]"}};
   CountryFile file;
   const std::vector<std::size_t> offsets = elementOffsets(*text);
+  PositionTeller positions(*text);
   for (std::size_t i = 0; i < list->size(); ++i) {
-    file.elements.push_back({positionOf(*text, offsets.at(i)), std::move((*list)[i])});
+    file.elements.push_back({positions.at(offsets.at(i)), std::move((*list)[i])});
   }
   return file;
 }

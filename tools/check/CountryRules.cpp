@@ -1,8 +1,10 @@
 #include <ZKStrings/region/Country.h>
 #include <ZKStrings/tools/Table.h>
+#include <ZKStrings/tools/TextFeatures.h>
 #include <ZKStrings/tools/check/CountryRules.h>
 
 #include <algorithm>
+#include <cstdint>
 #include <map>
 
 #include <fmt/format.h>
@@ -66,11 +68,31 @@ void findCodes(const CountryFile& file, Findings& findings) {
   });
 }
 
+void findNames(const CountryFile& file, Findings& findings) {
+  forEachCountry(file, [&](const Dictionary& country, Position at) {
+    const auto* const name = country.find<std::string>("name");
+    if (name && isBlank(*name))
+      findings.add(at, "the country has an empty name; write the name users choose it by");
+  });
+}
+
+void findPhoneCodes(const CountryFile& file, Findings& findings) {
+  forEachCountry(file, [&](const Dictionary& country, Position at) {
+    const auto* const code = country.find<std::int64_t>("phoneCode");
+    if (!code || *code > 0) return;
+    findings.add(
+        at,
+        fmt::format("the phone code {} is no calling code; write it as dialled, without plus sign", *code));
+  });
+}
+
 constexpr RuleFor<CountryFile> kRules[] = {
     {{"country-list", Severity::error, "a country list that is no array of objects"}, findNoList},
     {{"dropped-country", Severity::error, "a country that the module leaves out"}, findDropped},
     {{"duplicate-country", Severity::error, "two countries with one ISO code"}, findDuplicates},
     {{"country-code", Severity::error, "an ISO code that is not two capital letters"}, findCodes},
+    {{"country-name", Severity::warning, "a country without a name to show"}, findNames},
+    {{"phone-code", Severity::warning, "a phone code below 1"}, findPhoneCodes},
 };
 
 }  // namespace

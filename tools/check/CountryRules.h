@@ -1,7 +1,7 @@
 #pragma once
 
 #include <ZKStrings/platform/Dictionary.h>
-#include <ZKStrings/tools/Fault.h>
+#include <ZKStrings/tools/Position.h>
 #include <ZKStrings/tools/check/Rule.h>
 
 #include <optional>

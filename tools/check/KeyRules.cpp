@@ -16,22 +16,19 @@ constexpr Position kFileBegin = {1, 1};
 
 /// The keys that the module looks up and the table lacks.
 std::vector<std::string_view> missingKeys(const KeyedTable& subject) {
-  std::set<std::string_view> present;
-  for (const TableEntry& entry : subject.table.entries) present.insert(entry.key);
   std::vector<std::string_view> missing;
   for (const EnglishText& english : subject.english.all()) {
-    if (!present.contains(english.key)) missing.push_back(english.key);
+    if (!subject.table.find(english.key)) missing.push_back(english.key);
   }
   return missing;
 }
 
+/// Keys that the English table lacks. What a translation lacks is a gap.
 void findMissing(const KeyedTable& subject, Findings& findings) {
-  const std::vector<std::string_view> missing = missingKeys(subject);
-  const bool isUnreadable = !subject.table.faults.empty() && subject.table.entries.empty();
-  if (missing.empty() || isUnreadable) return;
-  findings.add(kFileBegin, fmt::format("{} of the {} keys that the module looks up {} missing; add \"{}\"",
-                                       missing.size(), subject.english.all().size(),
-                                       missing.size() == 1 ? "is" : "are", fmt::join(missing, "\", \"")));
+  if (subject.language != kBase || !subject.table.faults.empty()) return;
+  for (const std::string_view key : missingKeys(subject)) {
+    findings.add(kFileBegin, fmt::format("the English table lacks \"{}\"; add the entry", key));
+  }
 }
 
 /// The key whose plural form `key` would be, if it were a plural form.
@@ -42,16 +39,25 @@ std::string_view withoutSuffix(std::string_view key) {
   return key;
 }
 
-/// The key that was most likely meant by a misspelt one: one that the table lacks, or else any.
-std::optional<std::string_view> meantKey(std::string_view key, const KeyedTable& subject) {
-  if (const auto missing = nearest(key, missingKeys(subject))) return missing;
+/// The keys that may be meant by misspelt ones.
+struct MeantKeys {
+  std::vector<std::string_view> missing;  ///< those that the table lacks, the likeliest
   std::vector<std::string_view> all;
-  for (const EnglishText& english : subject.english.all()) all.push_back(english.key);
-  return nearest(key, all);
-}
+  std::size_t searches = 100;  ///< the remaining ones; each takes its time
+
+  explicit MeantKeys(const KeyedTable& subject) : missing(missingKeys(subject)) {
+    for (const EnglishText& english : subject.english.all()) all.push_back(english.key);
+  }
+  std::optional<std::string_view> find(std::string_view key) {
+    if (searches == 0) return std::nullopt;
+    --searches;
+    const std::optional<std::string_view> meant = nearest(key, missing);
+    return meant ? meant : nearest(key, all);
+  }
+};
 
 /// What to do about a key that nothing looks up.
-std::string mendFor(std::string_view key, const KeyedTable& subject) {
+std::string mendFor(std::string_view key, const KeyedTable& subject, MeantKeys& meantKeys) {
   if (subject.english.find(std::string(key) + "_many")) {
     return fmt::format("its entry is counted, so write \"{0}_zero\" to \"{0}_many\" instead", key);
   }
@@ -59,16 +65,17 @@ std::string mendFor(std::string_view key, const KeyedTable& subject) {
   if (bare != key && subject.english.find(bare)) {
     return fmt::format("\"{}\" is not counted and has no plural forms, so remove this one", bare);
   }
-  const std::optional<std::string_view> meant = meantKey(key, subject);
+  const std::optional<std::string_view> meant = meantKeys.find(key);
   return meant ? fmt::format("write \"{}\" if that is meant", *meant) : "remove the entry";
 }
 
 void findUnknown(const KeyedTable& subject, Findings& findings) {
+  MeantKeys meantKeys(subject);
   for (const TableEntry& entry : subject.table.entries) {
     if (subject.english.find(entry.key)) continue;
     const std::string key = escaped(entry.key);
     findings.add(entry, entry.keyAt,
-                 fmt::format("nothing looks up the key \"{}\"; {}", key, mendFor(key, subject)));
+                 fmt::format("nothing looks up the key \"{}\"; {}", key, mendFor(key, subject, meantKeys)));
   }
 }
 
@@ -111,7 +118,8 @@ void findSamePlurals(const KeyedTable& subject, Findings& findings) {
 }
 
 constexpr RuleFor<KeyedTable> kRules[] = {
-    {{"missing-key", Severity::warning, "keys that the module looks up and the table lacks"}, findMissing},
+    {{"missing-english", Severity::warning, "a key that the module looks up and the English table lacks"},
+     findMissing},
     {{"unknown-key", Severity::warning, "a key that nothing looks up"}, findUnknown},
     {{"same-plurals", Severity::warning,
       "all five plural forms the same where the English ones differ, in a language that inflects for number"},

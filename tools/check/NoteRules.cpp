@@ -1,10 +1,8 @@
 #include <ZKStrings/tools/Characters.h>
 #include <ZKStrings/tools/Languages.h>
-#include <ZKStrings/tools/check/TextFeatures.h>
+#include <ZKStrings/tools/TextFeatures.h>
+#include <ZKStrings/tools/TranslationState.h>
 #include <ZKStrings/tools/check/TextRules.h>
-
-#include <algorithm>
-#include <iterator>
 
 #include <fmt/format.h>
 
@@ -12,35 +10,15 @@ namespace zk::tools {
 
 namespace {
 
-/// Names and words that are the same in every language, longer ones before those they begin with.
-constexpr std::string_view kSameEverywhere[] = {
-    "ZK Trivia", "ZK Sports", "ZK Words", "ZKX",      "ZK",      "App Store", "Play Store", "Apple",
-    "Beta",      "Bluetooth", "FAQs",     "Facebook", "Google",  "iOS",       "Instagram",  "OK",
-    "PayPal",    "Paypal",    "SMS",      "TV",       "Twitter", "VIP",       "VIPs"};
-
 constexpr std::size_t kLongestShort = 20;
 constexpr std::size_t kTimesForShort = 3;
 constexpr std::size_t kTimesForLong = 2;
 
-/// Whether there is nothing in `text` to translate: names, placeholders, numbers and single letters alone.
-bool isSameEverywhere(std::string_view text) {
-  const std::string plain = withoutPlaceholders(text);
-  std::string words = fmt::format("  {}  ", fmt::join(wordsOf(plain), "  "));
-  for (const std::string_view name : kSameEverywhere) {
-    const std::string spaced = fmt::format(" {} ", fmt::join(wordsOf(name), "  "));
-    for (std::size_t at = words.find(spaced); at != std::string::npos; at = words.find(spaced)) {
-      words.erase(at, spaced.size());
-    }
-  }
-  const auto left = wordsOf(words);
-  return std::all_of(left.begin(), left.end(), [](std::string_view word) {
-    return lengthOf(word) == 1 || numbersIn(word).size() == 1;
-  });
-}
-
 void findSameText(const Translation& translation, Findings& findings) {
   const std::string& text = translation.entry.text;
   if (text != translation.english.text || isSameEverywhere(text)) return;
+  const TranslationState state = stateOf(translation.language, &translation.entry, translation.english);
+  if (state == TranslationState::untranslated) return;
   findings.add(
       translation.entry,
       fmt::format("\"{}\" is the English text; translate it, unless the word is the same", escaped(text)));
@@ -81,7 +59,7 @@ void inTranslations(const Translation& translation, Findings& findings) {
 
 constexpr RuleFor<Translation> kRules[] = {
     {{"same-text", Severity::note,
-      "a text as in English, but for names and words that are the same everywhere"},
+      "a word as in English, but for names and words that are the same everywhere"},
      inTranslations<findSameText>},
     {{"long-text", Severity::note,
       "a text much longer than the English: three times for short ones, twice for long"},

@@ -3,7 +3,10 @@
 #include <ZKStrings/tools/check/TextRules.h>
 
 #include <algorithm>
+#include <cstddef>
+#include <map>
 #include <optional>
+#include <set>
 
 #include <fmt/format.h>
 
@@ -13,23 +16,41 @@ namespace {
 
 using Names = std::vector<std::string_view>;
 
-bool contains(const Names& names, std::string_view name) {
-  return std::find(names.begin(), names.end(), name) != names.end();
-}
+/// The names that a translation may use.
+struct AllowedNames {
+  /// Of more names than accessors have, no misspelling is looked up: each look takes its time.
+  static constexpr std::size_t kMostNearest = 10;
+
+  Names inOrder;
+  std::set<std::string_view> sorted;
+
+  explicit AllowedNames(const EnglishText& english)
+      : inOrder(english.placeholders()), sorted(inOrder.begin(), inOrder.end()) {}
+
+  [[nodiscard]] bool contains(std::string_view name) const { return sorted.contains(name); }
+  /// The name that `name` is or misspells.
+  [[nodiscard]] std::optional<std::string_view> meantBy(std::string_view name) const {
+    if (const auto same = sorted.find(name); same != sorted.end()) return *same;
+    return inOrder.size() > kMostNearest ? std::nullopt : nearest(name, inOrder);
+  }
+};
 
 /// What may stand instead of a placeholder that may not.
-std::string mendFor(std::string_view name, const Names& allowed) {
-  if (const auto meant = nearest(name, allowed)) return fmt::format("write \"%{{{}}}\"", *meant);
-  if (allowed.empty()) return "remove it, the English text has no placeholders";
-  return fmt::format("write {}\"%{{{}}}\"", allowed.size() == 1 ? "" : "one of ",
-                     fmt::join(allowed, "}\", \"%{"));
+std::string mendFor(std::string_view name, const AllowedNames& allowed) {
+  if (const auto meant = allowed.meantBy(name)) return fmt::format("write \"%{{{}}}\"", *meant);
+  const Names& names = allowed.inOrder;
+  if (names.empty()) return "remove it, the English text has no placeholders";
+  if (names.size() > AllowedNames::kMostNearest) return "write one of those that the English text has";
+  return fmt::format("write {}\"%{{{}}}\"", names.size() == 1 ? "" : "one of ",
+                     fmt::join(names, "}\", \"%{"));
 }
 
 void findUnknown(const Translation& translation, Findings& findings) {
-  const Names allowed = translation.english.placeholders();
+  const AllowedNames allowed(translation.english);
+  TextPlaces places(translation.entry);
   for (const PlaceholderUse& use : placeholderUses(translation.entry.text)) {
-    if (!use.isRight || contains(allowed, use.name)) continue;
-    findings.add(translation.entry, translation.entry.placeOf(use.offset),
+    if (!use.isRight || allowed.contains(use.name)) continue;
+    findings.add(translation.entry, places.at(use.offset),
                  fmt::format("the English text has no placeholder \"{}\"; {}", use.spelled,
                              mendFor(use.name, allowed)));
   }
@@ -37,43 +58,69 @@ void findUnknown(const Translation& translation, Findings& findings) {
 
 /// Whether `use` is a placeholder written wrongly. Braces stand for nothing else; a percent sign may, so that
 /// behind it only what is like a name counts.
-bool isMisspelt(const PlaceholderUse& use, const Names& allowed) {
+bool isMisspelt(const PlaceholderUse& use, const AllowedNames& allowed) {
   if (use.isRight) return false;
-  return use.spelled.find('{') != std::string_view::npos || nearest(use.name, allowed);
+  return use.hasBrace || allowed.meantBy(use.name);
 }
 
 void findMisspelt(const Translation& translation, Findings& findings) {
-  const Names allowed = translation.english.placeholders();
-  const std::vector<PlaceholderUse> inEnglish = placeholderUses(translation.english.text);
+  const AllowedNames allowed(translation.english);
+  std::set<std::string_view> inEnglish;
+  for (const PlaceholderUse& use : placeholderUses(translation.english.text)) inEnglish.insert(use.spelled);
+  TextPlaces places(translation.entry);
   for (const PlaceholderUse& use : placeholderUses(translation.entry.text)) {
-    const auto isSame = [&](const PlaceholderUse& other) { return other.spelled == use.spelled; };
-    const bool isMeant = std::any_of(inEnglish.begin(), inEnglish.end(), isSame);
-    if (isMeant || !isMisspelt(use, allowed)) continue;
-    findings.add(translation.entry, translation.entry.placeOf(use.offset),
+    if (inEnglish.contains(use.spelled) || !isMisspelt(use, allowed)) continue;
+    findings.add(translation.entry, places.at(use.offset),
                  fmt::format("\"{}\" is no placeholder and shows as it stands; {}", escaped(use.spelled),
                              mendFor(use.name, allowed)));
   }
 }
 
-/// Those of `allowed` that `text` uses, also those that it misspells: that is another rule's to tell.
-Names usedNames(std::string_view text, const Names& allowed) {
-  Names used;
+/// The names of placeholders that `text` uses, also those that it misspells: that is another rule's to tell.
+std::set<std::string_view> usedNames(std::string_view text, const AllowedNames& allowed) {
+  std::set<std::string_view> used;
   for (const PlaceholderUse& use : placeholderUses(text)) {
-    if (const auto meant = nearest(use.name, allowed)) used.push_back(*meant);
+    if (const auto meant = allowed.meantBy(use.name)) used.insert(*meant);
   }
   return used;
 }
 
 void findUnused(const Translation& translation, Findings& findings) {
   const EnglishText& english = translation.english;
-  const Names used = usedNames(translation.entry.text, english.placeholders());
+  const std::set<std::string_view> used = usedNames(translation.entry.text, AllowedNames(english));
+  const std::string_view dispensable = english.dispensable();
   for (const std::string_view name : placeholderNames(english.text)) {
-    if (contains(used, name) || name == english.dispensable()) continue;
+    if (used.contains(name) || name == dispensable) continue;
     findings.add(
         translation.entry,
         fmt::format("the placeholder \"%{{{}}}\" of the English text is not used; write it where its "
                     "value belongs",
                     name));
+  }
+}
+
+using Counts = std::map<std::string_view, std::size_t>;
+
+Counts countsIn(std::string_view text) {
+  Counts counts;
+  for (const std::string_view name : placeholderNames(text)) ++counts[name];
+  return counts;
+}
+
+/// A plural form may use a placeholder as often as its entry, also where the English form does without.
+void findRepeated(const Translation& translation, Findings& findings) {
+  Counts allowed = countsIn(translation.english.text);
+  for (const auto& [name, count] : countsIn(translation.english.entry->text)) {
+    allowed[name] = std::max(allowed[name], count);
+  }
+  for (const auto& [name, count] : countsIn(translation.entry.text)) {
+    const auto most = allowed.find(name);
+    if (most == allowed.end() || count <= most->second) continue;
+    findings.add(
+        translation.entry,
+        fmt::format("the placeholder \"%{{{}}}\" stands {} times in the text, in the English one {}; write "
+                    "it as often",
+                    name, count, most->second == 1 ? "once" : fmt::format("{} times", most->second)));
   }
 }
 
@@ -84,6 +131,8 @@ constexpr RuleFor<Translation> kRules[] = {
     {{"unused-placeholder", Severity::warning,
       "a placeholder of the English text that is not used; _zero and _one may leave the number's out"},
      findUnused},
+    {{"repeated-placeholder", Severity::warning, "a placeholder more often than in the English text"},
+     findRepeated},
 };
 
 }  // namespace

@@ -1,6 +1,6 @@
 #include <ZKStrings/tools/Languages.h>
+#include <ZKStrings/tools/TextFeatures.h>
 #include <ZKStrings/tools/check/TableRules.h>
-#include <ZKStrings/tools/check/TextFeatures.h>
 
 #include <map>
 
@@ -41,7 +41,7 @@ void findReplacementCharacters(const LanguageTable& subject, Findings& findings)
   for (const TableEntry& entry : subject.table.entries) {
     const std::size_t offset = entry.text.find(kReplacementCharacter);
     if (offset == std::string::npos) continue;
-    findings.add(entry, entry.placeOf(offset),
+    findings.add(entry, TextPlaces(entry).at(offset),
                  "U+FFFD stands in the text, where a conversion has lost a character; write the character");
   }
 }

@@ -25,7 +25,11 @@ struct KeyedTable {
   const EnglishTexts& english;
 };
 
-/// The rules for the keys of a table, which are there and which are not, and for the plural forms of one key.
+/// The rules for the keys of a table, which are wrong and which the English one lacks, and for the plural forms of one key.
 [[nodiscard]] std::span<const RuleFor<KeyedTable>> keyRules();
+
+/// The rules for what is not translated yet, which is no fault. Of a table that is not well formed they say
+/// nothing.
+[[nodiscard]] std::span<const RuleFor<KeyedTable>> gapRules();
 
 }  // namespace zk::tools

@@ -1,6 +1,6 @@
 #include <ZKStrings/tools/Languages.h>
+#include <ZKStrings/tools/TextFeatures.h>
 #include <ZKStrings/tools/check/EndPunctuation.h>
-#include <ZKStrings/tools/check/TextFeatures.h>
 #include <ZKStrings/tools/check/TextRules.h>
 
 #include <fmt/format.h>

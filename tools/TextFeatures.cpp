@@ -1,6 +1,6 @@
 #include <ZKStrings/platform/text/UnicodeText.h>
 #include <ZKStrings/tools/Placeholders.h>
-#include <ZKStrings/tools/check/TextFeatures.h>
+#include <ZKStrings/tools/TextFeatures.h>
 
 #include <algorithm>
 #include <iterator>

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+
+namespace zk::tools {
+
+/// A place in a text: the line and the column, in characters, both from 1.
+struct Position {
+  std::size_t line;
+  std::size_t column;
+};
+
+/// Tells the positions of byte offsets that are asked for in rising order, and reads the text only once.
+class PositionTeller {
+ public:
+  /// `text`, UTF-8, begins at `begin` and must outlive the teller.
+  explicit PositionTeller(std::string_view text, Position begin = {1, 1}) : text_(text), position_(begin) {}
+  /// The position of `offset`; of the end for one beyond it.
+  [[nodiscard]] Position at(std::size_t offset);
+
+ private:
+  std::string_view text_;
+  std::size_t at_ = 0;
+  Position position_;
+};
+
+/// The position of the byte `offset` of the UTF-8 text `text`.
+[[nodiscard]] Position positionOf(std::string_view text, std::size_t offset);
+
+}  // namespace zk::tools
