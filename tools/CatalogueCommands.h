@@ -22,9 +22,13 @@ struct NewEntry {
   std::string key = {};  ///< empty for the key that the text gets
 };
 
-/// Makes catalogue/ZKStrings.h and .cpp of the project at `root` anew. Throws `CommandFailed` when the
+/// Makes the accessors of the project at `root` anew, in its folder catalogue/. Throws `CommandFailed` when the
 /// catalogue or the English table is wrong.
 void generate(const std::string& root);
+
+/// The same, in the directory `output`, for a build that keeps them there. The faults that it throws name their files
+/// with `root`, so that they are found from the build's folder.
+void generateInto(const std::string& output, const std::string& root);
 
 // The following change all files that hold the text, or none. They throw `CommandFailed` when a file is wrong or cannot
 // be written, and `std::invalid_argument`, with what is wrong and what to do, when the text or the key cannot be taken.

@@ -84,9 +84,9 @@ TEST(Catalogue, WasReleasedWithTheFiguresThatTheAppWasBuiltFor) {
 
 TEST(Catalogue, AccessorsAreUpToDate) {
   const Catalogue catalogue = Catalogue::read(kRoot);
-  const Accessors fresh = generateAccessors(catalogue, Table::read(kRoot, "Base"));
-  EXPECT_TRUE(readFile(kRoot, Accessors::kHeaderFile) == fresh.header) << "run zkstrings generate";
-  EXPECT_TRUE(readFile(kRoot, Accessors::kSourceFile) == fresh.source) << "run zkstrings generate";
+  const Accessors fresh = generateAccessors(catalogue, Table::read(kRoot, "Base"), CatalogueName());
+  EXPECT_TRUE(readFile(kRoot, CatalogueName().headerFile()) == fresh.header) << "run zkstrings generate";
+  EXPECT_TRUE(readFile(kRoot, CatalogueName().sourceFile()) == fresh.source) << "run zkstrings generate";
   EXPECT_EQ(readFile(kRoot, Catalogue::kFile), catalogue.toJson());
 }
 
