@@ -7,12 +7,13 @@ install(EXPORT ZKStringsTargets NAMESPACE ZKStrings:: DESTINATION ${package_dire
 
 set(resources ${CMAKE_INSTALL_DATADIR}/ZKStrings)
 configure_package_config_file(cmake/ZKStringsConfig.cmake.in ${PROJECT_BINARY_DIR}/ZKStringsConfig.cmake
-  INSTALL_DESTINATION ${package_directory} PATH_VARS resources)
+  INSTALL_DESTINATION ${package_directory} PATH_VARS resources CMAKE_INSTALL_BINDIR)
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/ZKStringsConfigVersion.cmake COMPATIBILITY SameMajorVersion)
 install(FILES ${PROJECT_BINARY_DIR}/ZKStringsConfig.cmake ${PROJECT_BINARY_DIR}/ZKStringsConfigVersion.cmake
-  cmake/ZKStringsResources.cmake DESTINATION ${package_directory})
+  cmake/ZKStringsResources.cmake cmake/ZKStringsCatalogue.cmake DESTINATION ${package_directory})
 
 # The same for those who build the module as a part of their own project.
 set_property(GLOBAL PROPERTY ZKSTRINGS_RESOURCES ${PROJECT_SOURCE_DIR}/resources)
 set_property(GLOBAL PROPERTY ZKSTRINGS_RESOURCES_PLACE ${resources_above})
 include(cmake/ZKStringsResources.cmake)
+include(cmake/ZKStringsCatalogue.cmake)

@@ -24,6 +24,7 @@ set(public_headers
   region/Language.h)
 
 add_library(zk_objects OBJECT
+  catalogue/EntryText.cpp
   catalogue/ZKStrings.cpp
   engine/BundleGlobals.cpp
   engine/LanguageChoice.cpp

@@ -37,16 +37,15 @@ struct ZK_EXPORT {name} {{
   {name}() = delete;
 )";
 
-constexpr const char* kModuleExample = R"(///     std::string title = zk::ZKStrings::badgeCount_Badges("4", 4);
+constexpr const char* kModuleExample =
+    R"(///     std::string title = zk::ZKStrings::badgeCount_Badges("4", 4);
 ///
 )";
 
 constexpr const char* kModuleSourceBegin = R"({notice}
 #include <ZKStrings/catalogue/{name}.h>
 
-#include <optional>
-
-#include <ZKStrings/engine/StringLookup.h>
+#include <ZKStrings/catalogue/EntryText.h>
 {opening})";
 
 constexpr const char* kSourceBegin = R"({notice}
@@ -76,19 +75,6 @@ struct {name}Resources {{
 }}  // namespace
 {opening})";
 
-/// What differs between the sources of the module's catalogue and of one's own.
-struct Style {
-  explicit Style(const CatalogueName& catalogue)
-      : isModule(catalogue.isModule()),
-        text(isModule ? "Text" : "::zk::Text"),
-        call(isModule ? "localizedString("
-                      : fmt::format("::zk::localizedString({}Resources::bundle(), ", catalogue.name)) {}
-
-  bool isModule;
-  std::string text;  ///< the type of text arguments
-  std::string call;  ///< the beginning of a lookup
-};
-
 std::string begin(const char* format, const CatalogueName& catalogue) {
   const std::string opening =
       catalogue.nameSpace.empty() ? "" : fmt::format("\nnamespace {} {{\n", catalogue.nameSpace);
@@ -107,10 +93,10 @@ std::string accessorOf(const Entry& entry, const CatalogueName& catalogue) {
   return name == catalogue.name ? name + "_" : name;
 }
 
-std::string parametersOf(const Entry& entry, const Style& style) {
+std::string parametersOf(const Entry& entry, const CatalogueName& catalogue) {
   std::vector<std::string> parameters;
   for (const std::string_view name : placeholderNames(entry.text)) {
-    parameters.push_back(style.text + " " + identifierFor(name));
+    parameters.push_back((catalogue.isModule() ? "Text " : "::zk::Text ") + identifierFor(name));
   }
   if (entry.plural) parameters.push_back("std::int64_t count");
   return fmt::format("{}", fmt::join(parameters, ", "));
@@ -122,6 +108,18 @@ std::string substitutionsOf(const Entry& entry) {
     pairs.push_back(fmt::format("{{\"{}\", {}}}", name, identifierFor(name)));
   }
   return fmt::format("{{{}}}", fmt::join(pairs, ", "));
+}
+
+/// The call that gives the entry's text: the module's own is the shorter one, since it is made so often.
+std::string lookupOf(const Entry& entry, const CatalogueName& catalogue) {
+  const std::string texts = fmt::format("\"{}\", \"{}\"", escaped(entry.key), escaped(entry.text));
+  const std::string substitutions = substitutionsOf(entry);
+  if (!catalogue.isModule()) {
+    return fmt::format("::zk::localizedString({}Resources::bundle(), {}, {}, {})", catalogue.name, texts,
+                       entry.plural ? "count" : "std::nullopt", substitutions);
+  }
+  return fmt::format("entryText({}{}{})", texts, entry.plural ? ", count" : "",
+                     substitutions == "{}" ? "" : ", " + substitutions);
 }
 
 std::string commentOf(const Entry& entry, const Table& base) {
@@ -137,17 +135,15 @@ std::string commentOf(const Entry& entry, const Table& base) {
 }  // namespace
 
 Accessors generateAccessors(const Catalogue& catalogue, const Table& base, const CatalogueName& name) {
-  const Style style(name);
-  Accessors accessors{begin(kHeaderBegin, name), begin(style.isModule ? kModuleSourceBegin : kSourceBegin, name)};
+  Accessors accessors{begin(kHeaderBegin, name),
+                      begin(name.isModule() ? kModuleSourceBegin : kSourceBegin, name)};
   for (const Entry& entry : catalogue.entries()) {
     const std::string accessor = accessorOf(entry, name);
-    const std::string parameters = parametersOf(entry, style);
+    const std::string parameters = parametersOf(entry, name);
     accessors.header += fmt::format("\n{}  [[nodiscard]] static std::string {}({});\n",
                                     commentOf(entry, base), accessor, parameters);
-    accessors.source += fmt::format(
-        "\nstd::string {}::{}({}) {{\n  return {}\"{}\", \"{}\", {}, {});\n}}\n", name.name, accessor,
-        parameters, style.call, escaped(entry.key), escaped(entry.text),
-        entry.plural ? "count" : "std::nullopt", substitutionsOf(entry));
+    accessors.source += fmt::format("\nstd::string {}::{}({}) {{\n  return {};\n}}\n", name.name, accessor,
+                                    parameters, lookupOf(entry, name));
   }
   accessors.header += "};\n" + end(name);
   accessors.source += end(name);
