@@ -117,21 +117,6 @@ void insertLines(const Catalogue& catalogue, const Entry& entry, const PluralFor
   base.insertBehind(before, lines);
 }
 
-/// Writes the catalogue and what changes with it: the English table as it is edited, the accessors, and
-/// `translations`.
-void writeAll(const std::string& root, const Catalogue& catalogue, const TableEditor& base,
-              std::vector<FileChange> translations = {}) {
-  const std::string table = base.edited();
-  const CatalogueName name = CatalogueName::read(root);
-  std::vector<FileChange> changes;
-  if (keepsAccessors(root, name))
-    changes = accessorFiles(name, catalogue, Table::parse(table, tablePath(kBase)));
-  changes.push_back({Catalogue::kFile, checkedJson(catalogue)});
-  changes.push_back({tablePath(kBase), table});
-  std::move(translations.begin(), translations.end(), std::back_inserter(changes));
-  writeFiles(root, changes);
-}
-
 /// The entries of `key`, counted or not. Throws with the nearest key when there are none.
 std::vector<Entry*> entriesOf(Catalogue& catalogue, const std::string& key) {
   std::vector<Entry*> found;
@@ -190,6 +175,18 @@ std::string changedText(const TableKey& key, const std::string& present, const s
 
 }  // namespace
 
+void writeCatalogue(const std::string& root, const Catalogue& catalogue, const std::string& base,
+                    std::vector<FileChange> translations) {
+  const CatalogueName name = CatalogueName::read(root);
+  std::vector<FileChange> changes;
+  if (keepsAccessors(root, name))
+    changes = accessorFiles(name, catalogue, Table::parse(base, tablePath(kBase)));
+  changes.push_back({Catalogue::kFile, checkedJson(catalogue)});
+  changes.push_back({tablePath(kBase), base});
+  std::move(translations.begin(), translations.end(), std::back_inserter(changes));
+  writeFiles(root, changes);
+}
+
 void generate(const std::string& root) {
   writeFiles(root, accessorFilesOf(root));
 }
@@ -218,7 +215,7 @@ std::string addEntry(const std::string& root, const NewEntry& added) {
 
   TableEditor base = TableEditor::open(root, kBase);
   insertLines(catalogue, catalogue.entries()[place], forms, base);
-  writeAll(root, catalogue, base);
+  writeCatalogue(root, catalogue, base.edited());
   return key;
 }
 
@@ -250,7 +247,7 @@ std::size_t changeEntry(const std::string& root, const std::string& key, const s
     editor.setState(entry, TranslationState::needsReview);
     ++marked;
   };
-  writeAll(root, catalogue, base, editTranslations(root, keys, mark));
+  writeCatalogue(root, catalogue, base.edited(), editTranslations(root, keys, mark));
   return marked;
 }
 
@@ -264,7 +261,7 @@ void removeEntry(const std::string& root, const std::string& key) {
     if (const TableEntry* const entry = base.table().find(tableKey.key)) base.remove(*entry);
   }
   const auto remove = [](TableEditor& editor, const TableEntry& entry) { editor.remove(entry); };
-  writeAll(root, catalogue, base, editTranslations(root, keys, remove));
+  writeCatalogue(root, catalogue, base.edited(), editTranslations(root, keys, remove));
 }
 
 }  // namespace zk::tools

@@ -1,12 +1,14 @@
 #pragma once
 
 #include <ZKStrings/tools/Catalogue.h>
+#include <ZKStrings/tools/Files.h>
 
 #include <array>
 #include <cstddef>
 #include <iterator>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace zk::tools {
 
@@ -41,6 +43,11 @@ std::string addEntry(const std::string& root, const NewEntry& added);
 /// old text becomes the new one. Marks its translations as to be reviewed, and gives their number.
 std::size_t changeEntry(const std::string& root, const std::string& key, const std::string& text,
                         const PluralForms& forms);
+
+/// Writes the catalogue and what changes with it: the English table, whose bytes are `base`, `translations`, and the
+/// accessors, where the project keeps them.
+void writeCatalogue(const std::string& root, const Catalogue& catalogue, const std::string& base,
+                    std::vector<FileChange> translations = {});
 
 /// Removes the text of `key`, counted and plain, from the catalogue, from all tables and from the accessors.
 void removeEntry(const std::string& root, const std::string& key);
