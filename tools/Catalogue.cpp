@@ -161,8 +161,8 @@ void checkTogether(const std::vector<Entry>& entries, const std::string& file, F
     };
     const auto [same, isNew] = accessors.try_emplace(signatureOf(entry), &entry);
     if (!isNew)
-      fail(fmt::format("the accessor \"{}\" stands already in line {}; remove one",
-                       identifierFor(entry.key), same->second->line));
+      fail(fmt::format("the accessor \"{}\" stands already in line {}; remove one", identifierFor(entry.key),
+                       same->second->line));
     const auto [first, isFirst] = texts.try_emplace(entry.key, &entry);
     if (!isFirst && first->second->text != entry.text) {
       fail(fmt::format("the key \"{}\" has another text in line {}; give both the same", entry.key,

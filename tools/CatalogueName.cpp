@@ -19,8 +19,7 @@ namespace {
 constexpr const char* kForm = R"(write {"name": "Texts", "namespace": "myapp"})";
 
 [[noreturn]] void fail(Position at, std::string message) {
-  throw CommandFailed{
-      {{Severity::error, CatalogueName::kFile, at.line, at.column, "", std::move(message)}}};
+  throw CommandFailed{{{Severity::error, CatalogueName::kFile, at.line, at.column, "", std::move(message)}}};
 }
 
 bool isNamespace(std::string_view name) {
@@ -67,7 +66,8 @@ std::string CatalogueName::fault() const {
     return fmt::format(
         "the namespace \"{}\" cannot name one; use letters, digits and _, as in myapp or myapp::texts",
         nameSpace);
-  if (name == nameSpace) return fmt::format("the namespace is called \"{}\" like the class; change one", name);
+  if (name == nameSpace)
+    return fmt::format("the namespace is called \"{}\" like the class; change one", name);
   return "";
 }
 

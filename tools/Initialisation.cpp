@@ -45,7 +45,8 @@ In CMake: `zk_add_catalogue(TARGET {target} ROOT <this folder>)` makes a library
 std::string readmeFor(const CatalogueName& name) {
   const std::string scope = name.nameSpace.empty() ? "" : name.nameSpace + "::";
   std::string target = name.name;
-  for (char& letter : target) letter = letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter + 32) : letter;
+  for (char& letter : target)
+    letter = letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter + 32) : letter;
   return fmt::format(fmt::runtime(kReadme), fmt::arg("name", name.name), fmt::arg("target", target),
                      fmt::arg("call", scope + name.name + "::"));
 }

@@ -89,7 +89,8 @@ TableEditor::InsertionPlace TableEditor::placeBehind(const TableEntry* entry) co
   if (!neighbour) return {text_.size(), false};
   const std::size_t place = entry ? endOfLine(text_, *entry) : beginWithComments(*neighbour);
   // What stands before the first entry is the file's head, and tells nothing of the entries.
-  const TableEntry* const second = neighbour == first && table_.entries.size() > 1 ? &table_.entries[1] : neighbour;
+  const TableEntry* const second =
+      neighbour == first && table_.entries.size() > 1 ? &table_.entries[1] : neighbour;
   return {place, blankLineBefore(beginWithComments(*second)).has_value()};
 }
 

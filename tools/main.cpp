@@ -1,4 +1,5 @@
 #include <ZKStrings/tools/CatalogueCommandLine.h>
+#include <ZKStrings/tools/ExchangeCommandLine.h>
 #include <ZKStrings/tools/Fault.h>
 #include <ZKStrings/tools/Files.h>
 #include <ZKStrings/tools/HelpFormatter.h>
@@ -55,6 +56,8 @@ int run(int argc, char** argv) {
   addCoverageCommand(app, inRoot);
   addTemplateCommand(app, inRoot);
   addUpdateCommand(app, inRoot);
+  addExportCommand(app, inRoot);
+  addImportCommand(app, inRoot, status);
   for (CLI::App* const command : app.get_subcommands({})) command->fallthrough();
 
   try {

@@ -45,15 +45,12 @@ TEST_F(Update, AddsWhatIsMissingAtItsPlace) {
 /* English: "About" */
 /* state: untranslated */
 "About" = "About";
-
 /* English: "%{n} Coins"; placeholders: %{n} */
 /* state: untranslated */
 "n_Coins_zero" = "%{n} Coins";
-
 /* English: "%{n} Coin"; placeholders: %{n} */
 /* state: untranslated */
 "n_Coins_one" = "%{n} Coin";
-
 "ZK" = "ZK"; // first
 "n_Coins_two" = "%{n} mynt";
 /* English: "%{n} Coins"; placeholders: %{n} */

@@ -116,8 +116,9 @@ TEST(TranslationCommandLine, TellsGapsInOneShortLine) {
 
 TEST(TranslationCommandLine, WhatItSaysOfItselfFitsATerminal) {
   const TemporaryProject project;
-  for (const char* const arguments : {"--help", "check --help", "coverage --help", "template --help",
-                                      "update --help", "add --help", "change --help", "check --rules", "coverage"}) {
+  for (const char* const arguments :
+       {"--help", "check --help", "coverage --help", "template --help", "update --help", "add --help",
+        "change --help", "check --rules", "coverage"}) {
     const Answer answer = answerTo(project, arguments);
     EXPECT_EQ(answer.status, 0) << arguments;
     for (const std::string_view line : zk::tools::linesOf(answer.output)) {

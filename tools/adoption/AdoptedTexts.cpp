@@ -146,7 +146,8 @@ std::optional<Entry> AdoptedTexts::entryFor(const ForeignEntry& source) {
     remark(Severity::warning, text, reason + "; left out");
     return std::nullopt;
   }
-  if (const auto formatted = std::find_if(pieces.begin(), pieces.end(), isFormatted); formatted != pieces.end())
+  if (const auto formatted = std::find_if(pieces.begin(), pieces.end(), isFormatted);
+      formatted != pieces.end())
     remark(Severity::note, text,
            fmt::format("\"{}\" has become %{{{}}}; the app passes the number as it is to be read",
                        formatted->text, argumentName(formatted->argument, known.arguments)));

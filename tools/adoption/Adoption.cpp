@@ -36,7 +36,8 @@ using Lines = std::map<std::string, std::string>;
 /// What becomes of the directory "xx.lproj" of the other app: its two-letter code, or why it is left out.
 std::pair<std::string, std::string> languageFor(const std::string& directory) {
   const std::string code = languageCodeOf(directory);
-  if (code == "en" || directory == kBase) return {"", "English comes from the table that was named; left out"};
+  if (code == "en" || directory == kBase)
+    return {"", "English comes from the table that was named; left out"};
   if (code.size() != 2 || !whyNeverChosen(code).empty())
     return {"", fmt::format("\"{}\" means no language with a code of two letters; left out", directory)};
   return {code, ""};
@@ -49,14 +50,16 @@ std::vector<ForeignTable> translationsBeside(const std::string& file, Faults& re
   if (english.parent_path().extension() != ".lproj") return tables;
   std::vector<fs::path> directories;
   std::error_code failure;
-  for (const fs::directory_entry& entry : fs::directory_iterator(english.parent_path().parent_path(), failure)) {
+  for (const fs::directory_entry& entry :
+       fs::directory_iterator(english.parent_path().parent_path(), failure)) {
     const bool isOther = entry.path().extension() == ".lproj" && entry.path() != english.parent_path();
     if (isOther) directories.push_back(entry.path());
   }
   std::sort(directories.begin(), directories.end());
   for (const fs::path& directory : directories) {
     const fs::path table = directory / english.filename();
-    if (!fs::exists(table, failure) && !fs::exists(fs::path(table).replace_extension(".stringsdict"), failure))
+    if (!fs::exists(table, failure) &&
+        !fs::exists(fs::path(table).replace_extension(".stringsdict"), failure))
       continue;
     auto [language, reason] = languageFor(directory.stem().string());
     const auto isSame = [&, code = language](const ForeignTable& other) { return other.language == code; };
@@ -83,7 +86,8 @@ void insertAll(Catalogue& catalogue, std::vector<Entry> added) {
   auto next = added.begin();
   for (Entry& present : catalogue.entries()) {
     const bool isPlaced = present.kept != Entry::Kept::place;
-    while (isPlaced && next != added.end() && goesBefore(*next, present)) merged.push_back(std::move(*next++));
+    while (isPlaced && next != added.end() && goesBefore(*next, present))
+      merged.push_back(std::move(*next++));
     merged.push_back(std::move(present));
   }
   std::move(next, added.end(), std::back_inserter(merged));
@@ -140,7 +144,8 @@ Adoption adopt(const std::string& root, const std::string& file) {
   }
   if (entries.empty()) {
     if (adoption.remarks.empty())
-      adoption.remarks.push_back({Severity::error, file, 1, 1, "", "the file has no texts; name a table that has"});
+      adoption.remarks.push_back(
+          {Severity::error, file, 1, 1, "", "the file has no texts; name a table that has"});
     adoption.remarks.front().severity = Severity::error;
     throw CommandFailed{adoption.remarks};
   }

@@ -70,7 +70,8 @@ Reading readEntry(const pugi::xml_node& entry) {
 
 }  // namespace
 
-std::vector<ForeignEntry> readPluralDictionary(std::string_view xml, const std::string& file, Faults& faults) {
+std::vector<ForeignEntry> readPluralDictionary(std::string_view xml, const std::string& file,
+                                               Faults& faults) {
   const auto fail = [&](Position at, std::string message) {
     faults.push_back({Severity::warning, file, at.line, at.column, "", std::move(message)});
   };
@@ -85,14 +86,16 @@ std::vector<ForeignEntry> readPluralDictionary(std::string_view xml, const std::
   std::vector<ForeignEntry> entries;
   PositionTeller positions(xml);
   for (const pugi::xml_node& key : document.child("plist").child("dict").children("key")) {
-    const Position at = positions.at(static_cast<std::size_t>(std::max<std::ptrdiff_t>(key.offset_debug(), 0)));
+    const Position at =
+        positions.at(static_cast<std::size_t>(std::max<std::ptrdiff_t>(key.offset_debug(), 0)));
     Reading reading = readEntry(key.next_sibling());
     if (!reading.fault.empty()) {
       fail(at, fmt::format("\"{}\": {}; add it by hand", key.text().get(), reading.fault));
       continue;
     }
     ForeignEntry entry{key.text().get()};
-    for (auto& [name, text] : reading.forms) entry.forms.emplace(name, ForeignText{std::move(text), file, at});
+    for (auto& [name, text] : reading.forms)
+      entry.forms.emplace(name, ForeignText{std::move(text), file, at});
     entries.push_back(std::move(entry));
   }
   return entries;
