@@ -22,6 +22,8 @@ class AdoptedTexts {
 
   /// The entry for the English texts of `source`; nothing when they cannot make one.
   [[nodiscard]] std::optional<Entry> entryFor(const ForeignEntry& source);
+  /// Whether `entryFor` has made one for `key`.
+  [[nodiscard]] bool has(const std::string& key) const { return known_.contains(key); }
   /// The lines of a table for the texts of an entry that `entryFor` has made, by the looked-up key; in English and in other
   /// languages alike.
   [[nodiscard]] std::map<std::string, std::string> linesFor(const ForeignEntry& translation);

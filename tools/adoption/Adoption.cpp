@@ -125,6 +125,16 @@ Lines linesOfAll(const ForeignTexts& texts, AdoptedTexts& adopted) {
   return lines;
 }
 
+/// Lists the texts for which there is no English one, or none that could be brought along.
+void remarkOnStrangers(const ForeignTexts& texts, const AdoptedTexts& adopted, Faults& remarks) {
+  for (const ForeignEntry& entry : texts.entries) {
+    if (adopted.has(entry.key)) continue;
+    const ForeignText& text = entry.forms.begin()->second;
+    remarks.push_back({Severity::warning, text.file, text.at.line, text.at.column, "",
+                       fmt::format("no English text has come along for \"{}\"; left out", entry.key)});
+  }
+}
+
 void append(Faults& faults, const Faults& others) {
   faults.insert(faults.end(), others.begin(), others.end());
 }
@@ -161,6 +171,7 @@ Adoption adopt(const std::string& root, const std::string& file) {
   for (const ForeignTable& table : translationsBeside(file, adoption.remarks)) {
     const ForeignTexts texts = ForeignTexts::read(table.file, english.plurals());
     append(adoption.remarks, texts.faults);
+    remarkOnStrangers(texts, adopted, adoption.remarks);
     translations.push_back(tableOf(table.language, texts));
   }
   writeCatalogue(root, catalogue, base.bytes, std::move(translations));
