@@ -30,9 +30,6 @@ expect "installed, in another language" "Bonsoir, Kim !" "$work/moved/bin/own_ca
 
 entries=$work/app/texts/catalogue/entries.json
 sed -i 's/{"key": "Go_live", "text": "Go live"}/{"key": "Go_live", "text": "Go live!"}/' "$entries"
-rm "$work/app/texts/resources/Base.lproj/Localizable.strings"
-"$build/bin/zkstrings" --root "$work/app/texts" check >/dev/null && fail "a catalogue without its English table passes the check"
-cp "$source/examples/own-catalogue/texts/resources/Base.lproj/Localizable.strings" "$work/app/texts/resources/Base.lproj"
 sed -i '/Go_live/d' "$work/app/texts/resources/Base.lproj/Localizable.strings"
 "$cmake" --build "$work/build" >/dev/null
 expect "after a change of the catalogue" "[Go live!]  [End the show?]" "$work/build/own_catalogue" en
