@@ -112,9 +112,6 @@ void checkEntry(const Entry& entry, const std::string& file, Faults& faults) {
     faults.push_back({Severity::error, file, entry.line, 1, "", std::move(message)});
   };
   const bool isKept = entry.kept == Entry::Kept::key;
-  if (!isKept && lengthOf(entry.key) > kLongestKey) {
-    fail(fmt::format("the key \"{}\" has more than {} characters; cut it there", entry.key, kLongestKey));
-  }
   const std::string ruled = keyForText(entry.text);
   if (!isKept && entry.key != ruled) {
     fail(fmt::format("the key \"{}\" is not the one that its text gets; use \"{}\"", entry.key, ruled));

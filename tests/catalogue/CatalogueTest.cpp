@@ -114,7 +114,6 @@ TEST(Catalogue, RefusesAWrongEntryNamingItsLine) {
     std::size_t line;
     std::string message;
   };
-  const std::string longText(101, 'a');
   const Case cases[] = {
       {R"({"key": "B", "text": "B"},
 {"key": "A", "text": "A"})",
@@ -127,7 +126,7 @@ TEST(Catalogue, RefusesAWrongEntryNamingItsLine) {
        3, "another text in line 2"},
       {R"({"key": "A", "text": "B"})", 2, "use \"B\""},
       {R"({"key": "A", "text": "A", "kept": "key"})", 2, "follows the rule"},
-      {R"({"key": ")" + longText + R"(", "text": "x", "kept": "key"})", 2, "more than 100 characters"},
+      {R"({"key": "???", "text": "x", "kept": "key"})", 2, "cannot name a function"},
       {R"({"key": "a_a", "text": "%{a} %{a}"})", 2, "stands twice"},
       {R"({"key": "a_b", "text": "%{a b}"})", 2, "cannot name an argument"},
       {R"({"key": "count", "text": "%{count}", "plural": true})", 2, "has the argument count already"},

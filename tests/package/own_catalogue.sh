@@ -40,4 +40,4 @@ grep -qF "$entries:2:1: error: the key \"Camera_is_on\"" <<<"$output" || fail "t
 
 sed -i 's/NAMESPACE console/NAMESPACE other/' "$work/app/CMakeLists.txt"
 output=$("$cmake" -S "$work/app" -B "$work/build" 2>&1) && fail "another namespace than the catalogue's is taken"
-grep -qF 'catalogue.json:1:1: error: the namespace is "console" here and' <<<"$output" || fail "the namespace is not told: $output"
+grep -qF 'catalogue.json:1:1: error: the namespace is "console" here and' <<<"$(tr -s ' \n' ' ' <<<"$output")" || fail "the namespace is not told: $output"

@@ -55,7 +55,8 @@ std::vector<ForeignTable> translationsBeside(const std::string& file, Faults& re
     const bool isOther = entry.path().extension() == ".lproj" && entry.path() != english.parent_path();
     if (isOther) directories.push_back(entry.path());
   }
-  std::sort(directories.begin(), directories.end());
+  std::sort(directories.begin(), directories.end(),
+            [](const fs::path& one, const fs::path& other) { return one.stem() < other.stem(); });
   for (const fs::path& directory : directories) {
     const fs::path table = directory / english.filename();
     if (!fs::exists(table, failure) &&
