@@ -1,6 +1,6 @@
 # zk_add_catalogue(TARGET <target> ROOT <folder> [NAME <name>] [NAMESPACE <namespace>] [DESTINATION <directory>])
 #
-# Adds the library <target> with the accessors of the catalogue in <folder>, as `zkstrings init` begins one. A program
+# Adds the static library <target> with the accessors of the catalogue in <folder>, as `zkstrings init` begins one. A program
 # that links it includes "<name>.h". <name> and <namespace> are those of catalogue/catalogue.json; when they are
 # given here as well, they must be the same.
 #
@@ -33,7 +33,7 @@ function(zk_add_catalogue)
       ${arg_ROOT}/resources/Base.lproj/Localizable.strings
     COMMENT "Generating the accessors of ${name}"
     VERBATIM)
-  add_library(${arg_TARGET} ${generated}/${name}.cpp ${generated}/${name}.h)
+  add_library(${arg_TARGET} STATIC ${generated}/${name}.cpp ${generated}/${name}.h)
   target_include_directories(${arg_TARGET} PUBLIC ${generated})
   target_link_libraries(${arg_TARGET} PUBLIC ZKStrings::ZKStrings)
   # It may become part of a shared library.
