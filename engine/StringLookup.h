@@ -34,8 +34,8 @@ namespace zk {
                                                     const Substitutions& substitutions);
 
 /// The same for a catalogue with resources of its own: looked up in `resources`, a directory with language
-/// directories such as Base.lproj and de.lproj, for the same `Current::language` and by the same rules. Null stands
-/// for resources that cannot be found for the moment; the text is then the English one.
+/// directories such as Base.lproj and de.lproj, for the same `Current::language` and by the same rules. Null
+/// stands for resources that cannot be found for the moment; the text is then the English one.
 ///
 ///     const zk::Bundle& texts = zk::Bundle::bundleForClass(typeid(MyTexts), "MyTexts");
 ///     zk::localizedString(&texts, "Hello", "Hello", std::nullopt, {})

@@ -45,9 +45,9 @@ class ZK_EXPORT alignas(kCacheLine) Bundle {
   /// Throws std::system_error when it cannot be said for the moment which directory it is or what is in it.
   [[nodiscard]] static const Bundle& bundleForClass(const std::type_info& type);
 
-  /// The same for code that has resources of its own, in a directory `name`: the nearest `share/name` at or above
-  /// the directory of the file that defines the type `type`, two levels up at most. A `name` that is no single
-  /// name, such as "" or "a/b", has none.
+  /// The same for code that has resources of its own, in a directory `name`: the nearest `share/name` at or
+  /// above the directory of the file that defines the type `type`, two levels up at most. A `name` that is no
+  /// single name, such as "" or "a/b", has none.
   [[nodiscard]] static const Bundle& bundleForClass(const std::type_info& type, std::string_view name);
 
   /// The bundle of the running app: the directory of its executable, without resources when that cannot be

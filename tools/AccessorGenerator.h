@@ -14,8 +14,8 @@ struct Accessors {
   std::string source;
 };
 
-/// One accessor for each entry, in the class that `name` says. The comments of counted entries show their plural forms,
-/// which `base`, the English table, holds.
+/// One accessor for each entry, in the class that `name` says. The comments of counted entries show their
+/// plural forms, which `base`, the English table, holds.
 [[nodiscard]] Accessors generateAccessors(const Catalogue& catalogue, const Table& base,
                                           const CatalogueName& name);
 

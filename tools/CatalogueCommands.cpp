@@ -43,8 +43,8 @@ std::vector<FileChange> accessorFilesOf(const std::string& root) {
   return accessorFiles(CatalogueName::read(root), Catalogue::read(root), Table::readWellFormed(root, kBase));
 }
 
-/// Whether the project at `root` keeps its accessors beside the catalogue: the module does; another may leave them to
-/// its build.
+/// Whether the project at `root` keeps its accessors beside the catalogue: the module does; another may leave
+/// them to its build.
 bool keepsAccessors(const std::string& root, const CatalogueName& name) {
   std::error_code failure;
   return name.isModule() || std::filesystem::exists(std::filesystem::path(root) / name.headerFile(), failure);

@@ -5,8 +5,8 @@
 
 namespace zk::tools {
 
-/// What a catalogue is called: its accessors are functions of `nameSpace::name`, and its resources lie in share/`name`.
-/// A catalogue of one's own says so in a file:
+/// What a catalogue is called: its accessors are functions of `nameSpace::name`, and its resources lie in
+/// share/`name`. A catalogue of one's own says so in a file:
 ///
 ///     {"name": "Texts", "namespace": "myapp"}
 ///
@@ -22,8 +22,8 @@ struct CatalogueName {
   [[nodiscard]] std::string headerFile() const { return "catalogue/" + name + ".h"; }
   [[nodiscard]] std::string sourceFile() const { return "catalogue/" + name + ".cpp"; }
 
-  /// Reads the name of the catalogue in the project at `root`. Throws `CommandFailed` when its file cannot be read
-  /// or is wrong.
+  /// Reads the name of the catalogue in the project at `root`. Throws `CommandFailed` when its file cannot be
+  /// read or is wrong.
   [[nodiscard]] static CatalogueName read(const std::string& root);
   /// The same of the text of such a file.
   [[nodiscard]] static CatalogueName parse(std::string_view json);

@@ -9,7 +9,8 @@ namespace zk::tools {
 
 namespace {
 
-/// What cannot be the name of an accessor: the reserved words, and the two names that the module's class itself needs.
+/// What cannot be the name of an accessor: the reserved words, and the two names that the module's class
+/// itself needs.
 constexpr std::string_view kReserved[] = {
     "Text",     "ZKStrings", "alignas",  "alignof",   "and",     "and_eq",    "asm",      "auto",
     "bitand",   "bitor",     "bool",     "break",     "case",    "catch",     "char",     "class",

@@ -14,8 +14,8 @@ namespace zk::tools {
 
 namespace {
 
-/// The forms of another app that serve for one of the five, the best first: its languages have other plural rules, and
-/// "other" is what all of them have.
+/// The forms of another app that serve for one of the five, the best first: its languages have other plural
+/// rules, and "other" is what all of them have.
 struct Sources {
   std::string_view suffix;
   std::vector<std::string_view> forms;

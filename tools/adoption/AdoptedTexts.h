@@ -13,8 +13,8 @@
 
 namespace zk::tools {
 
-/// Turns texts of another app into entries of a catalogue, and their translations into lines of its tables. What it leaves
-/// out, it remarks on.
+/// Turns texts of another app into entries of a catalogue, and their translations into lines of its tables.
+/// What it leaves out, it remarks on.
 class AdoptedTexts {
  public:
   /// For a catalogue that has `present` already. `remarks` must outlive this.
@@ -24,8 +24,8 @@ class AdoptedTexts {
   [[nodiscard]] std::optional<Entry> entryFor(const ForeignEntry& source);
   /// Whether `entryFor` has made one for `key`.
   [[nodiscard]] bool has(const std::string& key) const { return known_.contains(key); }
-  /// The lines of a table for the texts of an entry that `entryFor` has made, by the looked-up key; in English and in other
-  /// languages alike.
+  /// The lines of a table for the texts of an entry that `entryFor` has made, by the looked-up key; in
+  /// English and in other languages alike.
   [[nodiscard]] std::map<std::string, std::string> linesFor(const ForeignEntry& translation);
 
  private:

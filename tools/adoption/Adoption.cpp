@@ -43,7 +43,8 @@ std::pair<std::string, std::string> languageFor(const std::string& directory) {
   return {code, ""};
 }
 
-/// The tables for other languages beside the English `file`, sorted by their directories, so that "pt" comes before "pt-BR".
+/// The tables for other languages beside the English `file`, sorted by their directories, so that "pt" comes
+/// before "pt-BR".
 std::vector<ForeignTable> translationsBeside(const std::string& file, Faults& remarks) {
   const fs::path english = fs::absolute(file).lexically_normal();
   std::vector<ForeignTable> tables;

@@ -15,14 +15,14 @@ struct Adoption {
   Faults remarks;                      ///< warnings: what was left out; notes: what the app must see to
 };
 
-/// Brings the texts of another app into the catalogue of the project at `root`: those of its English table `file`
-/// ("en.lproj/Localizable.strings") as entries that keep their keys, and those of the tables of the same name for other
-/// languages ("de.lproj/Localizable.strings" beside it). Plural forms, in tables and in .stringsdict files, become the
-/// five of the catalogue; placeholders that go by their place get names, the same in every language. What the catalogue
-/// has already stays as it is.
+/// Brings the texts of another app into the catalogue of the project at `root`: those of its English table
+/// `file` ("en.lproj/Localizable.strings") as entries that keep their keys, and those of the tables of the
+/// same name for other languages ("de.lproj/Localizable.strings" beside it). Plural forms, in tables and in
+/// .stringsdict files, become the five of the catalogue; placeholders that go by their place get names, the
+/// same in every language. What the catalogue has already stays as it is.
 ///
-/// Throws `CommandFailed`, having written nothing, when `file` or the project cannot be read or written, or when nothing
-/// in `file` can be brought along.
+/// Throws `CommandFailed`, having written nothing, when `file` or the project cannot be read or written, or
+/// when nothing in `file` can be brought along.
 [[nodiscard]] Adoption adopt(const std::string& root, const std::string& file);
 
 }  // namespace zk::tools

@@ -30,8 +30,8 @@ std::size_t numberOf(std::string_view digits) {
   return number;
 }
 
-/// The placeholder at the beginning of `text`, a percent sign; its argument is 0 when it is that of its place. Plain text
-/// when it is none.
+/// The placeholder at the beginning of `text`, a percent sign; its argument is 0 when it is that of its
+/// place. Plain text when it is none.
 TextPiece placeholderAt(std::string_view text) {
   const TextPiece plain{"%"};
   if (text.starts_with("%%")) return {"%%"};
