@@ -4,6 +4,7 @@
 #include <ZKStrings/tools/Files.h>
 #include <ZKStrings/tools/HelpFormatter.h>
 #include <ZKStrings/tools/Nearest.h>
+#include <ZKStrings/tools/OwnCatalogueCommandLine.h>
 #include <ZKStrings/tools/TranslationCommandLine.h>
 
 #include <cstdio>
@@ -48,6 +49,7 @@ int run(int argc, char** argv) {
   const auto inRoot = [&] { return root.empty() ? findRoot() : rootAt(root); };
 
   int status = 0;
+  addInitCommand(app);
   addCatalogueCommands(app, inRoot);
   addCheckCommand(app, inRoot, status);
   addCoverageCommand(app, inRoot);

@@ -53,6 +53,7 @@ class Checker {
   }
 
   void checkCountries() {
+    if (!CountryFile::isExpected(root_)) return;
     const CountryFile file = CountryFile::read(root_);
     result_.countries = file.elements.size();
     apply(countryRules(), file, CountryFile::kFile);
