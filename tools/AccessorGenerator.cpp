@@ -27,10 +27,10 @@ constexpr const char* kHeaderBegin = R"(#pragma once
 #include <ZKStrings/engine/Text.h>
 #include <ZKStrings/platform/Export.h>
 {opening}
-/// The catalogue: one accessor for each text of the app, named as the entry's key, giving the text in the
-/// user's language. Text arguments (a literal, a `std::string`, a `std::string_view`) fill the placeholders
-/// of the same name; `count`, the last argument of counted entries, chooses the plural form and is filled in
-/// nowhere. Each comment shows the English text.
+/// The catalogue: one accessor for each text of the app, named as the entry's key, giving the text in the user's
+/// language. Text arguments (a literal, a `std::string`, a `std::string_view`) fill the placeholders of the same name;
+/// `count`, the last argument of counted entries, chooses the plural form and is filled in nowhere. Each comment shows
+/// the English text.
 ///
 {example}/// Any thread may call any accessor, once `zk::Current::language` has been assigned.
 struct ZK_EXPORT {name} {{
