@@ -120,8 +120,10 @@ void addCheckCommand(CLI::App& app, const RootFinder& inRoot, int& status) {
   const auto arguments = std::make_shared<Arguments>();
   auto* const command =
       app.add_subcommand("check", "Say all that is wrong with the tables and the country list");
-  command->add_option("languages", arguments->options.languages,
-                      "The languages to check, as their directories are named; without any, everything");
+  command
+      ->add_option("languages", arguments->options.languages,
+                   "The languages to check, as their directories are named; without any, everything")
+      ->type_name("LANGUAGE");
   command->add_option("--off", arguments->options.off, "A rule to switch off; may be given again")
       ->allow_extra_args(false)
       ->check(isRule())
@@ -132,6 +134,7 @@ void addCheckCommand(CLI::App& app, const RootFinder& inRoot, int& status) {
   command->add_flag("--notes", arguments->options.notes, "Show also what may be right, but is worth a look");
   command->add_flag("--rules", arguments->showsRules, "List the rules instead");
   addFormat(*command, arguments->format);
+  command->footer("Example: zkstrings check de --strict");
   command->callback([arguments, inRoot, &status] {
     if (arguments->showsRules) return printRules();
     const CheckResult result = check(inRoot(), arguments->options);
@@ -150,6 +153,7 @@ void addCoverageCommand(CLI::App& app, const RootFinder& inRoot) {
   auto* const command =
       app.add_subcommand("coverage", "Show how far the translations of each language have come");
   addFormat(*command, *format);
+  command->footer("Example: zkstrings coverage");
   command->callback([format, inRoot] {
     const std::vector<Coverage> languages = coverageOf(inRoot());
     fmt::print("{}", *format == kJson ? toJson(languages) + "\n" : formatted(languages));
@@ -159,7 +163,8 @@ void addCoverageCommand(CLI::App& app, const RootFinder& inRoot) {
 void addTemplateCommand(CLI::App& app, const RootFinder& inRoot) {
   const auto language = std::make_shared<std::string>();
   auto* const command = app.add_subcommand("template", "Write the table from which a new language begins");
-  command->add_option("language", *language, "The language's ISO 639-1 code")->required();
+  command->add_option("language", *language, "The language's ISO 639-1 code")->required()->type_name("CODE");
+  command->footer("Example: zkstrings template sv");
   command->callback([language, inRoot] {
     const std::size_t texts = writeTemplate(inRoot(), *language);
     fmt::print("Wrote {} with {} texts to translate.\n", tablePath(*language), texts);
@@ -174,8 +179,11 @@ void addUpdateCommand(CLI::App& app, const RootFinder& inRoot) {
   const auto arguments = std::make_shared<Arguments>();
   auto* const command = app.add_subcommand(
       "update", "Add what a language's table lacks, in English, and mark what is still in English");
-  command->add_option("language", arguments->language, "The language, as its directory is named")->required();
+  command->add_option("language", arguments->language, "The language, as its directory is named")
+      ->required()
+      ->type_name("LANGUAGE");
   command->add_flag("--prune", arguments->prunes, "Remove the entries that nothing looks up");
+  command->footer("Example: zkstrings update de");
   command->callback([arguments, inRoot] {
     const TableUpdate update = updateTable(inRoot(), arguments->language, arguments->prunes);
     print(update.notLookedUp);

@@ -4,6 +4,7 @@
 #include <ZKStrings/tools/HelpFormatter.h>
 #include <ZKStrings/tools/Nearest.h>
 #include <ZKStrings/tools/TranslationCommandLine.h>
+#include <ZKStrings/tools/reference/ReferenceCommand.h>
 
 #include <cstdio>
 #include <exception>
@@ -55,6 +56,8 @@ int run(int argc, char** argv) {
   addUpdateCommand(app, inRoot);
   for (CLI::App* const command : app.get_subcommands({})) command->fallthrough();
 
+  if (argc > 1 && argv[1] == std::string_view(kReference))
+    return printReference(app, {argv + 2, argv + argc});
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& wrongUse) {
