@@ -58,9 +58,7 @@ struct ZK_EXPORT ZKStrings {{
 constexpr const char* kSourceBegin = R"({}
 #include <ZKStrings/catalogue/ZKStrings.h>
 
-#include <optional>
-
-#include <ZKStrings/engine/StringLookup.h>
+#include <ZKStrings/catalogue/EntryText.h>
 
 namespace zk {{
 )";
@@ -80,12 +78,15 @@ std::string parametersOf(const Entry& entry) {
   return fmt::format("{}", fmt::join(parameters, ", "));
 }
 
-std::string substitutionsOf(const Entry& entry) {
+/// What follows the key and the English text in the call of `entryText`.
+std::string furtherArgumentsOf(const Entry& entry) {
+  const std::string count = entry.plural ? ", count" : "";
   std::vector<std::string> pairs;
   for (const std::string_view name : placeholderNames(entry.text)) {
     pairs.push_back(fmt::format("{{\"{}\", {}}}", name, identifier(name)));
   }
-  return fmt::format("{{{}}}", fmt::join(pairs, ", "));
+  if (pairs.empty()) return count;
+  return fmt::format("{}, {{{}}}", count, fmt::join(pairs, ", "));
 }
 
 std::string commentOf(const Entry& entry, const Table& base) {
@@ -108,10 +109,9 @@ Accessors generateAccessors(const Catalogue& catalogue, const Table& base) {
     const std::string parameters = parametersOf(entry);
     accessors.header += fmt::format("\n{}  [[nodiscard]] static std::string {}({});\n",
                                     commentOf(entry, base), name, parameters);
-    accessors.source += fmt::format(
-        "\nstd::string ZKStrings::{}({}) {{\n  return localizedString(\"{}\", \"{}\", {}, {});\n}}\n", name,
-        parameters, escaped(entry.key), escaped(entry.text), entry.plural ? "count" : "std::nullopt",
-        substitutionsOf(entry));
+    accessors.source +=
+        fmt::format("\nstd::string ZKStrings::{}({}) {{\n  return entryText(\"{}\", \"{}\"{});\n}}\n", name,
+                    parameters, escaped(entry.key), escaped(entry.text), furtherArgumentsOf(entry));
   }
   accessors.header += "};\n\n}  // namespace zk\n";
   accessors.source += "\n}  // namespace zk\n";

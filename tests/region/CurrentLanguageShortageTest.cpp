@@ -22,6 +22,11 @@ void* allocated(std::size_t size, std::size_t alignment) {
   throw std::bad_alloc();
 }
 
+// Not inlined, where the compiler would take it for a mismatch with `new`.
+[[gnu::noinline]] void release(void* memory) {
+  std::free(memory);
+}
+
 }  // namespace
 
 void* operator new(std::size_t size) {
@@ -31,16 +36,16 @@ void* operator new(std::size_t size, std::align_val_t alignment) {
   return allocated(size, static_cast<std::size_t>(alignment));
 }
 void operator delete(void* memory) noexcept {
-  std::free(memory);
+  release(memory);
 }
 void operator delete(void* memory, std::size_t) noexcept {
-  std::free(memory);
+  release(memory);
 }
 void operator delete(void* memory, std::align_val_t) noexcept {
-  std::free(memory);
+  release(memory);
 }
 void operator delete(void* memory, std::size_t, std::align_val_t) noexcept {
-  std::free(memory);
+  release(memory);
 }
 
 namespace zk {
