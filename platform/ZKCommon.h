@@ -33,6 +33,7 @@ class ZK_EXPORT ReachabilityProperty {
 
   /// The app's service; before one was assigned, a service that knows no country. Never null.
   [[nodiscard]] operator std::shared_ptr<const NetworkReaching>() const { return service(); }
+  /// The same, to call it.
   [[nodiscard]] std::shared_ptr<const NetworkReaching> operator->() const { return service(); }
 
  private:
