@@ -167,7 +167,7 @@ void addTemplateCommand(CLI::App& app, const RootFinder& inRoot) {
   const auto language = std::make_shared<std::string>();
   auto* const command = app.add_subcommand("template", "Write the table from which a new language begins");
   command->add_option("language", *language, "The language's ISO 639-1 code")->required()->type_name("CODE");
-  command->footer("Example: zkstrings template sv");
+  command->footer("Example: zkstrings template fi");
   command->callback([language, inRoot] {
     const std::size_t texts = writeTemplate(inRoot(), *language);
     fmt::print("Wrote {} with {} texts to translate.\n", tablePath(*language), texts);
