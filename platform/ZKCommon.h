@@ -6,7 +6,7 @@
 #include <optional>
 #include <string>
 
-/// What ZKStrings needs of the app's shared module: the record `Current` of app-wide services.
+// What ZKStrings needs of the app's shared module: the record `Current` of app-wide services.
 
 namespace zk {
 
