@@ -12,10 +12,10 @@ install(EXPORT ZKStringsTargets NAMESPACE ZKStrings:: DESTINATION ${package_dire
 
 set(resources ${CMAKE_INSTALL_DATADIR}/ZKStrings)
 configure_package_config_file(cmake/ZKStringsConfig.cmake.in ${PROJECT_BINARY_DIR}/ZKStringsConfig.cmake
-  INSTALL_DESTINATION ${package_directory} PATH_VARS resources)
+  INSTALL_DESTINATION ${package_directory} PATH_VARS resources CMAKE_INSTALL_BINDIR)
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/ZKStringsConfigVersion.cmake COMPATIBILITY SameMajorVersion)
 install(FILES ${PROJECT_BINARY_DIR}/ZKStringsConfig.cmake ${PROJECT_BINARY_DIR}/ZKStringsConfigVersion.cmake
-  cmake/ZKStringsResources.cmake DESTINATION ${package_directory} COMPONENT development)
+  cmake/ZKStringsResources.cmake cmake/ZKStringsCatalogue.cmake DESTINATION ${package_directory} COMPONENT development)
 
 # For pkg-config, which finds the installation from its file's own place.
 set(pkgconfig_directory ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig)

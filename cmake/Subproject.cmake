@@ -2,3 +2,4 @@
 set_property(GLOBAL PROPERTY ZKSTRINGS_RESOURCES ${PROJECT_SOURCE_DIR}/resources)
 set_property(GLOBAL PROPERTY ZKSTRINGS_RESOURCES_PLACE ${resources_above})
 include(cmake/ZKStringsResources.cmake)
+include(cmake/ZKStringsCatalogue.cmake)

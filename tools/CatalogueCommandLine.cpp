@@ -36,9 +36,17 @@ void addForms(CLI::App& command, PluralForms& forms) {
 }
 
 void addGenerateCommand(CLI::App& app, const RootFinder& inRoot) {
+  const auto output = std::make_shared<std::string>();
   auto* const command = app.add_subcommand("generate", "Make the accessors of catalogue/entries.json anew");
+  command->add_option("--output", *output, "Where to, instead of catalogue/")->type_name("DIR");
   command->footer("Example: zkstrings generate");
-  command->callback([inRoot] { generate(inRoot()); });
+  command->callback([inRoot, output] {
+    if (output->empty()) {
+      generate(inRoot());
+    } else {
+      generateInto(*output, inRoot());
+    }
+  });
 }
 
 void addKeyCommand(CLI::App& app) {

@@ -112,7 +112,7 @@ std::string rootAt(const std::string& directory) {
 }
 
 std::string readFile(const std::string& root, const std::string& path) {
-  std::optional<std::string> bytes = contentsOfFile(root + "/" + path);
+  std::optional<std::string> bytes = contentsOfFile((fs::path(root) / path).string());
   if (!bytes) fail(path, "the file cannot be read; see that it exists, is a file and may be read");
   return *std::move(bytes);
 }

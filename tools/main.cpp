@@ -1,8 +1,10 @@
 #include <ZKStrings/tools/CatalogueCommandLine.h>
+#include <ZKStrings/tools/ExchangeCommandLine.h>
 #include <ZKStrings/tools/Fault.h>
 #include <ZKStrings/tools/Files.h>
 #include <ZKStrings/tools/HelpFormatter.h>
 #include <ZKStrings/tools/Nearest.h>
+#include <ZKStrings/tools/OwnCatalogueCommandLine.h>
 #include <ZKStrings/tools/TranslationCommandLine.h>
 #include <ZKStrings/tools/reference/ReferenceCommand.h>
 
@@ -48,11 +50,14 @@ int run(int argc, char** argv) {
   const auto inRoot = [&] { return root.empty() ? findRoot() : rootAt(root); };
 
   int status = 0;
+  addInitCommand(app);
   addCatalogueCommands(app, inRoot);
   addCheckCommand(app, inRoot, status);
   addCoverageCommand(app, inRoot);
   addTemplateCommand(app, inRoot);
   addUpdateCommand(app, inRoot);
+  addExportCommand(app, inRoot);
+  addImportCommand(app, inRoot, status);
   for (CLI::App* const command : app.get_subcommands({})) command->fallthrough();
 
   if (argc > 1 && argv[1] == std::string_view(kReference))

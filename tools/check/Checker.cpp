@@ -36,6 +36,12 @@ class Checker {
     return std::move(result_);
   }
 
+  Faults faultsIn(const std::string& language, const Table& table, const Catalogue& catalogue,
+                  const Table& base) {
+    checkTable(language, table, catalogue, base);
+    return std::move(result_.faults);
+  }
+
  private:
   std::optional<Catalogue> readCatalogue() {
     try {
@@ -47,6 +53,7 @@ class Checker {
   }
 
   void checkCountries() {
+    if (!CountryFile::isExpected(root_)) return;
     const CountryFile file = CountryFile::read(root_);
     result_.countries = file.elements.size();
     apply(countryRules(), file, CountryFile::kFile);
@@ -117,6 +124,11 @@ std::vector<Rule> checkRules() {
 
 CheckResult check(const std::string& root, const CheckOptions& options) {
   return Checker(root, options).run();
+}
+
+Faults checkTable(const std::string& language, const Table& table, const Catalogue& catalogue,
+                  const Table& base) {
+  return Checker("", CheckOptions{}).faultsIn(language, table, catalogue, base);
 }
 
 }  // namespace zk::tools

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <ZKStrings/tools/Catalogue.h>
 #include <ZKStrings/tools/Fault.h>
+#include <ZKStrings/tools/Table.h>
 #include <ZKStrings/tools/check/Rule.h>
 
 #include <cstddef>
@@ -29,5 +31,9 @@ struct CheckResult {
 /// file that cannot be read is a fault like others; without a catalogue, texts are compared with nothing.
 /// Throws `CommandFailed` when resources/ cannot be listed.
 [[nodiscard]] CheckResult check(const std::string& root, const CheckOptions& options);
+
+/// Finds the same in `table` alone, of `language`, which need not be in a file yet. `base` is the English one.
+[[nodiscard]] Faults checkTable(const std::string& language, const Table& table, const Catalogue& catalogue,
+                                const Table& base);
 
 }  // namespace zk::tools

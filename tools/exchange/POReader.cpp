@@ -1,0 +1,203 @@
+#include <ZKStrings/platform/formats/TextEncoding.h>
+#include <ZKStrings/tools/Fault.h>
+#include <ZKStrings/tools/Files.h>
+#include <ZKStrings/tools/exchange/PO.h>
+#include <ZKStrings/tools/exchange/POReference.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <optional>
+#include <string_view>
+#include <utility>
+
+#include <fmt/format.h>
+
+namespace zk::tools {
+
+namespace {
+
+constexpr std::string_view kBlanks = " \t\r";
+
+/// `text` without the blanks in front.
+std::string_view behindBlanks(std::string_view text) {
+  return text.substr(std::min(text.find_first_not_of(kBlanks), text.size()));
+}
+
+std::string_view firstWord(std::string_view text) {
+  text = behindBlanks(text);
+  return text.substr(0, text.find_first_of(kBlanks));
+}
+
+/// Takes an octal number of up to three digits off `text`.
+char takeOctal(std::string_view& text) {
+  unsigned value = 0;
+  for (int digits = 0; digits < 3 && !text.empty() && text[0] >= '0' && text[0] <= '7'; ++digits) {
+    value = value * 8 + static_cast<unsigned>(text[0] - '0');
+    text.remove_prefix(1);
+  }
+  return static_cast<char>(value);
+}
+
+/// Takes an escape, whose backslash is gone, off `text`. Nothing when it is none.
+std::optional<char> takeEscape(std::string_view& text) {
+  constexpr std::string_view kNames = "abfnrtv\\\"";
+  constexpr std::string_view kCharacters = "\a\b\f\n\r\t\v\\\"";
+  if (text.empty()) return std::nullopt;
+  if (text[0] >= '0' && text[0] <= '7') return takeOctal(text);
+  const std::size_t known = kNames.find(text[0]);
+  if (known == std::string_view::npos) return std::nullopt;
+  text.remove_prefix(1);
+  return kCharacters[known];
+}
+
+/// Whether `text` is `part` once or several times.
+bool isMadeOf(std::string_view text, std::string_view part) {
+  while (!part.empty() && text.starts_with(part)) text.remove_prefix(part.size());
+  return text.empty();
+}
+
+class Reader {
+ public:
+  Reader(std::string bytes, const std::string& file) : file_(file) {
+    std::optional<std::string> text = decodedText(std::move(bytes), UnmarkedText::isUtf8);
+    if (!text) fail("the bytes are not text in UTF-8; save the file as UTF-8");
+    text_ = *std::move(text);
+  }
+
+  Translations read() && {
+    for (const std::string_view line : linesOf(text_)) {
+      ++at_.line;
+      readLine(line);
+    }
+    endEntry();
+    if (!hasEntries_) fail("the file has no entries; a PO file has lines such as msgid \"...\"");
+    return std::move(translations_);
+  }
+
+ private:
+  struct Entry {
+    TranslationUnit unit;
+    std::string context;
+    std::string identifier;  ///< of Qt's comment "#. ts-id"
+    std::string reference;   ///< the first behind "#:"
+    bool hasSource = false;
+    bool hasTarget = false;
+  };
+
+  [[noreturn]] void fail(std::string message) const {
+    throw CommandFailed{
+        {{Severity::error, file_, std::max<std::size_t>(at_.line, 1), at_.column, "", std::move(message)}}};
+  }
+
+  void readLine(std::string_view line) {
+    const std::string_view content = behindBlanks(line);
+    at_.column = line.size() - content.size() + 1;
+    if (content.empty() || content.starts_with("#~")) return;
+    if (content.starts_with('#')) return readComment(content);
+    if (content.starts_with('"')) {
+      if (!quoted_) fail("a text without a keyword before it; write msgctxt, msgid or msgstr");
+      return readText(content);
+    }
+    const std::string_view keyword = content.substr(0, content.find_first_of(" \t\""));
+    beginStatement(keyword);
+    readText(behindBlanks(content.substr(keyword.size())));
+  }
+
+  /// Comments stand before what they are about.
+  void readComment(std::string_view comment) {
+    if (entry_.hasTarget) endEntry();
+    constexpr std::string_view kIdentifier = "ts-id ";
+    const std::string_view told = comment.size() > 2 ? behindBlanks(comment.substr(2)) : "";
+    if (comment.starts_with("#,") && comment.find("fuzzy") != std::string_view::npos)
+      entry_.unit.state = TranslationState::needsReview;
+    if (comment.starts_with("#:") && entry_.reference.empty()) entry_.reference = keyNamedBy(firstWord(told));
+    if (comment.starts_with("#.") && told.starts_with(kIdentifier))
+      entry_.identifier = firstWord(told.substr(kIdentifier.size()));
+  }
+
+  void beginStatement(std::string_view keyword) {
+    const bool isContext = keyword == "msgctxt";
+    if (!isContext && keyword != "msgid" && keyword != "msgstr") {
+      fail(keyword == "msgid_plural" || keyword.starts_with("msgstr[")
+               ? "plural entries are not taken; each plural form is an entry of its own, as in the export"
+               : "expected msgctxt, msgid or msgstr, a text in quotes, or a comment");
+    }
+    if (keyword == "msgstr") {
+      if (!entry_.hasSource || entry_.hasTarget) fail("msgstr without a msgid before it");
+      entry_.hasTarget = true;
+      quoted_ = &entry_.unit.target;
+      return;
+    }
+    if (entry_.hasTarget) endEntry();
+    if (entry_.hasSource) fail("msgid without a msgstr behind it; the file may be cut off or damaged");
+    if (!isContext) entry_.hasSource = true;
+    if (isContext || entry_.context.empty()) entry_.unit.at = at_;
+    quoted_ = isContext ? &entry_.context : &entry_.unit.source;
+  }
+
+  /// A text in quotes, up to the end of the line.
+  void readText(std::string_view rest) {
+    constexpr const char* kAdvice = "write the text in quotes, and a backslash before each quote in it";
+    if (!rest.starts_with('"')) fail(kAdvice);
+    rest.remove_prefix(1);
+    while (!rest.empty() && rest[0] != '"') {
+      const std::string_view plain = rest.substr(0, rest.find_first_of("\\\""));
+      *quoted_ += plain;
+      rest.remove_prefix(plain.size());
+      if (!rest.starts_with('\\')) continue;
+      rest.remove_prefix(1);
+      const std::optional<char> character = takeEscape(rest);
+      if (!character) fail("a backslash before a character that it gives no meaning; write \\\\ for itself");
+      *quoted_ += *character;
+    }
+    if (rest.empty()) fail("the text's closing quote is missing; the file may be cut off or damaged");
+    if (!behindBlanks(rest.substr(1)).empty()) fail(kAdvice);
+  }
+
+  void endEntry() {
+    Entry entry = std::exchange(entry_, {});
+    quoted_ = nullptr;
+    if (!entry.hasTarget) {
+      if (entry.hasSource || !entry.context.empty())
+        fail("the last entry has no msgstr; the file may be cut off or damaged");
+      return;
+    }
+    hasEntries_ = true;
+    const bool isHeader = entry.unit.source.empty() && entry.context.empty();
+    if (isHeader) return readHeader(entry.unit.target);
+    entry.unit.key = keyOf(entry);
+    translations_.units.push_back(std::move(entry.unit));
+  }
+
+  /// Programs keep the context, or a comment instead. translate-toolkit repeats the reference as a context,
+  /// and leaves it out where it is the text itself.
+  static std::string keyOf(const Entry& entry) {
+    if (!entry.context.empty() && !isMadeOf(entry.context, entry.reference)) return entry.context;
+    if (!entry.identifier.empty()) return entry.identifier;
+    return entry.reference.empty() ? entry.unit.source : entry.reference;
+  }
+
+  void readHeader(std::string_view header) {
+    for (const std::string_view line : linesOf(header)) {
+      for (const std::string_view name : {"Language:", "X-Language:"}) {
+        if (line.starts_with(name)) translations_.language = firstWord(line.substr(name.size()));
+      }
+    }
+  }
+
+  const std::string& file_;
+  std::string text_;
+  Position at_ = {0, 1};
+  Translations translations_;
+  Entry entry_;
+  std::string* quoted_ = nullptr;  // where the texts in quotes go
+  bool hasEntries_ = false;
+};
+
+}  // namespace
+
+Translations fromPO(std::string bytes, const std::string& file) {
+  return Reader(std::move(bytes), file).read();
+}
+
+}  // namespace zk::tools
