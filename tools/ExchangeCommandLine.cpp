@@ -119,8 +119,7 @@ void addImportCommand(CLI::App& app, const RootFinder& inRoot, int& status) {
                    "The file, as a translators' program saved it; or the English .strings of another app")
       ->required();
   command->add_option("--language", arguments->language, "The language, if the file does not tell it")
-      ->type_name("LANGUAGE")
-      ->type_name("LANG");
+      ->type_name("LANGUAGE");
   command->add_flag("--force", arguments->force,
                     "Take translations of an English text that has changed, and mark them for review");
   command->footer("Example: zkstrings import de.xlf");
