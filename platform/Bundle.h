@@ -119,8 +119,10 @@ class ZK_EXPORT alignas(kCacheLine) ResourcePath {
  public:
   /// The full path of the file or directory.
   [[nodiscard]] const std::string& string() const { return path_; }
+  /// Whether it was a directory when it was listed.
   [[nodiscard]] bool isDirectory() const { return isDirectory_; }
 
+  /// What a listing has found at the full path `path`.
   ResourcePath(std::string path, bool isDirectory);
   ~ResourcePath();
   ResourcePath(const ResourcePath&) = delete;

@@ -87,7 +87,9 @@ Import runImport(const std::string& root, const std::string& file, const std::st
 void addExportCommand(CLI::App& app, const RootFinder& inRoot) {
   const auto arguments = std::make_shared<ExportArguments>();
   auto* const command = app.add_subcommand("export", "Write a language's texts for a translators' program");
-  command->add_option("language", arguments->language, "The language, as its directory is named")->required();
+  command->add_option("language", arguments->language, "The language: its code, name or table")
+      ->required()
+      ->type_name("LANGUAGE");
   command->add_option("-o,--output", arguments->file, "Where to write, instead of the terminal")
       ->type_name("FILE");
   command
@@ -117,7 +119,7 @@ void addImportCommand(CLI::App& app, const RootFinder& inRoot, int& status) {
                    "The file, as a translators' program saved it; or the English .strings of another app")
       ->required();
   command->add_option("--language", arguments->language, "The language, if the file does not tell it")
-      ->type_name("LANG");
+      ->type_name("LANGUAGE");
   command->add_flag("--force", arguments->force,
                     "Take translations of an English text that has changed, and mark them for review");
   command->footer("Example: zkstrings import de.xlf");

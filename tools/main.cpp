@@ -6,6 +6,7 @@
 #include <ZKStrings/tools/Nearest.h>
 #include <ZKStrings/tools/OwnCatalogueCommandLine.h>
 #include <ZKStrings/tools/TranslationCommandLine.h>
+#include <ZKStrings/tools/reference/ReferenceCommand.h>
 
 #include <cstdio>
 #include <exception>
@@ -59,6 +60,8 @@ int run(int argc, char** argv) {
   addImportCommand(app, inRoot, status);
   for (CLI::App* const command : app.get_subcommands({})) command->fallthrough();
 
+  if (argc > 1 && argv[1] == std::string_view(kReference))
+    return printReference(app, {argv + 2, argv + argc});
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& wrongUse) {
