@@ -2,7 +2,7 @@ include(CMakePackageConfigHelpers)
 set(package_directory ${CMAKE_INSTALL_LIBDIR}/cmake/ZKStrings)
 
 install(TARGETS ZKStrings EXPORT ZKStringsTargets FILE_SET HEADERS)
-install(DIRECTORY resources/ DESTINATION ${CMAKE_INSTALL_DATADIR}/ZKStrings PATTERN "*.md" EXCLUDE)
+install(DIRECTORY resources/ DESTINATION ${CMAKE_INSTALL_DATADIR}/ZKStrings PATTERN "*.md" EXCLUDE PATTERN "glossary.json" EXCLUDE)
 install(EXPORT ZKStringsTargets NAMESPACE ZKStrings:: DESTINATION ${package_directory})
 
 set(resources ${CMAKE_INSTALL_DATADIR}/ZKStrings)

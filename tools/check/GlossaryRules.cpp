@@ -66,9 +66,9 @@ void findWrongAddress(const Translation& translation, Findings& findings) {
 
 constexpr RuleFor<Translation> kRules[] = {
     {{"glossary-term", Severity::warning, "a concept of the glossary without the glossary's word for it"},
-     inTranslations<findOtherTerms>},
+     inTranslated<findOtherTerms>},
     {{"address", Severity::warning, "a word of another form of address than the language's"},
-     inTranslations<findWrongAddress>},
+     inTranslated<findWrongAddress>},
 };
 
 }  // namespace

@@ -125,13 +125,13 @@ void findNoBreakSpaces(const Translation& translation, Findings& findings) {
 
 constexpr RuleFor<Translation> kRules[] = {
     {{"quotation-marks", Severity::warning, "straight quotation marks, or those of another language"},
-     inTranslations<findQuotationMarks>},
-    {{"apostrophe", Severity::warning, "a straight apostrophe"}, inTranslations<findApostrophes>},
-    {{"ellipsis", Severity::warning, "three dots for an ellipsis"}, inTranslations<findDots>},
+     inTranslated<findQuotationMarks>},
+    {{"apostrophe", Severity::warning, "a straight apostrophe"}, inTranslated<findApostrophes>},
+    {{"ellipsis", Severity::warning, "three dots for an ellipsis"}, inTranslated<findDots>},
     {{"doubled-blank", Severity::warning, "two blanks in a row"}, findDoubledBlanks},
     {{"no-break-space", Severity::warning,
       "a mark without the no-break space that the language sets beside it"},
-     inTranslations<findNoBreakSpaces>},
+     inTranslated<findNoBreakSpaces>},
 };
 
 }  // namespace

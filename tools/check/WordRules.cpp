@@ -101,7 +101,6 @@ std::vector<std::string> runsIn(std::string_view text, const Phrases& loanWords,
 }
 
 void findEnglishWords(const Translation& translation, Findings& findings) {
-  if (translation.entry.text == translation.english.text) return;  // untranslated as a whole
   const std::size_t count = tellingCount(translation.language);
   const Phrases& loanWords = translation.glossary.styleOf(translation.language).loanWords;
   const std::vector<std::string> english = runsIn(translation.english.text, loanWords, count);
@@ -119,7 +118,7 @@ constexpr RuleFor<Translation> kRules[] = {
     {{"mixed-scripts", Severity::warning, "Latin, Cyrillic or Greek letters in one word"}, findMixedScripts},
     {{"english-words", Severity::warning,
       "words of the English text, names aside: three in a row, or one in a script that is not Latin"},
-     inTranslations<findEnglishWords>},
+     inTranslated<findEnglishWords>},
 };
 
 }  // namespace
