@@ -7,6 +7,7 @@
 
 #include <unicode/bytestream.h>
 #include <unicode/casemap.h>
+#include <unicode/uchar.h>
 
 namespace zk::tools {
 
@@ -44,6 +45,15 @@ void blankOutAddresses(std::string& text) {
     if (isAddress({begin, end})) std::fill(begin, end, ' ');
     begin = end;
   }
+}
+
+bool hasCapitals(std::string_view word) {
+  while (!word.empty()) {
+    const CodePoint letter = firstCodePoint(word);
+    if (letter.value && u_isUUppercase(static_cast<UChar32>(*letter.value))) return true;
+    word.remove_prefix(letter.bytes.size());
+  }
+  return false;
 }
 
 }  // namespace
@@ -85,7 +95,9 @@ Phrase::Phrase(std::string_view spelled) {
   for (const std::string_view word : wordsOf(spelled)) {
     const auto begin = static_cast<std::size_t>(word.data() - spelled.data());
     const std::size_t end = begin + word.size();
-    patterns_.push_back({std::string(word), caseFolded(word) != word, begin > 0 && spelled[begin - 1] == '*',
+    const bool isCapital = hasCapitals(word);
+    patterns_.push_back({isCapital ? std::string(word) : caseFolded(word), isCapital,
+                         begin > 0 && spelled[begin - 1] == '*',
                          end < spelled.size() && spelled[end] == '*'});
   }
 }
