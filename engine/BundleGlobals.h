@@ -6,15 +6,12 @@
 namespace zk {
 
 /// The module's own bundle: the directory with the language directories and countries.json. Found at the
-/// first call of any thread, once, and the same object ever after. While it cannot be found or listed for want of
-/// descriptors or memory, a bundle without resources; the next call looks again.
+/// first call of any thread, once, and the same object ever after. While it cannot be found or listed for
+/// want of descriptors or memory, a bundle without resources; the next call looks again.
 [[nodiscard]] ZK_EXPORT const Bundle& bundle();
 
 /// The app's main bundle, found likewise and independently of `bundle`. The module itself reads nothing from
 /// it.
 [[nodiscard]] ZK_EXPORT const Bundle& mainBundle();
-
-/// `bundle`, or null while it cannot be found or listed.
-[[nodiscard]] const Bundle* moduleBundle();
 
 }  // namespace zk

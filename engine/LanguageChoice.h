@@ -16,8 +16,8 @@ namespace zk {
   return code == "en" ? "Base" : code;
 }
 
-/// Stops the process: there is no Base.lproj among the module's resources, or there are no resources where the
-/// module looks for them. The name is what a debugger shows.
+/// Stops the process: there is no Base.lproj among the module's resources, or there are no resources where
+/// the module looks for them. The name is what a debugger shows.
 [[noreturn, gnu::cold, gnu::noinline]] ZK_EXPORT void baseLprojIsMissingAmongTheResources();
 
 /// Stops the process: the directory of a language was there, and was gone a moment later.

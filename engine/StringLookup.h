@@ -24,10 +24,10 @@ namespace zk {
 /// - `count` chooses the plural form; it is not filled in anywhere.
 /// - `substitutions` are the texts for the placeholders; those without one stay as they are.
 ///
-/// All texts are UTF-8. Any thread may call it, at the same time as others. While the table cannot be opened for
-/// want of file descriptors or memory, the text is the English one. The process stops when no `Current::language`
-/// was assigned (with a message on standard error), and when Base.lproj is needed but missing among the module's
-/// resources (in a function whose name says so).
+/// All texts are UTF-8. Any thread may call it, at the same time as others. While the table cannot be opened
+/// for want of file descriptors or memory, the text is the English one. The process stops when no
+/// `Current::language` was assigned (with a message on standard error), and when Base.lproj is needed but
+/// missing among the module's resources (in a function whose name says so).
 [[nodiscard]] ZK_EXPORT std::string localizedString(std::string_view key, std::string_view defaultValue,
                                                     std::optional<std::int64_t> count,
                                                     const Substitutions& substitutions);

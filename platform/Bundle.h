@@ -27,18 +27,19 @@ class StringTable;
 ///       }
 ///     }
 ///
-/// A bundle lists its directory once, when it is opened; directories and tables that are added or removed later
-/// are not seen. Bundles and the tables opened in them live until the process ends and are shared by all threads;
-/// any thread may call anything, and only the first opening of a directory or table takes a lock.
+/// A bundle lists its directory once, when it is opened; directories and tables that are added or removed
+/// later are not seen. Bundles and the tables opened in them live until the process ends and are shared by
+/// all threads; any thread may call anything, and only the first opening of a directory or table takes a
+/// lock.
 ///
-/// When the process or the system is short of descriptors or memory for the moment, nothing is remembered: the
-/// same call succeeds when the shortage is over. Any function may throw std::bad_alloc.
+/// When the process or the system is short of descriptors or memory for the moment, nothing is remembered:
+/// the same call succeeds when the shortage is over. Any function may throw std::bad_alloc.
 class ZK_EXPORT alignas(kCacheLine) Bundle {
  public:
   /// The bundle of the module that defines the type `type`: the nearest directory `share/ZKStrings` at or
   /// above the directory of the shared library or executable that holds the module's code, two levels up at
-  /// most, or else the place that the module was configured to be installed with. When there is none, a bundle
-  /// without resources, whose path is empty.
+  /// most, or else the place that the module was configured to be installed with. When there is none, a
+  /// bundle without resources, whose path is empty.
   ///
   /// Throws std::system_error when it cannot be said for the moment which directory it is or what is in it.
   [[nodiscard]] static const Bundle& bundleForClass(const std::type_info& type);
@@ -62,8 +63,8 @@ class ZK_EXPORT alignas(kCacheLine) Bundle {
   /// is none. Names are compared byte for byte; an empty name, a slash or ".." names nothing.
   [[nodiscard]] const ResourcePath* pathForResource(std::string_view name, std::string_view type) const;
 
-  /// The full path of the file `name`.`extension` in the bundle's directory; nothing when there is none. Looks
-  /// afresh at each call.
+  /// The full path of the file `name`.`extension` in the bundle's directory; nothing when there is none.
+  /// Looks afresh at each call.
   [[nodiscard]] std::optional<std::string> URLForResource(std::string_view name,
                                                           std::string_view extension) const;
 
@@ -94,7 +95,8 @@ class ZK_EXPORT alignas(kCacheLine) Bundle {
   [[nodiscard]] std::size_t placeOf(const Name& name) const;
   [[nodiscard]] const ResourcePath* find(std::string_view name, std::string_view type) const;
 
-  /// An index of the resources by name, with open addressing. Its size is a power of two; `last_` is one less.
+  /// An index of the resources by name, with open addressing. Its size is a power of two; `last_` is one
+  /// less.
   std::unique_ptr<Slot[]> slots_;
   std::size_t last_;
   const std::uint64_t seed_;

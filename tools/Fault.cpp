@@ -1,8 +1,11 @@
 #include <ZKStrings/tools/Fault.h>
 
+#include <cstdlib>
+
 #include <fmt/color.h>
 #include <fmt/format.h>
 #include <nlohmann/json.hpp>
+#include <unistd.h>
 
 namespace zk::tools {
 
@@ -31,6 +34,11 @@ Style styleOf(Severity severity) {
 
 const char* nameOf(Severity severity) {
   return styleOf(severity).name;
+}
+
+bool takesColours(std::FILE* stream) {
+  const char* const refusal = std::getenv("NO_COLOR");
+  return isatty(fileno(stream)) == 1 && (refusal == nullptr || *refusal == '\0');
 }
 
 std::string formatted(const Fault& fault, bool coloured) {

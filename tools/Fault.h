@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdio>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -26,6 +27,9 @@ using Faults = std::vector<Fault>;
 
 /// The fault as one line, "file:line:column: error: message [rule]", with colours when `coloured`.
 [[nodiscard]] std::string formatted(const Fault& fault, bool coloured);
+
+/// Whether `stream` is a terminal whose user has nothing against colours (NO_COLOR).
+[[nodiscard]] bool takesColours(std::FILE* stream);
 
 /// The faults as a JSON array of objects with the members file, line, column, severity, rule and message, one
 /// object a line.

@@ -1,5 +1,6 @@
 #include <ZKStrings/tools/Characters.h>
 #include <ZKStrings/tools/Coverage.h>
+#include <ZKStrings/tools/Languages.h>
 #include <ZKStrings/tools/Nearest.h>
 #include <ZKStrings/tools/Table.h>
 #include <ZKStrings/tools/TableUpdate.h>
@@ -79,8 +80,8 @@ std::string summaryOf(const CheckResult& result) {
 }
 
 void print(const Faults& faults) {
-  const bool isTerminal = isatty(STDOUT_FILENO) == 1;
-  for (const Fault& fault : faults) fmt::print("{}\n", formatted(fault, isTerminal));
+  const bool coloured = takesColours(stdout);
+  for (const Fault& fault : faults) fmt::print("{}\n", formatted(fault, coloured));
 }
 
 void print(const CheckResult& result, const std::string& format) {
@@ -121,7 +122,7 @@ void addCheckCommand(CLI::App& app, const RootFinder& inRoot, int& status) {
   auto* const command =
       app.add_subcommand("check", "Say all that is wrong with the tables and the country list");
   command->add_option("languages", arguments->options.languages,
-                      "The languages to check, as their directories are named; without any, everything");
+                      "The languages to check (codes, names or tables); without any, everything");
   command->add_option("--off", arguments->options.off, "A rule to switch off; may be given again")
       ->allow_extra_args(false)
       ->check(isRule())
@@ -134,7 +135,9 @@ void addCheckCommand(CLI::App& app, const RootFinder& inRoot, int& status) {
   addFormat(*command, arguments->format);
   command->callback([arguments, inRoot, &status] {
     if (arguments->showsRules) return printRules();
-    const CheckResult result = check(inRoot(), arguments->options);
+    const std::string root = inRoot();
+    for (std::string& language : arguments->options.languages) language = existingLanguage(root, language);
+    const CheckResult result = check(root, arguments->options);
     print(result, arguments->format);
     const auto fails = [&](const Fault& fault) {
       return fault.severity == Severity::error ||
@@ -174,12 +177,14 @@ void addUpdateCommand(CLI::App& app, const RootFinder& inRoot) {
   const auto arguments = std::make_shared<Arguments>();
   auto* const command = app.add_subcommand(
       "update", "Add what a language's table lacks, in English, and mark what is still in English");
-  command->add_option("language", arguments->language, "The language, as its directory is named")->required();
+  command->add_option("language", arguments->language, "The language: its code, name or table")->required();
   command->add_flag("--prune", arguments->prunes, "Remove the entries that nothing looks up");
   command->callback([arguments, inRoot] {
-    const TableUpdate update = updateTable(inRoot(), arguments->language, arguments->prunes);
+    const std::string root = inRoot();
+    const std::string language = existingLanguage(root, arguments->language);
+    const TableUpdate update = updateTable(root, language, arguments->prunes);
     print(update.notLookedUp);
-    fmt::print("{}: {}\n", tablePath(arguments->language),
+    fmt::print("{}: {}\n", tablePath(language),
                update.isChange() ? summaryOf(update) : "up to date, nothing changed");
   });
 }

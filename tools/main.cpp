@@ -16,7 +16,6 @@
 
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
-#include <unistd.h>
 
 namespace {
 
@@ -75,7 +74,7 @@ int main(int argc, char** argv) {
     fmt::print(stderr, "the output cannot be written; see that its place has room\n");
   } catch (const CommandFailed& failed) {
     for (const Fault& fault : failed.faults)
-      fmt::print(stderr, "{}\n", formatted(fault, isatty(STDERR_FILENO) == 1));
+      fmt::print(stderr, "{}\n", formatted(fault, takesColours(stderr)));
   } catch (const std::invalid_argument& refused) {
     fmt::print(stderr, "{}\n", refused.what());
     return kWrongUse;

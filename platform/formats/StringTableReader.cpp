@@ -112,9 +112,7 @@ bool StringTableReader::next() {
 void StringTableReader::recover() {
   fault_.reset();
   if (at_ == text_.size()) return;
-  const auto lineBegin = [&](std::size_t place) {
-    return place == 0 ? 0 : text_.rfind('\n', place - 1) + 1;
-  };
+  const auto lineBegin = [&](std::size_t place) { return place == 0 ? 0 : text_.rfind('\n', place - 1) + 1; };
   const auto beginsEntry = [&](std::size_t line) {
     const std::string_view rest = text_.substr(std::min(text_.find_first_not_of(" \t", line), text_.size()));
     return rest.starts_with('"') || rest.starts_with("/*") || rest.starts_with("//");
@@ -131,7 +129,8 @@ struct Number {
   std::size_t digits = 0;
 };
 
-/// The number that up to `most` digits of `base` spell at the beginning of `text`, and how many digits those are.
+/// The number that up to `most` digits of `base` spell at the beginning of `text`, and how many digits those
+/// are.
 Number numberAt(std::string_view text, char32_t base, std::size_t most) {
   constexpr std::string_view kDigits = "0123456789abcdef";
   Number number;

@@ -68,8 +68,8 @@ class StringTableReader {
   std::optional<Fault> fault_;
 };
 
-/// Replaces the escapes in the `size` bytes at `token` by what they stand for, which is never longer, and gives
-/// the new size. Escapes are a backslash and
+/// Replaces the escapes in the `size` bytes at `token` by what they stand for, which is never longer, and
+/// gives the new size. Escapes are a backslash and
 ///
 ///     " \ n t r a b f v        the character, as in C
 ///     101                      one to three octal digits: a character up to U+00FF

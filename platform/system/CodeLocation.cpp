@@ -19,8 +19,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// What the dynamic loader calls the file that holds `address`: the path under which it was loaded, which may be
-/// relative, and nothing for the executable. A program without a dynamic loader is one executable.
+/// What the dynamic loader calls the file that holds `address`: the path under which it was loaded, which may
+/// be relative, and nothing for the executable. A program without a dynamic loader is one executable.
 std::string loadedName(const void* address) {
   Dl_info info{};
   link_map* loaded = nullptr;
@@ -72,8 +72,8 @@ std::string fileHolding(const void* address, std::error_code& failure) {
   failure.clear();
   std::string loaded = loadedName(address);
   if (loaded.starts_with('/')) return loaded;
-  // The executable is asked for here too: /proc/self/exe is not always it, but the dynamic loader when that was
-  // started with the program as its argument.
+  // The executable is asked for here too: /proc/self/exe is not always it, but the dynamic loader when that
+  // was started with the program as its argument.
   std::string mapped = mappedFile(address, failure);
   if (!mapped.empty() || isPassing(failure)) return mapped;
   return loaded.empty() ? executablePath(failure) : existingFile(loaded, failure);

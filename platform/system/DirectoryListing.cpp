@@ -15,7 +15,8 @@ struct Closer {
   void operator()(DIR* directory) const { closedir(directory); }
 };
 
-/// Whether `entry` of the directory at `path` is a directory. `failure` is set when that may be known in a moment.
+/// Whether `entry` of the directory at `path` is a directory. `failure` is set when that may be known in a
+/// moment.
 bool isDirectory(const dirent& entry, const std::string& path, std::error_code& failure) {
   if (entry.d_type != DT_UNKNOWN && entry.d_type != DT_LNK) return entry.d_type == DT_DIR;
   struct stat status {};

@@ -12,8 +12,8 @@ namespace zk {
   return {errno, std::generic_category()};
 }
 
-/// Whether the same call may succeed in a moment: the process or the system is short of descriptors or memory,
-/// or was disturbed. Every other failure is an answer, and stays one.
+/// Whether the same call may succeed in a moment: the process or the system is short of descriptors or
+/// memory, or was disturbed. Every other failure is an answer, and stays one.
 [[nodiscard]] inline bool isPassing(const std::error_code& failure) {
   constexpr std::errc kPassing[] = {
       std::errc::too_many_files_open, std::errc::too_many_files_open_in_system,

@@ -1,5 +1,6 @@
-// Loaded before a program, shows it a system without /proc. With WITHOUT_NAMES in the environment, nothing else
-// tells the program either where its files are, and looking for resources at the root of the file system ends it.
+// Loaded before a program, shows it a system without /proc. With WITHOUT_NAMES in the environment, nothing
+// else tells the program either where its files are, and looking for resources at the root of the file system
+// ends it.
 
 #include <cerrno>
 #include <cstdio>

@@ -74,22 +74,23 @@ dirent* readdir(DIR* directory) {
 
 }  // extern "C"
 
-void* operator new(std::size_t size) {
+// Not inlined, since the compiler would take a part of a pair for a mistake then.
+[[gnu::noinline]] void* operator new(std::size_t size) {
   return allocated(size, alignof(std::max_align_t));
 }
-void* operator new(std::size_t size, std::align_val_t alignment) {
+[[gnu::noinline]] void* operator new(std::size_t size, std::align_val_t alignment) {
   return allocated(size, static_cast<std::size_t>(alignment));
 }
-void operator delete(void* memory) noexcept {
+[[gnu::noinline]] void operator delete(void* memory) noexcept {
   std::free(memory);
 }
-void operator delete(void* memory, std::size_t) noexcept {
+[[gnu::noinline]] void operator delete(void* memory, std::size_t) noexcept {
   std::free(memory);
 }
-void operator delete(void* memory, std::align_val_t) noexcept {
+[[gnu::noinline]] void operator delete(void* memory, std::align_val_t) noexcept {
   std::free(memory);
 }
-void operator delete(void* memory, std::size_t, std::align_val_t) noexcept {
+[[gnu::noinline]] void operator delete(void* memory, std::size_t, std::align_val_t) noexcept {
   std::free(memory);
 }
 
@@ -160,8 +161,8 @@ TEST(Shortage, OfAnyCallWhileABundleIsOpenedPasses) {
   }
 }
 
-/// Runs `action` in a process of its own, where nothing was looked up before, and gives what that exits with; -1
-/// when it is stopped.
+/// Runs `action` in a process of its own, where nothing was looked up before, and gives what that exits with;
+/// -1 when it is stopped.
 template <class Action>
 int exitCodeOf(Action action) {
   const pid_t child = fork();
