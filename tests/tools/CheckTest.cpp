@@ -58,7 +58,8 @@ File englishWithout(const std::string& key) {
 constexpr std::string_view kGlossary = R"~({
   "terms": [
     {"concept": "Badge", "english": ["badge*"], "stems": {"fr": ["badge", "vies bonus"]}},
-    {"concept": "Referral", "english": ["referral", "tap"], "except": ["tap it"], "stems": {"fr": ["parrain"]}}
+    {"concept": "Referral", "english": ["referral", "tap"], "except": ["tap it"], "stems":
+      {"fr": ["parrain"]}}
   ],
   "languages": {
     "fr": {

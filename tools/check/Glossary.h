@@ -40,8 +40,8 @@ struct Glossary {
   std::vector<Term> terms;
   ByName<LanguageStyle> styles;  ///< by language
 
-  /// Reads the glossary of the project at `root`, an empty one when there is none. Throws `CommandFailed`, with the
-  /// place of the first fault, when it cannot be read.
+  /// Reads the glossary of the project at `root`, an empty one when there is none. Throws `CommandFailed`,
+  /// with the place of the first fault, when it cannot be read.
   [[nodiscard]] static Glossary read(const std::string& root);
   /// The same of the text of such a file.
   [[nodiscard]] static Glossary parse(const std::string& json);

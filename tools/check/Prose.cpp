@@ -27,7 +27,8 @@ bool isAsciiLetterOrDigit(char c) {
   return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9');
 }
 
-/// Whether `run`, ASCII without white space, is a handle or an address: "@zk", "help@zk.example", "zk.example/x".
+/// Whether `run`, ASCII without white space, is a handle or an address: "@zk", "help@zk.example",
+/// "zk.example/x".
 bool isAddress(std::string_view run) {
   if (run.find('@') != std::string_view::npos || run.find("://") != std::string_view::npos) return true;
   for (std::size_t dot = run.find('.'); dot != std::string_view::npos; dot = run.find('.', dot + 1)) {

@@ -10,8 +10,8 @@ namespace zk::tools {
 /// `text` with Unicode's full case folding.
 [[nodiscard]] std::string caseFolded(std::string_view text);
 
-/// What of a text is language: each placeholder, `<b>` tag, handle and address in it is replaced by as many blanks as it
-/// has bytes, so that offsets stay.
+/// What of a text is language: each placeholder, `<b>` tag, handle and address in it is replaced by as many
+/// blanks as it has bytes, so that offsets stay.
 [[nodiscard]] std::string proseOf(std::string_view text);
 
 /// A word as it stands in a text, and case-folded.
@@ -37,8 +37,9 @@ class Words {
   std::vector<Word> words_;
 };
 
-/// One word or several in a row that are looked for in texts. A star at the end of a word stands for any ending, one at
-/// its beginning for any beginning. A word with capitals is found so spelled only, others whatever their case.
+/// One word or several in a row that are looked for in texts. A star at the end of a word stands for any
+/// ending, one at its beginning for any beginning. A word with capitals is found so spelled only, others
+/// whatever their case.
 class Phrase {
  public:
   explicit Phrase(std::string_view spelled);
@@ -60,7 +61,8 @@ class Phrase {
 using Phrases = std::vector<Phrase>;
 [[nodiscard]] Phrases phrasesOf(const std::vector<std::string>& spelled);
 
-/// The number of words from `at` on that are one of the phrases, the first that is found; 0 when there is none.
+/// The number of words from `at` on that are one of the phrases, the first that is found; 0 when there is
+/// none.
 [[nodiscard]] std::size_t sizeAt(const Phrases& phrases, const Words& words, std::size_t at);
 
 }  // namespace zk::tools

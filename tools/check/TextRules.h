@@ -44,8 +44,8 @@ void inTranslations(const Translation& translation, Findings& findings) {
   if (translation.language != kBase) find(translation, findings);
 }
 
-/// `find` for what has been translated: in an entry that still says what the English text says, words and typography
-/// are English.
+/// `find` for what has been translated: in an entry that still says what the English text says, words and
+/// typography are English.
 template <void (*find)(const Translation&, Findings&)>
 void inTranslated(const Translation& translation, Findings& findings) {
   const bool isTranslated = translation.entry.text != translation.english.text;

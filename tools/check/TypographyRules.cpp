@@ -79,8 +79,8 @@ void findDoubledBlanks(const Translation& translation, Findings& findings) {
   }
 }
 
-/// Whether `mark`, which stands at `at`, needs no no-break space before it: at the beginning of the text or of a line,
-/// within a number or a word, behind another such mark, a bracket or a quotation mark.
+/// Whether `mark`, which stands at `at`, needs no no-break space before it: at the beginning of the text or
+/// of a line, within a number or a word, behind another such mark, a bracket or a quotation mark.
 bool standsClose(std::string_view mark, std::string_view text, std::size_t at, const LanguageStyle& style) {
   const std::string_view before = characterBefore(text, at);
   if (before.empty() || before == "\n" || before == "(") return true;
@@ -92,7 +92,8 @@ bool standsClose(std::string_view mark, std::string_view text, std::size_t at, c
          style.quotationMarks.find(before) != std::string::npos;
 }
 
-/// Adds a finding for each `mark` in `text`, the prose of `translation`, for which `isMissing(offset)` is true.
+/// Adds a finding for each `mark` in `text`, the prose of `translation`, for which `isMissing(offset)` is
+/// true.
 template <class IsMissing>
 void findWithoutSpace(std::string_view mark, std::string_view text, std::string_view side,
                       const Translation& translation, const IsMissing& isMissing, Findings& findings) {

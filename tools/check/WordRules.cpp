@@ -85,7 +85,8 @@ std::size_t tellingCount(std::string_view language) {
   return count > 0 && U_SUCCESS(status) && scripts[0] != USCRIPT_LATIN ? 1 : kAmongLatinLetters;
 }
 
-/// The runs of `count` words in `text`, names and loan words aside; of single words, those of more than three letters.
+/// The runs of `count` words in `text`, names and loan words aside; of single words, those of more than three
+/// letters.
 std::vector<std::string> runsIn(std::string_view text, const Phrases& loanWords, std::size_t count) {
   constexpr std::size_t kLongestAbbreviation = 3;
   const std::string prose = proseOf(text);
