@@ -7,7 +7,8 @@ install(TARGETS ZKStrings EXPORT ZKStringsTargets
   LIBRARY COMPONENT runtime NAMELINK_COMPONENT development
   ARCHIVE COMPONENT development
   FILE_SET HEADERS COMPONENT development)
-install(DIRECTORY resources/ DESTINATION ${CMAKE_INSTALL_DATADIR}/ZKStrings COMPONENT runtime PATTERN "*.md" EXCLUDE)
+install(DIRECTORY resources/ DESTINATION ${CMAKE_INSTALL_DATADIR}/ZKStrings COMPONENT runtime PATTERN "*.md" EXCLUDE
+  PATTERN "glossary.json" EXCLUDE)
 install(EXPORT ZKStringsTargets NAMESPACE ZKStrings:: DESTINATION ${package_directory} COMPONENT development)
 
 set(resources ${CMAKE_INSTALL_DATADIR}/ZKStrings)

@@ -46,7 +46,7 @@ function(zk_add_catalogue)
   if(NOT arg_DESTINATION)
     set(arg_DESTINATION .)
   endif()
-  install(DIRECTORY ${arg_ROOT}/resources/ DESTINATION ${arg_DESTINATION}/share/${name} PATTERN "*.md" EXCLUDE)
+  install(DIRECTORY ${arg_ROOT}/resources/ DESTINATION ${arg_DESTINATION}/share/${name} PATTERN "*.md" EXCLUDE PATTERN "glossary.json" EXCLUDE)
 endfunction()
 
 # Sets the variables <name> and <namespace> to what <file> says, and stops with a message when it does not say it.
