@@ -150,4 +150,13 @@ Accessors generateAccessors(const Catalogue& catalogue, const Table& base, const
   return accessors;
 }
 
+std::string accessorCall(const Entry& entry, const CatalogueName& name) {
+  std::vector<std::string> arguments;
+  for (const std::string_view placeholder : placeholderNames(entry.text))
+    arguments.push_back(identifierFor(placeholder));
+  if (entry.plural) arguments.emplace_back("count");
+  return fmt::format("{}{}{}::{}({})", name.nameSpace, name.nameSpace.empty() ? "" : "::", name.name,
+                     accessorOf(entry, name), fmt::join(arguments, ", "));
+}
+
 }  // namespace zk::tools

@@ -19,4 +19,7 @@ struct Accessors {
 [[nodiscard]] Accessors generateAccessors(const Catalogue& catalogue, const Table& base,
                                           const CatalogueName& name);
 
+/// The call of the accessor of `entry`: "zk::ZKStrings::badgeCount_Badges(badgeCount, count)".
+[[nodiscard]] std::string accessorCall(const Entry& entry, const CatalogueName& name);
+
 }  // namespace zk::tools

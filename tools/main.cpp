@@ -5,6 +5,7 @@
 #include <ZKStrings/tools/HelpFormatter.h>
 #include <ZKStrings/tools/Nearest.h>
 #include <ZKStrings/tools/OwnCatalogueCommandLine.h>
+#include <ZKStrings/tools/PageCommandLine.h>
 #include <ZKStrings/tools/TranslationCommandLine.h>
 #include <ZKStrings/tools/reference/ReferenceCommand.h>
 
@@ -44,7 +45,6 @@ int run(int argc, char** argv) {
   app.formatter(std::make_shared<HelpFormatter>());
   app.set_version_flag("--version", "zkstrings " ZK_VERSION);
   app.require_subcommand(1);
-  app.allow_extras();
   std::string root;
   app.add_option("--root", root, "The project's folder; found from here upward otherwise")->type_name("DIR");
   const auto inRoot = [&] { return root.empty() ? findRoot() : rootAt(root); };
@@ -58,6 +58,7 @@ int run(int argc, char** argv) {
   addUpdateCommand(app, inRoot);
   addExportCommand(app, inRoot);
   addImportCommand(app, inRoot, status);
+  addPageCommands(app, inRoot);
   for (CLI::App* const command : app.get_subcommands({})) command->fallthrough();
 
   if (argc > 1 && argv[1] == std::string_view(kReference))

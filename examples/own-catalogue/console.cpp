@@ -2,12 +2,13 @@
 // module's catalogue, both in the same language.
 //   own_catalogue            in the languages of the user's settings
 //   own_catalogue de-DE      in the language given
-#include <ConsoleTexts.h>
 #include <ZKStrings/ZKStrings.h>
 
 #include <cstdint>
 #include <iostream>
 #include <string>
+
+#include <ConsoleTexts.h>
 
 using console::ConsoleTexts;
 

@@ -45,7 +45,8 @@ TEST_F(CatalogueCommands, AddPutsTheEntryInItsPlaceEverywhere) {
   const Catalogue catalogue = Catalogue::read(root());
   for (const Entry& entry : catalogue.entries()) keys += entry.key + (entry.plural ? "(count) " : " ");
   EXPECT_EQ(keys, "a B C_name_n ZZ D D(count) ");
-  EXPECT_NE(read(CatalogueName().headerFile()).find("static std::string C_name_n(Text name);"), std::string::npos);
+  EXPECT_NE(read(CatalogueName().headerFile()).find("static std::string C_name_n(Text name);"),
+            std::string::npos);
   EXPECT_NE(read(CatalogueName().sourceFile()).find("entryText(\"D\", \"D\", count)"), std::string::npos);
 }
 

@@ -58,7 +58,8 @@ std::size_t firstIllFormed(std::string_view text) {
 bool CountryFile::isExpected(const std::string& root) {
   namespace fs = std::filesystem;
   std::error_code failure;
-  return fs::exists(fs::path(root) / kFile, failure) || !fs::exists(fs::path(root) / CatalogueName::kFile, failure);
+  return fs::exists(fs::path(root) / kFile, failure) ||
+         !fs::exists(fs::path(root) / CatalogueName::kFile, failure);
 }
 
 CountryFile CountryFile::read(const std::string& root) {

@@ -1,0 +1,181 @@
+// What writers, translators and testers do with the page.
+const assert = require("node:assert");
+const { before, after, test } = require("node:test");
+const { ROOT, PROJECT, makePage, startBrowser, open, listedKeys } = require("./support.js");
+
+let browser;
+let shipped;
+let small;
+before(async () => {
+  browser = await startBrowser();
+  shipped = makePage(ROOT, "reading");
+  small = makePage(PROJECT, "reading-small");
+});
+after(() => browser.close());
+
+test("The search finds a text by what one knows of it, the best first", async () => {
+  const page = await open(browser, shipped);
+  const searches = {
+    active_limit_players: "active_limit_players", // the key
+    "12/50 players": "active_limit_players", // what a screen shows
+    "7/9 PLAYERS": "active_limit_players",
+    "Are you sure you want to kick robin?": "Are_you_sure_you_want_to_kick_username",
+    "want to kick robin": "Are_you_sure_you_want_to_kick_username", // a part of it
+    "Möchtest du robin wirklich rausw": "Are_you_sure_you_want_to_kick_username", // another language, still typed
+    "mochtest du robin wirklich raus": "Are_you_sure_you_want_to_kick_username", // without accents
+    "warm up and win coins": "In_the_meantime_warm_up_nand_win_coins", // over a line break
+    "%{active}/%{limit}": "active_limit_players",
+    "Abzeichen keine Noch": "badgeCount_Badges", // words in any order
+  };
+  for (const [typed, key] of Object.entries(searches)) {
+    await page.fill("#search", typed);
+    assert.strictEqual((await listedKeys(page))[0], key, typed);
+  }
+  await page.fill("#search", "no such text anywhere");
+  assert.deepStrictEqual(await listedKeys(page), []);
+  assert.ok(await page.isVisible("#nothing"));
+  await page.click("#reset");
+  assert.match(await page.textContent("#count"), /^\d+ texts$/);
+  assert.deepStrictEqual(page.wrongs, []);
+});
+
+test("Filters leave the texts that are so", async () => {
+  const page = await open(browser, small);
+  const German = "2";
+  const Arabic = "1";
+  const cases = [
+    [{ "#family": "counted" }, ["Coins"]],
+    [{ "#family": "counted formatted" }, ["badgeCount_Badges"]],
+    [{ "#family": "with count" }, ["badgeCount_Badges", "Coins"]],
+    [
+      { "#family": "formatted" },
+      ["active_limit_players", "DATA_and_STYLE", "first_beats_second", "Kick_username"],
+    ],
+    [{ "#language": German, "#state": "m" }, ["badgeCount_Badges"]],
+    [{ "#language": German, "#state": "u" }, ["First_line_nSecond_line"]],
+    [{ "#language": German, "#state": "r" }, ["Be_quick"]],
+    [{ "#language": German, "#state": "gap" }, ["badgeCount_Badges", "Be_quick", "First_line_nSecond_line"]],
+    [
+      { "#language": German, "#state": "finding" },
+      ["first_beats_second", "Kick_username", "script_script_broken_1_script"],
+    ],
+    [{ "#language": Arabic, "#state": "m" }, []],
+    [{ "#language": German, "#longer": "200" }, ["badgeCount_Badges"]],
+    [{ "#language": German, "#longer": "200", "#family": "plain" }, []],
+  ];
+  for (const [filters, keys] of cases) {
+    for (const id of ["#family", "#state", "#language"]) await page.selectOption(id, filters[id] ?? "");
+    await page.fill("#longer", filters["#longer"] ?? "");
+    assert.deepStrictEqual(await listedKeys(page), keys, JSON.stringify(filters));
+  }
+});
+
+test("A bar shows how far a language has come, and chooses it", async () => {
+  const page = await open(browser, small);
+  const bars = page.locator("#coverage button");
+  assert.deepStrictEqual(
+    (await bars.allTextContents()).map((text) => text.replace(/^.*\)/, "")),
+    ["70 %", "88 %", "faulty"],
+  );
+  assert.match(
+    await bars.nth(1).getAttribute("title"),
+    /^German: 24 translated, 1 needs review, 1 untranslated, 1 missing$/,
+  );
+  await bars.nth(1).click();
+  assert.strictEqual(await bars.nth(1).getAttribute("aria-pressed"), "true");
+  assert.strictEqual(await page.locator("#list [lang=de]").first().textContent(), "Über uns");
+  await bars.nth(1).click();
+  assert.strictEqual(await page.locator("#list [lang=de]:visible").count(), 0);
+  await page.selectOption("#language", "3");
+  assert.match(await page.textContent("#table-findings"), /expected ";".*fr\.lproj\/Localizable\.strings:2:/);
+});
+
+test("A card shows one text in every language, for each count", async () => {
+  const page = await open(browser, small, { address: "#badgeCount_Badges" });
+  const rows = (language) => page.locator(`#card table[aria-label^="${language}"] tr`).allInnerTexts();
+  assert.deepStrictEqual(await rows("English"), [
+    "0\tNo Badges yet",
+    "1\t1 Badge",
+    "2\t2 Badges",
+    "3\t3 Badges",
+    "6\t6 Badges",
+  ]);
+  assert.deepStrictEqual(await rows("Arabic"), [
+    "0\tلا شارات بعد",
+    "1\tشارة واحدة",
+    "2\tشارتان",
+    "3\t3 شارات",
+    "6\tعدد الشارات: 6",
+  ]);
+  assert.strictEqual((await rows("German"))[3], "3\t3 Badges"); // missing, so English
+  assert.match(
+    await page.locator(".language", { hasText: "German" }).locator("header").innerText(),
+    /missing/,
+  );
+  assert.match(
+    await page.locator(".language", { hasText: "Arabic" }).locator(".findings").innerText(),
+    /unused-placeholder/,
+  );
+  await page.getByRole("textbox", { name: "count" }).fill("-5, 11");
+  assert.deepStrictEqual(await rows("German"), ["-5\t-5 Abzeichen", "11\t11 Abzeichen"]);
+});
+
+test("The reader's values fill every language until they are reset", async () => {
+  const page = await open(browser, small, { address: "#first_beats_second" });
+  const texts = () => page.locator("#card p.text").allInnerTexts();
+  await page.getByLabel("first").fill("<b>%{second}</b>");
+  await page.getByLabel("second").fill("$&");
+  const [english, arabic, german] = await texts();
+  assert.strictEqual(english, "<b>$&</b> beats $&");
+  assert.strictEqual(arabic, "<b>$&</b> يهزم $&");
+  assert.strictEqual(german, "$& unterliegt %{first}\u0301 und nicht <b>$&</b>");
+  await page.getByRole("button", { name: "Reset" }).click();
+  assert.strictEqual((await texts())[0], "first beats second");
+});
+
+test("A text's address opens its card, and any other says so", async () => {
+  const page = await open(browser, small, { address: "#Coins/count" });
+  assert.strictEqual(await page.locator("#card table").count(), 4);
+  await page.evaluate(() => (location.hash = "Coins"));
+  await page.waitForSelector("#card p.text");
+  await page.evaluate(() => (location.hash = "%E0%A4%A"));
+  await page.waitForSelector("#card-title:has-text('No such text')");
+  assert.match(await page.textContent("#card"), /“%E0%A4%A”/);
+  assert.deepStrictEqual(page.wrongs, []);
+});
+
+test("The accessor call is copied", async () => {
+  const page = await open(browser, small, {
+    address: "#active_limit_players",
+    permissions: ["clipboard-read", "clipboard-write"],
+  });
+  await page.getByRole("button", { name: "Copy the accessor call" }).click();
+  await page.waitForSelector("text=Copied");
+  assert.strictEqual(
+    await page.evaluate(() => navigator.clipboard.readText()),
+    "zk::ZKStrings::active_limit_players(active, limit)",
+  );
+});
+
+test("Everything can be reached from the keyboard", async () => {
+  const page = await open(browser, small);
+  const focused = () => page.evaluate(() => document.activeElement.id || document.activeElement.textContent);
+  await page.keyboard.press("/");
+  assert.strictEqual(await focused(), "search");
+  await page.keyboard.type("spieler");
+  await page.keyboard.press("ArrowDown");
+  assert.match(await focused(), /^active_limit_players/);
+  await page.keyboard.press("ArrowUp");
+  assert.strictEqual(await focused(), "search");
+  await page.keyboard.press("Enter");
+  await page.waitForSelector("#card p.text");
+  assert.strictEqual(await page.title(), "active_limit_players – Texts");
+  await page.keyboard.press("Escape"); // closes the card
+  await page.waitForSelector("#card .help");
+  assert.match(await focused(), /^active_limit_players/);
+  await page.keyboard.press("/");
+  await page.keyboard.press("Escape"); // empties the search
+  assert.strictEqual(await page.inputValue("#search"), "");
+  for (let i = 0; i < 3; ++i) await page.keyboard.press("ArrowDown");
+  assert.match(await focused(), /^b_Terms_b_Rules/);
+});

@@ -1,0 +1,177 @@
+#include <ZKStrings/tools/AccessorGenerator.h>
+#include <ZKStrings/tools/EnglishTexts.h>
+#include <ZKStrings/tools/Languages.h>
+#include <ZKStrings/tools/TextSize.h>
+#include <ZKStrings/tools/TranslationState.h>
+#include <ZKStrings/tools/check/Checker.h>
+#include <ZKStrings/tools/page/ExampleValues.h>
+#include <ZKStrings/tools/page/LanguageName.h>
+#include <ZKStrings/tools/page/PageData.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <iterator>
+#include <tuple>
+
+#include <nlohmann/json.hpp>
+
+namespace zk::tools {
+
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+/// The count for which a key with the plural form `suffix` is looked up.
+std::optional<std::int64_t> exampleCount(std::string_view suffix) {
+  const auto form = std::find(std::begin(kPluralSuffixes), std::end(kPluralSuffixes), suffix);
+  if (form == std::end(kPluralSuffixes)) return std::nullopt;
+  return kExampleCounts[static_cast<std::size_t>(form - std::begin(kPluralSuffixes))];
+}
+
+char letterOf(TranslationState state) {
+  switch (state) {
+    case TranslationState::missing:
+      return 'm';
+    case TranslationState::untranslated:
+      return 'u';
+    case TranslationState::needsReview:
+      return 'r';
+    case TranslationState::translated:
+      break;
+  }
+  return 't';
+}
+
+/// The entry of `table` in whose lines and behind whose key `fault` lies; null when it is in none.
+const TableEntry* entryAt(const Table& table, const Fault& fault) {
+  const TableEntry* found = nullptr;
+  for (const TableEntry& entry : table.entries) {
+    const bool isBehindKey =
+        std::tie(entry.keyAt.line, entry.keyAt.column) <= std::tie(fault.line, fault.column);
+    if (isBehindKey && fault.line <= entry.lastLine) found = &entry;
+  }
+  return found;
+}
+
+class PageDataMaker {
+ public:
+  explicit PageDataMaker(const std::string& root)
+      : root_(root),
+        name_(CatalogueName::read(root)),
+        catalogue_(Catalogue::read(root)),
+        english_(catalogue_, Table::read(root, kBase)),
+        texts_(root),
+        languages_(languagesIn(root)),
+        faults_(check(root, {.languages = {}, .off = {}, .notes = true}).faults) {
+    std::erase_if(languages_, [](const std::string& language) { return !whyNeverChosen(language).empty(); });
+    std::stable_partition(languages_.begin(), languages_.end(),
+                          [](const std::string& language) { return language == kBase; });
+    for (std::size_t i = 0; i < english_.all().size(); ++i) places_.emplace(english_.all()[i].key, i);
+  }
+
+  [[nodiscard]] Json all() const {
+    Json entries = Json::array();
+    for (const Entry& entry : catalogue_.entries()) entries.push_back(dataOf(entry));
+    Json languages = Json::array();
+    for (const std::string& language : languages_) languages.push_back(dataOf(language));
+    return {{"counts", kExampleCounts}, {"entries", std::move(entries)}, {"languages", std::move(languages)}};
+  }
+
+ private:
+  [[nodiscard]] Json dataOf(const Entry& entry) const {
+    return {{"key", entry.key},
+            {"text", entry.text},
+            {"counted", entry.plural},
+            {"call", accessorCall(entry, name_)},
+            {"values", valuesOf(entry)}};
+  }
+
+  [[nodiscard]] Json valuesOf(const Entry& entry) const {
+    std::vector<Values> byLanguage;
+    for (const std::string& language : languages_) {
+      byLanguage.push_back(exampleValues(texts_, catalogue_, language, entry, std::nullopt));
+    }
+    Json values = Json::array();
+    for (std::size_t i = 0; i < byLanguage.front().size(); ++i) {
+      const auto& [name, value] = byLanguage.front()[i];
+      const auto isSame = [&](const Values& others) { return others[i].second == value; };
+      if (name == countPlaceholder(entry)) {
+        values.push_back({name, nullptr});
+      } else if (std::all_of(byLanguage.begin(), byLanguage.end(), isSame)) {
+        values.push_back({name, value});
+      } else {
+        Json each = Json::array();
+        for (const Values& others : byLanguage) each.push_back(others[i].second);
+        values.push_back({name, std::move(each)});
+      }
+    }
+    return values;
+  }
+
+  [[nodiscard]] Json dataOf(const std::string& language) const {
+    const LanguageName name = nameOfLanguage(language);
+    const Table table = Table::read(root_, language);
+    Json data = {{"tag", name.tag},
+                 {"english", name.english},
+                 {"native", name.native},
+                 {"isRightToLeft", name.isRightToLeft},
+                 {"file", table.file},
+                 {"isWellFormed", table.faults.empty()},
+                 {"texts", Json::array()},
+                 {"finished", Json::array()},
+                 {"characters", Json::array()},
+                 {"states", statesOf(language, table)},
+                 {"findings", findingsOf(table)}};
+    for (const EnglishText& english : english_.all()) addText(language, english, data);
+    return data;
+  }
+
+  void addText(const std::string& language, const EnglishText& english, Json& data) const {
+    const Entry& entry = *english.entry;
+    const std::optional<std::int64_t> count = exampleCount(english.suffix);
+    const std::string text = texts_.text(language, entry, count);
+    const std::string finished = texts_.finishedText(
+        language, entry, count, exampleValues(texts_, catalogue_, language, entry, count));
+    data["texts"].push_back(text);
+    data["finished"].push_back(finished == text ? Json(0) : Json(finished));
+    data["characters"].push_back(sizeOf(finished).characters);
+  }
+
+  [[nodiscard]] std::string statesOf(const std::string& language, const Table& table) const {
+    std::string states;
+    for (const EnglishText& english : english_.all()) {
+      const TableEntry* const entry = table.faults.empty() ? table.find(english.key) : nullptr;
+      states += letterOf(stateOf(language, entry, english));
+    }
+    return states;
+  }
+
+  [[nodiscard]] Json findingsOf(const Table& table) const {
+    Json findings = Json::array();
+    for (const Fault& fault : faults_) {
+      if (fault.file != table.file || fault.severity == Severity::gap) continue;
+      const TableEntry* const entry = entryAt(table, fault);
+      const auto place = entry ? places_.find(entry->key) : places_.end();
+      findings.push_back({place == places_.end() ? Json() : Json(place->second), nameOf(fault.severity),
+                          fault.rule, fault.message, fault.line, fault.column});
+    }
+    return findings;
+  }
+
+  const std::string root_;
+  const CatalogueName name_;
+  const Catalogue catalogue_;
+  const EnglishTexts english_;
+  const AppTexts texts_;
+  std::vector<std::string> languages_;
+  const Faults faults_;
+  std::unordered_map<std::string, std::size_t> places_;
+};
+
+}  // namespace
+
+std::string pageData(const std::string& root) {
+  return PageDataMaker(root).all().dump(-1, ' ', false, Json::error_handler_t::replace);
+}
+
+}  // namespace zk::tools

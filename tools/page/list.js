@@ -1,0 +1,83 @@
+// The list of texts.
+const list = document.getElementById("list");
+const listedCount = (entry) => (entry.counted ? data.counts[FORM_NAMES.length - 1] : undefined);
+
+let shownEntries = [];
+let listedLanguage;
+
+function rowOf(entry) {
+  if (entry.row) return entry.row;
+  const text = element("span");
+  showText(text, entry, english, listedCount(entry));
+  entry.translation = element("span", { hidden: true });
+  entry.link = element(
+    "a",
+    { href: `#${encodeURIComponent(entry.address)}` },
+    element(
+      "span",
+      { className: "key" },
+      element("span", {}, ...breakable(entry.key)),
+      entry.counted ? element("span", { className: "tag" }, "count") : "",
+    ),
+    text,
+    entry.translation,
+  );
+  entry.row = element("li", {}, entry.link);
+  return entry.row;
+}
+
+function showTranslation(entry) {
+  if (entry.shownLanguage === listedLanguage) return;
+  entry.shownLanguage = listedLanguage;
+  entry.translation.hidden = !listedLanguage;
+  if (!listedLanguage) return;
+  showText(entry.translation, entry, listedLanguage, listedCount(entry));
+}
+
+function findingItem({ severity, rule, message, place }) {
+  return element(
+    "li",
+    { className: `finding ${severity}` },
+    element("strong", {}, severity),
+    ` ${message} `,
+    element("code", {}, `${place} [${rule}]`),
+  );
+}
+
+function showTableFindings() {
+  const place = document.getElementById("table-findings");
+  const findings = listedLanguage?.findingsByText.get(null) ?? [];
+  place.hidden = findings.length === 0;
+  place.replaceChildren(...findings.map(findingItem));
+}
+
+/** Shows the entries that the filters let through. */
+function updateList() {
+  listedLanguage = chosenLanguage();
+  shownEntries = filtered();
+  const rows = shownEntries.map(rowOf);
+  shownEntries.forEach(showTranslation);
+  list.replaceChildren(...rows);
+  list.scrollTop = 0;
+  markChosenLanguage(listedLanguage);
+  showTableFindings();
+  const all = shownEntries.length === entries.length;
+  document.getElementById("count").textContent = all
+    ? `${entries.length} texts`
+    : `${shownEntries.length} of ${entries.length} texts`;
+  document.getElementById("nothing").hidden = shownEntries.length > 0;
+  document.getElementById("reset").hidden = !isAnyFilterSet();
+}
+
+function markOpenEntry(open) {
+  list.querySelector("[aria-current]")?.removeAttribute("aria-current");
+  open?.link?.setAttribute("aria-current", "true");
+}
+
+/** Moves the focus to the next text, or the one before; from the search to the first. */
+function moveInList(step) {
+  const at = shownEntries.findIndex((entry) => entry.link === document.activeElement);
+  const next = at < 0 ? 0 : at + step;
+  if (next < 0) return controls.search.focus();
+  shownEntries[next]?.link.focus();
+}

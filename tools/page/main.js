@@ -1,0 +1,76 @@
+// What the reader does: addresses, keys, filters.
+const pageTitle = document.title;
+let openEntry;
+
+function openAddress() {
+  let address = location.hash.slice(1);
+  try {
+    address = decodeURIComponent(address);
+  } catch {
+    // shown as it is spelled, as no text's address
+  }
+  const before = openEntry;
+  openEntry = entriesByAddress.get(address);
+  document.body.classList.toggle("has-card", address !== "");
+  document.title = openEntry ? `${openEntry.key} – ${pageTitle}` : pageTitle;
+  if (openEntry) openCard(openEntry);
+  else if (address !== "") showUnknown(address);
+  else showHelp();
+  markOpenEntry(openEntry);
+  const isBrowsing = list.contains(document.activeElement) && list.checkVisibility();
+  if (address !== "" && !isBrowsing) document.getElementById("card-title").focus();
+  if (address === "" && before) (before.row?.isConnected ? before.link : controls.search).focus();
+}
+
+function onKey(event) {
+  const isTyping = event.target.matches("input, select, textarea");
+  if (event.altKey || event.ctrlKey || event.metaKey) return;
+  if (event.key === "/" && !isTyping) {
+    event.preventDefault();
+    controls.search.focus();
+    controls.search.select();
+  } else if (event.key === "Escape") {
+    onEscape(event);
+  } else if (event.key === "Enter" && event.target === controls.search) {
+    shownEntries[0]?.link.click();
+  } else if (
+    ["ArrowDown", "ArrowUp"].includes(event.key) &&
+    (event.target === controls.search || list.contains(event.target))
+  ) {
+    event.preventDefault();
+    moveInList(event.key === "ArrowDown" ? 1 : -1);
+  }
+}
+
+function onEscape(event) {
+  if (event.target === controls.search && controls.search.value !== "") {
+    event.preventDefault();
+    controls.search.value = "";
+    updateList();
+  } else if (location.hash !== "") {
+    location.hash = "";
+  }
+}
+
+showCoverage((language) => {
+  const isChosen = chosenLanguage() === language;
+  controls.language.value = isChosen ? "" : String(language.index);
+  controls.language.dispatchEvent(new Event("input", { bubbles: true }));
+});
+controls.language.addEventListener("input", () => openEntry && openCard(openEntry));
+document.getElementById("filters").addEventListener("input", updateList);
+document.getElementById("filters").addEventListener("submit", (event) => event.preventDefault());
+document.getElementById("reset").addEventListener("click", () => {
+  resetFilters();
+  updateList();
+  controls.search.focus();
+});
+document.getElementById("skip").addEventListener("click", (event) => {
+  event.preventDefault();
+  controls.search.focus();
+});
+document.addEventListener("keydown", onKey);
+addEventListener("hashchange", openAddress);
+updateList();
+openAddress();
+prepareSearch();

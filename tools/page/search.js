@@ -1,0 +1,102 @@
+// Search over keys and texts in all languages, also by what a screen shows: "12/50 players" finds
+// "%{active}/%{limit} players".
+
+/** `text` without what a searcher need not know: capitals, accents, marks, kinds of quotes and spaces. */
+function folded(text) {
+  return text
+    .replace(/<\/?b>|\*/g, "")
+    .normalize("NFKD")
+    .replace(/[\u0300-\u036F\u200E\u200F\u061C\u202A-\u202E\u2066-\u2069]/g, "")
+    .replace(/[‘’]/g, "'")
+    .replace(/[“”„«»]/g, '"')
+    .replace(/\s+/g, " ")
+    .toLowerCase();
+}
+
+const PLACEHOLDER = /%\{[\p{L}\p{N}]+\}/u;
+
+/** What the search compares with, made when an entry is first asked for. */
+function searchable(entry) {
+  if (entry.searchable) return entry.searchable;
+  const texts = new Set();
+  const templates = new Set();
+  for (const language of languages) {
+    for (let text = entry.first; text <= entry.last; ++text) {
+      texts.add(folded(engineText(language, text)));
+      if (language.finished[text]) templates.add(language.texts[text]);
+    }
+  }
+  const patterns = [];
+  for (const template of templates) {
+    texts.add(folded(template));
+    patterns.push(template.split(PLACEHOLDER).map(folded));
+  }
+  entry.searchable = { key: entry.key.toLowerCase(), texts: `\n${[...texts].join("\n")}\n`, patterns };
+  return entry.searchable;
+}
+
+/** The length of the longest end of `text` that `begin` begins with. */
+function overlap(text, begin) {
+  for (let length = Math.min(text.length, begin.length); length > 0; --length) {
+    if (begin.startsWith(text.slice(text.length - length))) return length;
+  }
+  return 0;
+}
+
+/**
+ * How many characters of `query` are the text's own, when `query` is a part of what the text shows for some
+ * values; 0 when it is not. `pieces` is the text around its placeholders.
+ */
+function ownCharacters(query, pieces) {
+  let best = 0;
+  for (let first = 0; first + 1 < pieces.length; ++first) {
+    let at = overlap(pieces[first], query);
+    let own = at;
+    for (let next = first + 1; next < pieces.length && at < query.length; ++next) {
+      const piece = pieces[next];
+      const found = piece === "" ? -1 : query.indexOf(piece, at + 1);
+      if (found < 0) {
+        own += overlap(query.slice(at + 1), piece); // the query ends within the value, or within this piece
+        at = query.length;
+      } else {
+        own += piece.length;
+        at = found + piece.length;
+      }
+    }
+    if (at === query.length) best = Math.max(best, own);
+  }
+  return best;
+}
+
+/** How well the entry fits: 0 for not at all. */
+function score(entry, query, words) {
+  const { key, texts, patterns } = searchable(entry);
+  if (key === query) return 6;
+  if (texts.includes(`\n${query}\n`)) return 5;
+  if (key.startsWith(query)) return 4;
+  if (texts.includes(query) || key.includes(query)) return 3;
+  if (words.length > 1 && words.every((word) => texts.includes(word) || key.includes(word))) return 2;
+  let own = 0;
+  for (const pieces of patterns) own = Math.max(own, ownCharacters(query, pieces));
+  const ENOUGH = 3;
+  return own >= ENOUGH && own * 3 >= query.length ? 1 + own / query.length : 0;
+}
+
+/** Those of `some` entries that fit what was typed, the best first. */
+function found(some, typed) {
+  const query = folded(typed).trim();
+  if (query === "") return some;
+  const words = query.split(" ");
+  return some
+    .map((entry) => ({ entry, score: score(entry, query, words) }))
+    .filter((result) => result.score > 0)
+    .sort((one, other) => other.score - one.score)
+    .map((result) => result.entry);
+}
+
+/** Makes ready for the search while the reader does nothing else. */
+function prepareSearch(next = 0) {
+  const end = performance.now() + 8;
+  while (next < entries.length && performance.now() < end) searchable(entries[next++]);
+  if (next < entries.length) setTimeout(prepareSearch, 0, next);
+}
