@@ -1,6 +1,6 @@
 #pragma once
 
-/// The text module: everything that an app includes.
+// The text module: everything that an app includes.
 
 #include <ZKStrings/catalogue/ZKStrings.h>
 #include <ZKStrings/engine/BundleGlobals.h>

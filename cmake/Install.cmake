@@ -1,18 +1,32 @@
+# The installation: the components runtime (what programs need), development (what building them needs) and tools. It may
+# be moved as a whole, so that nothing in it names its place.
 include(CMakePackageConfigHelpers)
 set(package_directory ${CMAKE_INSTALL_LIBDIR}/cmake/ZKStrings)
 
-install(TARGETS ZKStrings EXPORT ZKStringsTargets FILE_SET HEADERS)
-install(DIRECTORY resources/ DESTINATION ${CMAKE_INSTALL_DATADIR}/ZKStrings PATTERN "*.md" EXCLUDE)
-install(EXPORT ZKStringsTargets NAMESPACE ZKStrings:: DESTINATION ${package_directory})
+install(TARGETS ZKStrings EXPORT ZKStringsTargets
+  LIBRARY COMPONENT runtime NAMELINK_COMPONENT development
+  ARCHIVE COMPONENT development
+  FILE_SET HEADERS COMPONENT development)
+install(DIRECTORY resources/ DESTINATION ${CMAKE_INSTALL_DATADIR}/ZKStrings COMPONENT runtime PATTERN "*.md" EXCLUDE
+  PATTERN "glossary.json" EXCLUDE)
+install(EXPORT ZKStringsTargets NAMESPACE ZKStrings:: DESTINATION ${package_directory} COMPONENT development)
 
 set(resources ${CMAKE_INSTALL_DATADIR}/ZKStrings)
 configure_package_config_file(cmake/ZKStringsConfig.cmake.in ${PROJECT_BINARY_DIR}/ZKStringsConfig.cmake
-  INSTALL_DESTINATION ${package_directory} PATH_VARS resources)
+  INSTALL_DESTINATION ${package_directory} PATH_VARS resources CMAKE_INSTALL_BINDIR)
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/ZKStringsConfigVersion.cmake COMPATIBILITY SameMajorVersion)
 install(FILES ${PROJECT_BINARY_DIR}/ZKStringsConfig.cmake ${PROJECT_BINARY_DIR}/ZKStringsConfigVersion.cmake
-  cmake/ZKStringsResources.cmake DESTINATION ${package_directory})
+  cmake/ZKStringsResources.cmake cmake/ZKStringsCatalogue.cmake DESTINATION ${package_directory} COMPONENT development)
 
-# The same for those who build the module as a part of their own project.
-set_property(GLOBAL PROPERTY ZKSTRINGS_RESOURCES ${PROJECT_SOURCE_DIR}/resources)
-set_property(GLOBAL PROPERTY ZKSTRINGS_RESOURCES_PLACE ${resources_above})
-include(cmake/ZKStringsResources.cmake)
+# For pkg-config, which finds the installation from its file's own place.
+set(pkgconfig_directory ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig)
+file(RELATIVE_PATH prefix_above ${pkgconfig_directory} ${CMAKE_INSTALL_PREFIX})
+foreach(directory IN ITEMS LIBDIR INCLUDEDIR DATADIR)
+  cmake_path(ABSOLUTE_PATH CMAKE_INSTALL_${directory} BASE_DIRECTORY "\${prefix}" OUTPUT_VARIABLE pkgconfig_${directory})
+endforeach()
+if(NOT BUILD_SHARED_LIBS)
+  set(pkgconfig_requires icu-uc)
+  set(pkgconfig_libraries -l${CMAKE_DL_LIBS})
+endif()
+configure_file(cmake/zkstrings.pc.in ${PROJECT_BINARY_DIR}/zkstrings.pc @ONLY)
+install(FILES ${PROJECT_BINARY_DIR}/zkstrings.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT development)

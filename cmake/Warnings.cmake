@@ -1,6 +1,10 @@
 # How all targets of this project are compiled.
 add_library(zk_compile_options INTERFACE)
-target_compile_options(zk_compile_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow)
+target_compile_features(zk_compile_options INTERFACE cxx_std_20)
+# As a part of another project, the module is compiled with that project's warnings.
+if(PROJECT_IS_TOP_LEVEL)
+  target_compile_options(zk_compile_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow)
+endif()
 if(ZK_WERROR)
   target_compile_options(zk_compile_options INTERFACE -Werror)
 endif()

@@ -12,12 +12,11 @@ namespace zk {
 
 namespace {
 
-std::string finishedText(std::string_view suffixedKey, std::string_view defaultValue,
+std::string finishedText(const Bundle* resources, std::string_view suffixedKey, std::string_view defaultValue,
                          const Substitutions& substitutions) {
   const ServiceView<Language> language;
-  const Bundle* const resources = moduleBundle();
-  const Bundle& chosen =
-      resources ? chosenLanguageBundle(*resources, language->preferredLanguages) : bundle();
+  const Bundle& chosen = resources ? chosenLanguageBundle(*resources, language->preferredLanguages)
+                                   : Bundle::withoutResources("");
   return applySubstitutions(chosen.localizedStringForKey(suffixedKey, defaultValue), substitutions);
 }
 
@@ -25,8 +24,13 @@ std::string finishedText(std::string_view suffixedKey, std::string_view defaultV
 
 std::string localizedString(std::string_view key, std::string_view defaultValue,
                             std::optional<std::int64_t> count, const Substitutions& substitutions) {
-  if (!count) return finishedText(key, defaultValue, substitutions);
-  return finishedText(JoinedText{key, pluralSuffix(*count)}, defaultValue, substitutions);
+  return localizedString(moduleBundle(), key, defaultValue, count, substitutions);
+}
+
+std::string localizedString(const Bundle* resources, std::string_view key, std::string_view defaultValue,
+                            std::optional<std::int64_t> count, const Substitutions& substitutions) {
+  if (!count) return finishedText(resources, key, defaultValue, substitutions);
+  return finishedText(resources, JoinedText{key, pluralSuffix(*count)}, defaultValue, substitutions);
 }
 
 }  // namespace zk

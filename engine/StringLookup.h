@@ -1,6 +1,7 @@
 #pragma once
 
 #include <ZKStrings/engine/Substitutions.h>
+#include <ZKStrings/platform/Bundle.h>
 #include <ZKStrings/platform/Export.h>
 
 #include <cstdint>
@@ -29,6 +30,17 @@ namespace zk {
 /// `Current::language` was assigned (with a message on standard error), and when Base.lproj is needed but
 /// missing among the module's resources (in a function whose name says so).
 [[nodiscard]] ZK_EXPORT std::string localizedString(std::string_view key, std::string_view defaultValue,
+                                                    std::optional<std::int64_t> count,
+                                                    const Substitutions& substitutions);
+
+/// The same for a catalogue with resources of its own: looked up in `resources`, a directory with language
+/// directories such as Base.lproj and de.lproj, for the same `Current::language` and by the same rules. Null
+/// stands for resources that cannot be found for the moment; the text is then the English one.
+///
+///     const zk::Bundle& texts = zk::Bundle::bundleForClass(typeid(MyTexts), "MyTexts");
+///     zk::localizedString(&texts, "Hello", "Hello", std::nullopt, {})
+[[nodiscard]] ZK_EXPORT std::string localizedString(const Bundle* resources, std::string_view key,
+                                                    std::string_view defaultValue,
                                                     std::optional<std::int64_t> count,
                                                     const Substitutions& substitutions);
 

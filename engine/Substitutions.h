@@ -36,16 +36,21 @@ namespace zk {
 /// stops the process; canonically equivalent names (é and e + U+0301) are the same. Moved from, it is empty.
 class ZK_EXPORT Substitutions {
  public:
+  /// A placeholder's name and the text that fills it. It views both.
   struct Pair {
+    /// Of two texts, which must outlive the pair.
     constexpr Pair(Text placeholder, Text replacement) : name(placeholder), text(replacement) {}
+    /// Of a `std::pair` of texts, as maps hold them.
     template <class Name, class Replacement>
     constexpr Pair(const std::pair<Name, Replacement>& pair) : Pair(pair.first, pair.second) {}
 
-    std::string_view name;
-    std::string_view text;
+    std::string_view name;  ///< without "%{" and "}"
+    std::string_view text;  ///< taken as it is
   };
 
+  /// None: every placeholder stays as it is.
   Substitutions() : size_(0) {}
+  /// The pairs in braces, in their order.
   Substitutions(std::initializer_list<Pair> pairs) : Substitutions(pairs.begin(), pairs.size()) {}
 
   /// The pairs of a `std::map`, a vector or any other range that holds them (not one that computes them, as
@@ -61,11 +66,14 @@ class ZK_EXPORT Substitutions {
     *this = Substitutions(list.data(), list.size());
   }
 
+  /// Copies view the same texts.
   Substitutions(const Substitutions&) = default;
+  /// Leaves `other` empty.
   Substitutions(Substitutions&& other) noexcept
       : size_(std::exchange(other.size_, 0)), many_(std::move(other.many_)) {
     if (size_ <= kFew) std::uninitialized_copy_n(other.few_, size_, few_);
   }
+  /// Takes the pairs of `other` over, in place of its own.
   Substitutions& operator=(Substitutions other) noexcept {
     size_ = other.size_;
     many_.swap(other.many_);
@@ -74,8 +82,9 @@ class ZK_EXPORT Substitutions {
   }
   ~Substitutions() = default;
 
-  /// The pairs, in the order in which they were given.
+  /// The first of the pairs, in the order in which they were given.
   [[nodiscard]] const Pair* begin() const ZK_REFERRED_TO { return size_ > kFew ? many_.data() : few_; }
+  /// Behind the last of them.
   [[nodiscard]] const Pair* end() const ZK_REFERRED_TO { return begin() + size_; }
 
  private:

@@ -14,10 +14,13 @@ namespace zk {
 /// pointer, it does not compile here.
 class Text {
  public:
+  /// Views `spelling`, which must outlive it.
   template <std::convertible_to<std::string_view> Spelling>
   constexpr Text(const Spelling& spelling ZK_REFERRED_TO) : view_(spelling) {}
+  /// Nothing is no text.
   Text(std::nullptr_t) = delete;
 
+  /// The text itself.
   constexpr operator std::string_view() const { return view_; }
 
  private:

@@ -26,6 +26,11 @@ std::recursive_mutex& opening() {
   return mutex;
 }
 
+/// Whether `name` names something in a directory, and nothing beyond.
+bool isFileName(std::string_view name) {
+  return !name.empty() && name != "." && name != ".." && name.find_first_of({"/\0", 2}) == name.npos;
+}
+
 }  // namespace
 
 ResourcePath::ResourcePath(std::string path, bool isDirectory)
@@ -88,10 +93,19 @@ Bundle::Bundle(std::string path, Resources resources)
 Bundle::~Bundle() = default;
 
 const Bundle& Bundle::bundleForClass(const std::type_info& type) {
+  return bundleOfCode(type, modulePlaces());
+}
+
+const Bundle& Bundle::bundleForClass(const std::type_info& type, std::string_view name) {
+  if (!isFileName(name)) return withoutResources("");
+  return bundleOfCode(type, {"share/" + std::string(name), ""});
+}
+
+const Bundle& Bundle::bundleOfCode(const std::type_info& type, const ResourcePlaces& places) {
   std::error_code failure;
   // The name of a type stands in the file that defines the type, like its code.
-  const std::string moduleFile = fileHolding(type.name(), failure);
-  const std::string path = isPassing(failure) ? "" : resourceDirectory(moduleFile, failure);
+  const std::string codeFile = fileHolding(type.name(), failure);
+  const std::string path = isPassing(failure) ? "" : resourceDirectory(codeFile, places, failure);
   return openOrThrow(path, failure);
 }
 
@@ -172,9 +186,7 @@ const ResourcePath* Bundle::pathForResource(std::string_view name, std::string_v
 
 std::optional<std::string> Bundle::URLForResource(std::string_view name, std::string_view extension) const {
   const auto fileName = std::string(name).append(".").append(extension);
-  const bool isOneName =
-      !name.empty() && fileName != ".." && fileName.find_first_of({"/\0", 2}) == fileName.npos;
-  if (path_.empty() || !isOneName) return std::nullopt;
+  if (path_.empty() || name.empty() || !isFileName(fileName)) return std::nullopt;
   std::string path = path_ + "/" + fileName;
   std::error_code notThere;
   if (!fs::exists(path, notThere)) return std::nullopt;

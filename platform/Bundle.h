@@ -18,6 +18,7 @@ namespace zk {
 
 class ResourcePath;
 class StringTable;
+struct ResourcePlaces;
 
 /// A directory of resources: string tables, language directories, data files.
 ///
@@ -43,6 +44,11 @@ class ZK_EXPORT alignas(kCacheLine) Bundle {
   ///
   /// Throws std::system_error when it cannot be said for the moment which directory it is or what is in it.
   [[nodiscard]] static const Bundle& bundleForClass(const std::type_info& type);
+
+  /// The same for code that has resources of its own, in a directory `name`: the nearest `share/name` at or
+  /// above the directory of the file that defines the type `type`, two levels up at most. A `name` that is no
+  /// single name, such as "" or "a/b", has none.
+  [[nodiscard]] static const Bundle& bundleForClass(const std::type_info& type, std::string_view name);
 
   /// The bundle of the running app: the directory of its executable, without resources when that cannot be
   /// listed. Throws like `bundleForClass`.
@@ -90,6 +96,7 @@ class ZK_EXPORT alignas(kCacheLine) Bundle {
   Bundle(std::string path, Resources resources);
   static const Bundle* open(const std::string& path, std::error_code& failure);
   static const Bundle* open(const ResourcePath& path);
+  static const Bundle& bundleOfCode(const std::type_info& type, const ResourcePlaces& places);
   static const Bundle& openOrThrow(const std::string& path, std::error_code failure);
   [[nodiscard]] Name nameOf(std::string_view name, std::string_view type) const;
   [[nodiscard]] std::size_t placeOf(const Name& name) const;
@@ -112,8 +119,10 @@ class ZK_EXPORT alignas(kCacheLine) ResourcePath {
  public:
   /// The full path of the file or directory.
   [[nodiscard]] const std::string& string() const { return path_; }
+  /// Whether it was a directory when it was listed.
   [[nodiscard]] bool isDirectory() const { return isDirectory_; }
 
+  /// What a listing has found at the full path `path`.
   ResourcePath(std::string path, bool isDirectory);
   ~ResourcePath();
   ResourcePath(const ResourcePath&) = delete;

@@ -19,9 +19,12 @@ class Value;
 ///     const zk::Dictionary country = {{"name", "Austria"}, {"phoneCode", 43}, {"iso", "AT"}};
 class Dictionary {
  public:
+  /// A member's name and its value.
   using Member = std::pair<std::string, Value>;
 
+  /// Without members.
   Dictionary() = default;
+  /// With `members`, in their order; a name may come twice.
   Dictionary(std::initializer_list<Member> members);
 
   /// Adds a member and gives its value, made of `content` in its place.
@@ -48,9 +51,12 @@ concept IntegerNumber = std::integral<Type> && !std::same_as<Type, bool> && !std
 /// One JSON value: null, a boolean, a number, a text, a list or a dictionary.
 class Value {
  public:
+  /// The elements of a JSON array.
   using List = std::vector<Value>;
 
+  /// Null.
   Value() = default;
+  /// Null.
   Value(std::nullptr_t) {}
   /// Only a boolean itself: a pointer or a number does not become one.
   Value(std::same_as<bool> auto value) : value_(value) {}
@@ -62,12 +68,19 @@ class Value {
       value_ = static_cast<double>(value);
     }
   }
+  /// A number that is no integer, also when it has no fraction.
   Value(std::floating_point auto value) : value_(static_cast<double>(value)) {}
+  /// A text, in UTF-8.
   Value(const char* value) : value_(std::string(value)) {}
+  /// A text, in UTF-8.
   Value(std::string_view value) : value_(std::string(value)) {}
+  /// A text, in UTF-8.
   Value(const std::string& value) : value_(value) {}
+  /// A text, in UTF-8.
   Value(std::string&& value) : value_(std::move(value)) {}
+  /// A list.
   Value(List value) : value_(std::move(value)) {}
+  /// A dictionary.
   Value(Dictionary value) : value_(std::move(value)) {}
 
   /// The value as `Type` (`bool`, `std::int64_t`, `double`, `std::string`, `List` or `Dictionary`); null when
@@ -76,6 +89,7 @@ class Value {
   [[nodiscard]] const Type* as() const {
     return std::get_if<Type>(&value_);
   }
+  /// The same, to be changed in place.
   template <class Type>
   [[nodiscard]] Type* as() {
     return std::get_if<Type>(&value_);

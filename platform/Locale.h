@@ -30,6 +30,7 @@ struct LocaleSettings {
 /// `readSettingsFrom`.
 class ZK_EXPORT Locale {
  public:
+  /// The user's locale, which follows later changes of the settings.
   [[nodiscard]] static Locale autoupdatingCurrent() { return {}; }
 
   /// The user's preferred languages as they are now, most preferred first.

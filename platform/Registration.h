@@ -10,7 +10,7 @@
 #include <typeinfo>
 #include <utility>
 
-/// What the templates of Resolver.h need. An app calls `Resolver`, and nothing of this.
+// What the templates of Resolver.h need. An app calls `Resolver`, and nothing of this.
 
 namespace zk {
 

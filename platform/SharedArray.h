@@ -28,16 +28,22 @@ class SharedArray {
   /// the settings.
   using Elements = std::vector<Element, CacheLineAllocator<Element>>;
 
+  /// Without elements.
   SharedArray() = default;
+  /// With the elements in braces.
   SharedArray(std::initializer_list<Element> elements) : SharedArray(Elements(elements)) {}
+  /// Takes `elements` over, without a copy.
   SharedArray(Elements elements)
       : elements_(std::allocate_shared<const Elements>(CacheLineAllocator<Elements>(), std::move(elements))) {
   }
+  /// Takes the elements of a vector over, each moved.
   SharedArray(std::vector<Element> elements)
       : SharedArray(
             Elements(std::make_move_iterator(elements.begin()), std::make_move_iterator(elements.end()))) {}
 
+  /// The number of elements.
   [[nodiscard]] std::size_t size() const { return elements_ ? elements_->size() : 0; }
+  /// Whether there is none.
   [[nodiscard]] bool empty() const { return size() == 0; }
 
   /// The element at `index`, which must be less than `size()`.
@@ -45,9 +51,11 @@ class SharedArray {
     return (*elements_)[index];
   }
 
+  /// The first element, valid until this copy is changed or ends.
   [[nodiscard]] const Element* begin() const ZK_REFERRED_TO {
     return elements_ ? elements_->data() : nullptr;
   }
+  /// Behind the last element.
   [[nodiscard]] const Element* end() const ZK_REFERRED_TO { return begin() + size(); }
 
   /// Whether one is a copy of the other, neither changed since.
@@ -55,6 +63,8 @@ class SharedArray {
     return elements_ == other.elements_;
   }
 
+  /// Puts `element` at the end. Copies what was there, so that its cost grows with the size; `edit` makes
+  /// several changes at the cost of one.
   void append(Element element) {
     edit([&](Elements& elements) { elements.push_back(std::move(element)); });
   }

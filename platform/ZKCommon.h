@@ -6,7 +6,7 @@
 #include <optional>
 #include <string>
 
-/// What ZKStrings needs of the app's shared module: the record `Current` of app-wide services.
+// What ZKStrings needs of the app's shared module: the record `Current` of app-wide services.
 
 namespace zk {
 
@@ -33,6 +33,7 @@ class ZK_EXPORT ReachabilityProperty {
 
   /// The app's service; before one was assigned, a service that knows no country. Never null.
   [[nodiscard]] operator std::shared_ptr<const NetworkReaching>() const { return service(); }
+  /// The same, to call it.
   [[nodiscard]] std::shared_ptr<const NetworkReaching> operator->() const { return service(); }
 
  private:

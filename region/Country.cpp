@@ -1,3 +1,4 @@
+#include <ZKStrings/platform/Dictionary.h>
 #include <ZKStrings/platform/text/UnicodeText.h>
 #include <ZKStrings/region/Country.h>
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <ZKStrings/platform/Dictionary.h>
 #include <ZKStrings/platform/Export.h>
 
 #include <cstdint>
@@ -8,6 +7,8 @@
 #include <string>
 
 namespace zk {
+
+class Dictionary;
 
 /// One country that the app offers, with texts for country pickers and telephone-number fields. An immutable
 /// value; any thread may read it.
@@ -19,7 +20,8 @@ class ZK_EXPORT Country {
  public:
   /// The country that `dictionary` describes by "name" (a text), "phoneCode" (an integer of 64 bits, not 44.0
   /// or a boolean) and "iso" (a text), taken as they are; other members are ignored. Nothing when one is
-  /// missing or of another type.
+  /// missing or of another type. Who calls it includes <ZKStrings/platform/Dictionary.h>, which costs more to compile
+  /// than most of this module.
   [[nodiscard]] static std::optional<Country> fromDictionary(const Dictionary& dictionary);
 
   /// The name as the country list gives it.

@@ -23,7 +23,9 @@ class ZK_EXPORT LanguageAccess {
   LanguageAccess(const LanguageAccess&) = delete;
   LanguageAccess& operator=(const LanguageAccess&) = delete;
 
+  /// The copy's fields, to read or change.
   Language* operator->() ZK_REFERRED_TO { return &language_; }
+  /// The copy.
   Language& operator*() ZK_REFERRED_TO { return language_; }
 
  private:
@@ -38,12 +40,15 @@ class ZK_EXPORT LanguageProperty {
   constexpr LanguageProperty() = default;
   LanguageProperty(const LanguageProperty&) = delete;
 
+  /// Makes `value` the language of every text from now on, on all threads.
   const LanguageProperty& operator=(Language value) const;
 
   /// A copy of the current language.
   [[nodiscard]] Language get() const;
+  /// The same.
   [[nodiscard]] operator Language() const { return get(); }
 
+  /// Access to one field, until the end of the statement.
   [[nodiscard]] LanguageAccess operator->() const { return {}; }
 
   /// Calls `change(Language&)` on a copy of the current language, and writes it back as `->` does.

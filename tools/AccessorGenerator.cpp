@@ -1,6 +1,6 @@
 #include <ZKStrings/tools/AccessorGenerator.h>
+#include <ZKStrings/tools/Identifiers.h>
 
-#include <algorithm>
 #include <iterator>
 #include <string_view>
 #include <vector>
@@ -11,20 +11,6 @@ namespace zk::tools {
 
 namespace {
 
-/// What cannot be the name of an accessor: the reserved words, and the two names that the class itself needs.
-constexpr std::string_view kReserved[] = {
-    "Text",     "ZKStrings", "alignas",  "alignof",   "and",     "and_eq",    "asm",      "auto",
-    "bitand",   "bitor",     "bool",     "break",     "case",    "catch",     "char",     "class",
-    "co_await", "co_return", "co_yield", "compl",     "concept", "const",     "continue", "decltype",
-    "default",  "delete",    "do",       "double",    "else",    "enum",      "explicit", "export",
-    "extern",   "false",     "float",    "for",       "friend",  "goto",      "if",       "inline",
-    "int",      "long",      "mutable",  "namespace", "new",     "noexcept",  "not",      "not_eq",
-    "nullptr",  "operator",  "or",       "or_eq",     "private", "protected", "public",   "register",
-    "requires", "return",    "short",    "signed",    "sizeof",  "static",    "struct",   "switch",
-    "template", "this",      "throw",    "true",      "try",     "typedef",   "typeid",   "typename",
-    "union",    "unsigned",  "using",    "virtual",   "void",    "volatile",  "while",    "xor",
-    "xor_eq"};
-
 constexpr std::string_view kCounts[] = {"0", "1", "2", "3 to 5", "6 and more"};
 
 constexpr const char* kNotice =
@@ -34,47 +20,83 @@ constexpr const char* kNotice =
 
 constexpr const char* kHeaderBegin = R"(#pragma once
 
-{}
+{notice}
 #include <cstdint>
 #include <string>
 
 #include <ZKStrings/engine/Text.h>
 #include <ZKStrings/platform/Export.h>
-
-namespace zk {{
-
+{opening}
 /// The catalogue: one accessor for each text of the app, named as the entry's key, giving the text in the user's
 /// language. Text arguments (a literal, a `std::string`, a `std::string_view`) fill the placeholders of the same name;
 /// `count`, the last argument of counted entries, chooses the plural form and is filled in nowhere. Each comment shows
 /// the English text.
 ///
-///     std::string title = zk::ZKStrings::badgeCount_Badges("4", 4);
-///
-/// Any thread may call any accessor, once `zk::Current::language` has been assigned.
-struct ZK_EXPORT ZKStrings {{
-  ZKStrings() = delete;
+{example}/// Any thread may call any accessor, once `zk::Current::language` has been assigned.
+struct ZK_EXPORT {name} {{
+  {name}() = delete;
 )";
 
-constexpr const char* kSourceBegin = R"({}
-#include <ZKStrings/catalogue/ZKStrings.h>
+constexpr const char* kModuleExample =
+    R"(///     std::string title = zk::ZKStrings::badgeCount_Badges("4", 4);
+///
+)";
+
+constexpr const char* kModuleSourceBegin = R"({notice}
+#include <ZKStrings/catalogue/{name}.h>
+
+#include <ZKStrings/catalogue/EntryText.h>
+{opening})";
+
+constexpr const char* kSourceBegin = R"({notice}
+#include "{name}.h"
 
 #include <optional>
+#include <system_error>
 
 #include <ZKStrings/engine/StringLookup.h>
+#include <ZKStrings/platform/Bundle.h>
 
-namespace zk {{
-)";
+namespace {{
 
-/// `name` as C++ takes it: a reserved word gets an underscore.
-std::string identifier(std::string_view name) {
-  const bool isReserved = std::find(std::begin(kReserved), std::end(kReserved), name) != std::end(kReserved);
-  return std::string(name) + (isReserved ? "_" : "");
+/// The tables: share/{name} at or above the directory of the file that holds this code, two levels up at
+/// most. Null while they cannot be opened for the moment.
+struct {name}Resources {{
+  static const zk::Bundle* bundle() {{
+    try {{
+      static const zk::Bundle& found = zk::Bundle::bundleForClass(typeid({name}Resources), "{name}");
+      return &found;
+    }} catch (const std::system_error&) {{
+      return nullptr;
+    }}
+  }}
+}};
+
+}}  // namespace
+{opening})";
+
+std::string begin(const char* format, const CatalogueName& catalogue) {
+  const std::string opening =
+      catalogue.nameSpace.empty() ? "" : fmt::format("\nnamespace {} {{\n", catalogue.nameSpace);
+  return fmt::format(fmt::runtime(format), fmt::arg("notice", kNotice), fmt::arg("name", catalogue.name),
+                     fmt::arg("opening", opening),
+                     fmt::arg("example", catalogue.isModule() ? kModuleExample : ""));
 }
 
-std::string parametersOf(const Entry& entry) {
+std::string end(const CatalogueName& catalogue) {
+  return catalogue.nameSpace.empty() ? "" : fmt::format("\n}}  // namespace {}\n", catalogue.nameSpace);
+}
+
+/// The name of the accessor; that of the class would be its constructor's.
+std::string accessorOf(const Entry& entry, const CatalogueName& catalogue) {
+  const std::string name = identifierFor(entry.key);
+  return name == catalogue.name ? name + "_" : name;
+}
+
+std::string parametersOf(const Entry& entry, const CatalogueName& catalogue) {
   std::vector<std::string> parameters;
   for (const std::string_view name : placeholderNames(entry.text)) {
-    parameters.push_back("Text " + identifier(name));
+    parameters.push_back((catalogue.isModule() ? "Text " : "::zk::Text ") + identifierFor(name));
   }
   if (entry.plural) parameters.push_back("std::int64_t count");
   return fmt::format("{}", fmt::join(parameters, ", "));
@@ -83,9 +105,21 @@ std::string parametersOf(const Entry& entry) {
 std::string substitutionsOf(const Entry& entry) {
   std::vector<std::string> pairs;
   for (const std::string_view name : placeholderNames(entry.text)) {
-    pairs.push_back(fmt::format("{{\"{}\", {}}}", name, identifier(name)));
+    pairs.push_back(fmt::format("{{\"{}\", {}}}", name, identifierFor(name)));
   }
   return fmt::format("{{{}}}", fmt::join(pairs, ", "));
+}
+
+/// The call that gives the entry's text: the module's own is the shorter one, since it is made so often.
+std::string lookupOf(const Entry& entry, const CatalogueName& catalogue) {
+  const std::string texts = fmt::format("\"{}\", \"{}\"", escaped(entry.key), escaped(entry.text));
+  const std::string substitutions = substitutionsOf(entry);
+  if (!catalogue.isModule()) {
+    return fmt::format("::zk::localizedString({}Resources::bundle(), {}, {}, {})", catalogue.name, texts,
+                       entry.plural ? "count" : "std::nullopt", substitutions);
+  }
+  return fmt::format("entryText({}{}{})", texts, entry.plural ? ", count" : "",
+                     substitutions == "{}" ? "" : ", " + substitutions);
 }
 
 std::string commentOf(const Entry& entry, const Table& base) {
@@ -100,29 +134,29 @@ std::string commentOf(const Entry& entry, const Table& base) {
 
 }  // namespace
 
-Accessors generateAccessors(const Catalogue& catalogue, const Table& base) {
-  Accessors accessors{fmt::format(fmt::runtime(kHeaderBegin), kNotice),
-                      fmt::format(fmt::runtime(kSourceBegin), kNotice)};
+Accessors generateAccessors(const Catalogue& catalogue, const Table& base, const CatalogueName& name) {
+  Accessors accessors{begin(kHeaderBegin, name),
+                      begin(name.isModule() ? kModuleSourceBegin : kSourceBegin, name)};
   for (const Entry& entry : catalogue.entries()) {
-    const std::string name = identifier(entry.key);
-    const std::string parameters = parametersOf(entry);
+    const std::string accessor = accessorOf(entry, name);
+    const std::string parameters = parametersOf(entry, name);
     accessors.header += fmt::format("\n{}  [[nodiscard]] static std::string {}({});\n",
-                                    commentOf(entry, base), name, parameters);
-    accessors.source += fmt::format(
-        "\nstd::string ZKStrings::{}({}) {{\n  return localizedString(\"{}\", \"{}\", {}, {});\n}}\n", name,
-        parameters, escaped(entry.key), escaped(entry.text), entry.plural ? "count" : "std::nullopt",
-        substitutionsOf(entry));
+                                    commentOf(entry, base), accessor, parameters);
+    accessors.source += fmt::format("\nstd::string {}::{}({}) {{\n  return {};\n}}\n", name.name, accessor,
+                                    parameters, lookupOf(entry, name));
   }
-  accessors.header += "};\n\n}  // namespace zk\n";
-  accessors.source += "\n}  // namespace zk\n";
+  accessors.header += "};\n" + end(name);
+  accessors.source += end(name);
   return accessors;
 }
 
-std::string accessorCall(const Entry& entry) {
+std::string accessorCall(const Entry& entry, const CatalogueName& name) {
   std::vector<std::string> arguments;
-  for (const std::string_view name : placeholderNames(entry.text)) arguments.push_back(identifier(name));
+  for (const std::string_view placeholder : placeholderNames(entry.text))
+    arguments.push_back(identifierFor(placeholder));
   if (entry.plural) arguments.emplace_back("count");
-  return fmt::format("zk::ZKStrings::{}({})", identifier(entry.key), fmt::join(arguments, ", "));
+  return fmt::format("{}{}{}::{}({})", name.nameSpace, name.nameSpace.empty() ? "" : "::", name.name,
+                     accessorOf(entry, name), fmt::join(arguments, ", "));
 }
 
 }  // namespace zk::tools

@@ -2,6 +2,7 @@
 #include <ZKStrings/tools/Catalogue.h>
 #include <ZKStrings/tools/Characters.h>
 #include <ZKStrings/tools/Files.h>
+#include <ZKStrings/tools/Identifiers.h>
 #include <ZKStrings/tools/Position.h>
 
 #include <algorithm>
@@ -110,16 +111,16 @@ void checkEntry(const Entry& entry, const std::string& file, Faults& faults) {
   const auto fail = [&](std::string message) {
     faults.push_back({Severity::error, file, entry.line, 1, "", std::move(message)});
   };
-  if (lengthOf(entry.key) > kLongestKey) {
-    fail(fmt::format("the key \"{}\" has more than {} characters; cut it there", entry.key, kLongestKey));
-  }
-  const std::string ruled = keyForText(entry.text);
   const bool isKept = entry.kept == Entry::Kept::key;
+  const std::string ruled = keyForText(entry.text);
   if (!isKept && entry.key != ruled) {
     fail(fmt::format("the key \"{}\" is not the one that its text gets; use \"{}\"", entry.key, ruled));
   }
   if (isKept && entry.key == ruled) {
     fail(fmt::format("the key \"{}\" follows the rule; remove \"kept\"", entry.key));
+  }
+  if (identifierFor(entry.key).empty()) {
+    fail(fmt::format("the key \"{}\" cannot name a function; give it a letter or digit", entry.key));
   }
   std::set<std::string_view> seen;
   for (const std::string_view name : placeholderNames(entry.text)) {
@@ -143,7 +144,7 @@ void checkEntry(const Entry& entry, const std::string& file, Faults& faults) {
 
 /// What makes two accessors the same function for C++: the name and the types of the arguments.
 std::string signatureOf(const Entry& entry) {
-  return fmt::format("{}({}{})", entry.key, placeholderNames(entry.text).size(),
+  return fmt::format("{}({}{})", identifierFor(entry.key), placeholderNames(entry.text).size(),
                      entry.plural ? ", count" : "");
 }
 
@@ -157,7 +158,7 @@ void checkTogether(const std::vector<Entry>& entries, const std::string& file, F
     };
     const auto [same, isNew] = accessors.try_emplace(signatureOf(entry), &entry);
     if (!isNew)
-      fail(fmt::format("the accessor \"{}\" stands already in line {}; remove one", entry.key,
+      fail(fmt::format("the accessor \"{}\" stands already in line {}; remove one", identifierFor(entry.key),
                        same->second->line));
     const auto [first, isFirst] = texts.try_emplace(entry.key, &entry);
     if (!isFirst && first->second->text != entry.text) {

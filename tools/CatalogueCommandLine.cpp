@@ -36,14 +36,24 @@ void addForms(CLI::App& command, PluralForms& forms) {
 }
 
 void addGenerateCommand(CLI::App& app, const RootFinder& inRoot) {
+  const auto output = std::make_shared<std::string>();
   auto* const command = app.add_subcommand("generate", "Make the accessors of catalogue/entries.json anew");
-  command->callback([inRoot] { generate(inRoot()); });
+  command->add_option("--output", *output, "Where to, instead of catalogue/")->type_name("DIR");
+  command->footer("Example: zkstrings generate");
+  command->callback([inRoot, output] {
+    if (output->empty()) {
+      generate(inRoot());
+    } else {
+      generateInto(*output, inRoot());
+    }
+  });
 }
 
 void addKeyCommand(CLI::App& app) {
   const auto text = std::make_shared<std::string>();
   auto* const command = app.add_subcommand("key", "Print the key that a text gets");
   command->add_option("text", *text, "The English text; \\n is a line break")->required();
+  command->footer("Example: zkstrings key 'Kick %{username}?'");
   command->callback([text] { fmt::print("{}\n", keyForText(withLineBreaks(*text))); });
 }
 
@@ -69,7 +79,7 @@ void addChangeCommand(CLI::App& app, const RootFinder& inRoot) {
   };
   const auto arguments = std::make_shared<Arguments>();
   auto* const command = app.add_subcommand("change", "Change the English of a text; its key stays");
-  command->add_option("key", arguments->key, "The text's key")->required();
+  command->add_option("key", arguments->key, "The text's key")->required()->type_name("KEY");
   command->add_option("text", arguments->text, "The new English text; \\n is a line break")->required();
   addForms(*command, arguments->forms);
   command->footer("Example: zkstrings change About 'About us'");
@@ -83,7 +93,7 @@ void addChangeCommand(CLI::App& app, const RootFinder& inRoot) {
 void addRemoveCommand(CLI::App& app, const RootFinder& inRoot) {
   const auto key = std::make_shared<std::string>();
   auto* const command = app.add_subcommand("remove", "Remove a text, with its translations");
-  command->add_option("key", *key, "The text's key")->required();
+  command->add_option("key", *key, "The text's key")->required()->type_name("KEY");
   command->footer("Example: zkstrings remove Out_of_date");
   command->callback([key, inRoot] {
     removeEntry(inRoot(), *key);

@@ -13,10 +13,12 @@
 #include <ZKStrings/tools/TranslationState.h>
 
 #include <algorithm>
+#include <filesystem>
 #include <functional>
 #include <iterator>
 #include <stdexcept>
 #include <string_view>
+#include <system_error>
 #include <utility>
 #include <vector>
 
@@ -30,10 +32,22 @@ namespace {
 constexpr std::size_t kFormForOne = 1;
 
 /// The accessors' files that belong to the catalogue and its English table.
-std::vector<FileChange> accessorFiles(const Catalogue& catalogue, const Table& base) {
-  Accessors accessors = generateAccessors(catalogue, base);
-  return {{Accessors::kHeaderFile, std::move(accessors.header)},
-          {Accessors::kSourceFile, std::move(accessors.source)}};
+std::vector<FileChange> accessorFiles(const CatalogueName& name, const Catalogue& catalogue,
+                                      const Table& base) {
+  Accessors accessors = generateAccessors(catalogue, base, name);
+  return {{name.headerFile(), std::move(accessors.header)}, {name.sourceFile(), std::move(accessors.source)}};
+}
+
+/// Those of the project at `root`, with the catalogue and the English table that it has.
+std::vector<FileChange> accessorFilesOf(const std::string& root) {
+  return accessorFiles(CatalogueName::read(root), Catalogue::read(root), Table::readWellFormed(root, kBase));
+}
+
+/// Whether the project at `root` keeps its accessors beside the catalogue: the module does; another may leave
+/// them to its build.
+bool keepsAccessors(const std::string& root, const CatalogueName& name) {
+  std::error_code failure;
+  return name.isModule() || std::filesystem::exists(std::filesystem::path(root) / name.headerFile(), failure);
 }
 
 /// The catalogue as its file holds it. Throws `CommandFailed` when it breaks a rule.
@@ -103,18 +117,6 @@ void insertLines(const Catalogue& catalogue, const Entry& entry, const PluralFor
   base.insertBehind(before, lines);
 }
 
-/// Writes the catalogue and what changes with it: the English table as it is edited, the accessors, and
-/// `translations`.
-void writeAll(const std::string& root, const Catalogue& catalogue, const TableEditor& base,
-              std::vector<FileChange> translations = {}) {
-  const std::string table = base.edited();
-  std::vector<FileChange> changes = accessorFiles(catalogue, Table::parse(table, tablePath(kBase)));
-  changes.push_back({Catalogue::kFile, checkedJson(catalogue)});
-  changes.push_back({tablePath(kBase), table});
-  std::move(translations.begin(), translations.end(), std::back_inserter(changes));
-  writeFiles(root, changes);
-}
-
 /// The entries of `key`, counted or not. Throws with the nearest key when there are none.
 std::vector<Entry*> entriesOf(Catalogue& catalogue, const std::string& key) {
   std::vector<Entry*> found;
@@ -173,8 +175,32 @@ std::string changedText(const TableKey& key, const std::string& present, const s
 
 }  // namespace
 
+void writeCatalogue(const std::string& root, const Catalogue& catalogue, const std::string& base,
+                    std::vector<FileChange> translations) {
+  const CatalogueName name = CatalogueName::read(root);
+  std::vector<FileChange> changes;
+  if (keepsAccessors(root, name))
+    changes = accessorFiles(name, catalogue, Table::parse(base, tablePath(kBase)));
+  changes.push_back({Catalogue::kFile, checkedJson(catalogue)});
+  changes.push_back({tablePath(kBase), base});
+  std::move(translations.begin(), translations.end(), std::back_inserter(changes));
+  writeFiles(root, changes);
+}
+
 void generate(const std::string& root) {
-  writeFiles(root, accessorFiles(Catalogue::read(root), Table::readWellFormed(root, kBase)));
+  writeFiles(root, accessorFilesOf(root));
+}
+
+void generateInto(const std::string& output, const std::string& root) {
+  std::vector<FileChange> files;
+  try {
+    files = accessorFilesOf(root);
+  } catch (CommandFailed& failed) {
+    for (Fault& fault : failed.faults) fault.file = (std::filesystem::path(root) / fault.file).string();
+    throw;
+  }
+  for (FileChange& file : files) file.path = std::filesystem::path(file.path).filename();
+  writeFiles(output, files);
 }
 
 std::string addEntry(const std::string& root, const NewEntry& added) {
@@ -189,7 +215,7 @@ std::string addEntry(const std::string& root, const NewEntry& added) {
 
   TableEditor base = TableEditor::open(root, kBase);
   insertLines(catalogue, catalogue.entries()[place], forms, base);
-  writeAll(root, catalogue, base);
+  writeCatalogue(root, catalogue, base.edited());
   return key;
 }
 
@@ -221,7 +247,7 @@ std::size_t changeEntry(const std::string& root, const std::string& key, const s
     editor.setState(entry, TranslationState::needsReview);
     ++marked;
   };
-  writeAll(root, catalogue, base, editTranslations(root, keys, mark));
+  writeCatalogue(root, catalogue, base.edited(), editTranslations(root, keys, mark));
   return marked;
 }
 
@@ -235,7 +261,7 @@ void removeEntry(const std::string& root, const std::string& key) {
     if (const TableEntry* const entry = base.table().find(tableKey.key)) base.remove(*entry);
   }
   const auto remove = [](TableEditor& editor, const TableEntry& entry) { editor.remove(entry); };
-  writeAll(root, catalogue, base, editTranslations(root, keys, remove));
+  writeCatalogue(root, catalogue, base.edited(), editTranslations(root, keys, remove));
 }
 
 }  // namespace zk::tools

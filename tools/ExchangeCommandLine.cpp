@@ -1,6 +1,7 @@
 #include <ZKStrings/tools/ExchangeCommandLine.h>
 #include <ZKStrings/tools/Files.h>
 #include <ZKStrings/tools/Languages.h>
+#include <ZKStrings/tools/OwnCatalogueCommandLine.h>
 #include <ZKStrings/tools/Table.h>
 #include <ZKStrings/tools/exchange/ExchangeFormat.h>
 #include <ZKStrings/tools/exchange/Export.h>
@@ -86,7 +87,9 @@ Import runImport(const std::string& root, const std::string& file, const std::st
 void addExportCommand(CLI::App& app, const RootFinder& inRoot) {
   const auto arguments = std::make_shared<ExportArguments>();
   auto* const command = app.add_subcommand("export", "Write a language's texts for a translators' program");
-  command->add_option("language", arguments->language, "The language, as its directory is named")->required();
+  command->add_option("language", arguments->language, "The language: its code, name or table")
+      ->required()
+      ->type_name("LANGUAGE");
   command->add_option("-o,--output", arguments->file, "Where to write, instead of the terminal")
       ->type_name("FILE");
   command
@@ -110,14 +113,18 @@ void addImportCommand(CLI::App& app, const RootFinder& inRoot, int& status) {
   };
   const auto arguments = std::make_shared<Arguments>();
   auto* const command =
-      app.add_subcommand("import", "Bring a translated XLIFF, PO or CSV file into its table");
-  command->add_option("file", arguments->file, "The file, as a translators' program saved it")->required();
+      app.add_subcommand("import", "Bring a translated XLIFF, PO or CSV file, or another app's tables, in");
+  command
+      ->add_option("file", arguments->file,
+                   "The file, as a translators' program saved it; or the English .strings of another app")
+      ->required();
   command->add_option("--language", arguments->language, "The language, if the file does not tell it")
-      ->type_name("LANG");
+      ->type_name("LANGUAGE");
   command->add_flag("--force", arguments->force,
                     "Take translations of an English text that has changed, and mark them for review");
   command->footer("Example: zkstrings import de.xlf");
   command->callback([arguments, inRoot, &status] {
+    if (isForeignTable(arguments->file)) return runAdoption(inRoot(), arguments->file);
     const Import done = runImport(inRoot(), arguments->file, arguments->language, arguments->force);
     for (const Fault& fault : done.faults) fmt::print("{}\n", formatted(fault, isatty(STDOUT_FILENO) == 1));
     fmt::print("{}: {}\n", tablePath(done.language), summaryOf(done));

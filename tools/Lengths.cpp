@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <string_view>
+#include <tuple>
 #include <utility>
 
 #include <fmt/format.h>
@@ -60,10 +61,11 @@ std::vector<Length> widestTranslations(const std::string& root, const std::vecto
       }
     }
   }
-  std::stable_sort(lengths.begin(), lengths.end(), [](const Length& one, const Length& other) {
-    return std::pair(one.times(), one.translation.columns) >
-           std::pair(other.times(), other.translation.columns);
-  });
+  const auto order = [](const Length& length) {
+    return std::tuple(length.times(), length.translation.columns);
+  };
+  std::stable_sort(lengths.begin(), lengths.end(),
+                   [&](const Length& one, const Length& other) { return order(one) > order(other); });
   lengths.resize(std::min(limit, lengths.size()));
   return lengths;
 }

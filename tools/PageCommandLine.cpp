@@ -25,6 +25,7 @@ void addPageCommand(CLI::App& app, const RootFinder& inRoot) {
   const auto file = std::make_shared<std::string>();
   auto* const command = app.add_subcommand("page", "Write all texts in all languages as a page to look at");
   command->add_option("-o,--output", *file, "The HTML file; build/texts.html otherwise")->type_name("FILE");
+  command->footer("Example: zkstrings page -o texts.html");
   command->callback([file, inRoot] {
     const std::string root = inRoot();
     const std::string page = pageOf(root);
@@ -42,6 +43,7 @@ void addPseudoCommand(CLI::App& app, const RootFinder& inRoot) {
       ->add_option("-o,--output", *directory,
                    "The resources of the app to look at, share/ZKStrings; of build/pseudo otherwise")
       ->type_name("DIR");
+  command->footer("Example: zkstrings pseudo -o build/share/ZKStrings");
   command->callback([directory, inRoot] {
     const std::string root = inRoot();
     if (directory->empty()) *directory = root + kPseudoResources;
@@ -57,7 +59,9 @@ void addLengthsCommand(CLI::App& app, const RootFinder& inRoot) {
   };
   const auto arguments = std::make_shared<Arguments>();
   auto* const command = app.add_subcommand("lengths", "List the texts that come out longest beside English");
-  command->add_option("languages", arguments->languages, "The languages; without any, all");
+  command->add_option("languages", arguments->languages, "The languages; without any, all")
+      ->type_name("LANGUAGE");
+  command->footer("Example: zkstrings lengths de pl --limit 10");
   command->add_option("--limit", arguments->limit, "How many to list")
       ->check(CLI::NonNegativeNumber)
       ->type_name("N")

@@ -121,8 +121,10 @@ void addCheckCommand(CLI::App& app, const RootFinder& inRoot, int& status) {
   const auto arguments = std::make_shared<Arguments>();
   auto* const command =
       app.add_subcommand("check", "Say all that is wrong with the tables and the country list");
-  command->add_option("languages", arguments->options.languages,
-                      "The languages to check (codes, names or tables); without any, everything");
+  command
+      ->add_option("languages", arguments->options.languages,
+                   "The languages to check (codes, names or tables); without any, everything")
+      ->type_name("LANGUAGE");
   command->add_option("--off", arguments->options.off, "A rule to switch off; may be given again")
       ->allow_extra_args(false)
       ->check(isRule())
@@ -133,6 +135,7 @@ void addCheckCommand(CLI::App& app, const RootFinder& inRoot, int& status) {
   command->add_flag("--notes", arguments->options.notes, "Show also what may be right, but is worth a look");
   command->add_flag("--rules", arguments->showsRules, "List the rules instead");
   addFormat(*command, arguments->format);
+  command->footer("Example: zkstrings check de --strict");
   command->callback([arguments, inRoot, &status] {
     if (arguments->showsRules) return printRules();
     const std::string root = inRoot();
@@ -153,6 +156,7 @@ void addCoverageCommand(CLI::App& app, const RootFinder& inRoot) {
   auto* const command =
       app.add_subcommand("coverage", "Show how far the translations of each language have come");
   addFormat(*command, *format);
+  command->footer("Example: zkstrings coverage");
   command->callback([format, inRoot] {
     const std::vector<Coverage> languages = coverageOf(inRoot());
     fmt::print("{}", *format == kJson ? toJson(languages) + "\n" : formatted(languages));
@@ -162,7 +166,8 @@ void addCoverageCommand(CLI::App& app, const RootFinder& inRoot) {
 void addTemplateCommand(CLI::App& app, const RootFinder& inRoot) {
   const auto language = std::make_shared<std::string>();
   auto* const command = app.add_subcommand("template", "Write the table from which a new language begins");
-  command->add_option("language", *language, "The language's ISO 639-1 code")->required();
+  command->add_option("language", *language, "The language's ISO 639-1 code")->required()->type_name("CODE");
+  command->footer("Example: zkstrings template fi");
   command->callback([language, inRoot] {
     const std::size_t texts = writeTemplate(inRoot(), *language);
     fmt::print("Wrote {} with {} texts to translate.\n", tablePath(*language), texts);
@@ -177,8 +182,11 @@ void addUpdateCommand(CLI::App& app, const RootFinder& inRoot) {
   const auto arguments = std::make_shared<Arguments>();
   auto* const command = app.add_subcommand(
       "update", "Add what a language's table lacks, in English, and mark what is still in English");
-  command->add_option("language", arguments->language, "The language: its code, name or table")->required();
+  command->add_option("language", arguments->language, "The language: its code, name or table")
+      ->required()
+      ->type_name("LANGUAGE");
   command->add_flag("--prune", arguments->prunes, "Remove the entries that nothing looks up");
+  command->footer("Example: zkstrings update de");
   command->callback([arguments, inRoot] {
     const std::string root = inRoot();
     const std::string language = existingLanguage(root, arguments->language);

@@ -32,33 +32,17 @@ const std::vector<Words>& namesInWords() {
 }
 
 /// The words of a text that are more than a number or a single letter.
-struct WordCount {
-  std::size_t all = 0;
-  std::size_t translatable = 0;  ///< those that belong to no name
-};
-
-WordCount countWords(std::string_view text) {
-  const std::string plain = withoutPlaceholders(text);
-  Words words = wordsOf(plain);
+Words wordsToRead(std::string_view text) {
+  Words words = wordsOf(text);
   std::erase_if(words,
                 [](std::string_view word) { return lengthOf(word) == 1 || numbersIn(word).size() == 1; });
-  WordCount count{words.size(), 0};
-  for (auto word = words.begin(); word != words.end();) {
-    const auto isHere = [&](const Words& name) {
-      return static_cast<std::size_t>(words.end() - word) >= name.size() &&
-             std::equal(name.begin(), name.end(), word);
-    };
-    const auto name = std::find_if(namesInWords().begin(), namesInWords().end(), isHere);
-    if (name == namesInWords().end()) ++count.translatable;
-    word += name == namesInWords().end() ? 1 : static_cast<std::ptrdiff_t>(name->size());
-  }
-  return count;
+  return words;
 }
 
 /// Whether an entry that says what the English text says is likely to be left over.
 bool looksUntranslated(const TableEntry& entry) {
-  const WordCount words = countWords(entry.text);
-  return words.all > 1 && words.translatable > 0 && !isSwitchedOff(entry, kUntranslatedRule);
+  return wordsToRead(withoutPlaceholders(entry.text)).size() > 1 && !isSameEverywhere(entry.text) &&
+         !isSwitchedOff(entry, kUntranslatedRule);
 }
 
 }  // namespace
@@ -99,7 +83,23 @@ std::string markFor(TranslationState state) {
 }
 
 bool isSameEverywhere(std::string_view text) {
-  return countWords(text).translatable == 0;
+  return translatableWords(withoutPlaceholders(text)).empty();
+}
+
+std::vector<std::string_view> translatableWords(std::string_view text) {
+  const Words words = wordsToRead(text);
+  Words translatable;
+  for (auto word = words.begin(); word != words.end();) {
+    const auto isHere = [&](const Words& name) {
+      return static_cast<std::size_t>(words.end() - word) >= name.size() &&
+             std::equal(name.begin(), name.end(), word);
+    };
+    const auto name = std::find_if(namesInWords().begin(), namesInWords().end(), isHere);
+    const bool isName = name != namesInWords().end();
+    if (!isName) translatable.push_back(*word);
+    word += isName ? static_cast<std::ptrdiff_t>(name->size()) : 1;
+  }
+  return translatable;
 }
 
 }  // namespace zk::tools

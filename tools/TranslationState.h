@@ -5,6 +5,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace zk::tools {
 
@@ -38,5 +39,8 @@ inline constexpr std::string_view kUntranslatedRule = "untranslated";
 
 /// Whether there is nothing in `text` to translate: names, placeholders, numbers and single letters alone.
 [[nodiscard]] bool isSameEverywhere(std::string_view text);
+
+/// The words of `text` that belong to no name, without numbers and single letters.
+[[nodiscard]] std::vector<std::string_view> translatableWords(std::string_view text);
 
 }  // namespace zk::tools

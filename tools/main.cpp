@@ -4,8 +4,10 @@
 #include <ZKStrings/tools/Files.h>
 #include <ZKStrings/tools/HelpFormatter.h>
 #include <ZKStrings/tools/Nearest.h>
+#include <ZKStrings/tools/OwnCatalogueCommandLine.h>
 #include <ZKStrings/tools/PageCommandLine.h>
 #include <ZKStrings/tools/TranslationCommandLine.h>
+#include <ZKStrings/tools/reference/ReferenceCommand.h>
 
 #include <cstdio>
 #include <exception>
@@ -48,6 +50,7 @@ int run(int argc, char** argv) {
   const auto inRoot = [&] { return root.empty() ? findRoot() : rootAt(root); };
 
   int status = 0;
+  addInitCommand(app);
   addCatalogueCommands(app, inRoot);
   addCheckCommand(app, inRoot, status);
   addCoverageCommand(app, inRoot);
@@ -58,6 +61,8 @@ int run(int argc, char** argv) {
   addPageCommands(app, inRoot);
   for (CLI::App* const command : app.get_subcommands({})) command->fallthrough();
 
+  if (argc > 1 && argv[1] == std::string_view(kReference))
+    return printReference(app, {argv + 2, argv + argc});
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& wrongUse) {

@@ -9,32 +9,38 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// The nearest of the places of the resources, seen from a directory that holds the module's file.
-std::string resourcesSeenFrom(fs::path directory, std::error_code& failure) {
+/// The nearest of the places of the resources, seen from a directory that holds the code's file.
+std::string resourcesSeenFrom(fs::path directory, const ResourcePlaces& places, std::error_code& failure) {
   constexpr int kLevels = 3;
   const auto isThere = [&](const fs::path& candidate) { return fs::is_directory(candidate, failure); };
   // An absolute place stands for itself, wherever it is seen from.
-  const fs::path installed = (directory / ZK_RESOURCES_INSTALLED).lexically_normal();
+  const fs::path installed = (directory / places.installed).lexically_normal();
   for (int level = 0; level < kLevels; ++level, directory = directory.parent_path()) {
-    const fs::path candidate = directory / ZK_RESOURCES_ABOVE;
+    const fs::path candidate = directory / places.above;
     if (isThere(candidate)) return candidate.string();
     if (isPassing(failure)) return {};
   }
-  return isThere(installed) ? installed.string() : std::string();
+  return !places.installed.empty() && isThere(installed) ? installed.string() : std::string();
 }
 
 }  // namespace
 
-std::string resourceDirectory(const std::string& moduleFile, std::error_code& failure) {
+const ResourcePlaces& modulePlaces() {
+  static const auto& places = *new ResourcePlaces{ZK_RESOURCES_ABOVE, ZK_RESOURCES_INSTALLED};
+  return places;
+}
+
+std::string resourceDirectory(const std::string& codeFile, const ResourcePlaces& places,
+                              std::error_code& failure) {
   failure.clear();
-  if (moduleFile.empty()) return {};
-  const fs::path asLoaded = fs::path(moduleFile).lexically_normal();
-  std::string found = resourcesSeenFrom(asLoaded.parent_path(), failure);
+  if (codeFile.empty()) return {};
+  const fs::path asLoaded = fs::path(codeFile).lexically_normal();
+  std::string found = resourcesSeenFrom(asLoaded.parent_path(), places, failure);
   if (!found.empty() || isPassing(failure)) return found;
 
-  const fs::path withoutLinks = fs::canonical(moduleFile, failure);
+  const fs::path withoutLinks = fs::canonical(codeFile, failure);
   if (failure || withoutLinks == asLoaded) return {};
-  return resourcesSeenFrom(withoutLinks.parent_path(), failure);
+  return resourcesSeenFrom(withoutLinks.parent_path(), places, failure);
 }
 
 }  // namespace zk

@@ -27,6 +27,29 @@ TEST(Lookup, SuffixFollowsTheCount) {
   for (const auto& [count, suffix] : cases) EXPECT_EQ(pluralSuffix(count), suffix) << count;
 }
 
+TEST(Lookup, ACatalogueOfItsOwnFollowsTheSameLanguage) {
+  const TemporaryDirectory directory;
+  directory.write("Base.lproj/Localizable.strings", "\"Hi_one\" = \"%{n} hi\";");
+  directory.write("de.lproj/Localizable.strings", "\"Hi_few\" = \"%{n} Hallos\";");
+  const Bundle* const own = Bundle::initWithPath(directory.path());
+  Language language;
+  language.preferredLanguages = {"de-DE"};
+  Current::language = language;
+  EXPECT_EQ(localizedString(own, "Hi", "%{n} his", 4, {{"n", "4"}}), "4 Hallos");
+  EXPECT_EQ(localizedString(own, "Hi", "%{n} his", 1, {{"n", "1"}}), "1 his");
+  EXPECT_EQ(localizedString("About", "", std::nullopt, {}), "Über uns");
+  Current::language->preferredLanguages = {"en"};
+  EXPECT_EQ(localizedString(own, "Hi", "%{n} his", 1, {{"n", "1"}}), "1 hi");
+  EXPECT_EQ(localizedString(nullptr, "Hi", "%{n} his", 1, {{"n", "1"}}), "1 his");
+}
+
+TEST(Lookup, ResourcesOfOnesOwnHaveASingleName) {
+  for (const std::string_view name : {"", ".", "..", "a/b", "../share/ZKStrings", "nothing there"}) {
+    EXPECT_EQ(Bundle::bundleForClass(typeid(TemporaryDirectory), name).path(), "") << name;
+  }
+  EXPECT_NE(Bundle::bundleForClass(typeid(TemporaryDirectory), "ZKStrings").path(), "");
+}
+
 /// Stands in for the platform's bundle and counts what is asked of it.
 class StandInBundle {
  public:

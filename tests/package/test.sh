@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Installs the module, moves the installation, and uses it from another project in every way in which a program may come
-# by it: shared, linked statically, built as a part of the project. Also looks at what the shared library exports and
-# runs when it is loaded, and at how it is linked.
+# by it: found by CMake or pkg-config, shared or static, built as a subdirectory or fetched; by GCC and Clang, as C++20
+# and C++23, with either standard library. Also looks at what the shared library exports, needs and runs when it is
+# loaded, and at how it is linked.
 #   test.sh CMAKE SOURCE_DIRECTORY BUILD_DIRECTORY CXX_COMPILER
 set -euo pipefail
 cmake=$1 source=$2 build=$3 compiler=$4
@@ -20,6 +21,13 @@ foreign=$(nm -D --defined-only "$library" | awk '{print $3}' | grep -v -E '^_Z(N
 [ -z "$foreign" ] || fail "exported, but not public: $foreign"
 initialisers=$(readelf -W -S "$library" | awk '$2 == ".init_array" || $3 == ".init_array"' | sed 's/.*INIT_ARRAY *//' | awk '{print $3}')
 [ "$initialisers" = 000008 ] || fail "the library has dynamic initialisers (.init_array holds 0x$initialisers bytes; the compiler's own are 8)"
+needed=$(readelf -d "$library" | sed -n 's/.*(NEEDED).*\[\(lib\|ld-\)\([a-z+_]*\).*/\2/p' | sort | tr '\n' ' ')
+for name in $needed; do
+  case "$name" in
+    c | m | gcc_s | stdc++ | icuuc | icudata | linux) ;;
+    *) fail "the library needs $name" ;;
+  esac
+done
 for file in "$library" "$build/bin/zkstrings"; do
   readelf -W -d "$file" | grep 'FLAGS_1.*NOW' >/dev/null || fail "$file: names are bound late"
   readelf -W -l "$file" | grep GNU_RELRO >/dev/null || fail "$file: relocations stay writable"
@@ -42,6 +50,17 @@ consumer shared "$moved"
 expect "shared" "$text" "$moved/bin/consumer"
 lib=$(dirname "$(cd "$moved" && find lib* -name libZKStrings.so)")
 loaded_from() { env LD_LIBRARY_PATH="$1" "$moved/bin/consumer" "${@:2}"; }
+
+with_pkgconfig() {  # with_pkgconfig NAME PREFIX LIBDIR COMPILER: builds the consumer without CMake
+  local flags
+  mkdir -p "$2/bin"
+  flags=$(PKG_CONFIG_PATH="$2/$3/pkgconfig" pkg-config --cflags --libs zkstrings)
+  # shellcheck disable=SC2086  # the flags are several words
+  "$4" -std=c++20 "$source/tests/package/consumer.cpp" -o "$2/bin/$1" $flags -Wl,-rpath,"$2/$3"
+  expect "$1" "$text" "$2/bin/$1"
+}
+with_pkgconfig pkg-config "$moved" "$lib" "$compiler"
+[ "$compiler" = clang++ ] || ! command -v clang++ >/dev/null || with_pkgconfig clang "$moved" "$lib" clang++
 
 mkdir -p "$moved/lib/app" "$work/links/lib" "$work/links/share"
 "$compiler" -std=c++20 "$source/tests/package/consumer.cpp" -o "$moved/lib/app/program" -I"$moved/include" -L"$moved/$lib" -lZKStrings \
@@ -69,8 +88,8 @@ mv "$moved/share" "$moved/gone"
 expect "without resources" _ZN2zk35baseLprojIsMissingAmongTheResourcesEv "$moved/bin/consumer"
 
 # Static, as a part of the project, in its build folder and installed; then without /proc.
-part() {  # part PREFIX OPTION...: builds the consumer with the module as a part of it, and installs both
-  configure -S "$source/tests/package" -B "$work/part" -DZKSTRINGS_SOURCE="$source" -DCMAKE_INSTALL_PREFIX="$1" "${@:2}"
+part() {  # part PREFIX OPTION...: builds the consumer with the module as a part of it, as C++23, and installs both
+  configure -DCMAKE_CXX_STANDARD=23 -S "$source/tests/package" -B "$work/part" -DZKSTRINGS_SOURCE="$source" -DCMAKE_INSTALL_PREFIX="$1" "${@:2}"
   "$cmake" --build "$work/part" >/dev/null
   "$cmake" --install "$work/part" >/dev/null
 }
@@ -81,6 +100,7 @@ expect "static, installed deeply" "$text" "$work/static/programs/of/many/kinds/c
 consumer static-found "$work/static"
 expect "static, found, in the build folder" "$text" "$work/static-found/consumer"
 expect "static, found" "$text" "$work/static/bin/consumer"
+with_pkgconfig static-pkg-config "$work/static" lib "$compiler"
 "$compiler" -std=c++20 -shared -fPIC "$source/tests/package/without_proc.cpp" -o "$work/without_proc.so" -ldl
 expect "without /proc" "$text" env LD_PRELOAD="$work/without_proc.so" "$work/static/bin/consumer"
 relative() { cd "$work/static/bin" && env LD_PRELOAD="$work/without_proc.so" ./consumer; }
@@ -94,5 +114,17 @@ elsewhere() {  # elsewhere NAME DATADIR LIBDIR
   expect "$1" "$text" loaded_from "$work/$1/$3"
 }
 elsewhere other-names data/of/texts libraries
+elsewhere multi-arch share lib/some-linux-gnu
+with_pkgconfig multi-arch-pkg-config "$work/multi-arch" lib/some-linux-gnu "$compiler"
 elsewhere deep-libraries share lib/of/many/different/kinds
 elsewhere absolute-data "$work/data" lib
+
+# Fetched, and made of nothing that GCC has.
+if ! clang++ -stdlib=libc++ -x c++ -include string -fsyntax-only /dev/null 2>/dev/null; then
+  echo "Not tried with libc++, which is not here (Debian's clang, libc++-dev and libc++abi-dev)"
+  exit
+fi
+"$cmake" -G Ninja -S "$source/tests/package" -B "$work/fetched" -DCMAKE_CXX_COMPILER=clang++ -DCMAKE_CXX_FLAGS=-stdlib=libc++ \
+  -DZKSTRINGS_SOURCE="$source" -DZKSTRINGS_FETCHED=ON >/dev/null
+"$cmake" --build "$work/fetched" --target consumer >"$work/log" || { cat "$work/log"; fail "fetched: it does not build"; }
+expect "fetched, with libc++" "$text" "$work/fetched/consumer"

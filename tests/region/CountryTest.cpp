@@ -1,3 +1,4 @@
+#include <ZKStrings/platform/Dictionary.h>
 #include <ZKStrings/region/Country.h>
 #include <ZKStrings/region/CountryList.h>
 #include <ZKStrings/tests/TemporaryDirectory.h>

@@ -45,8 +45,9 @@ TEST_F(CatalogueCommands, AddPutsTheEntryInItsPlaceEverywhere) {
   const Catalogue catalogue = Catalogue::read(root());
   for (const Entry& entry : catalogue.entries()) keys += entry.key + (entry.plural ? "(count) " : " ");
   EXPECT_EQ(keys, "a B C_name_n ZZ D D(count) ");
-  EXPECT_NE(read(Accessors::kHeaderFile).find("static std::string C_name_n(Text name);"), std::string::npos);
-  EXPECT_NE(read(Accessors::kSourceFile).find("localizedString(\"D\", \"D\", count, {})"), std::string::npos);
+  EXPECT_NE(read(CatalogueName().headerFile()).find("static std::string C_name_n(Text name);"),
+            std::string::npos);
+  EXPECT_NE(read(CatalogueName().sourceFile()).find("entryText(\"D\", \"D\", count)"), std::string::npos);
 }
 
 TEST_F(CatalogueCommands, AddTakesAKeyWhereTheTextGivesNone) {
@@ -85,7 +86,7 @@ TEST_F(CatalogueCommands, AddRefusesWithoutChangingAnything) {
 
   // A folder stands where the accessors' source would go.
   project_.write(tablePath("Base"), "\"B\" = \"B\";\n");
-  project_.write(std::string(Accessors::kSourceFile) + "/x", "");
+  project_.write(CatalogueName().sourceFile() + "/x", "");
   EXPECT_THROW(addEntry(root(), {.text = "New"}), CommandFailed);
   EXPECT_EQ(read(Catalogue::kFile) + read(tablePath("Base")), before + "\"B\" = \"B\";\n");
 }
@@ -115,7 +116,7 @@ TEST_F(CatalogueChanges, ChangeKeepsTheKeyAndMarksTranslations) {
   const Table base = Table::read(root(), "Base");
   EXPECT_EQ(base.find("Ds_zero")->text + base.find("Ds_one")->text + base.find("Ds_many")->text,
             "none%{n} Dee%{n} Dees");
-  EXPECT_NE(read(Accessors::kSourceFile).find("\"Bee\""), std::string::npos);
+  EXPECT_NE(read(CatalogueName().sourceFile()).find("\"Bee\""), std::string::npos);
   changeEntry(root(), "B", "B", {});
   EXPECT_NE(read(Catalogue::kFile).find("{\"key\": \"B\", \"text\": \"B\"}"), std::string::npos);
 }
@@ -148,8 +149,8 @@ TEST_F(CatalogueChanges, RefuseWithoutChangingAnything) {
 TEST_F(CatalogueCommands, GenerateKeepsReservedWordsOutOfTheCode) {
   project_.write(Catalogue::kFile, "[\n  {\"key\": \"or_class\", \"text\": \"or %{class}\"}\n]\n");
   generate(root());
-  EXPECT_NE(read(Accessors::kSourceFile).find("or_class(Text class_)"), std::string::npos);
-  EXPECT_NE(read(Accessors::kSourceFile).find("{{\"class\", class_}}"), std::string::npos);
+  EXPECT_NE(read(CatalogueName().sourceFile()).find("or_class(Text class_)"), std::string::npos);
+  EXPECT_NE(read(CatalogueName().sourceFile()).find("{{\"class\", class_}}"), std::string::npos);
 }
 
 TEST(Table, FaultsNameLineAndColumn) {

@@ -1,5 +1,6 @@
 #include <ZKStrings/tests/tools/TemporaryProject.h>
 #include <ZKStrings/tools/check/Checker.h>
+#include <ZKStrings/tools/check/Glossary.h>
 
 #include <algorithm>
 #include <set>
@@ -54,12 +55,34 @@ File englishWithout(const std::string& key) {
   return table("ja", lines);
 }
 
+constexpr std::string_view kGlossary = R"~({
+  "terms": [
+    {"concept": "Badge", "english": ["badge*"], "stems": {"fr": ["badge", "vies bonus"]}},
+    {"concept": "Referral", "english": ["referral", "tap"], "except": ["tap it"], "stems":
+      {"fr": ["parrain"]}}
+  ],
+  "languages": {
+    "fr": {
+      "quotationMarks": "«»", "wrongAddress": ["votre", "s il vous"], "doubledWords": ["nous"],
+      "noBreakBefore": ["!", "?", ":", "»", "pt."], "noBreakBehind": ["«"]},
+    "sv": {"wrongAddress": ["Er"]},
+    "uk": {"loanWords": ["about"]},
+    "vi": {"doubledWords": ["*"]},
+    "zh": {"wrongAddress": ["*您*"]}
+  }
+})~";
+
+File fr(const std::string& line) {
+  return table("fr", line);
+}
+
 /// What is wrong in a project that is right but for `file`; keys may be missing, unless that is the matter.
 Faults faultsWith(const File& file, const std::string& rule = "") {
   const TemporaryProject project;
+  project.write(Glossary::kFile, kGlossary);
   project.write(file.path, file.content);
   CheckOptions options;
-  options.notes = rule == "same-text" || rule == "long-text" || rule == "brackets" || rule == "digits";
+  options.notes = rule == "same-text" || rule == "long-text" || rule == "brackets";
   for (const char* const gap : {"missing-key", "untranslated"}) {
     if (rule != gap) options.off.emplace_back(gap);
   }
@@ -91,7 +114,7 @@ const std::vector<RuleCase> kRuleCases = {
     {"encoding", de("\xEF\xBB\xBF\"About\" = \"\xFC\";"), de("\xEF\xBB\xBF\"About\" = \"Info\";"), "1:12",
      "UTF-8"},
     {"table-syntax", de("\"About\" = \"Info\"\n"), de("About=Info;"), "1:17", "expected \";\""},
-    {"table-syntax", de("\"About\" =\n  \"Info\" // x\n\"Top_10\" = \"Zehn\";"), de("About=Info;"), "2:9",
+    {"table-syntax", de("\"About\" =\n  \"Info\" // x\n\"Top_10\" = \"10\";"), de("About=Info;"), "2:9",
      "\";\""},
     {"table-syntax", de("\n/*"), de("\n/**/"), "2:1", "the end \"*/\""},
     {"duplicate-key", de("\"About\" = \"A\";\n\"About\" = \"B\";"), de("\"About\" = \"A\";"), "2:2",
@@ -109,13 +132,13 @@ const std::vector<RuleCase> kRuleCases = {
     {"placeholder-spelling", de(R"("Kick_username" = "{username}?";)"),
      de(R"("Kick_username" = "(%{username})?";)"), "1:20", R"("{username}")"},
     {"placeholder-spelling", de(R"("Kick_username" = "%username?";)"),
-     de(R"("Kick_username" = "%{username} 100%ig?";)"), "1:20", R"("%username")"},
+     de(R"("Kick_username" = "%{username} voll%ig?";)"), "1:20", R"("%username")"},
     {"placeholder-spelling", de(R"("Kick_username" = "%{username raus?";)"),
      de(R"("Kick_username" = "%{username} raus?";)"), "1:20", R"("%{username")"},
     {"placeholder-spelling", de(R"("Kick_username" = "%{username %{username}?";)"),
      de(R"("Kick_username" = "%%{username}?";)"), "1:20", R"("%{username")"},
     {"placeholder-spelling", de(R"("Kick_username" = "％｛username｝?";)"),
-     de(R"("Kick_username" = "%{username} 100％ig?";)"), "1:20",
+     de(R"("Kick_username" = "%{username} voll％ig?";)"), "1:20",
      R"("％｛username｝" is no placeholder and shows as it stands; write "%{username}")"},
     {"placeholder-spelling", de(R"("Kick_username" = "％{username}?";)"),
      de(R"("Kick_username" = "％%{username}?";)"), "1:20", R"("％{username}")"},
@@ -191,6 +214,43 @@ const std::vector<RuleCase> kRuleCases = {
     {"end-punctuation", de(R"("Kick_username" = "%{username} raus.";)"),
      de(R"("Kick_username" = "%{username} raus？";)"), "1:20",
      "a full stop, the English text in a question mark"},
+    {"glossary-term", fr(R"("badgeCount_Badges_two" = "%{badgeCount} points";)"),
+     fr("\"badgeCount_Badges_two\" = \"%{badgeCount} vies\u00A0bonus\";"), "1:28", "\"badge\""},
+    {"glossary-term", fr(R"("Referral_code_optional" = "Code libre";)"),
+     fr(R"("Tap_it_to_use_one" = "Touche"; "Referral_code_optional" = "Code PARRAIN libre";)"), "1:29",
+     "Referral"},
+    {"glossary-term", fr(R"("badgeCount_Badges_one" = "%{badgeCount} mot";)"),
+     fr(R"("badgeCount_Badges_one" = "%{badgeCount} Badge"; "Kick_username" = "Kick %{username}?";)"), "1:28",
+     "Badge"},
+    {"address", fr(R"("About" = "À votre sujet";)"), fr(R"("About" = "votreté @votre";)"), "1:14", "votre"},
+    {"address", fr(R"("About" = "Info s’il vous va";)"), fr(R"("About" = "Info, s’il va";)"), "1:17", "form"},
+    {"address", table("sv", R"("About" = "Om Er";)"), table("sv", R"("About" = "Om er";)"), "1:15", "Er"},
+    {"address", table("zh", R"("About" = "关于您的";)"), table("zh", R"("About" = "关于你的";)"), "1:12",
+     "您"},
+    {"quotation-marks", fr("\"Kick_username\" = \"\\\"%{username}\u00A0?\";"),
+     fr("\"Kick_username\" = \"«\u00A0%{username}\u00A0»\u00A0?\";"), "1:20", "write «»"},
+    {"quotation-marks", fr(R"("About" = "L’‘info";)"), de(R"("About" = "\"Info\"";)"), "1:14", "‘"},
+    {"apostrophe", fr(R"("About" = "L'info";)"), fr(R"("About" = "L’info";)"), "1:13", "’"},
+    {"ellipsis", de(R"("About" = "In...fo";)"), de(R"("About" = "In..fo";)"), "1:14", "…"},
+    {"doubled-blank", de(R"("Top_10" = "Die  10";)"), de("\"Top_10\" = \"Die 10 an\";"), "1:16", "two"},
+    {"doubled-blank", de("\"Top_10\" = \"Die\u00A0 10\";"), de("\"Top_10\" = \"Die\u00A010\";"), "1:16",
+     "two"},
+    {"no-break-space", fr(R"("Kick_username" = "%{username} ?";)"),
+     fr("\"Kick_username\" = \"https://zk %{username}\u00A0!?\";"), "1:32", "before"},
+    {"no-break-space", fr("\"Kick_username\" = \"«%{username}\u00A0»\u00A0?\";"),
+     fr("\"Kick_username\" = \": %{username}\u00A0?\";"), "1:20", "behind"},
+    {"no-break-space", fr(R"("Top_10" = "10 pt. x";)"), fr("\"Top_10\" = \"10\u00A0pt. rompt. x\";"), "1:16",
+     "\"pt.\""},
+    {"doubled-word", fr(R"("About" = "Info INFO";)"), fr(R"("About" = "Nous nous, nous";)"), "1:17",
+     "\"Info\""},
+    {"doubled-word", de("\"Be_quick_nBuy_two\" = \"*Los!* Kauf\nkauf.\";"),
+     table("vi", R"("About" = "dần dần";)"), "2:1", "Kauf"},
+    {"mixed-scripts", table("uk", R"("About" = "Прo";)"), table("uk", R"("About" = "Про-o’о";)"), "1:14",
+     "\"o\""},
+    {"english-words", de(R"("Tap_it_to_use_one" = "Hier: tap it to";)"),
+     de(R"("Tap_it_to_use_one" = "Tap it nutzen";)"), "1:24", "\"tap it to\""},
+    {"english-words", table("uk", R"("Coins" = "Ваші coins";)"), table("uk", R"("About" = "Ваш About";)"),
+     "1:12", "\"coins\""},
     {"same-text", de(R"("About" = "About";)"), de(R"("ZK_Trivia" = "ZK Trivia";)"), "1:12", "\"About\""},
     {"long-text", de(R"("About" = "Alles über alles";)"), de(R"("About" = "Alles über alle";)"), "1:12",
      "16"},
@@ -226,7 +286,7 @@ TEST(Check, AllFaultsOfAFileAreFoundInOneGo) {
   const File file =
       de("\"About\" = \"\xFC\";\n"
          "\"Coins\" \"Geld\";\n"
-         "\"Top_10\" = \"\\q\";\n"
+         "\"Top_10\" = \"10\\q\";\n"
          "\"Top_11\" = \"Elf\";\n"
          "\"Kick_username\" = \"%{usernames} raus.\";\n"
          "\"ZK_Trivia\" = \"\xFF\"");
@@ -294,6 +354,32 @@ TEST(Check, AWrongCatalogueHidesNoFaultOfATable) {
   ASSERT_EQ(faults.size(), 2u) << linesOf(faults);
   EXPECT_EQ(faults[0].file, TemporaryProject::kCatalogue);
   EXPECT_EQ(faults[1].rule, "table-syntax");
+}
+
+TEST(Check, SomePluralFormsMaySpellTheirNumber) {
+  const TemporaryProject project;
+  std::string lines;
+  for (const char* const suffix : {"zero", "one", "two", "few"}) {
+    project.write(TemporaryProject::table("Base"), project.read(TemporaryProject::table("Base")) +
+                                                       fmt::format("\"Coins_{}\" = \"12 Coins\";\n", suffix));
+    lines += fmt::format("\"Coins_{}\" = \"Dutzend\";\n", suffix);
+  }
+  lines += "\"Coins_one\" = \"13\";";
+  project.write(TemporaryProject::table("de"), lines);
+  std::string found;
+  for (const Fault& fault : check(project.root(), {{"de"}, {}, false}).faults) {
+    if (fault.rule == "digits") found += fmt::format("{} ", fault.line);
+  }
+  EXPECT_EQ(found, "4 5 ");
+}
+
+TEST(Check, AFaultyGlossaryIsToldAndHidesNothing) {
+  const TemporaryProject project;
+  project.write(Glossary::kFile, "{\n  \"terms\": 5\n}");
+  project.write(TemporaryProject::table("de"), "\"About\" = ;");
+  const Faults faults = check(project.root(), {}).faults;
+  ASSERT_EQ(faults.size(), 2u) << linesOf(faults);
+  EXPECT_EQ(formatted(faults[1], false).substr(0, 38), "resources/glossary.json:2:12: error: w");
 }
 
 TEST(Check, PluralFormsOfTheEnglishTableAreHeldAgainstTheCatalogue) {

@@ -5,11 +5,14 @@
 #include <ZKStrings/tools/TextFeatures.h>
 #include <ZKStrings/tools/check/Checker.h>
 #include <ZKStrings/tools/check/CountryRules.h>
+#include <ZKStrings/tools/check/Glossary.h>
 #include <ZKStrings/tools/check/TableRules.h>
 #include <ZKStrings/tools/check/TextRules.h>
 
 #include <algorithm>
+#include <array>
 #include <optional>
+#include <span>
 #include <tuple>
 #include <utility>
 
@@ -17,12 +20,17 @@ namespace zk::tools {
 
 namespace {
 
+std::array<std::span<const RuleFor<Translation>>, 6> translationRules() {
+  return {placeholderRules(), textRules(), glossaryRules(), wordRules(), typographyRules(), noteRules()};
+}
+
 class Checker {
  public:
   Checker(const std::string& root, const CheckOptions& options) : root_(root), options_(options) {}
 
   CheckResult run() {
     const std::optional<Catalogue> catalogue = readCatalogue();
+    readGlossary();
     const Table base = Table::read(root_, kBase);
     for (const std::string& language : options_.languages.empty() ? languagesIn(root_) : options_.languages) {
       checkTable(language, Table::read(root_, language), catalogue, base);
@@ -52,7 +60,16 @@ class Checker {
     }
   }
 
+  void readGlossary() {
+    try {
+      glossary_ = Glossary::read(root_);
+    } catch (const CommandFailed& failed) {
+      result_.faults.insert(result_.faults.end(), failed.faults.begin(), failed.faults.end());
+    }
+  }
+
   void checkCountries() {
+    if (!CountryFile::isExpected(root_)) return;
     const CountryFile file = CountryFile::read(root_);
     result_.countries = file.elements.size();
     apply(countryRules(), file, CountryFile::kFile);
@@ -70,8 +87,8 @@ class Checker {
     for (const TableEntry& entry : table.entries) {
       const EnglishText* const text = english.find(entry.key);
       if (!text || isBlank(entry.text)) continue;
-      for (const auto rules : {placeholderRules(), textRules(), noteRules()}) {
-        apply(rules, Translation{language, entry, *text}, table.file);
+      for (const auto rules : translationRules()) {
+        apply(rules, Translation{language, entry, *text, glossary_}, table.file);
       }
     }
   }
@@ -101,6 +118,7 @@ class Checker {
 
   const std::string& root_;
   const CheckOptions& options_;
+  Glossary glossary_;
   CheckResult result_;
 };
 
@@ -112,9 +130,7 @@ std::vector<Rule> checkRules() {
   add(tableRules());
   add(keyRules());
   add(gapRules());
-  add(placeholderRules());
-  add(textRules());
-  add(noteRules());
+  for (const auto some : translationRules()) add(some);
   add(countryRules());
   std::stable_sort(rules.begin(), rules.end(),
                    [](const Rule& one, const Rule& other) { return one.severity < other.severity; });

@@ -1,10 +1,13 @@
 #include <ZKStrings/platform/formats/Json.h>
 #include <ZKStrings/platform/formats/TextEncoding.h>
+#include <ZKStrings/tools/CatalogueName.h>
 #include <ZKStrings/tools/Files.h>
 #include <ZKStrings/tools/check/CountryRules.h>
 
 #include <algorithm>
+#include <filesystem>
 #include <string_view>
+#include <system_error>
 #include <utility>
 
 #include <nlohmann/json.hpp>
@@ -51,6 +54,13 @@ std::size_t firstIllFormed(std::string_view text) {
 }
 
 }  // namespace
+
+bool CountryFile::isExpected(const std::string& root) {
+  namespace fs = std::filesystem;
+  std::error_code failure;
+  return fs::exists(fs::path(root) / kFile, failure) ||
+         !fs::exists(fs::path(root) / CatalogueName::kFile, failure);
+}
 
 CountryFile CountryFile::read(const std::string& root) {
   try {

@@ -1,5 +1,4 @@
 #include <ZKStrings/tools/Characters.h>
-#include <ZKStrings/tools/Languages.h>
 #include <ZKStrings/tools/TextFeatures.h>
 #include <ZKStrings/tools/TranslationState.h>
 #include <ZKStrings/tools/check/TextRules.h>
@@ -39,24 +38,6 @@ void findBrackets(const Translation& translation, Findings& findings) {
   findings.add(translation.entry, "the brackets are not those of the English text; see that none is lost");
 }
 
-void findDigits(const Translation& translation, Findings& findings) {
-  const std::vector<std::string> here = numbersIn(withoutPlaceholders(translation.entry.text));
-  const std::vector<std::string> english = numbersIn(withoutPlaceholders(translation.english.text));
-  if (here == english) return;
-  findings.add(
-      translation.entry,
-      fmt::format("the numbers in the text are \"{}\", in the English one \"{}\"; see that they are right",
-                  fmt::join(here, " "), fmt::join(english, " ")));
-}
-
-using Find = void (*)(const Translation&, Findings&);
-
-/// `find` for translations alone: that the English table says the same as the catalogue is no news.
-template <Find find>
-void inTranslations(const Translation& translation, Findings& findings) {
-  if (translation.language != kBase) find(translation, findings);
-}
-
 constexpr RuleFor<Translation> kRules[] = {
     {{"same-text", Severity::note,
       "a word as in English, but for names and words that are the same everywhere"},
@@ -66,7 +47,6 @@ constexpr RuleFor<Translation> kRules[] = {
      inTranslations<findLongText>},
     {{"brackets", Severity::note, "more or fewer brackets than the English text"},
      inTranslations<findBrackets>},
-    {{"digits", Severity::note, "other numbers than in the English text"}, inTranslations<findDigits>},
 };
 
 }  // namespace

@@ -3,6 +3,8 @@
 #include <ZKStrings/tools/check/EndPunctuation.h>
 #include <ZKStrings/tools/check/TextRules.h>
 
+#include <algorithm>
+
 #include <fmt/format.h>
 
 namespace zk::tools {
@@ -90,6 +92,23 @@ void findEndPunctuation(const Translation& translation, Findings& findings) {
                                               nameOf(here), nameOf(english)));
 }
 
+/// Whether the words of a plural form may say its number.
+bool maySpellNumbers(const EnglishText& english) {
+  return english.suffix == "_zero" || english.suffix == "_one" || english.suffix == "_two";
+}
+
+void findDigits(const Translation& translation, Findings& findings) {
+  const std::vector<std::string> here = numbersIn(withoutPlaceholders(translation.entry.text));
+  const std::vector<std::string> english = numbersIn(withoutPlaceholders(translation.english.text));
+  const bool areRight = maySpellNumbers(translation.english)
+                            ? std::includes(english.begin(), english.end(), here.begin(), here.end())
+                            : here == english;
+  if (areRight) return;
+  findings.add(translation.entry,
+               fmt::format("the numbers in the text are \"{}\", in the English one \"{}\"; write the same",
+                           fmt::join(here, " "), fmt::join(english, " ")));
+}
+
 constexpr RuleFor<Translation> kRules[] = {
     {{"base-text", Severity::warning, "a text of the English table that is not the catalogue's"},
      findOtherEnglish},
@@ -100,6 +119,9 @@ constexpr RuleFor<Translation> kRules[] = {
     {{"end-punctuation", Severity::warning,
       "other punctuation at the end than the English text, in the forms of all scripts"},
      findEndPunctuation},
+    {{"digits", Severity::warning,
+      "other numbers than in the English text; _zero, _one and _two may spell them"},
+     inTranslations<findDigits>},
 };
 
 }  // namespace

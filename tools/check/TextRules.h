@@ -1,7 +1,9 @@
 #pragma once
 
 #include <ZKStrings/tools/EnglishTexts.h>
+#include <ZKStrings/tools/Languages.h>
 #include <ZKStrings/tools/Table.h>
+#include <ZKStrings/tools/check/Glossary.h>
 #include <ZKStrings/tools/check/Rule.h>
 
 #include <span>
@@ -15,15 +17,39 @@ struct Translation {
   std::string_view language;
   const TableEntry& entry;
   const EnglishText& english;
+  const Glossary& glossary;
 };
 
 /// The rules for the placeholders of a text.
 [[nodiscard]] std::span<const RuleFor<Translation>> placeholderRules();
 
-/// The rules for marks, white space and punctuation.
+/// The rules for marks, outer white space, end punctuation and numbers.
 [[nodiscard]] std::span<const RuleFor<Translation>> textRules();
+
+/// The rules for the words that translators have settled on. They do not regard the English table.
+[[nodiscard]] std::span<const RuleFor<Translation>> glossaryRules();
+
+/// The rules for words that stand twice, in another language or in letters of two scripts.
+[[nodiscard]] std::span<const RuleFor<Translation>> wordRules();
+
+/// The rules for the typography of the language.
+[[nodiscard]] std::span<const RuleFor<Translation>> typographyRules();
 
 /// The rules for what may be right, but is worth a look. They do not regard the English table.
 [[nodiscard]] std::span<const RuleFor<Translation>> noteRules();
+
+/// `find` for translations alone: that the English table says the same as the catalogue is no news.
+template <void (*find)(const Translation&, Findings&)>
+void inTranslations(const Translation& translation, Findings& findings) {
+  if (translation.language != kBase) find(translation, findings);
+}
+
+/// `find` for what has been translated: in an entry that still says what the English text says, words and
+/// typography are English.
+template <void (*find)(const Translation&, Findings&)>
+void inTranslated(const Translation& translation, Findings& findings) {
+  const bool isTranslated = translation.entry.text != translation.english.text;
+  if (translation.language != kBase && isTranslated) find(translation, findings);
+}
 
 }  // namespace zk::tools

@@ -119,8 +119,9 @@ bool isCountName(std::string_view name) {
 }
 
 const Example* exampleFor(std::string_view placeholder) {
-  const auto isMeant = [&](const Example& example) { return example.placeholder == placeholder; };
-  const Example* const example = std::find_if(std::begin(kExamples), std::end(kExamples), isMeant);
+  const Example* const example =
+      std::find_if(std::begin(kExamples), std::end(kExamples),
+                   [&](const Example& one) { return one.placeholder == placeholder; });
   return example == std::end(kExamples) ? nullptr : example;
 }
 

@@ -57,6 +57,7 @@ class PageDataMaker {
  public:
   explicit PageDataMaker(const std::string& root)
       : root_(root),
+        name_(CatalogueName::read(root)),
         catalogue_(Catalogue::read(root)),
         english_(catalogue_, Table::read(root, kBase)),
         texts_(root),
@@ -81,7 +82,7 @@ class PageDataMaker {
     return {{"key", entry.key},
             {"text", entry.text},
             {"counted", entry.plural},
-            {"call", accessorCall(entry)},
+            {"call", accessorCall(entry, name_)},
             {"values", valuesOf(entry)}};
   }
 
@@ -92,8 +93,7 @@ class PageDataMaker {
     }
     Json values = Json::array();
     for (std::size_t i = 0; i < byLanguage.front().size(); ++i) {
-      const std::string& name = byLanguage.front()[i].first;
-      const std::string& value = byLanguage.front()[i].second;
+      const auto& [name, value] = byLanguage.front()[i];
       const auto isSame = [&](const Values& others) { return others[i].second == value; };
       if (name == countPlaceholder(entry)) {
         values.push_back({name, nullptr});
@@ -159,6 +159,7 @@ class PageDataMaker {
   }
 
   const std::string root_;
+  const CatalogueName name_;
   const Catalogue catalogue_;
   const EnglishTexts english_;
   const AppTexts texts_;

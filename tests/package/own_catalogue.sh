@@ -1,0 +1,43 @@
+#!/usr/bin/env bash
+# Runs the example with a catalogue of its own from the build folder, then builds it from an installation of the module,
+# installs and moves it. Also changes its catalogue, and makes it wrong.
+#   own_catalogue.sh CMAKE SOURCE_DIRECTORY BUILD_DIRECTORY CXX_COMPILER
+set -euo pipefail
+cmake=$1 source=$2 build=$3 compiler=$4
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+fail() { echo "$*" >&2; exit 1; }
+expect() {  # expect NAME LINE COMMAND...: runs the command elsewhere, and looks for the line in what it says
+  local output
+  output=$(cd / && "${@:3}" 2>&1) || fail "$1: ended with $?: $output"
+  grep -qxF -- "$2" <<<"$output" || fail "$1: not \"$2\", but: $output"
+}
+both="250 Spieler warten, 12 Abzeichen"  # one text of the program's own, one of the module's
+
+expect "in the build folder" "$both" "$build/bin/own_catalogue" de-DE
+
+"$cmake" --install "$build" --prefix "$work/module" >/dev/null
+[ ! -e "$work/module/share/ConsoleTexts" ] || fail "the example's tables are installed with the module"
+cp -r "$source/examples/own-catalogue" "$work/app"
+"$cmake" -G Ninja -S "$work/app" -B "$work/build" -DCMAKE_CXX_COMPILER="$compiler" -DCMAKE_PREFIX_PATH="$work/module" \
+  -DCMAKE_INSTALL_PREFIX="$work/first" -DCMAKE_INSTALL_RPATH_USE_LINK_PATH=ON >/dev/null
+"$cmake" --build "$work/build" >/dev/null
+expect "from an installation" "$both" "$work/build/own_catalogue" de-DE
+"$cmake" --install "$work/build" >/dev/null
+mv "$work/first" "$work/moved"
+expect "installed and moved" "$both" "$work/moved/bin/own_catalogue" de-DE
+expect "installed, in another language" "Bonsoir, Kim !" "$work/moved/bin/own_catalogue" fr-FR
+
+entries=$work/app/texts/catalogue/entries.json
+sed -i 's/{"key": "Go_live", "text": "Go live"}/{"key": "Go_live", "text": "Go live!"}/' "$entries"
+sed -i '/Go_live/d' "$work/app/texts/resources/Base.lproj/Localizable.strings"
+"$cmake" --build "$work/build" >/dev/null
+expect "after a change of the catalogue" "[Go live!]  [End the show?]" "$work/build/own_catalogue" en
+
+sed -i 's/"Camera_number_is_on"/"Camera_is_on"/' "$entries"
+output=$("$cmake" --build "$work/build" 2>&1) && fail "a wrong catalogue is built"
+grep -qF "$entries:2:1: error: the key \"Camera_is_on\"" <<<"$output" || fail "the fault is not told: $output"
+
+sed -i 's/NAMESPACE console/NAMESPACE other/' "$work/app/CMakeLists.txt"
+output=$("$cmake" -S "$work/app" -B "$work/build" 2>&1) && fail "another namespace than the catalogue's is taken"
+grep -qF 'catalogue.json:1:1: error: the namespace is "console" here and' <<<"$(tr -s ' \n' ' ' <<<"$output")" || fail "the namespace is not told: $output"
