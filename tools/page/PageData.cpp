@@ -93,7 +93,8 @@ class PageDataMaker {
     }
     Json values = Json::array();
     for (std::size_t i = 0; i < byLanguage.front().size(); ++i) {
-      const auto& [name, value] = byLanguage.front()[i];
+      const std::string& name = byLanguage.front()[i].first;
+      const std::string& value = byLanguage.front()[i].second;
       const auto isSame = [&](const Values& others) { return others[i].second == value; };
       if (name == countPlaceholder(entry)) {
         values.push_back({name, nullptr});
