@@ -5,6 +5,7 @@
 #include <ZKStrings/tools/page/Page.h>
 #include <ZKStrings/tools/page/PageData.h>
 
+#include <algorithm>
 #include <filesystem>
 
 #include <gtest/gtest.h>

@@ -87,7 +87,8 @@ TEST_F(PseudoTables, AreAThirdLongerInReadersEyes) {
     const TableEntry* const entry = table.find(text.key);
     ASSERT_TRUE(entry) << text.key;
     const std::size_t added = 2 + (text.suffix.empty() ? 0 : 1 + text.suffix.size());  // brackets and form
-    const bool hasLetters = std::ranges::any_of(withoutPlaceholders(text.text), [](char letter) {
+    const std::string letters = withoutPlaceholders(text.text);
+    const bool hasLetters = std::any_of(letters.begin(), letters.end(), [](char letter) {
       return (letter >= 'a' && letter <= 'z') || (letter >= 'A' && letter <= 'Z');
     });
     if (!hasLetters) continue;
