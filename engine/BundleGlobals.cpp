@@ -1,4 +1,5 @@
 #include <ZKStrings/engine/BundleGlobals.h>
+#include <ZKStrings/engine/ModuleBundle.h>
 
 #include <system_error>
 #include <typeinfo>

@@ -10,11 +10,7 @@ namespace zk {
 /// descriptors or memory, a bundle without resources; the next call looks again.
 [[nodiscard]] ZK_EXPORT const Bundle& bundle();
 
-/// The app's main bundle, found likewise and independently of `bundle`. The module itself reads nothing from
-/// it.
+/// The app's main bundle, found likewise and independently of `bundle`. The module itself reads nothing from it.
 [[nodiscard]] ZK_EXPORT const Bundle& mainBundle();
-
-/// `bundle`, or null while it cannot be found or listed.
-[[nodiscard]] const Bundle* moduleBundle();
 
 }  // namespace zk

@@ -1,6 +1,7 @@
 #include <ZKStrings/engine/BundleGlobals.h>
 #include <ZKStrings/engine/JoinedText.h>
 #include <ZKStrings/engine/LanguageChoice.h>
+#include <ZKStrings/engine/ModuleBundle.h>
 #include <ZKStrings/engine/PlaceholderSubstitution.h>
 #include <ZKStrings/engine/PluralSuffix.h>
 #include <ZKStrings/engine/StringLookup.h>
