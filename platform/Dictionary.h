@@ -36,7 +36,7 @@ class Dictionary {
   [[nodiscard]] const Type* find(std::string_view name) const;
 
  private:
-  std::vector<Member> members_;
+  std::vector<Member> members_{};
 };
 
 /// The integers that are numbers, and neither a truth value nor a character.
