@@ -21,7 +21,7 @@ class Dictionary {
  public:
   using Member = std::pair<std::string, Value>;
 
-  Dictionary() = default;
+  Dictionary();
   Dictionary(std::initializer_list<Member> members);
 
   /// Adds a member and gives its value, made of `content` in its place.
@@ -36,7 +36,7 @@ class Dictionary {
   [[nodiscard]] const Type* find(std::string_view name) const;
 
  private:
-  std::vector<Member> members_{};
+  std::vector<Member> members_;
 };
 
 /// The integers that are numbers, and neither a truth value nor a character.
@@ -84,6 +84,9 @@ class Value {
  private:
   std::variant<std::nullptr_t, bool, std::int64_t, double, std::string, List, Dictionary> value_ = nullptr;
 };
+
+inline Dictionary::Dictionary() : members_() {
+}
 
 inline Dictionary::Dictionary(std::initializer_list<Member> members) : members_(members) {
 }
