@@ -11,10 +11,10 @@
 
 namespace zk {
 
-/// The catalogue: one accessor for each text of the app, named as the entry's key, giving the text in the
-/// user's language. Text arguments (a literal, a `std::string`, a `std::string_view`) fill the placeholders
-/// of the same name; `count`, the last argument of counted entries, chooses the plural form and is filled in
-/// nowhere. Each comment shows the English text.
+/// The catalogue: one accessor for each text of the app, named as the entry's key, giving the text in the user's
+/// language. Text arguments (a literal, a `std::string`, a `std::string_view`) fill the placeholders of the same name;
+/// `count`, the last argument of counted entries, chooses the plural form and is filled in nowhere. Each comment shows
+/// the English text.
 ///
 ///     std::string title = zk::ZKStrings::badgeCount_Badges("4", 4);
 ///

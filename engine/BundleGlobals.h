@@ -10,8 +10,7 @@ namespace zk {
 /// want of descriptors or memory, a bundle without resources; the next call looks again.
 [[nodiscard]] ZK_EXPORT const Bundle& bundle();
 
-/// The app's main bundle, found likewise and independently of `bundle`. The module itself reads nothing from
-/// it.
+/// The app's main bundle, found likewise and independently of `bundle`. The module itself reads nothing from it.
 [[nodiscard]] ZK_EXPORT const Bundle& mainBundle();
 
 }  // namespace zk

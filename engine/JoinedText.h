@@ -31,8 +31,8 @@ class JoinedText {
 
  private:
   char short_[120];
-  std::string long_;
-  std::string_view text_;
+  std::string long_{};
+  std::string_view text_{};
 };
 
 }  // namespace zk

@@ -120,7 +120,7 @@ class ZK_EXPORT Substitutions {
   union {
     Pair few_[kFew];  // in a union, so that an empty dictionary costs no initialisation
   };
-  std::vector<Pair> many_;
+  std::vector<Pair> many_{};
 };
 
 }  // namespace zk

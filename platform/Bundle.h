@@ -66,7 +66,7 @@ class ZK_EXPORT alignas(kCacheLine) Bundle {
   [[nodiscard]] static const Bundle* initWithPath(const ResourcePath& path);
 
   /// The directory `name`.`type` among the bundle's resources, for example "de" and "lproj"; null when there
-  /// is none. Names are compared byte for byte; an empty name, a slash or ".." names nothing.
+  /// is none. Names are compared byte for byte; an empty name, a slash, ".." or a dot in `type` names nothing.
   [[nodiscard]] const ResourcePath* pathForResource(std::string_view name, std::string_view type) const;
 
   /// The full path of the file `name`.`extension` in the bundle's directory; nothing when there is none.
@@ -102,10 +102,9 @@ class ZK_EXPORT alignas(kCacheLine) Bundle {
   [[nodiscard]] std::size_t placeOf(const Name& name) const;
   [[nodiscard]] const ResourcePath* find(std::string_view name, std::string_view type) const;
 
-  /// An index of the resources by name, with open addressing. Its size is a power of two; `last_` is one
-  /// less.
-  std::unique_ptr<Slot[]> slots_;
-  std::size_t last_;
+  /// An index of the resources by name, with open addressing. Its size is a power of two; `last_` is one less.
+  std::unique_ptr<Slot[]> slots_{};
+  std::size_t last_ = 0;
   const std::uint64_t seed_;
   const ResourcePath* defaultTable_;
 

@@ -23,7 +23,7 @@ class Dictionary {
   using Member = std::pair<std::string, Value>;
 
   /// Without members.
-  Dictionary() = default;
+  Dictionary();
   /// With `members`, in their order; a name may come twice.
   Dictionary(std::initializer_list<Member> members);
 
@@ -98,6 +98,9 @@ class Value {
  private:
   std::variant<std::nullptr_t, bool, std::int64_t, double, std::string, List, Dictionary> value_ = nullptr;
 };
+
+inline Dictionary::Dictionary() : members_() {
+}
 
 inline Dictionary::Dictionary(std::initializer_list<Member> members) : members_(members) {
 }

@@ -84,7 +84,7 @@ LocaleSettings settingsFromEnvironment() {
 using Source = std::function<LocaleSettings()>;
 
 struct CurrentSource {
-  std::mutex mutex;
+  std::mutex mutex{};
   std::shared_ptr<const Source> source = std::make_shared<const Source>(settingsFromEnvironment);
 };
 

@@ -53,7 +53,7 @@ class ZK_EXPORT Registration {
 
   std::atomic<ResolverScope> scope_;
   std::atomic<bool> isKept_{false};
-  Service kept_;                  // written once, before `isKept_` is set
+  Service kept_{};                // written once, before `isKept_` is set
   const Maker* maker_ = nullptr;  // the thread that is making what will be kept
 };
 

@@ -23,8 +23,8 @@ namespace {
 thread_local constinit Maker thisThread;
 
 struct Makers {
-  std::mutex mutex;
-  std::condition_variable oneIsDone;
+  std::mutex mutex{};
+  std::condition_variable oneIsDone{};
 };
 
 Makers& makers() {

@@ -79,7 +79,7 @@ class SharedArray {
   }
 
  private:
-  std::shared_ptr<const Elements> elements_;
+  std::shared_ptr<const Elements> elements_{};
 };
 
 }  // namespace zk

@@ -17,7 +17,7 @@ class UnknownReachability final : public NetworkReaching {
 };
 
 struct Holder {
-  std::mutex mutex;
+  std::mutex mutex{};
   std::shared_ptr<const NetworkReaching> service = std::make_shared<const UnknownReachability>();
 };
 

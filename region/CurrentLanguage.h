@@ -30,8 +30,8 @@ class ZK_EXPORT LanguageAccess {
 
  private:
   Language language_;
-  std::shared_ptr<registry::Registration> writeBack_;  // what is registered if the copy was changed
-  Language* captured_ = nullptr;                       // in it: the language as it was resolved
+  std::shared_ptr<registry::Registration> writeBack_{};  // what is registered if the copy was changed
+  Language* captured_ = nullptr;                         // in it: the language as it was resolved
 };
 
 /// The property behind `Current::language`.

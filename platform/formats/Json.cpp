@@ -89,10 +89,10 @@ class Builder final : public nlohmann::json_sax<nlohmann::json> {
     return true;
   }
 
-  Value root_;
-  std::vector<Value*> open_;  // from the outermost on; nothing is added to one while a value within is open
-  std::string name_;          // of the member whose value comes next
-  std::size_t unkept_ = 0;    // how many levels beyond the deepest kept one are open
+  Value root_{};
+  std::vector<Value*> open_{};  // from the outermost on; nothing is added to one while a value within is open
+  std::string name_{};          // of the member whose value comes next
+  std::size_t unkept_ = 0;      // how many levels beyond the deepest kept one are open
   bool sawOverflow_ = false;
 };
 
@@ -152,7 +152,7 @@ class PlainNumbers {
 
  private:
   locale_t plain_;
-  locale_t before_;
+  locale_t before_ = nullptr;
 };
 
 /// Whether the library would pass over characters that are not JSON: a byte-order mark at the beginning, and

@@ -62,10 +62,10 @@ class StringTableReader {
   std::string_view text_;
   std::size_t at_ = 0;
   std::size_t entryBegin_ = 0;
-  Token key_;
-  Token value_;
-  std::vector<Token> comments_;
-  std::optional<Fault> fault_;
+  Token key_{};
+  Token value_{};
+  std::vector<Token> comments_{};
+  std::optional<Fault> fault_{};
 };
 
 /// Replaces the escapes in the `size` bytes at `token` by what they stand for, which is never longer, and

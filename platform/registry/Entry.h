@@ -22,8 +22,8 @@ struct alignas(kCacheLine) Entry {
   const std::optional<std::string> name;
 
   std::atomic<std::uint64_t> generation{0};  // counts the changes of the registration
-  std::mutex mutex;
-  std::shared_ptr<Registration> registration;  // guarded by `mutex`
+  std::mutex mutex{};
+  std::shared_ptr<Registration> registration{};  // guarded by `mutex`
 };
 
 /// What one resolve found.

@@ -36,7 +36,7 @@ class Hold {
  private:
   const void* service_;
   Kept* kept_;
-  Service owner_;
+  Service owner_{};
 };
 
 }  // namespace registry

@@ -1,7 +1,8 @@
 #pragma once
 
+#include <ZKStrings/platform/text/CanonicalForm.h>
+
 #include <cstddef>
-#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -17,10 +18,6 @@ namespace zk {
 /// follow it. An empty `target` occurs nowhere. `replacement` must not be a part of `text`.
 void replaceOccurrences(std::string& text, std::string_view target, std::string_view replacement);
 
-/// Whether no canonical equivalence reaches across the beginning of `text` to whatever stands before it: an
-/// accent would.
-[[nodiscard]] inline bool hasBorderBefore(std::string_view text);
-
 /// Where a target was found: the bytes [begin, end) of the text.
 struct Occurrence {
   std::size_t begin;
@@ -33,18 +30,11 @@ class CanonicalSearch {
   CanonicalSearch(std::string_view text, std::string_view target);
   std::optional<Occurrence> next();
 
-  /// A code point of a canonically decomposed text.
-  struct Unit {
-    char32_t value;  // a byte that is not UTF-8 stands above all code points
-    std::uint8_t combiningClass;
-    std::size_t begin, end;  // the bytes of the text whose decomposition it belongs to
-  };
-
  private:
   [[nodiscard]] bool isBorder(std::size_t at) const;
 
-  const std::vector<Unit> text_;
-  const std::vector<Unit> target_;
+  const std::vector<CanonicalUnit> text_;
+  const std::vector<CanonicalUnit> target_;
   const std::vector<std::size_t> repeatedBeginnings_;  // of the target
   std::size_t at_ = 0;
 };
@@ -63,13 +53,5 @@ class AsciiSearch {
   std::string_view target_;
   std::size_t at_ = 0;
 };
-
-/// The same for what does not begin with ASCII.
-[[nodiscard]] bool isBorderBeforeNonAscii(std::string_view text);
-
-inline bool hasBorderBefore(std::string_view text) {
-  const bool isBeforeAscii = text.empty() || static_cast<signed char>(text[0]) >= 0;
-  return isBeforeAscii || isBorderBeforeNonAscii(text);
-}
 
 }  // namespace zk

@@ -18,6 +18,7 @@ TEST(Bundle, ListsItsDirectoryByExactNames) {
   directory.write("fr.lproj", "a file");
   directory.write("countries.json", "[]");
   directory.write(".lproj/x", "");
+  directory.write("a.b.lproj/x", "");
   const Bundle* const bundle = Bundle::initWithPath(directory.path());
   ASSERT_NE(bundle, nullptr);
   ASSERT_NE(bundle->pathForResource("de", "lproj"), nullptr);
@@ -30,6 +31,7 @@ TEST(Bundle, ListsItsDirectoryByExactNames) {
                                                                   {"d", "lproj"},
                                                                   {"de", ""},
                                                                   {"de.lproj", ""},
+                                                                  {"a", "b.lproj"},
                                                                   {"../x", "lproj"},
                                                                   {"de.lproj/Localizable", "strings"},
                                                                   {std::string_view("de\0", 3), "lproj"},

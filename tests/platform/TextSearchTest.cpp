@@ -117,6 +117,9 @@ TEST(TextSearch, LongTextsThatDeferEveryDecisionAreSearched) {
             repeated("a", kMany) + "#");
   EXPECT_EQ(replaced(repeated("\u1161", kMany), "\u1161\u1161x", "#"), repeated("\u1161", kMany));
   EXPECT_EQ(replaced(repeated("%{é}", kMany), "%{é}", "%{é}%{é}"), repeated("%{é}", 2 * kMany));
+  EXPECT_EQ(canonicalForm("à" + marks),
+            "a" + repeated("\u0316", kMany) + "\u0300" + repeated("\u0301", kMany));
+  EXPECT_EQ(canonicalForm("\xFF\u0301é\xC3"), "\xFF\u0301e\u0301\xC3");
 }
 
 TEST(TextSearch, TheQuickSearchServesOnlyWhatNoOtherCharacterIsEquivalentTo) {

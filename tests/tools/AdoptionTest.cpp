@@ -32,7 +32,7 @@ TEST(PositionalText, PlaceholdersGetNamesByTheirPlace) {
       {"%99999999999999999999$@", "%99999999999999999999$@"},
       {"%#@", "%#@"}};
   for (const auto& [source, expected] : kCases) {
-    const auto pieces = piecesOf(source);
+    const auto pieces = formatPiecesOf(source);
     EXPECT_EQ(withNames(pieces, argumentsOf(pieces)), expected) << source;
   }
 }

@@ -38,7 +38,7 @@ const ForeignText* formFor(const ForeignEntry& entry, const Sources& sources) {
 
 std::set<std::size_t> placesIn(const ForeignText& text) {
   std::set<std::size_t> places;
-  for (const TextPiece& piece : piecesOf(text.text)) places.insert(piece.argument);
+  for (const FormatPiece& piece : formatPiecesOf(text.text)) places.insert(piece.argument);
   places.erase(0);
   return places;
 }
@@ -62,7 +62,7 @@ bool hasControlCharacters(std::string_view text) {
   });
 }
 
-bool isFormatted(const TextPiece& piece) {
+bool isFormatted(const FormatPiece& piece) {
   return piece.isFormatted && piece.argument != 0;
 }
 
@@ -98,8 +98,8 @@ std::optional<std::string> AdoptedTexts::converted(const ForeignText& text, cons
     remark(Severity::warning, text, "the text has control characters; left out");
     return std::nullopt;
   }
-  const std::vector<TextPiece> pieces = piecesOf(source);
-  for (const TextPiece& piece : pieces) {
+  const std::vector<FormatPiece> pieces = formatPiecesOf(source);
+  for (const FormatPiece& piece : pieces) {
     if (piece.argument == 0) continue;
     if (known.places.contains(piece.argument) && piece.variable.empty()) continue;
     remark(Severity::warning, text,
@@ -128,10 +128,10 @@ std::string AdoptedTexts::whyRefused(const Entry& entry) const {
 
 std::optional<Entry> AdoptedTexts::entryFor(const ForeignEntry& source) {
   const ForeignText& text = mainText(source);
-  const std::vector<TextPiece> pieces = piecesOf(text.text);
+  const std::vector<FormatPiece> pieces = formatPiecesOf(text.text);
   Known known{source.isPlural(), 0, placesIn(text)};
   for (const auto& [name, form] : source.forms) {
-    known.arguments = std::max(known.arguments, argumentsOf(piecesOf(form.text)));
+    known.arguments = std::max(known.arguments, argumentsOf(formatPiecesOf(form.text)));
   }
   if (known.arguments > 0 && argumentName(known.arguments, known.arguments).empty()) {
     remark(Severity::warning, text, "the text has more than ten placeholders; left out");

@@ -22,19 +22,19 @@ pugi::xml_node memberOf(const pugi::xml_node& dictionary, std::string_view name)
 }
 
 /// `pieces` with all placeholders by number.
-std::string withNumbers(const std::vector<TextPiece>& pieces) {
+std::string withNumbers(const std::vector<FormatPiece>& pieces) {
   std::string text;
-  for (const TextPiece& piece : pieces) {
+  for (const FormatPiece& piece : pieces) {
     text += piece.argument != 0 ? fmt::format("%{}$@", piece.argument) : piece.text;
   }
   return text;
 }
 
 /// The format with the form of its variable filled in.
-std::string expanded(const std::vector<TextPiece>& format, std::string_view form) {
+std::string expanded(const std::vector<FormatPiece>& format, std::string_view form) {
   std::string text;
-  for (const TextPiece& piece : format) {
-    text += piece.variable.empty() ? withNumbers({piece}) : withNumbers(piecesOf(form, piece.argument));
+  for (const FormatPiece& piece : format) {
+    text += piece.variable.empty() ? withNumbers({piece}) : withNumbers(formatPiecesOf(form, piece.argument));
   }
   return text;
 }
@@ -48,8 +48,8 @@ struct Reading {
 Reading readEntry(const pugi::xml_node& entry) {
   const pugi::xml_node formatNode = memberOf(entry, "NSStringLocalizedFormatKey");
   if (!formatNode) return {"the entry has no format (NSStringLocalizedFormatKey)"};
-  const std::vector<TextPiece> format = piecesOf(formatNode.text().get());
-  const auto isVariable = [](const TextPiece& piece) { return !piece.variable.empty(); };
+  const std::vector<FormatPiece> format = formatPiecesOf(formatNode.text().get());
+  const auto isVariable = [](const FormatPiece& piece) { return !piece.variable.empty(); };
   if (std::count_if(format.begin(), format.end(), isVariable) != 1)
     return {"the format has none or several variables with plural forms, and one text has one count"};
   const std::string& variable = std::find_if(format.begin(), format.end(), isVariable)->variable;

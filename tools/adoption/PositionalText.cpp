@@ -32,11 +32,11 @@ std::size_t numberOf(std::string_view digits) {
 
 /// The placeholder at the beginning of `text`, a percent sign; its argument is 0 when it is that of its
 /// place. Plain text when it is none.
-TextPiece placeholderAt(std::string_view text) {
-  const TextPiece plain{"%"};
+FormatPiece placeholderAt(std::string_view text) {
+  const FormatPiece plain{"%"};
   if (text.starts_with("%%")) return {"%%"};
   std::string_view rest = text.substr(1);
-  TextPiece piece;
+  FormatPiece piece;
   const std::string_view beforeNumber = rest;
   const std::string_view digits = take(rest, kDigits);
   if (!digits.empty() && rest.starts_with('$')) {
@@ -66,20 +66,20 @@ TextPiece placeholderAt(std::string_view text) {
   return piece;
 }
 
-bool isPlaceholder(const TextPiece& piece) {
+bool isPlaceholder(const FormatPiece& piece) {
   return piece.text.size() > 1 && piece.text != "%%";
 }
 
 }  // namespace
 
-std::vector<TextPiece> piecesOf(std::string_view text, std::size_t always) {
-  std::vector<TextPiece> pieces;
+std::vector<FormatPiece> formatPiecesOf(std::string_view text, std::size_t always) {
+  std::vector<FormatPiece> pieces;
   std::size_t next = 1;
   while (!text.empty()) {
     if (text.front() != '%') {
       pieces.push_back({std::string(text.substr(0, text.find('%')))});
     } else {
-      TextPiece piece = placeholderAt(text);
+      FormatPiece piece = placeholderAt(text);
       if (isPlaceholder(piece) && piece.argument == 0) piece.argument = always != 0 ? always : next++;
       pieces.push_back(std::move(piece));
     }
@@ -88,9 +88,9 @@ std::vector<TextPiece> piecesOf(std::string_view text, std::size_t always) {
   return pieces;
 }
 
-std::size_t argumentsOf(const std::vector<TextPiece>& pieces) {
+std::size_t argumentsOf(const std::vector<FormatPiece>& pieces) {
   std::size_t all = 0;
-  for (const TextPiece& piece : pieces) all = std::max(all, piece.argument);
+  for (const FormatPiece& piece : pieces) all = std::max(all, piece.argument);
   return all;
 }
 
@@ -101,9 +101,9 @@ std::string_view argumentName(std::size_t argument, std::size_t all) {
   return argument <= std::size(kNames) ? kNames[argument - 1] : "";
 }
 
-std::string withNames(const std::vector<TextPiece>& pieces, std::size_t all) {
+std::string withNames(const std::vector<FormatPiece>& pieces, std::size_t all) {
   std::string text;
-  for (const TextPiece& piece : pieces) {
+  for (const FormatPiece& piece : pieces) {
     if (piece.argument != 0) {
       text += fmt::format("%{{{}}}", argumentName(piece.argument, all));
     } else {

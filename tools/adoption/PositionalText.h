@@ -8,8 +8,8 @@
 namespace zk::tools {
 
 /// A part of a text whose placeholders go by their place, as in "%@ has %2$d coins".
-struct TextPiece {
-  std::string text;           ///< as it stands there; of "%%" in `piecesOf`, both signs
+struct FormatPiece {
+  std::string text;           ///< as it stands there; of "%%" in `formatPiecesOf`, both signs
   std::size_t argument = 0;   ///< the place of the argument that it stands for, from 1; 0 for plain text
   std::string variable = {};  ///< of "%#@coins@", the variable "coins", which has plural forms
   bool isFormatted = false;   ///< whether it says how its number is written, as "%.2f" does
@@ -17,10 +17,10 @@ struct TextPiece {
 
 /// The pieces of `text`, in their order. A placeholder without a number takes the next argument, or, where
 /// `always` is not 0, that one.
-[[nodiscard]] std::vector<TextPiece> piecesOf(std::string_view text, std::size_t always = 0);
+[[nodiscard]] std::vector<FormatPiece> formatPiecesOf(std::string_view text, std::size_t always = 0);
 
 /// The highest place of an argument among `pieces`; 0 when there is none.
-[[nodiscard]] std::size_t argumentsOf(const std::vector<TextPiece>& pieces);
+[[nodiscard]] std::size_t argumentsOf(const std::vector<FormatPiece>& pieces);
 
 /// The name that the argument at the place `argument` of `all` gets: "value" when it is the only one, else
 /// "first", "second" and so on. Empty beyond the tenth.
@@ -28,6 +28,6 @@ struct TextPiece {
 
 /// The text of `pieces` with named placeholders, "%{value}", when the entry has `all` arguments. "%%" becomes
 /// "%" where there is one, since only then was the text a format.
-[[nodiscard]] std::string withNames(const std::vector<TextPiece>& pieces, std::size_t all);
+[[nodiscard]] std::string withNames(const std::vector<FormatPiece>& pieces, std::size_t all);
 
 }  // namespace zk::tools
