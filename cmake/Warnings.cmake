@@ -9,6 +9,8 @@ if(ZK_WERROR)
   target_compile_options(zk_compile_options INTERFACE -Werror)
 endif()
 if(ZK_SANITIZE)
+  # What sanitizers insert makes GCC see uninitialised members where there are none.
+  target_compile_options(zk_compile_options INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
   target_compile_options(zk_compile_options INTERFACE -fsanitize=${ZK_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
   target_link_options(zk_compile_options INTERFACE -fsanitize=${ZK_SANITIZE})
 endif()
