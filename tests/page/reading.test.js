@@ -56,8 +56,8 @@ test("Filters leave the texts that are so", async () => {
     [{ "#language": German, "#state": "r" }, ["Be_quick"]],
     [{ "#language": German, "#state": "gap" }, ["badgeCount_Badges", "Be_quick", "First_line_nSecond_line"]],
     [
-      { "#language": German, "#state": "finding" },
-      ["first_beats_second", "Kick_username", "script_script_broken_1_script"],
+      { "#language": German, "#state": "finding", "#family": "formatted" },
+      ["first_beats_second", "Kick_username"],
     ],
     [{ "#language": Arabic, "#state": "m" }, []],
     [{ "#language": German, "#longer": "200" }, ["badgeCount_Badges"]],

@@ -4,6 +4,8 @@ const listedCount = (entry) => (entry.counted ? data.counts[FORM_NAMES.length - 
 
 let shownEntries = [];
 let listedLanguage;
+let listing = 0; // which update of the list is at work
+let openLink;
 
 function rowOf(entry) {
   if (entry.row) return entry.row;
@@ -51,13 +53,23 @@ function showTableFindings() {
   place.replaceChildren(...findings.map(findingItem));
 }
 
+/** Adds the rows of the entries from `begin` on, some at a time, so that typing need not wait for all of them. */
+function addRows(begin, of) {
+  if (of !== listing) return;
+  const AT_A_TIME = 100;
+  const end = begin + AT_A_TIME;
+  const added = shownEntries.slice(begin, end);
+  list.append(...added.map(rowOf));
+  added.forEach(showTranslation);
+  if (end < shownEntries.length) setTimeout(addRows, 0, end, of);
+}
+
 /** Shows the entries that the filters let through. */
 function updateList() {
   listedLanguage = chosenLanguage();
   shownEntries = filtered();
-  const rows = shownEntries.map(rowOf);
-  shownEntries.forEach(showTranslation);
-  list.replaceChildren(...rows);
+  list.replaceChildren();
+  addRows(0, ++listing);
   list.scrollTop = 0;
   markChosenLanguage(listedLanguage);
   showTableFindings();
@@ -70,8 +82,9 @@ function updateList() {
 }
 
 function markOpenEntry(open) {
-  list.querySelector("[aria-current]")?.removeAttribute("aria-current");
-  open?.link?.setAttribute("aria-current", "true");
+  openLink?.removeAttribute("aria-current");
+  openLink = open && rowOf(open).querySelector("a");
+  openLink?.setAttribute("aria-current", "true");
 }
 
 /** Moves the focus to the next text, or the one before; from the search to the first. */
