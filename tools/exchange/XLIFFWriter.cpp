@@ -105,14 +105,18 @@ class OriginalData {
   [[nodiscard]] std::string target() const { return content(target_); }
 
  private:
-  [[nodiscard]] std::size_t placeOf(std::string_view text) const { return places_.find(text)->second; }
+  /// From 1; 0 for words, which have no place.
+  [[nodiscard]] std::size_t placeOf(std::string_view text) const {
+    const auto place = places_.find(text);
+    return place == places_.end() ? 0 : place->second + 1;
+  }
 
   [[nodiscard]] std::string content(const Pieces& pieces) const {
     const std::vector<std::size_t> numbers = codeNumbers(pieces, source_);
     std::string result;
     for (std::size_t i = 0; i < pieces.size(); ++i) {
       const std::string text = inText(pieces[i].text);
-      const std::size_t data = placeOf(pieces[i].text) + 1;
+      const std::size_t data = placeOf(pieces[i].text);
       switch (pieces[i].kind) {
         case Kind::words:
           result += text;
@@ -122,7 +126,7 @@ class OriginalData {
           break;
         case Kind::opening:
           result += fmt::format("<pc id=\"{}\" dataRefStart=\"d{}\" dataRefEnd=\"d{}\">", numbers[i], data,
-                                placeOf(closingOf(pieces[i].text)) + 1);
+                                placeOf(closingOf(pieces[i].text)));
           break;
         case Kind::closing:
           result += "</pc>";
