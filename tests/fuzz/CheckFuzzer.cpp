@@ -5,6 +5,7 @@
 #include <ZKStrings/tools/check/Checker.h>
 
 #include <algorithm>
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -27,10 +28,13 @@ CheckResult checked(const std::string& root, std::size_t bytes) {
   return check(root, options);
 }
 
-void tryFaults(const Faults& faults) {
+void tryFaults(Faults faults) {
+  constexpr std::size_t kMost = 100;  // each is tried alone
+  faults.resize(std::min(faults.size(), kMost));
   for (const Fault& fault : faults) {
-    require(fault.line > 0 && fault.column > 0 && !fault.message.empty(), "where is " + fault.message);
-    require(formatted(fault, false).find('\n') == std::string::npos, "two lines: " + formatted(fault, false));
+    const std::string line = formatted(fault, false);
+    require(fault.line > 0 && fault.column > 0 && !fault.message.empty(), "it says nothing: " + line);
+    require(line.find_first_of("\n\r\x1B") == std::string::npos, "it is no line: " + line);
   }
   require(nlohmann::json::accept(toJson(faults)), "this is no JSON: " + toJson(faults));
 }

@@ -382,6 +382,13 @@ TEST(Check, AFaultyGlossaryIsToldAndHidesNothing) {
   EXPECT_EQ(formatted(faults[1], false).substr(0, 38), "resources/glossary.json:2:12: error: w");
 }
 
+TEST(Fault, IsOneLineWhateverTheFileHolds) {
+  const Fault fault{Severity::error, "d\n.strings", 1, 2, "", "\"\x1B[2J\r\n\x7F\u009B31m \u00E9\xFF\tx\""};
+  EXPECT_EQ(formatted(fault, false),
+            "d\\U000a.strings:1:2: error: \"\\U001b[2J\\U000d\\U000a"
+            "\\U007f\\U009b31m \u00E9\xFF\\U0009x\"");
+}
+
 TEST(Check, PluralFormsOfTheEnglishTableAreHeldAgainstTheCatalogue) {
   const std::string rest = englishWithout("badgeCount_Badges_two").content;
   const Faults faults =
