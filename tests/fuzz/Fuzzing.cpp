@@ -19,7 +19,7 @@ constexpr char kSeparator = '\x1E';
 
 // Far above what is measured under the sanitizers, and far below what work costs that grows by the square.
 constexpr double kSecondsForAny = 0.2;
-constexpr double kSecondsForByte = 20e-6;
+constexpr double kSecondsForByte = 50e-6;
 
 double processorSeconds() {
   timespec time{};
