@@ -1,8 +1,8 @@
 #include <ZKStrings/platform/formats/Json.h>
 #include <ZKStrings/platform/formats/TextEncoding.h>
-#include <ZKStrings/tools/CatalogueName.h>
-#include <ZKStrings/tools/Files.h>
 #include <ZKStrings/tools/check/CountryRules.h>
+#include <ZKStrings/tools/project/CatalogueName.h>
+#include <ZKStrings/tools/support/Files.h>
 
 #include <algorithm>
 #include <filesystem>
