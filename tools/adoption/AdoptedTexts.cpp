@@ -90,6 +90,7 @@ void AdoptedTexts::remark(Severity severity, const ForeignText& text, std::strin
 std::optional<std::string> AdoptedTexts::converted(const ForeignText& text, const Known& known) {
   std::string source = text.text;
   replaceOccurrences(source, "\r\n", "\n");
+  replaceOccurrences(source, "\r", "\n");
   if (source.empty()) {
     remark(Severity::warning, text, "the text is empty; left out");
     return std::nullopt;
