@@ -46,6 +46,18 @@ void findReplacementCharacters(const LanguageTable& subject, Findings& findings)
   }
 }
 
+void findControlCharacters(const LanguageTable& subject, Findings& findings) {
+  for (const TableEntry& entry : subject.table.entries) {
+    const std::size_t offset = findControlCharacter(entry.text);
+    if (offset == std::string::npos) continue;
+    findings.add(
+        entry, TextPlaces(entry).at(offset),
+        fmt::format("the control character U+{:04X} stands in the text, which shows as nothing or as a "
+                    "box; remove it",
+                    static_cast<unsigned>(entry.text[offset])));
+  }
+}
+
 void findEmptyTexts(const LanguageTable& subject, Findings& findings) {
   for (const TableEntry& entry : subject.table.entries) {
     if (isBlank(entry.text)) {
@@ -78,6 +90,8 @@ constexpr RuleFor<LanguageTable> kRules[] = {
      findWhileReading<Table::kSyntax>},
     {{"duplicate-key", Severity::error, "a key that stands twice in a table"}, findDuplicates},
     {{"replacement-character", Severity::error, "U+FFFD in a text"}, findReplacementCharacters},
+    {{"control-character", Severity::error, "a control character in a text, line breaks and tabs aside"},
+     findControlCharacters},
     {{"empty-text", Severity::warning, "a text of nothing or white space"}, findEmptyTexts},
     {{"unknown-escape", Severity::warning, "a backslash before a character that it gives no meaning"},
      findUnknownEscapes},

@@ -61,6 +61,7 @@ const std::vector<RuleCase> kRuleCases = {
      "line 1"},
     {"replacement-character", de(R"("About" = "\U00dc\UFFFDer";)"), de(R"("About" = "\U00dcber";)"), "1:18",
      "U+FFFD"},
+    {"control-character", de(R"("About" = "Ü\1ber";)"), de(R"("About" = "Ü\tber";)"), "1:13", "U+0001"},
     {"unknown-placeholder", de(R"("Kick_username" = "\"%{username}\" %{usernam}?";)"),
      de(R"("Kick_username" = "„%{username}“?";)"), "1:36", R"("%{usernam}"; write "%{username}")"},
     {"unknown-placeholder", de(R"("About" = "%{name}";)"), de(R"("About" = "name";)"), "1:12", "remove it"},
