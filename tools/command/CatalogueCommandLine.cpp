@@ -86,7 +86,8 @@ void addChangeCommand(CLI::App& app, const RootFinder& inRoot) {
   command->callback([arguments, inRoot] {
     const std::size_t marked =
         changeEntry(inRoot(), arguments->key, withLineBreaks(arguments->text), arguments->forms);
-    fmt::print("Changed {}; {} translations to be looked at again.\n", arguments->key, marked);
+    fmt::print("Changed {}; {} translation{} to be looked at again.\n", arguments->key, marked,
+               marked == 1 ? "" : "s");
   });
 }
 
