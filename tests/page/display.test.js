@@ -139,4 +139,13 @@ test("In print there are the texts alone, all of them", async () => {
   assert.ok(await page.isVisible("#list"));
   const isCut = await page.evaluate(() => list.scrollHeight > list.clientHeight + 1);
   assert.ok(!isCut);
+  const full = await open(browser, shipped);
+  const [first, all, texts] = await full.evaluate(() => {
+    document.getElementById("filters").dispatchEvent(new Event("input")); // makes the list anew, in steps
+    const first = list.children.length;
+    dispatchEvent(new Event("beforeprint"));
+    return [first, list.children.length, document.getElementById("count").textContent];
+  });
+  assert.ok(first < all);
+  assert.strictEqual(`${all} texts`, texts);
 });
