@@ -1,6 +1,7 @@
 #include <ZKStrings/catalogue/KeyRule.h>
 #include <ZKStrings/platform/text/TextSearch.h>
-#include <ZKStrings/tools/authoring/CatalogueCommands.h>
+#include <ZKStrings/tools/authoring/CatalogueFiles.h>
+#include <ZKStrings/tools/authoring/EntryCommands.h>
 #include <ZKStrings/tools/command/CatalogueCommandLine.h>
 
 #include <array>
