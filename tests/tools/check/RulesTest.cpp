@@ -92,6 +92,7 @@ const std::vector<RuleCase> kRuleCases = {
      de(R"("Kick_username" = "\"%{username}?";)"), "1:41", "{username}"},
     {"country-list", countries("{}"), countries("[]"), "1:1", "no array"},
     {"country-list", countries("[\n  {\"name\" \"Austria\"}\n]"), countries("[ ]"), "2:19", "not JSON"},
+    {"country-list", countries("\uFEFF\uFEFF[]"), countries("\uFEFF[]"), "1:1", "not JSON"},
     {"country-list", secondCountry("\"]\""),
      secondCountry("{\"name\": \"]\", \"phoneCode\": 1, \"iso\": \"BR\"}"), "3:3", "no object"},
     {"dropped-country", secondCountry(R"({"name": "Peru", "phoneCode": "51", "iso": "PE"})"),
