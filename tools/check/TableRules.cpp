@@ -1,8 +1,15 @@
 #include <ZKStrings/tools/check/TableRules.h>
+#include <ZKStrings/tools/project/EntryComments.h>
 #include <ZKStrings/tools/support/Languages.h>
+#include <ZKStrings/tools/support/Nearest.h>
 #include <ZKStrings/tools/texts/TextFeatures.h>
+#include <ZKStrings/tools/translation/TranslationState.h>
 
+#include <algorithm>
 #include <map>
+#include <optional>
+#include <string>
+#include <vector>
 
 #include <fmt/format.h>
 
@@ -79,6 +86,23 @@ void findUnknownEscapes(const LanguageTable& subject, Findings& findings) {
   }
 }
 
+void findUnknownStates(const LanguageTable& subject, Findings& findings) {
+  const std::vector<std::string_view> states = {nameOf(TranslationState::untranslated),
+                                                nameOf(TranslationState::needsReview)};
+  for (const TableEntry& entry : subject.table.entries) {
+    for (const TableEntry::Comment& comment : entry.comments) {
+      const std::string state = fmt::format("{}", fmt::join(wordsTold(comment, kState), " "));
+      if (state.empty() || std::find(states.begin(), states.end(), state) != states.end()) continue;
+      const std::optional<std::string_view> meant = nearest(state, states);
+      findings.add(entry, comment.at,
+                   fmt::format("no entry is marked as \"{}\"; {}", state,
+                               meant ? fmt::format("write \"{}\" if that is meant", *meant)
+                                     : fmt::format("write \"{}\", or remove the comment",
+                                                   fmt::join(states, "\" or \""))));
+    }
+  }
+}
+
 constexpr RuleFor<LanguageTable> kRules[] = {
     {{"language-directory", Severity::error, "a directory that the module never chooses, by its name"},
      findDirectory},
@@ -95,6 +119,8 @@ constexpr RuleFor<LanguageTable> kRules[] = {
     {{"empty-text", Severity::warning, "a text of nothing or white space"}, findEmptyTexts},
     {{"unknown-escape", Severity::warning, "a backslash before a character that it gives no meaning"},
      findUnknownEscapes},
+    {{"unknown-state", Severity::warning, "a comment \"state:\" with another word than those it may have"},
+     findUnknownStates},
 };
 
 }  // namespace
