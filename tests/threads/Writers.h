@@ -2,10 +2,15 @@
 
 #include <ZKStrings/region/CurrentLanguage.h>
 
+#include <algorithm>
 #include <array>
 #include <atomic>
+#include <chrono>
 #include <cstddef>
 #include <cstdint>
+#include <iterator>
+#include <string>
+#include <thread>
 
 namespace zk::soak {
 
@@ -20,12 +25,23 @@ class Writers {
   static constexpr std::size_t kWays = 3;
   using Moment = std::array<std::uint64_t, kWays>;
 
+  /// Begins a new record; called while no writer and no reader is at work.
+  void restart() {
+    const std::string language = Current::language.get().preferredLanguages[0];
+    initial_ = static_cast<std::size_t>(std::ranges::find(kLanguages, language) - std::begin(kLanguages));
+    for (Counts& counts : counts_) counts.begun = counts.done = 0;
+  }
+
   /// Sets the language that comes next for the writer of the way `way`; called by one thread for each.
   void write(std::size_t way) {
+    constexpr std::uint64_t kBurst = 8;
     Counts& counts = counts_[way];
     const std::uint64_t number = ++counts.begun;
     set(way, kLanguages[languageOf(way, number)]);
     counts.done = number;
+    ++changes_;
+    // Readers are to meet quiet times too, in which only one language is right.
+    if (number % kBurst == 0) std::this_thread::sleep_for(std::chrono::microseconds(100));
   }
 
   /// How much each writer has done.
@@ -38,21 +54,17 @@ class Writers {
   /// Whether `is(index of a language)` holds for one that may have been in force since the moment `before`.
   template <class Is>
   [[nodiscard]] bool anySince(const Moment& before, Is is) const {
+    if (before == Moment{} && is(initial_)) return true;
     for (std::size_t way = 0; way < kWays; ++way) {
-      const std::uint64_t last =
-          std::min<std::uint64_t>(counts_[way].begun, before[way] + std::size(kLanguages));
-      for (std::uint64_t number = before[way]; number <= last; ++number) {
+      const std::uint64_t begun = counts_[way].begun;
+      for (std::uint64_t number = std::max<std::uint64_t>(before[way], 1); number <= begun; ++number) {
         if (is(languageOf(way, number))) return true;
       }
     }
     return false;
   }
 
-  [[nodiscard]] std::uint64_t changes() const {
-    std::uint64_t sum = 0;
-    for (const std::uint64_t each : done()) sum += each;
-    return sum;
-  }
+  [[nodiscard]] std::uint64_t changes() const { return changes_; }
 
  private:
   struct alignas(128) Counts {
@@ -77,6 +89,8 @@ class Writers {
   }
 
   std::array<Counts, kWays> counts_{};
+  std::size_t initial_ = 0;
+  std::atomic<std::uint64_t> changes_ = 0;
 };
 
 }  // namespace zk::soak
