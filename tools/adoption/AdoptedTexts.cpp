@@ -1,9 +1,9 @@
 #include <ZKStrings/catalogue/KeyRule.h>
 #include <ZKStrings/platform/text/TextSearch.h>
-#include <ZKStrings/tools/Identifiers.h>
-#include <ZKStrings/tools/Table.h>
 #include <ZKStrings/tools/adoption/AdoptedTexts.h>
 #include <ZKStrings/tools/adoption/PositionalText.h>
+#include <ZKStrings/tools/project/Identifiers.h>
+#include <ZKStrings/tools/project/Table.h>
 
 #include <algorithm>
 #include <utility>

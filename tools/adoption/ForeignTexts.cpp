@@ -1,8 +1,8 @@
 #include <ZKStrings/platform/formats/TextEncoding.h>
 #include <ZKStrings/platform/system/File.h>
-#include <ZKStrings/tools/Table.h>
 #include <ZKStrings/tools/adoption/ForeignTexts.h>
 #include <ZKStrings/tools/adoption/PluralDictionary.h>
+#include <ZKStrings/tools/project/Table.h>
 
 #include <algorithm>
 #include <filesystem>

@@ -1,8 +1,8 @@
 #include <ZKStrings/platform/formats/TextEncoding.h>
-#include <ZKStrings/tools/Fault.h>
-#include <ZKStrings/tools/Files.h>
 #include <ZKStrings/tools/exchange/PO.h>
 #include <ZKStrings/tools/exchange/POReference.h>
+#include <ZKStrings/tools/support/Fault.h>
+#include <ZKStrings/tools/support/Files.h>
 
 #include <algorithm>
 #include <cstddef>

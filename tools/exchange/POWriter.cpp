@@ -1,7 +1,7 @@
-#include <ZKStrings/tools/Files.h>
-#include <ZKStrings/tools/Table.h>
 #include <ZKStrings/tools/exchange/PO.h>
 #include <ZKStrings/tools/exchange/POReference.h>
+#include <ZKStrings/tools/project/Table.h>
+#include <ZKStrings/tools/support/Files.h>
 
 #include <algorithm>
 #include <string_view>
