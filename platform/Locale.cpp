@@ -44,14 +44,15 @@ bool isCOrPosix(std::string_view posixName) {
 
 /// The identifier of a POSIX locale name; nothing for C, POSIX and a name without language.
 std::optional<std::string> identifierOf(std::string_view posixName) {
-  const std::string_view name = languageAndRegion(posixName);
-  const std::size_t languageSize = std::min(name.find('_'), name.size());
-  if (languageSize == 0 || isCOrPosix(name)) return std::nullopt;
+  if (isCOrPosix(posixName)) return std::nullopt;
+  std::string identifier(languageAndRegion(posixName));
+  std::replace(identifier.begin(), identifier.end(), '_', '-');
+  identifier.erase(identifier.find_last_not_of('-') + 1);  // "de_" names no region
+  const std::size_t languageSize = std::min(identifier.find('-'), identifier.size());
+  if (languageSize == 0) return std::nullopt;
+
   const std::size_t at = posixName.find('@');
   const std::string_view script = at == std::string_view::npos ? "" : scriptOf(posixName.substr(at + 1));
-
-  std::string identifier(name);
-  std::replace(identifier.begin(), identifier.end(), '_', '-');
   if (!script.empty()) identifier.insert(languageSize, 1, '-').insert(languageSize + 1, script);
   return identifier;
 }

@@ -1,7 +1,7 @@
 #include <ZKStrings/catalogue/KeyRule.h>
-#include <ZKStrings/tools/AccessorGenerator.h>
-#include <ZKStrings/tools/Catalogue.h>
-#include <ZKStrings/tools/Files.h>
+#include <ZKStrings/tools/authoring/AccessorGenerator.h>
+#include <ZKStrings/tools/project/Catalogue.h>
+#include <ZKStrings/tools/support/Files.h>
 
 #include <algorithm>
 #include <map>

@@ -1,8 +1,8 @@
 #include <ZKStrings/platform/formats/StringTable.h>
 #include <ZKStrings/tests/TemporaryDirectory.h>
 #include <ZKStrings/tests/fuzz/Fuzzing.h>
-#include <ZKStrings/tools/Catalogue.h>
 #include <ZKStrings/tools/check/Checker.h>
+#include <ZKStrings/tools/project/Catalogue.h>
 
 #include <algorithm>
 #include <cstddef>

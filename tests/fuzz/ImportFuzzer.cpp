@@ -1,11 +1,11 @@
 #include <ZKStrings/tests/fuzz/Fuzzing.h>
 #include <ZKStrings/tests/tools/TemporaryProject.h>
-#include <ZKStrings/tools/Catalogue.h>
-#include <ZKStrings/tools/Initialisation.h>
-#include <ZKStrings/tools/Table.h>
 #include <ZKStrings/tools/adoption/Adoption.h>
+#include <ZKStrings/tools/authoring/Initialisation.h>
 #include <ZKStrings/tools/exchange/ExchangeFormat.h>
 #include <ZKStrings/tools/exchange/Import.h>
+#include <ZKStrings/tools/project/Catalogue.h>
+#include <ZKStrings/tools/project/Table.h>
 
 #include <algorithm>
 #include <cstddef>

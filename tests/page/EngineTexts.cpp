@@ -5,8 +5,8 @@
 //
 //     zk_engine_texts ROOT
 
-#include <ZKStrings/tools/Languages.h>
 #include <ZKStrings/tools/page/ExampleValues.h>
+#include <ZKStrings/tools/support/Languages.h>
 
 #include <algorithm>
 #include <cstddef>

@@ -37,6 +37,8 @@ TEST(Locale, ReadsTheEnvironment) {
       {{{"LANG", "es_ES.UTF-8"}, {"LANGUAGE", "ca:C"}}, "es-ES", {"ca", "en", "es-ES"}},
       {{{"LANG", "es"}, {"LANGUAGE", ":"}}, "es", {"es"}},
       {{{"LANG", "_DE.UTF-8"}, {"LANGUAGE", "fr"}}, "en", {"en"}},
+      {{{"LANG", "-DE"}}, "en", {"en"}},
+      {{{"LANG", "sr_@latin"}, {"LANGUAGE", "_:de_:-"}}, "sr-Latn", {"de", "sr-Latn"}},
       {{{"LANG", "es_ES"}, {"LANGUAGE", "_DE:.UTF-8:@latin:it"}}, "es-ES", {"it", "es-ES"}},
   };
   for (const Case& item : cases) {

@@ -58,6 +58,7 @@ TEST(StringTable, FindsTheTextThatTheFileSpells) {
       {R"("a\"b" = "\"\\\n\t\r\a\b\f\v";)", "a\"b", "\"\\\n\t\r\a\b\f\v"},
       {R"("a" = "\101\7x\0";)", "a", "A\ax\0"s},
       {R"("a" = "\U00e9\Ud83c\Udf89\Ud83c!";)", "a", "é🎉\uFFFD!"},
+      {R"("a" = "\U00e9a";)", "a", "éa"},
       {R"("a" = "\U41,\U41g\Ue9\U7ff\U1234";)", "a", "A,Agé\u07FF\u1234"},
       {R"("a" = "\Ud83c\Udf8 \Ud83c\U9";)", "a", "\uFFFD\u0DF8 \uFFFD\t"},
       {R"("a" = "\q\Ug\é\U";)", "a", "qUgéU"},

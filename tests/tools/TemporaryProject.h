@@ -1,7 +1,7 @@
 #pragma once
 
 #include <ZKStrings/tests/TemporaryDirectory.h>
-#include <ZKStrings/tools/Files.h>
+#include <ZKStrings/tools/support/Files.h>
 
 #include <string>
 #include <string_view>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <ZKStrings/tools/Catalogue.h>
 #include <ZKStrings/tools/adoption/ForeignTexts.h>
+#include <ZKStrings/tools/project/Catalogue.h>
 
 #include <cstddef>
 #include <map>

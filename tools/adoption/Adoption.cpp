@@ -1,12 +1,12 @@
-#include <ZKStrings/tools/Catalogue.h>
-#include <ZKStrings/tools/CatalogueCommands.h>
-#include <ZKStrings/tools/Characters.h>
-#include <ZKStrings/tools/Files.h>
-#include <ZKStrings/tools/Languages.h>
-#include <ZKStrings/tools/Table.h>
-#include <ZKStrings/tools/TableEditor.h>
 #include <ZKStrings/tools/adoption/AdoptedTexts.h>
 #include <ZKStrings/tools/adoption/Adoption.h>
+#include <ZKStrings/tools/authoring/CatalogueFiles.h>
+#include <ZKStrings/tools/project/Catalogue.h>
+#include <ZKStrings/tools/project/Table.h>
+#include <ZKStrings/tools/support/Characters.h>
+#include <ZKStrings/tools/support/Files.h>
+#include <ZKStrings/tools/support/Languages.h>
+#include <ZKStrings/tools/translation/TableEditor.h>
 
 #include <algorithm>
 #include <filesystem>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <ZKStrings/tools/Fault.h>
+#include <ZKStrings/tools/support/Fault.h>
 
 #include <cstddef>
 #include <string>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <ZKStrings/tools/Fault.h>
-#include <ZKStrings/tools/Position.h>
+#include <ZKStrings/tools/support/Fault.h>
+#include <ZKStrings/tools/support/Position.h>
 
 #include <map>
 #include <set>

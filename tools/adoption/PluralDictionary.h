@@ -1,7 +1,7 @@
 #pragma once
 
-#include <ZKStrings/tools/Fault.h>
 #include <ZKStrings/tools/adoption/ForeignTexts.h>
+#include <ZKStrings/tools/support/Fault.h>
 
 #include <string>
 #include <string_view>

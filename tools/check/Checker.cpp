@@ -1,13 +1,13 @@
-#include <ZKStrings/tools/Catalogue.h>
-#include <ZKStrings/tools/EnglishTexts.h>
-#include <ZKStrings/tools/EntryComments.h>
-#include <ZKStrings/tools/Languages.h>
-#include <ZKStrings/tools/TextFeatures.h>
 #include <ZKStrings/tools/check/Checker.h>
 #include <ZKStrings/tools/check/CountryRules.h>
 #include <ZKStrings/tools/check/Glossary.h>
 #include <ZKStrings/tools/check/TableRules.h>
 #include <ZKStrings/tools/check/TextRules.h>
+#include <ZKStrings/tools/project/Catalogue.h>
+#include <ZKStrings/tools/project/EnglishTexts.h>
+#include <ZKStrings/tools/project/EntryComments.h>
+#include <ZKStrings/tools/support/Languages.h>
+#include <ZKStrings/tools/texts/TextFeatures.h>
 
 #include <algorithm>
 #include <array>

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <ZKStrings/tools/Catalogue.h>
-#include <ZKStrings/tools/Fault.h>
-#include <ZKStrings/tools/Table.h>
 #include <ZKStrings/tools/check/Rule.h>
+#include <ZKStrings/tools/project/Catalogue.h>
+#include <ZKStrings/tools/project/Table.h>
+#include <ZKStrings/tools/support/Fault.h>
 
 #include <cstddef>
 #include <string>

@@ -1,8 +1,8 @@
 #include <ZKStrings/platform/formats/Json.h>
 #include <ZKStrings/platform/formats/TextEncoding.h>
-#include <ZKStrings/tools/CatalogueName.h>
-#include <ZKStrings/tools/Files.h>
 #include <ZKStrings/tools/check/CountryRules.h>
+#include <ZKStrings/tools/project/CatalogueName.h>
+#include <ZKStrings/tools/support/Files.h>
 
 #include <algorithm>
 #include <filesystem>
@@ -73,7 +73,7 @@ CountryFile CountryFile::read(const std::string& root) {
 CountryFile CountryFile::parse(const std::string& bytes) {
   const std::optional<std::string> text = decodedText(bytes, UnmarkedText::mayBeUtf16Or32);
   if (!text) return {{}, Finding{{1, 1}, "the bytes are no text; save the file as UTF-8"}};
-  std::optional<Value> content = parseJson(*text);
+  std::optional<Value> content = parseJson(bytes);
   if (!content) {
     return {{},
             Finding{positionOf(*text, firstIllFormed(*text)),

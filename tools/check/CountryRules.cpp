@@ -1,7 +1,7 @@
 #include <ZKStrings/region/Country.h>
-#include <ZKStrings/tools/Table.h>
-#include <ZKStrings/tools/TextFeatures.h>
 #include <ZKStrings/tools/check/CountryRules.h>
+#include <ZKStrings/tools/project/Table.h>
+#include <ZKStrings/tools/texts/TextFeatures.h>
 
 #include <algorithm>
 #include <cstdint>

@@ -1,8 +1,8 @@
 #pragma once
 
 #include <ZKStrings/platform/Dictionary.h>
-#include <ZKStrings/tools/Position.h>
 #include <ZKStrings/tools/check/Rule.h>
+#include <ZKStrings/tools/support/Position.h>
 
 #include <optional>
 #include <span>

@@ -1,7 +1,7 @@
-#include <ZKStrings/tools/Fault.h>
-#include <ZKStrings/tools/Files.h>
 #include <ZKStrings/tools/check/Glossary.h>
 #include <ZKStrings/tools/check/JsonPlaces.h>
+#include <ZKStrings/tools/support/Fault.h>
+#include <ZKStrings/tools/support/Files.h>
 
 #include <algorithm>
 #include <filesystem>

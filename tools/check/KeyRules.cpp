@@ -1,6 +1,6 @@
-#include <ZKStrings/tools/Languages.h>
-#include <ZKStrings/tools/Nearest.h>
 #include <ZKStrings/tools/check/TableRules.h>
+#include <ZKStrings/tools/support/Languages.h>
+#include <ZKStrings/tools/support/Nearest.h>
 
 #include <algorithm>
 #include <optional>

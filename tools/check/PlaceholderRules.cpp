@@ -1,6 +1,6 @@
-#include <ZKStrings/tools/Nearest.h>
-#include <ZKStrings/tools/Placeholders.h>
 #include <ZKStrings/tools/check/TextRules.h>
+#include <ZKStrings/tools/support/Nearest.h>
+#include <ZKStrings/tools/texts/Placeholders.h>
 
 #include <algorithm>
 #include <cstddef>

@@ -1,7 +1,7 @@
 #include <ZKStrings/platform/text/UnicodeText.h>
-#include <ZKStrings/tools/Placeholders.h>
-#include <ZKStrings/tools/TextFeatures.h>
 #include <ZKStrings/tools/check/Prose.h>
+#include <ZKStrings/tools/texts/Placeholders.h>
+#include <ZKStrings/tools/texts/TextFeatures.h>
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <ZKStrings/tools/EnglishTexts.h>
-#include <ZKStrings/tools/Table.h>
 #include <ZKStrings/tools/check/Rule.h>
+#include <ZKStrings/tools/project/EnglishTexts.h>
+#include <ZKStrings/tools/project/Table.h>
 
 #include <span>
 #include <string_view>

@@ -1,7 +1,7 @@
-#include <ZKStrings/tools/Languages.h>
-#include <ZKStrings/tools/TextFeatures.h>
 #include <ZKStrings/tools/check/EndPunctuation.h>
 #include <ZKStrings/tools/check/TextRules.h>
+#include <ZKStrings/tools/support/Languages.h>
+#include <ZKStrings/tools/texts/TextFeatures.h>
 
 #include <algorithm>
 

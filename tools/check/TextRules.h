@@ -1,10 +1,10 @@
 #pragma once
 
-#include <ZKStrings/tools/EnglishTexts.h>
-#include <ZKStrings/tools/Languages.h>
-#include <ZKStrings/tools/Table.h>
 #include <ZKStrings/tools/check/Glossary.h>
 #include <ZKStrings/tools/check/Rule.h>
+#include <ZKStrings/tools/project/EnglishTexts.h>
+#include <ZKStrings/tools/project/Table.h>
+#include <ZKStrings/tools/support/Languages.h>
 
 #include <span>
 #include <string_view>

@@ -1,8 +1,8 @@
 #include <ZKStrings/platform/text/UnicodeText.h>
-#include <ZKStrings/tools/Characters.h>
-#include <ZKStrings/tools/TextFeatures.h>
-#include <ZKStrings/tools/TranslationState.h>
 #include <ZKStrings/tools/check/TextRules.h>
+#include <ZKStrings/tools/support/Characters.h>
+#include <ZKStrings/tools/texts/TextFeatures.h>
+#include <ZKStrings/tools/translation/TranslationState.h>
 
 #include <algorithm>
 #include <array>

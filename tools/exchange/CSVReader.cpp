@@ -1,9 +1,9 @@
 #include <ZKStrings/platform/formats/TextEncoding.h>
 #include <ZKStrings/platform/text/TextSearch.h>
-#include <ZKStrings/tools/Fault.h>
-#include <ZKStrings/tools/Languages.h>
 #include <ZKStrings/tools/exchange/CSV.h>
 #include <ZKStrings/tools/exchange/CSVGuard.h>
+#include <ZKStrings/tools/support/Fault.h>
+#include <ZKStrings/tools/support/Languages.h>
 
 #include <algorithm>
 #include <cstddef>

@@ -1,11 +1,11 @@
-#include <ZKStrings/tools/Characters.h>
-#include <ZKStrings/tools/Fault.h>
-#include <ZKStrings/tools/Files.h>
-#include <ZKStrings/tools/Table.h>
 #include <ZKStrings/tools/exchange/CSV.h>
 #include <ZKStrings/tools/exchange/ExchangeFormat.h>
 #include <ZKStrings/tools/exchange/PO.h>
 #include <ZKStrings/tools/exchange/XLIFF.h>
+#include <ZKStrings/tools/project/Table.h>
+#include <ZKStrings/tools/support/Characters.h>
+#include <ZKStrings/tools/support/Fault.h>
+#include <ZKStrings/tools/support/Files.h>
 
 #include <cstdint>
 #include <filesystem>

@@ -1,9 +1,9 @@
-#include <ZKStrings/tools/Catalogue.h>
-#include <ZKStrings/tools/EnglishTexts.h>
-#include <ZKStrings/tools/Languages.h>
-#include <ZKStrings/tools/Table.h>
 #include <ZKStrings/tools/exchange/Export.h>
 #include <ZKStrings/tools/exchange/TranslatorNotes.h>
+#include <ZKStrings/tools/project/Catalogue.h>
+#include <ZKStrings/tools/project/EnglishTexts.h>
+#include <ZKStrings/tools/project/Table.h>
+#include <ZKStrings/tools/support/Languages.h>
 
 #include <utility>
 

@@ -1,11 +1,11 @@
-#include <ZKStrings/tools/Catalogue.h>
-#include <ZKStrings/tools/EnglishTexts.h>
-#include <ZKStrings/tools/Files.h>
-#include <ZKStrings/tools/Languages.h>
-#include <ZKStrings/tools/TableEditor.h>
-#include <ZKStrings/tools/TextFeatures.h>
 #include <ZKStrings/tools/check/Checker.h>
 #include <ZKStrings/tools/exchange/Import.h>
+#include <ZKStrings/tools/project/Catalogue.h>
+#include <ZKStrings/tools/project/EnglishTexts.h>
+#include <ZKStrings/tools/support/Files.h>
+#include <ZKStrings/tools/support/Languages.h>
+#include <ZKStrings/tools/texts/TextFeatures.h>
+#include <ZKStrings/tools/translation/TableEditor.h>
 
 #include <algorithm>
 #include <map>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <ZKStrings/tools/Fault.h>
 #include <ZKStrings/tools/exchange/Translations.h>
+#include <ZKStrings/tools/support/Fault.h>
 
 #include <cstddef>
 #include <string>

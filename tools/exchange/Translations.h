@@ -1,7 +1,7 @@
 #pragma once
 
-#include <ZKStrings/tools/Position.h>
-#include <ZKStrings/tools/TranslationState.h>
+#include <ZKStrings/tools/support/Position.h>
+#include <ZKStrings/tools/translation/TranslationState.h>
 
 #include <string>
 #include <vector>

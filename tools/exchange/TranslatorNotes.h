@@ -1,6 +1,6 @@
 #pragma once
 
-#include <ZKStrings/tools/EnglishTexts.h>
+#include <ZKStrings/tools/project/EnglishTexts.h>
 
 #include <string>
 #include <vector>

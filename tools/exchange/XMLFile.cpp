@@ -1,7 +1,7 @@
 #include <ZKStrings/platform/formats/TextEncoding.h>
-#include <ZKStrings/tools/Characters.h>
-#include <ZKStrings/tools/Fault.h>
 #include <ZKStrings/tools/exchange/XMLFile.h>
+#include <ZKStrings/tools/support/Characters.h>
+#include <ZKStrings/tools/support/Fault.h>
 
 #include <algorithm>
 #include <cstddef>

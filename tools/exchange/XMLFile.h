@@ -1,6 +1,6 @@
 #pragma once
 
-#include <ZKStrings/tools/Position.h>
+#include <ZKStrings/tools/support/Position.h>
 
 #include <string>
 #include <string_view>

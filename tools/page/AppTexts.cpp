@@ -2,9 +2,9 @@
 #include <ZKStrings/engine/LanguageChoice.h>
 #include <ZKStrings/engine/PlaceholderSubstitution.h>
 #include <ZKStrings/engine/PluralSuffix.h>
-#include <ZKStrings/tools/Fault.h>
-#include <ZKStrings/tools/Languages.h>
 #include <ZKStrings/tools/page/AppTexts.h>
+#include <ZKStrings/tools/support/Fault.h>
+#include <ZKStrings/tools/support/Languages.h>
 
 namespace zk::tools {
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <ZKStrings/platform/Bundle.h>
-#include <ZKStrings/tools/Catalogue.h>
+#include <ZKStrings/tools/project/Catalogue.h>
 
 #include <cstdint>
 #include <optional>

@@ -1,5 +1,5 @@
-#include <ZKStrings/tools/Placeholders.h>
 #include <ZKStrings/tools/page/ExampleValues.h>
+#include <ZKStrings/tools/texts/Placeholders.h>
 
 #include <algorithm>
 #include <iterator>

@@ -1,6 +1,6 @@
 #include <ZKStrings/platform/text/UnicodeText.h>
-#include <ZKStrings/tools/Languages.h>
 #include <ZKStrings/tools/page/LanguageName.h>
+#include <ZKStrings/tools/support/Languages.h>
 
 #include <unicode/locid.h>
 #include <unicode/unistr.h>

@@ -1,12 +1,12 @@
-#include <ZKStrings/tools/AccessorGenerator.h>
-#include <ZKStrings/tools/EnglishTexts.h>
-#include <ZKStrings/tools/Languages.h>
-#include <ZKStrings/tools/TextSize.h>
-#include <ZKStrings/tools/TranslationState.h>
+#include <ZKStrings/tools/authoring/AccessorGenerator.h>
 #include <ZKStrings/tools/check/Checker.h>
 #include <ZKStrings/tools/page/ExampleValues.h>
 #include <ZKStrings/tools/page/LanguageName.h>
 #include <ZKStrings/tools/page/PageData.h>
+#include <ZKStrings/tools/project/EnglishTexts.h>
+#include <ZKStrings/tools/support/Languages.h>
+#include <ZKStrings/tools/texts/TextSize.h>
+#include <ZKStrings/tools/translation/TranslationState.h>
 
 #include <algorithm>
 #include <cstddef>

@@ -1,11 +1,11 @@
-#include <ZKStrings/tools/Catalogue.h>
-#include <ZKStrings/tools/Fault.h>
-#include <ZKStrings/tools/Files.h>
-#include <ZKStrings/tools/Languages.h>
 #include <ZKStrings/tools/check/Checker.h>
+#include <ZKStrings/tools/project/Catalogue.h>
 #include <ZKStrings/tools/reference/Completion.h>
 #include <ZKStrings/tools/reference/ManPage.h>
 #include <ZKStrings/tools/reference/ReferenceCommand.h>
+#include <ZKStrings/tools/support/Fault.h>
+#include <ZKStrings/tools/support/Files.h>
+#include <ZKStrings/tools/support/Languages.h>
 
 #include <algorithm>
 #include <string_view>

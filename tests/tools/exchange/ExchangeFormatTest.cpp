@@ -1,8 +1,8 @@
 #include <ZKStrings/tests/TemporaryDirectory.h>
-#include <ZKStrings/tools/Fault.h>
-#include <ZKStrings/tools/Languages.h>
 #include <ZKStrings/tools/exchange/ExchangeFormat.h>
 #include <ZKStrings/tools/exchange/Export.h>
+#include <ZKStrings/tools/support/Fault.h>
+#include <ZKStrings/tools/support/Languages.h>
 
 #include <filesystem>
 #include <string>

@@ -1,0 +1,53 @@
+#include <ZKStrings/tests/TemporaryDirectory.h>
+#include <ZKStrings/tools/support/Fault.h>
+#include <ZKStrings/tools/support/Files.h>
+
+#include <filesystem>
+#include <string>
+
+#include <gtest/gtest.h>
+
+namespace zk::tools {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::size_t filesIn(const std::string& directory) {
+  std::size_t files = 0;
+  for (const auto& entry : fs::recursive_directory_iterator(directory))
+    files += entry.is_regular_file() ? 1U : 0U;
+  return files;
+}
+
+TEST(Files, AreAllChangedOrNone) {
+  const zk::testing::TemporaryDirectory project;
+  project.write("a", "old a");
+  project.write("folder/inside", "x");
+  // What stands where a file should go, or where its folder should: a folder, a file.
+  for (const char* obstacle : {"folder", "a/below"}) {
+    EXPECT_THROW(writeFiles(project.path(),
+                            {{"a", "new a"}, {"deep/er/b", "new b"}, {"deep/c", "c"}, {obstacle, "d"}}),
+                 CommandFailed);
+    EXPECT_EQ(readFile(project.path(), "a"), "old a") << obstacle;
+    EXPECT_EQ(filesIn(project.path()), 2u) << obstacle;
+    EXPECT_FALSE(fs::exists(project.path() + "/deep")) << obstacle;
+  }
+  writeFiles(project.path(), {{"a", "new a"}, {"deep/er/b", "new b"}});
+  EXPECT_EQ(readFile(project.path(), "a") + readFile(project.path(), "deep/er/b"), "new anew b");
+  EXPECT_EQ(filesIn(project.path()), 3u);
+}
+
+TEST(Files, KeepTheirPermissionsAndLinks) {
+  const zk::testing::TemporaryDirectory project;
+  project.write("real", "old");
+  const auto permissions = fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_write;
+  fs::permissions(project.path() + "/real", permissions);
+  fs::create_symlink("real", project.path() + "/link");
+  writeFile(project.path(), "link", "new");
+  EXPECT_TRUE(fs::is_symlink(project.path() + "/link"));
+  EXPECT_EQ(readFile(project.path(), "real"), "new");
+  EXPECT_EQ(fs::status(project.path() + "/real").permissions(), permissions);
+}
+
+}  // namespace
+}  // namespace zk::tools

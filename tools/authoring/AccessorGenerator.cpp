@@ -1,0 +1,162 @@
+#include <ZKStrings/tools/authoring/AccessorGenerator.h>
+#include <ZKStrings/tools/project/Identifiers.h>
+
+#include <iterator>
+#include <string_view>
+#include <vector>
+
+#include <fmt/format.h>
+
+namespace zk::tools {
+
+namespace {
+
+constexpr std::string_view kCounts[] = {"0", "1", "2", "3 to 5", "6 and more"};
+
+constexpr const char* kNotice =
+    "// Generated from catalogue/entries.json by `zkstrings generate`. Do not edit: change the catalogue "
+    "instead.\n"
+    "// clang-format off\n";
+
+constexpr const char* kHeaderBegin = R"(#pragma once
+
+{notice}
+#include <cstdint>
+#include <string>
+
+#include <ZKStrings/engine/Text.h>
+#include <ZKStrings/platform/Export.h>
+{opening}
+/// The catalogue: one accessor for each text of the app, named as the entry's key, giving the text in the user's
+/// language. Text arguments (a literal, a `std::string`, a `std::string_view`) fill the placeholders of the same name;
+/// `count`, the last argument of counted entries, chooses the plural form and is filled in nowhere. Each comment shows
+/// the English text.
+///
+{example}/// Any thread may call any accessor, once `zk::Current::language` has been assigned.
+struct ZK_EXPORT {name} {{
+  {name}() = delete;
+)";
+
+constexpr const char* kModuleExample =
+    R"(///     std::string title = zk::ZKStrings::badgeCount_Badges("4", 4);
+///
+)";
+
+constexpr const char* kModuleSourceBegin = R"({notice}
+#include <ZKStrings/catalogue/{name}.h>
+
+#include <ZKStrings/catalogue/EntryText.h>
+{opening})";
+
+constexpr const char* kSourceBegin = R"({notice}
+#include "{name}.h"
+
+#include <optional>
+#include <system_error>
+
+#include <ZKStrings/engine/StringLookup.h>
+#include <ZKStrings/platform/Bundle.h>
+
+namespace {{
+
+/// The tables: share/{name} at or above the directory of the file that holds this code, two levels up at
+/// most. Null while they cannot be opened for the moment.
+struct {name}Resources {{
+  static const zk::Bundle* bundle() {{
+    try {{
+      static const zk::Bundle& found = zk::Bundle::bundleForClass(typeid({name}Resources), "{name}");
+      return &found;
+    }} catch (const std::system_error&) {{
+      return nullptr;
+    }}
+  }}
+}};
+
+}}  // namespace
+{opening})";
+
+std::string begin(const char* format, const CatalogueName& catalogue) {
+  const std::string opening =
+      catalogue.nameSpace.empty() ? "" : fmt::format("\nnamespace {} {{\n", catalogue.nameSpace);
+  return fmt::format(fmt::runtime(format), fmt::arg("notice", kNotice), fmt::arg("name", catalogue.name),
+                     fmt::arg("opening", opening),
+                     fmt::arg("example", catalogue.isModule() ? kModuleExample : ""));
+}
+
+std::string end(const CatalogueName& catalogue) {
+  return catalogue.nameSpace.empty() ? "" : fmt::format("\n}}  // namespace {}\n", catalogue.nameSpace);
+}
+
+/// The name of the accessor; that of the class would be its constructor's.
+std::string accessorOf(const Entry& entry, const CatalogueName& catalogue) {
+  const std::string name = identifierFor(entry.key);
+  return name == catalogue.name ? name + "_" : name;
+}
+
+std::string parametersOf(const Entry& entry, const CatalogueName& catalogue) {
+  std::vector<std::string> parameters;
+  for (const std::string_view name : placeholderNames(entry.text)) {
+    parameters.push_back((catalogue.isModule() ? "Text " : "::zk::Text ") + identifierFor(name));
+  }
+  if (entry.plural) parameters.push_back("std::int64_t count");
+  return fmt::format("{}", fmt::join(parameters, ", "));
+}
+
+std::string substitutionsOf(const Entry& entry) {
+  std::vector<std::string> pairs;
+  for (const std::string_view name : placeholderNames(entry.text)) {
+    pairs.push_back(fmt::format("{{\"{}\", {}}}", name, identifierFor(name)));
+  }
+  return fmt::format("{{{}}}", fmt::join(pairs, ", "));
+}
+
+/// The call that gives the entry's text: the module's own is the shorter one, since it is made so often.
+std::string lookupOf(const Entry& entry, const CatalogueName& catalogue) {
+  const std::string texts = fmt::format("\"{}\", \"{}\"", escaped(entry.key), escaped(entry.text));
+  const std::string substitutions = substitutionsOf(entry);
+  if (!catalogue.isModule()) {
+    return fmt::format("::zk::localizedString({}Resources::bundle(), {}, {}, {})", catalogue.name, texts,
+                       entry.plural ? "count" : "std::nullopt", substitutions);
+  }
+  return fmt::format("entryText({}{}{})", texts, entry.plural ? ", count" : "",
+                     substitutions == "{}" ? "" : ", " + substitutions);
+}
+
+std::string commentOf(const Entry& entry, const Table& base) {
+  std::string comment = fmt::format("  /// \"{}\"\n", escaped(entry.text));
+  if (!entry.plural) return comment;
+  for (std::size_t form = 0; form < std::size(kPluralSuffixes); ++form) {
+    const TableEntry* const text = base.find(std::string(entry.key).append(kPluralSuffixes[form]));
+    if (text) comment += fmt::format("  /// - {}: \"{}\"\n", kCounts[form], escaped(text->text));
+  }
+  return comment;
+}
+
+}  // namespace
+
+Accessors generateAccessors(const Catalogue& catalogue, const Table& base, const CatalogueName& name) {
+  Accessors accessors{begin(kHeaderBegin, name),
+                      begin(name.isModule() ? kModuleSourceBegin : kSourceBegin, name)};
+  for (const Entry& entry : catalogue.entries()) {
+    const std::string accessor = accessorOf(entry, name);
+    const std::string parameters = parametersOf(entry, name);
+    accessors.header += fmt::format("\n{}  [[nodiscard]] static std::string {}({});\n",
+                                    commentOf(entry, base), accessor, parameters);
+    accessors.source += fmt::format("\nstd::string {}::{}({}) {{\n  return {};\n}}\n", name.name, accessor,
+                                    parameters, lookupOf(entry, name));
+  }
+  accessors.header += "};\n" + end(name);
+  accessors.source += end(name);
+  return accessors;
+}
+
+std::string accessorCall(const Entry& entry, const CatalogueName& name) {
+  std::vector<std::string> arguments;
+  for (const std::string_view placeholder : placeholderNames(entry.text))
+    arguments.push_back(identifierFor(placeholder));
+  if (entry.plural) arguments.emplace_back("count");
+  return fmt::format("{}{}{}::{}({})", name.nameSpace, name.nameSpace.empty() ? "" : "::", name.name,
+                     accessorOf(entry, name), fmt::join(arguments, ", "));
+}
+
+}  // namespace zk::tools

@@ -1,0 +1,79 @@
+#include <ZKStrings/tools/authoring/Initialisation.h>
+#include <ZKStrings/tools/project/Catalogue.h>
+#include <ZKStrings/tools/project/Table.h>
+#include <ZKStrings/tools/support/Files.h>
+#include <ZKStrings/tools/support/Languages.h>
+
+#include <filesystem>
+#include <stdexcept>
+#include <system_error>
+
+#include <fmt/format.h>
+
+namespace zk::tools {
+
+namespace {
+
+constexpr const char* kEntries = R"([
+  {"key": "Hello_name", "text": "Hello, %{name}!"},
+  {"key": "messages_new_messages", "text": "%{messages} new messages", "plural": true}
+]
+)";
+
+constexpr const char* kEnglish = R"(/* English, the language that all others are translated from. */
+
+"Hello_name" = "Hello, %{name}!";
+"messages_new_messages_zero" = "No new messages";
+"messages_new_messages_one" = "%{messages} new message";
+"messages_new_messages_two" = "%{messages} new messages";
+"messages_new_messages_few" = "%{messages} new messages";
+"messages_new_messages_many" = "%{messages} new messages";
+)";
+
+constexpr const char* kReadme = R"(# {name}
+
+The texts of the program. `catalogue/entries.json` lists them with their English; `resources/` has one table a language.
+
+    zkstrings add 'Bye, %{{name}}!'     a new text; the program calls {call}Bye_name(name)
+    zkstrings add --count '%{{n}} stars' --one '%{{n}} star'      one with plural forms
+    zkstrings template de              begins the table of a language, here German
+    zkstrings check                    says what is wrong or missing in the tables
+
+In CMake: `zk_add_catalogue(TARGET {target} ROOT <this folder>)` makes a library of the functions.
+)";
+
+std::string readmeFor(const CatalogueName& name) {
+  const std::string scope = name.nameSpace.empty() ? "" : name.nameSpace + "::";
+  std::string target = name.name;
+  for (char& letter : target)
+    letter = letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter + 32) : letter;
+  return fmt::format(fmt::runtime(kReadme), fmt::arg("name", name.name), fmt::arg("target", target),
+                     fmt::arg("call", scope + name.name + "::"));
+}
+
+/// Throws when one of the files of a new catalogue is there already.
+void refuseToReplace(const std::string& directory, const std::vector<FileChange>& files) {
+  Faults faults;
+  for (const FileChange& file : files) {
+    const std::filesystem::path path = std::filesystem::path(directory) / file.path;
+    std::error_code failure;
+    if (std::filesystem::exists(path, failure))
+      faults.push_back({Severity::error, path.string(), 1, 1, "",
+                        "the file is there already; name another folder for a new catalogue"});
+  }
+  if (!faults.empty()) throw CommandFailed{faults};
+}
+
+}  // namespace
+
+void initCatalogue(const std::string& directory, const CatalogueName& name) {
+  if (const std::string fault = name.fault(); !fault.empty()) throw std::invalid_argument(fault);
+  const std::vector<FileChange> files = {{CatalogueName::kFile, name.toJson()},
+                                         {Catalogue::kFile, kEntries},
+                                         {tablePath(kBase), kEnglish},
+                                         {"README.md", readmeFor(name)}};
+  refuseToReplace(directory, files);
+  writeFiles(directory, files);
+}
+
+}  // namespace zk::tools

@@ -1,0 +1,200 @@
+#include <ZKStrings/tools/check/Checker.h>
+#include <ZKStrings/tools/command/TranslationCommandLine.h>
+#include <ZKStrings/tools/project/Table.h>
+#include <ZKStrings/tools/support/Characters.h>
+#include <ZKStrings/tools/support/Languages.h>
+#include <ZKStrings/tools/support/Nearest.h>
+#include <ZKStrings/tools/translation/Coverage.h>
+#include <ZKStrings/tools/translation/TableUpdate.h>
+#include <ZKStrings/tools/translation/Template.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <memory>
+#include <optional>
+
+#include <CLI/CLI.hpp>
+#include <fmt/format.h>
+#include <unistd.h>
+
+namespace zk::tools {
+
+namespace {
+
+constexpr const char* kText = "text";
+constexpr const char* kJson = "json";
+
+void addFormat(CLI::App& command, std::string& format) {
+  command.add_option("--format", format, "How to print: text or json")
+      ->check(CLI::IsMember({kText, kJson}))
+      ->default_val(kText);
+}
+
+void printRules() {
+  for (const auto& [name, severity, summary] : checkRules()) {
+    constexpr std::size_t kIndent = 32;
+    fmt::print("{:<22} {:<8} {}\n", name, nameOf(severity),
+               wrapped(summary, kTerminalWidth - kIndent, kIndent));
+  }
+}
+
+/// Refuses what is no rule's name, with the nearest that is.
+CLI::Validator isRule() {
+  const auto refusal = [](const std::string& name) -> std::string {
+    const std::vector<Rule> rules = checkRules();
+    const auto isMeant = [&](const Rule& rule) { return rule.name == name; };
+    if (std::any_of(rules.begin(), rules.end(), isMeant)) return "";
+    std::vector<std::string_view> names;
+    for (const Rule& rule : rules) names.push_back(rule.name);
+    const std::optional<std::string_view> meant = nearest(name, names);
+    return fmt::format(
+        "\"{}\" is no rule; {}", name,
+        meant ? fmt::format("write \"{}\" if that is meant", *meant) : "zkstrings check --rules lists them");
+  };
+  return {refusal, ""};
+}
+
+/// "2 warnings"; nothing for none.
+void addCount(std::vector<std::string>& counts, std::size_t count, std::string_view singular,
+              std::string_view plural) {
+  if (count > 0) counts.push_back(fmt::format("{} {}", count, count == 1 ? singular : plural));
+}
+
+/// "13 tables, 246 countries: 1 error, 2 gaps".
+std::string summaryOf(const CheckResult& result) {
+  const auto count = [&](Severity severity) {
+    return static_cast<std::size_t>(
+        std::count_if(result.faults.begin(), result.faults.end(),
+                      [&](const Fault& fault) { return fault.severity == severity; }));
+  };
+  std::vector<std::string> checked;
+  addCount(checked, result.tables, "table", "tables");
+  addCount(checked, result.countries, "country", "countries");
+  std::vector<std::string> found;
+  addCount(found, count(Severity::error), "error", "errors");
+  addCount(found, count(Severity::warning), "warning", "warnings");
+  if (found.empty()) found.emplace_back("nothing to mend");
+  addCount(found, count(Severity::gap), "gap", "gaps");
+  addCount(found, count(Severity::note), "note", "notes");
+  return fmt::format("{}: {}", fmt::join(checked, ", "), fmt::join(found, ", "));
+}
+
+void print(const Faults& faults) {
+  const bool coloured = takesColours(stdout);
+  for (const Fault& fault : faults) fmt::print("{}\n", formatted(fault, coloured));
+}
+
+void print(const CheckResult& result, const std::string& format) {
+  if (format == kJson) {
+    fmt::print("{}\n", toJson(result.faults));
+    return;
+  }
+  print(result.faults);
+  if (isatty(STDOUT_FILENO) == 1) fmt::print("{}\n", summaryOf(result));
+}
+
+/// "added 3 texts to translate, removed 1 entry".
+std::string summaryOf(const TableUpdate& update) {
+  std::vector<std::string> done;
+  const auto add = [&](std::string_view verb, std::size_t count, std::string_view singular,
+                       std::string_view plural) {
+    addCount(done, count, singular, plural);
+    if (count > 0) done.back().insert(0, std::string(verb) + " ");
+  };
+  add("added", update.added, "text to translate", "texts to translate");
+  add("marked", update.marked, "text as untranslated", "texts as untranslated");
+  add("unmarked", update.unmarked, "translated text", "translated texts");
+  add("removed", update.removed, "entry that nothing looks up", "entries that nothing looks up");
+  return fmt::format("{}", fmt::join(done, ", "));
+}
+
+}  // namespace
+
+void addCheckCommand(CLI::App& app, const RootFinder& inRoot, int& status) {
+  struct Arguments {
+    CheckOptions options;
+    std::string format;
+    bool isStrict = false;
+    bool isForRelease = false;
+    bool showsRules = false;
+  };
+  const auto arguments = std::make_shared<Arguments>();
+  auto* const command =
+      app.add_subcommand("check", "Say all that is wrong with the tables and the country list");
+  command
+      ->add_option("languages", arguments->options.languages,
+                   "The languages to check (codes, names or tables); without any, everything")
+      ->type_name("LANGUAGE");
+  command->add_option("--off", arguments->options.off, "A rule to switch off; may be given again")
+      ->allow_extra_args(false)
+      ->check(isRule())
+      ->type_name("RULE");
+  command->add_flag("--strict", arguments->isStrict, "Fail on warnings as well");
+  command->add_flag("--complete", arguments->isForRelease,
+                    "Fail on gaps as well, texts that are not translated yet: for a release");
+  command->add_flag("--notes", arguments->options.notes, "Show also what may be right, but is worth a look");
+  command->add_flag("--rules", arguments->showsRules, "List the rules instead");
+  addFormat(*command, arguments->format);
+  command->footer("Example: zkstrings check de --strict");
+  command->callback([arguments, inRoot, &status] {
+    if (arguments->showsRules) return printRules();
+    const std::string root = inRoot();
+    for (std::string& language : arguments->options.languages) language = existingLanguage(root, language);
+    const CheckResult result = check(root, arguments->options);
+    print(result, arguments->format);
+    const auto fails = [&](const Fault& fault) {
+      return fault.severity == Severity::error ||
+             (fault.severity == Severity::warning && arguments->isStrict) ||
+             (fault.severity == Severity::gap && arguments->isForRelease);
+    };
+    status = std::any_of(result.faults.begin(), result.faults.end(), fails) ? 1 : 0;
+  });
+}
+
+void addCoverageCommand(CLI::App& app, const RootFinder& inRoot) {
+  const auto format = std::make_shared<std::string>();
+  auto* const command =
+      app.add_subcommand("coverage", "Show how far the translations of each language have come");
+  addFormat(*command, *format);
+  command->footer("Example: zkstrings coverage");
+  command->callback([format, inRoot] {
+    const std::vector<Coverage> languages = coverageOf(inRoot());
+    fmt::print("{}", *format == kJson ? toJson(languages) + "\n" : formatted(languages));
+  });
+}
+
+void addTemplateCommand(CLI::App& app, const RootFinder& inRoot) {
+  const auto language = std::make_shared<std::string>();
+  auto* const command = app.add_subcommand("template", "Write the table from which a new language begins");
+  command->add_option("language", *language, "The language's ISO 639-1 code")->required()->type_name("CODE");
+  command->footer("Example: zkstrings template fi");
+  command->callback([language, inRoot] {
+    const std::size_t texts = writeTemplate(inRoot(), *language);
+    fmt::print("Wrote {} with {} texts to translate.\n", tablePath(*language), texts);
+  });
+}
+
+void addUpdateCommand(CLI::App& app, const RootFinder& inRoot) {
+  struct Arguments {
+    std::string language;
+    bool prunes = false;
+  };
+  const auto arguments = std::make_shared<Arguments>();
+  auto* const command = app.add_subcommand(
+      "update", "Add what a language's table lacks, in English, and mark what is still in English");
+  command->add_option("language", arguments->language, "The language: its code, name or table")
+      ->required()
+      ->type_name("LANGUAGE");
+  command->add_flag("--prune", arguments->prunes, "Remove the entries that nothing looks up");
+  command->footer("Example: zkstrings update de");
+  command->callback([arguments, inRoot] {
+    const std::string root = inRoot();
+    const std::string language = existingLanguage(root, arguments->language);
+    const TableUpdate update = updateTable(root, language, arguments->prunes);
+    print(update.notLookedUp);
+    fmt::print("{}: {}\n", tablePath(language),
+               update.isChange() ? summaryOf(update) : "up to date, nothing changed");
+  });
+}
+
+}  // namespace zk::tools

@@ -1,0 +1,217 @@
+#include <ZKStrings/platform/text/UnicodeText.h>
+#include <ZKStrings/tools/layout/PseudoLanguages.h>
+#include <ZKStrings/tools/project/Table.h>
+#include <ZKStrings/tools/support/Fault.h>
+#include <ZKStrings/tools/support/Files.h>
+#include <ZKStrings/tools/support/Languages.h>
+#include <ZKStrings/tools/texts/Placeholders.h>
+#include <ZKStrings/tools/texts/TextFeatures.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <filesystem>
+#include <system_error>
+#include <vector>
+
+#include <fmt/format.h>
+
+namespace zk::tools {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr std::string_view kAccentedSmall[] = {"å", "ƀ", "ç", "đ", "é", "ƒ", "ĝ", "ĥ", "î",
+                                               "ĵ", "ķ", "ļ", "ɱ", "ñ", "ö", "þ", "ǫ", "ŕ",
+                                               "š", "ţ", "û", "ṽ", "ŵ", "ẋ", "ý", "ž"};
+constexpr std::string_view kAccentedCapital[] = {"Å", "Ɓ", "Ç", "Đ", "É", "Ƒ", "Ĝ", "Ĥ", "Î",
+                                                 "Ĵ", "Ķ", "Ļ", "Ḿ", "Ñ", "Ö", "Þ", "Ǫ", "Ŕ",
+                                                 "Š", "Ţ", "Û", "Ṽ", "Ŵ", "Ẋ", "Ý", "Ž"};
+
+constexpr std::string_view kVowels = "aeiouAEIOU";
+constexpr std::string_view kLetters = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ";
+
+constexpr std::string_view kRightToLeftMark = "\u200F";
+constexpr std::string_view kRightToLeftOverride = "\u202E";
+constexpr std::string_view kEndOfOverride = "\u202C";
+
+/// A part of a text: one that readers see as letters, or a placeholder, mark or line break.
+struct Piece {
+  std::string_view text;
+  bool isPlain;
+};
+
+std::size_t sizeOfMark(std::string_view text) {
+  for (const std::string_view mark : {"<b>", "</b>", "*", "\n"}) {
+    if (text.starts_with(mark)) return mark.size();
+  }
+  return 0;
+}
+
+void addPlain(std::string_view text, std::vector<Piece>& pieces) {
+  std::size_t begin = 0;
+  for (std::size_t at = 0; at < text.size();) {
+    const std::size_t mark = sizeOfMark(text.substr(at));
+    if (mark > 0) {
+      if (at > begin) pieces.push_back({text.substr(begin, at - begin), true});
+      pieces.push_back({text.substr(at, mark), false});
+      begin = at + mark;
+    }
+    at += std::max<std::size_t>(mark, 1);
+  }
+  if (begin < text.size()) pieces.push_back({text.substr(begin), true});
+}
+
+std::vector<Piece> piecesOf(std::string_view text) {
+  std::vector<Piece> pieces;
+  std::size_t begin = 0;
+  for (const PlaceholderUse& use : placeholderUses(text)) {
+    if (!use.isRight) continue;
+    addPlain(text.substr(begin, use.offset - begin), pieces);
+    pieces.push_back({use.spelled, false});
+    begin = use.offset + use.spelled.size();
+  }
+  addPlain(text.substr(begin), pieces);
+  return pieces;
+}
+
+/// `text` without the white space at its ends, which `around` then puts around what is made of it.
+template <class Make>
+std::string withinSpaces(std::string_view text, const Make& make) {
+  constexpr std::string_view kSpaces = " \t\n";
+  const std::size_t begin = std::min(text.find_first_not_of(kSpaces), text.size());
+  const std::size_t end = std::max(text.find_last_not_of(kSpaces) + 1, begin);
+  return std::string(text.substr(0, begin)) + make(text.substr(begin, end - begin)) +
+         std::string(text.substr(end));
+}
+
+std::string accented(char letter) {
+  if (letter >= 'a' && letter <= 'z') return std::string(kAccentedSmall[letter - 'a']);
+  if (letter >= 'A' && letter <= 'Z') return std::string(kAccentedCapital[letter - 'A']);
+  return {letter};
+}
+
+/// The letters that are repeated to make a text longer: its vowels, or all of them when it has none.
+std::string_view stretchable(const std::vector<Piece>& pieces) {
+  const auto hasVowel = [](const Piece& piece) {
+    return piece.isPlain && piece.text.find_first_of(kVowels) != std::string_view::npos;
+  };
+  return std::any_of(pieces.begin(), pieces.end(), hasVowel) ? kVowels : kLetters;
+}
+
+std::size_t countOfAny(std::string_view text, std::string_view letters) {
+  return static_cast<std::size_t>(std::count_if(
+      text.begin(), text.end(), [&](char letter) { return letters.find(letter) != std::string_view::npos; }));
+}
+
+std::string accentedAndLonger(std::string_view text) {
+  const std::vector<Piece> pieces = piecesOf(text);
+  const std::string_view stretched = stretchable(pieces);
+  std::size_t bytes = 0;
+  std::size_t places = 0;
+  for (const Piece& piece : pieces) {
+    if (!piece.isPlain) continue;
+    bytes += piece.text.size();
+    places += countOfAny(piece.text, stretched);
+  }
+  const std::size_t extra = (bytes + 2) / 3;
+  std::string result;
+  std::size_t place = 0;
+  for (const Piece& piece : pieces) {
+    if (!piece.isPlain) result += piece.text;
+    if (!piece.isPlain) continue;
+    for (const char letter : piece.text) {
+      result += accented(letter);
+      if (stretched.find(letter) == std::string_view::npos) continue;
+      const std::size_t copies = (place + 1) * extra / places - place * extra / places;
+      for (std::size_t i = 0; i < copies; ++i) result += accented(letter);
+      ++place;
+    }
+  }
+  return result;
+}
+
+/// Each word of `text` with marks that turn it around.
+std::string turnedAround(std::string_view text) {
+  std::string result;
+  while (!text.empty()) {
+    const std::size_t space = std::min(text.find_first_not_of(' '), text.size());
+    const std::size_t end = std::min(text.find(' ', space), text.size());
+    result += text.substr(0, space);
+    if (end > space) {
+      result.append(kRightToLeftOverride).append(text.substr(space, end - space)).append(kEndOfOverride);
+    }
+    text.remove_prefix(end);
+  }
+  return result;
+}
+
+std::string nameOfForm(const EnglishText& english) {
+  return english.suffix.empty() ? "" : " ·" + std::string(english.suffix.substr(1));
+}
+
+std::string tableOf(const EnglishTexts& english, std::string (*make)(const EnglishText&)) {
+  std::string table;
+  for (const EnglishText& text : english.all()) table += tableLine(text.key, make(text));
+  return table;
+}
+
+[[noreturn]] void fail(const std::string& directory, std::string message) {
+  throw CommandFailed{{{Severity::error, directory, 1, 1, "", std::move(message)}}};
+}
+
+/// `directory`, once it is known not to lie in the project's own resources, by whatever links.
+void refuseShipped(const fs::path& resources, const std::string& directory) {
+  std::error_code failure;
+  const fs::path shipped = fs::canonical(resources, failure);
+  for (fs::path folder = fs::weakly_canonical(fs::absolute(directory), failure); !failure;
+       folder = folder.parent_path()) {
+    if (folder == shipped) {
+      fail(directory,
+           "these resources are shipped, where nobody may find a pretend language; name the folder of "
+           "another build or installation");
+    }
+    if (folder == folder.parent_path()) return;
+  }
+}
+
+}  // namespace
+
+std::string accentedText(const EnglishText& english) {
+  return withinSpaces(english.text, [&](std::string_view text) {
+    return "⟦" + accentedAndLonger(text) + nameOfForm(english) + "⟧";
+  });
+}
+
+std::string mirroredText(const EnglishText& english) {
+  const std::string mark(kRightToLeftMark);
+  return withinSpaces(english.text, [&](std::string_view text) {
+    std::string result = mark;
+    for (const Piece& piece : piecesOf(text)) {
+      if (piece.text == "\n") {
+        result += mark + "\n" + mark;
+      } else {
+        result += piece.isPlain ? turnedAround(piece.text) : std::string(piece.text);
+      }
+    }
+    return result + turnedAround(nameOfForm(english)) + mark;
+  });
+}
+
+void writePseudoLanguages(const std::string& root, const std::string& directory) {
+  const fs::path resources = fs::path(root) / "resources";
+  refuseShipped(resources, directory);
+  const Catalogue catalogue = Catalogue::read(root);
+  const EnglishTexts english(catalogue, Table::readWellFormed(root, kBase));
+  std::error_code failure;
+  fs::create_directories(directory, failure);
+  if (!failure) {
+    fs::copy(resources, directory, fs::copy_options::recursive | fs::copy_options::update_existing, failure);
+  }
+  if (failure)
+    fail(directory, "the resources cannot be written; see that the folder may be written and has room");
+  writeFiles(directory, {{"xa.lproj/Localizable.strings", tableOf(english, accentedText)},
+                         {"xb.lproj/Localizable.strings", tableOf(english, mirroredText)}});
+}
+
+}  // namespace zk::tools

@@ -1,0 +1,238 @@
+#include <ZKStrings/catalogue/KeyRule.h>
+#include <ZKStrings/tools/project/Catalogue.h>
+#include <ZKStrings/tools/project/Identifiers.h>
+#include <ZKStrings/tools/support/Characters.h>
+#include <ZKStrings/tools/support/Files.h>
+#include <ZKStrings/tools/support/Position.h>
+
+#include <algorithm>
+#include <array>
+#include <map>
+#include <set>
+#include <utility>
+
+#include <fmt/format.h>
+#include <nlohmann/json.hpp>
+
+namespace zk::tools {
+
+namespace {
+
+constexpr std::pair<Entry::Kept, const char*> kKeptNames[] = {{Entry::Kept::key, "key"},
+                                                              {Entry::Kept::place, "place"}};
+
+constexpr const char* kNoObject = R"(the line is no JSON object; write {"key": "...", "text": "..."})";
+
+/// Reads the lines of entries.json into entries and collects what is wrong with each by itself.
+class Reader {
+ public:
+  Reader(std::string file, Faults& faults) : file_(std::move(file)), faults_(faults) {}
+
+  std::vector<Entry> read(std::string_view json) {
+    const std::vector<std::string_view> lines = linesOf(json);
+    std::vector<Entry> entries;
+    if (lines.size() < 2 || lines.front() != "[" || lines.back() != "]") {
+      fail(1, 1, "the file is no list of entries; write \"[\", one entry a line, \"]\"");
+      return entries;
+    }
+    for (line_ = 2; line_ < lines.size(); ++line_) {
+      if (std::optional<Entry> entry = readLine(lines[line_ - 1], line_ + 1 == lines.size())) {
+        entries.push_back(*std::move(entry));
+      }
+    }
+    return entries;
+  }
+
+ private:
+  void fail(std::size_t line, std::size_t column, std::string message) {
+    faults_.push_back({Severity::error, file_, line, column, "", std::move(message)});
+  }
+
+  std::optional<Entry> readLine(std::string_view line, bool isLast) {
+    const bool hasComma = line.ends_with(',');
+    if (hasComma) line.remove_suffix(1);
+    if (hasComma == isLast) {
+      fail(line_, positionOf(line, line.size()).column,
+           isLast ? "a comma behind the last entry; remove it" : "no comma behind the entry; add one");
+    }
+    try {
+      return entryFrom(nlohmann::json::parse(line));
+    } catch (const nlohmann::json::parse_error& fault) {
+      fail(line_, positionOf(line, std::max<std::size_t>(fault.byte, 1) - 1).column, kNoObject);
+    } catch (const nlohmann::json::out_of_range&) {
+      fail(line_, 1, kNoObject);
+    }
+    return std::nullopt;
+  }
+
+  std::optional<Entry> entryFrom(const nlohmann::json& object) {
+    Entry entry;
+    entry.line = line_;
+    const std::size_t before = faults_.size();
+    if (!object.is_object()) {
+      fail(line_, 1, kNoObject);
+      return std::nullopt;
+    }
+    for (const auto& [name, value] : object.items()) {
+      if (!readMember(entry, name, value)) {
+        fail(line_, 1,
+             fmt::format(
+                 "the member \"{}\" is unknown or of the wrong type; members are key and text (texts), "
+                 "plural (true) and kept (\"key\" or \"place\")",
+                 name));
+      }
+    }
+    if (entry.key.empty() || entry.text.empty())
+      fail(line_, 1, "the entry has no key or no text; give it both");
+    return faults_.size() == before ? std::optional(std::move(entry)) : std::nullopt;
+  }
+
+  static bool readMember(Entry& entry, const std::string& name, const nlohmann::json& value) {
+    if (name == "plural") {
+      entry.plural = value.is_boolean() && value.get<bool>();
+      return entry.plural;
+    }
+    if (!value.is_string()) return false;
+    if (name == "key") entry.key = value.get<std::string>();
+    if (name == "text") entry.text = value.get<std::string>();
+    for (const auto& [kept, keptName] : kKeptNames) {
+      if (name == "kept" && value == keptName) entry.kept = kept;
+    }
+    return name == "key" || name == "text" || entry.kept != Entry::Kept::nothing;
+  }
+
+  std::string file_;
+  Faults& faults_;
+  std::size_t line_ = 0;
+};
+
+/// Says what is wrong with an entry by the rules of the catalogue, each with the mend.
+void checkEntry(const Entry& entry, const std::string& file, Faults& faults) {
+  const auto fail = [&](std::string message) {
+    faults.push_back({Severity::error, file, entry.line, 1, "", std::move(message)});
+  };
+  const bool isKept = entry.kept == Entry::Kept::key;
+  const std::string ruled = keyForText(entry.text);
+  if (!isKept && entry.key != ruled) {
+    fail(fmt::format("the key \"{}\" is not the one that its text gets; use \"{}\"", entry.key, ruled));
+  }
+  if (isKept && entry.key == ruled) {
+    fail(fmt::format("the key \"{}\" follows the rule; remove \"kept\"", entry.key));
+  }
+  if (identifierFor(entry.key).empty()) {
+    fail(fmt::format("the key \"{}\" cannot name a function; give it a letter or digit", entry.key));
+  }
+  std::set<std::string_view> seen;
+  for (const std::string_view name : placeholderNames(entry.text)) {
+    if (keyForText(name) != name || name.find('_') != std::string_view::npos) {
+      fail(fmt::format("the placeholder \"%{{{}}}\" cannot name an argument; use letters and digits", name));
+    }
+    if (!seen.insert(name).second) {
+      fail(fmt::format("the placeholder \"%{{{}}}\" stands twice in one text; name the second otherwise",
+                       name));
+    }
+  }
+  for (const PlaceholderUse& use : placeholderUses(entry.text)) {
+    if (use.isRight || !use.spelled.starts_with("%{")) continue;
+    fail(fmt::format("\"{}\" is no placeholder; write %{{name}}, with letters and digits in the braces",
+                     use.spelled));
+  }
+  if (entry.plural && seen.contains("count")) {
+    fail("a counted entry has the argument count already; name its placeholder otherwise");
+  }
+}
+
+/// What makes two accessors the same function for C++: the name and the types of the arguments.
+std::string signatureOf(const Entry& entry) {
+  return fmt::format("{}({}{})", identifierFor(entry.key), placeholderNames(entry.text).size(),
+                     entry.plural ? ", count" : "");
+}
+
+void checkTogether(const std::vector<Entry>& entries, const std::string& file, Faults& faults) {
+  std::map<std::string, const Entry*> accessors;
+  std::map<std::string_view, const Entry*> texts;
+  const Entry* previous = nullptr;
+  for (const Entry& entry : entries) {
+    const auto fail = [&](std::string message) {
+      faults.push_back({Severity::error, file, entry.line, 1, "", std::move(message)});
+    };
+    const auto [same, isNew] = accessors.try_emplace(signatureOf(entry), &entry);
+    if (!isNew)
+      fail(fmt::format("the accessor \"{}\" stands already in line {}; remove one", identifierFor(entry.key),
+                       same->second->line));
+    const auto [first, isFirst] = texts.try_emplace(entry.key, &entry);
+    if (!isFirst && first->second->text != entry.text) {
+      fail(fmt::format("the key \"{}\" has another text in line {}; give both the same", entry.key,
+                       first->second->line));
+    }
+    if (entry.kept == Entry::Kept::place) continue;
+    if (previous && lowerCased(entry.key) < lowerCased(previous->key)) {
+      fail(fmt::format("the key \"{}\" is out of place; it goes before \"{}\" (without regard to case)",
+                       entry.key, previous->key));
+    } else {
+      previous = &entry;
+    }
+  }
+}
+
+std::string quoted(const std::string& text) {
+  return nlohmann::json(text).dump();
+}
+
+}  // namespace
+
+Catalogue Catalogue::read(const std::string& root) {
+  return parse(readFile(root, kFile), kFile);
+}
+
+Catalogue Catalogue::parse(std::string_view json, const std::string& file) {
+  Faults faults;
+  Catalogue catalogue;
+  catalogue.entries_ = Reader(file, faults).read(json);
+  for (const Entry& entry : catalogue.entries_) checkEntry(entry, file, faults);
+  checkTogether(catalogue.entries_, file, faults);
+  if (!faults.empty()) throw CommandFailed{std::move(faults)};
+  return catalogue;
+}
+
+std::vector<Catalogue::LookedUpKey> Catalogue::lookedUpKeys() const {
+  std::vector<LookedUpKey> keys;
+  for (const Entry& entry : entries_) {
+    if (!entry.plural) keys.push_back({entry.key, &entry, ""});
+    if (!entry.plural) continue;
+    for (const std::string_view suffix : kPluralSuffixes) {
+      keys.push_back({std::string(entry.key).append(suffix), &entry, suffix});
+    }
+  }
+  return keys;
+}
+
+std::size_t Catalogue::placeFor(std::string_view key, bool plural) const {
+  std::size_t place = 0;
+  for (std::size_t i = 0; i < entries_.size(); ++i) {
+    const Entry& entry = entries_[i];
+    if (entry.kept == Entry::Kept::place) continue;
+    const bool goesBefore = !plural && entry.plural && entry.key == key;
+    if (lowerCased(entry.key) <= lowerCased(key) && !goesBefore) place = i + 1;
+  }
+  return place;
+}
+
+void Catalogue::insert(std::size_t index, Entry entry) {
+  entries_.insert(entries_.begin() + static_cast<std::ptrdiff_t>(index), std::move(entry));
+}
+
+std::string Catalogue::toJson() const {
+  std::string json = "[\n";
+  for (const Entry& entry : entries_) {
+    json += fmt::format("  {{\"key\": {}, \"text\": {}", quoted(entry.key), quoted(entry.text));
+    if (entry.plural) json += ", \"plural\": true";
+    for (const auto& [kept, name] : kKeptNames) {
+      if (entry.kept == kept) json += fmt::format(", \"kept\": \"{}\"", name);
+    }
+    json += &entry == &entries_.back() ? "}\n" : "},\n";
+  }
+  return json + "]\n";
+}
+
+}  // namespace zk::tools

@@ -1,0 +1,65 @@
+#pragma once
+
+#include <ZKStrings/tools/support/Fault.h>
+#include <ZKStrings/tools/texts/Placeholders.h>
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace zk::tools {
+
+/// One entry of the catalogue, as catalogue/entries.json holds it.
+struct Entry {
+  /// What of an old entry stays as it is although a rule says otherwise.
+  enum class Kept { nothing, key, place };
+
+  std::string key;
+  std::string text;  ///< the English default
+  bool plural = false;
+  Kept kept = Kept::nothing;
+  std::size_t line = 0;  ///< in entries.json
+};
+
+/// The endings of the plural forms' keys, in the order of the counts.
+inline constexpr std::string_view kPluralSuffixes[] = {"_zero", "_one", "_two", "_few", "_many"};
+/// The counts that each of them serves, for people.
+inline constexpr std::string_view kCountsOfForms[] = {"0", "1", "2", "3, 4 and 5", "6 and more"};
+
+/// All texts of the app, in catalogue order.
+class Catalogue {
+ public:
+  /// Reads and checks entries.json in the project at `root`. Throws `CommandFailed` with all that is wrong in
+  /// it.
+  [[nodiscard]] static Catalogue read(const std::string& root);
+  /// The same of the text of such a file, which faults call `file`.
+  [[nodiscard]] static Catalogue parse(std::string_view json, const std::string& file);
+
+  [[nodiscard]] const std::vector<Entry>& entries() const { return entries_; }
+  [[nodiscard]] std::vector<Entry>& entries() { return entries_; }
+
+  /// The keys that the module looks up: those of entries without a count, and the five plural forms of the
+  /// others, in catalogue order. `entry` is the one whose English text the form translates.
+  struct LookedUpKey {
+    std::string key;
+    const Entry* entry;
+    std::string_view suffix;  ///< one of `kPluralSuffixes`, or empty
+  };
+  [[nodiscard]] std::vector<LookedUpKey> lookedUpKeys() const;
+
+  /// Where a new entry with `key` and `plural` belongs: the index of the entry before which it goes.
+  [[nodiscard]] std::size_t placeFor(std::string_view key, bool plural) const;
+  void insert(std::size_t index, Entry entry);
+
+  /// The text of entries.json that holds this catalogue.
+  [[nodiscard]] std::string toJson() const;
+
+  static constexpr const char* kFile = "catalogue/entries.json";
+
+ private:
+  std::vector<Entry> entries_;
+};
+
+}  // namespace zk::tools

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <ZKStrings/tools/project/Catalogue.h>
+#include <ZKStrings/tools/project/Table.h>
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+namespace zk::tools {
+
+/// A key that the module looks up, and the English text that a translation of it says.
+struct EnglishText {
+  std::string key;
+  const Entry* entry;
+  std::string_view suffix;  ///< one of `kPluralSuffixes`, or empty
+  std::string text;         ///< of the English table for a plural form, of the entry otherwise
+
+  /// The names of the placeholders that a translation may use: those of the text, and of a plural form those
+  /// of its entry besides.
+  [[nodiscard]] std::vector<std::string_view> placeholders() const;
+  /// The placeholder that `_zero` and `_one` may do without, since they say the number in words: the entry's
+  /// only one, or else the one that says the number by its name. Empty when there is none, or in other texts.
+  [[nodiscard]] std::string_view dispensable() const;
+};
+
+/// The English texts of all keys that the module looks up, in catalogue order.
+class EnglishTexts {
+ public:
+  /// `catalogue` must outlive the texts. A plural form that `base`, the English table, lacks has the text of
+  /// its entry.
+  EnglishTexts(const Catalogue& catalogue, const Table& base);
+
+  [[nodiscard]] const std::vector<EnglishText>& all() const { return texts_; }
+  /// The text of `key`; null when the module never looks it up.
+  [[nodiscard]] const EnglishText* find(std::string_view key) const;
+
+ private:
+  std::vector<EnglishText> texts_;
+  std::unordered_map<std::string, std::size_t> places_;
+};
+
+}  // namespace zk::tools

@@ -1,0 +1,32 @@
+#include <ZKStrings/tools/project/EntryComments.h>
+
+#include <algorithm>
+
+namespace zk::tools {
+
+std::vector<std::string_view> wordsTold(const TableEntry::Comment& comment, std::string_view name) {
+  constexpr std::string_view kSeparators = " ,\t\r\n";
+  std::string_view rest = comment.text;
+  const auto skipSeparators = [&] {
+    rest.remove_prefix(std::min(rest.find_first_not_of(kSeparators), rest.size()));
+  };
+  std::vector<std::string_view> words;
+  skipSeparators();
+  if (!rest.starts_with(name)) return words;
+  rest.remove_prefix(name.size());
+  for (skipSeparators(); !rest.empty(); skipSeparators()) {
+    words.push_back(rest.substr(0, rest.find_first_of(kSeparators)));
+    rest.remove_prefix(words.back().size());
+  }
+  return words;
+}
+
+bool isSwitchedOff(const TableEntry& entry, std::string_view rule) {
+  return std::any_of(entry.comments.begin(), entry.comments.end(), [&](const TableEntry::Comment& comment) {
+    const std::vector<std::string_view> words = wordsTold(comment, kCheck);
+    return !words.empty() && words[0] == "off" &&
+           std::find(words.begin() + 1, words.end(), rule) != words.end();
+  });
+}
+
+}  // namespace zk::tools

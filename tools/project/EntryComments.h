@@ -1,0 +1,28 @@
+#pragma once
+
+#include <ZKStrings/tools/project/Table.h>
+
+#include <string_view>
+#include <vector>
+
+namespace zk::tools {
+
+/// What the comments before an entry tell the tools. Such a comment is one word, a colon and what is told:
+///
+///     /* English: "%{n} Coins"; placeholders: %{n} */
+///     /* state: needs-review */
+///     /* check: off end-punctuation, marks */
+
+inline constexpr std::string_view kExplanation = "English:";
+inline constexpr std::string_view kState = "state:";
+inline constexpr std::string_view kCheck = "check:";
+
+/// The words of `comment` behind `name`, one of those above, between spaces and commas; none when the comment
+/// is another.
+[[nodiscard]] std::vector<std::string_view> wordsTold(const TableEntry::Comment& comment,
+                                                      std::string_view name);
+
+/// Whether the comments before `entry` switch `rule` off.
+[[nodiscard]] bool isSwitchedOff(const TableEntry& entry, std::string_view rule);
+
+}  // namespace zk::tools

@@ -1,0 +1,58 @@
+#include <ZKStrings/catalogue/KeyRule.h>
+#include <ZKStrings/platform/text/UnicodeText.h>
+#include <ZKStrings/tools/project/Identifiers.h>
+
+#include <algorithm>
+#include <iterator>
+
+namespace zk::tools {
+
+namespace {
+
+/// What cannot be the name of an accessor: the reserved words, and the two names that the module's class
+/// itself needs.
+constexpr std::string_view kReserved[] = {
+    "Text",     "ZKStrings", "alignas",  "alignof",   "and",     "and_eq",    "asm",      "auto",
+    "bitand",   "bitor",     "bool",     "break",     "case",    "catch",     "char",     "class",
+    "co_await", "co_return", "co_yield", "compl",     "concept", "const",     "continue", "decltype",
+    "default",  "delete",    "do",       "double",    "else",    "enum",      "explicit", "export",
+    "extern",   "false",     "float",    "for",       "friend",  "goto",      "if",       "inline",
+    "int",      "long",      "mutable",  "namespace", "new",     "noexcept",  "not",      "not_eq",
+    "nullptr",  "operator",  "or",       "or_eq",     "private", "protected", "public",   "register",
+    "requires", "return",    "short",    "signed",    "sizeof",  "static",    "struct",   "switch",
+    "template", "this",      "throw",    "true",      "try",     "typedef",   "typeid",   "typename",
+    "union",    "unsigned",  "using",    "virtual",   "void",    "volatile",  "while",    "xor",
+    "xor_eq"};
+
+bool isReserved(std::string_view name) {
+  return std::find(std::begin(kReserved), std::end(kReserved), name) != std::end(kReserved);
+}
+
+bool isDigit(char character) {
+  return character >= '0' && character <= '9';
+}
+
+/// Whether `name` has letters, marks, digits and "_" alone, and no digit at its beginning.
+bool hasSignsOfNames(std::string_view name) {
+  if (name.empty() || isDigit(name.front())) return false;
+  while (!name.empty()) {
+    const CodePoint next = firstCodePoint(name);
+    if (next.bytes != "_" && !(next.value && isLetterMarkOrDigit(*next.value))) return false;
+    name.remove_prefix(next.bytes.size());
+  }
+  return true;
+}
+
+}  // namespace
+
+bool isIdentifier(std::string_view word) {
+  const auto isAscii = [](char character) { return static_cast<signed char>(character) >= 0; };
+  return hasSignsOfNames(word) && std::all_of(word.begin(), word.end(), isAscii) && !isReserved(word);
+}
+
+std::string identifierFor(std::string_view name) {
+  const std::string spelled = hasSignsOfNames(name) ? std::string(name) : keyForText(name);
+  return isReserved(spelled) ? spelled + "_" : spelled;
+}
+
+}  // namespace zk::tools

@@ -1,0 +1,218 @@
+#include <ZKStrings/platform/formats/StringTableReader.h>
+#include <ZKStrings/platform/formats/TextEncoding.h>
+#include <ZKStrings/platform/text/UnicodeText.h>
+#include <ZKStrings/tools/project/Table.h>
+#include <ZKStrings/tools/support/Files.h>
+
+#include <algorithm>
+#include <optional>
+#include <utility>
+
+#include <fmt/format.h>
+
+namespace zk::tools {
+
+namespace {
+
+constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
+
+/// The escape that begins at the byte `offset` of `spelled`, with the whole of its character.
+std::string escapeAt(std::string_view spelled, std::size_t offset) {
+  return "\\" + std::string(firstCodePoint(spelled.substr(offset + 1)).bytes);
+}
+
+/// The entry that `reader` has read. Comments before `commentsBegin` belong to the one before.
+TableEntry entryFrom(const StringTableReader& reader, std::string_view text, std::size_t commentsBegin,
+                     PositionTeller& positions) {
+  using Token = StringTableReader::Token;
+  TableEntry entry;
+  const auto spelled = [&](const Token& token) { return text.substr(token.begin, token.end - token.begin); };
+  const auto plain = [&](const Token& token) {
+    std::string result(spelled(token));
+    std::vector<std::size_t> unknown;
+    result.resize(unescape(result.data(), result.size(), &unknown));
+    for (const std::size_t offset : unknown) {
+      entry.unknownEscapes.push_back({positions.at(token.begin + offset), escapeAt(spelled(token), offset)});
+    }
+    return result;
+  };
+  PositionTeller commentPositions = positions;  // some comments stand within the entry
+  for (const Token& comment : reader.comments()) {
+    if (comment.begin < commentsBegin) continue;
+    const std::size_t closingMark = text[comment.begin - 1] == '*' ? 2 : 0;
+    entry.comments.push_back({std::string(spelled(comment)),
+                              {comment.begin - 2, comment.end + closingMark},
+                              commentPositions.at(comment.begin - 2)});
+  }
+  const Token& value = reader.value();
+  const std::size_t quote = text[value.begin - 1] == '"' ? 1 : 0;
+  entry.span = {reader.entry().begin, reader.entry().end};
+  entry.spelledSpan = {value.begin - quote, value.end + quote};
+  entry.keyAt = positions.at(reader.key().begin);
+  entry.key = plain(reader.key());
+  entry.textAt = positions.at(value.begin);
+  entry.text = plain(value);
+  entry.spelled = spelled(value);
+  entry.lastLine = positions.at(value.end).line;
+  return entry;
+}
+
+/// How many bytes the text has that is spelled so.
+std::size_t textSize(std::string_view spelled) {
+  std::string text(spelled);
+  return unescape(text.data(), text.size());
+}
+
+/// Where the next escape behind `begin` begins, or the end.
+std::size_t nextEscape(std::string_view spelled, std::size_t begin) {
+  const bool isEscape = spelled.substr(begin).starts_with('\\');
+  return std::min(spelled.find('\\', begin + (isEscape ? 2 : 0)), spelled.size());
+}
+
+/// The first place on each line where the bytes are not UTF-8.
+std::vector<Position> illFormedPlaces(std::string_view bytes) {
+  std::vector<Position> places;
+  const std::vector<std::string_view> lines = linesOf(bytes);
+  for (std::size_t line = 0; line < lines.size(); ++line) {
+    std::string_view rest = lines[line];
+    while (!rest.empty() && firstCodePoint(rest).value) rest.remove_prefix(firstCodePoint(rest).bytes.size());
+    if (!rest.empty())
+      places.push_back({line + 1, positionOf(lines[line], lines[line].size() - rest.size()).column});
+  }
+  return places;
+}
+
+bool isMarkedUtf16Or32(std::string_view bytes) {
+  return bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF") ||
+         bytes.starts_with(std::string_view("\0\0\xFE\xFF", 4));
+}
+
+}  // namespace
+
+TextPlaces::TextPlaces(const TableEntry& entry)
+    : spelled_(entry.spelled), positions_(spelled_, entry.textAt) {
+}
+
+void TextPlaces::readOn() {
+  const std::size_t begin = piece_.end;
+  const std::size_t end = nextEscape(spelled_, begin);
+  const std::size_t endOfTwo = nextEscape(spelled_, end);
+  const std::size_t size = textSize(spelled_.substr(begin, end - begin));
+  const std::size_t sizeOfTwo = textSize(spelled_.substr(begin, endOfTwo - begin));
+  // Two escapes that together stand for less than each by itself are one character, a surrogate pair.
+  const bool isPair = sizeOfTwo < size + textSize(spelled_.substr(end, endOfTwo - end));
+  piece_ = {begin, isPair ? endOfTwo : end};
+  text_ = {text_.end, text_.end + (isPair ? sizeOfTwo : size)};
+}
+
+Position TextPlaces::at(std::size_t offset) {
+  while (text_.end <= offset && piece_.end < spelled_.size()) readOn();
+  // Only what an escape stands for has another size than its spelling, and it comes first.
+  const std::size_t behind = text_.end - std::min(offset, text_.end);
+  return positions_.at(offset <= text_.begin ? piece_.begin : piece_.end - behind);
+}
+
+Table Table::read(const std::string& root, std::string_view language) {
+  const std::string path = tablePath(language);
+  try {
+    return parse(readFile(root, path), path);
+  } catch (const CommandFailed&) {
+    return {path,
+            {},
+            {{Severity::error, path, 1, 1, kMissing,
+              "the language has no table that can be read; begin one with zkstrings template"}},
+            {}};
+  }
+}
+
+Table Table::readWellFormed(const std::string& root, std::string_view language) {
+  Table table = read(root, language);
+  if (!table.faults.empty()) throw CommandFailed{std::move(table.faults)};
+  return table;
+}
+
+Table Table::parse(std::string bytes, std::string file) {
+  Table table{std::move(file), {}, {}, {}};
+  const auto fail = [&](Position at, const char* rule, std::string message) {
+    table.faults.push_back({Severity::error, table.file, at.line, at.column, rule, std::move(message)});
+  };
+  std::optional<std::string> text = decodedText(bytes, UnmarkedText::isUtf8);
+  if (!text && isMarkedUtf16Or32(bytes)) {
+    fail({1, 1}, kEncoding,
+         "the bytes are not text in the encoding that the file's mark declares; save the file as UTF-8");
+    return table;
+  }
+  if (!text) {
+    if (bytes.starts_with(kUtf8Mark)) bytes.erase(0, kUtf8Mark.size());
+    for (const Position at : illFormedPlaces(bytes))
+      fail(at, kEncoding, "the bytes here are not UTF-8; save the file as UTF-8");
+    text = std::move(bytes);  // what else is wrong shows all the same
+  }
+  PositionTeller positions(*text);
+  StringTableReader reader(*text);
+  for (;;) {
+    while (reader.next()) {
+      const std::size_t commentsBegin = table.entries.empty() ? 0 : endOfLine(*text, table.entries.back());
+      table.entries.push_back(entryFrom(reader, *text, commentsBegin, positions));
+      table.places.insert_or_assign(table.entries.back().key, table.entries.size() - 1);
+    }
+    if (!reader.fault()) return table;
+    fail(positions.at(reader.fault()->offset), kSyntax,
+         fmt::format("expected {}; write \"key\" = \"text\";", reader.fault()->expected));
+    reader.recover();
+  }
+}
+
+const TableEntry* Table::find(std::string_view key) const {
+  const auto place = places.find(key);
+  return place == places.end() ? nullptr : &entries[place->second];
+}
+
+std::size_t endOfLine(std::string_view text, const TableEntry& entry) {
+  for (std::size_t at = entry.span.end;;) {
+    at = std::min(text.find_first_not_of(" \t\r", at), text.size());
+    const std::string_view rest = text.substr(at);
+    if (rest.empty()) return at;
+    if (rest.starts_with('\n')) return at + 1;
+    if (rest.starts_with("//")) {
+      at = std::min(text.find('\n', at), text.size());
+    } else if (rest.starts_with("/*")) {
+      at = std::min(text.find("*/", at + 2), text.size() - 2) + 2;
+    } else {
+      return entry.span.end;
+    }
+  }
+}
+
+std::string tablePath(std::string_view language) {
+  return fmt::format("resources/{}.lproj/Localizable.strings", language);
+}
+
+std::string escaped(std::string_view text) {
+  std::string result;
+  for (const char character : text) {
+    switch (character) {
+      case '"':
+        result += "\\\"";
+        break;
+      case '\\':
+        result += "\\\\";
+        break;
+      case '\n':
+        result += "\\n";
+        break;
+      case '\t':
+        result += "\\t";
+        break;
+      default:
+        result += character;
+    }
+  }
+  return result;
+}
+
+std::string tableLine(std::string_view key, std::string_view text) {
+  return fmt::format("\"{}\" = \"{}\";\n", escaped(key), escaped(text));
+}
+
+}  // namespace zk::tools

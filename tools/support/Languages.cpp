@@ -1,0 +1,153 @@
+#include <ZKStrings/tools/support/Characters.h>
+#include <ZKStrings/tools/support/Fault.h>
+#include <ZKStrings/tools/support/Languages.h>
+#include <ZKStrings/tools/support/Nearest.h>
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <filesystem>
+#include <functional>
+#include <iterator>
+#include <map>
+#include <system_error>
+
+#include <fmt/format.h>
+#include <unicode/uloc.h>
+#include <unicode/ustring.h>
+
+namespace zk::tools {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr const char* kResources = "resources";
+constexpr const char* kExtension = ".lproj";
+
+/// Languages whose nouns stay as they are behind a number.
+constexpr std::string_view kUninflected[] = {"az", "ba", "bo", "dz", "fa", "hu", "id", "ja", "jv", "ka",
+                                             "kk", "km", "ko", "ky", "lo", "mn", "ms", "my", "su", "th",
+                                             "tk", "tr", "tt", "ug", "uz", "vi", "za", "zh"};
+
+/// Whether ISO 639-1 has the code.
+bool isLanguageCode(std::string_view code) {
+  if (code.size() != 2) return false;
+  const char* const* known = uloc_getISOLanguages();
+  while (*known && code != *known) ++known;
+  return *known != nullptr;
+}
+
+/// The language's name, in lower case, as it is called in the language `in`.
+std::string nameOf(const char* language, const char* in) {
+  UErrorCode status = U_ZERO_ERROR;
+  std::array<UChar, 128> name{};
+  uloc_getDisplayLanguage(language, in, name.data(), static_cast<std::int32_t>(name.size()), &status);
+  std::array<char, 512> bytes{};
+  u_strToUTF8(bytes.data(), static_cast<std::int32_t>(bytes.size()), nullptr, name.data(), -1, &status);
+  return U_SUCCESS(status) ? lowerCased(bytes.data()) : "";
+}
+
+/// The codes of all languages by their names, in lower case, in English and by themselves. ICU is slow to tell them.
+const std::map<std::string, std::string, std::less<>>& codesByName() {
+  static const auto codes = [] {
+    std::map<std::string, std::string, std::less<>> found;
+    for (const char* const* code = uloc_getISOLanguages(); *code; ++code) {
+      if (!isLanguageCode(*code)) continue;
+      for (const char* const in : {"en", *code}) found.emplace(nameOf(*code, in), *code);
+    }
+    return found;
+  }();
+  return codes;
+}
+
+/// The code of the language that is called `name`, in lower case, in English or by itself; empty when none is.
+std::string codeOfName(std::string_view name) {
+  const auto found = codesByName().find(name);
+  return found == codesByName().end() ? "" : found->second;
+}
+
+/// What to do about `name`, which means no language that ICU knows.
+std::string adviceFor(std::string_view name, const std::vector<std::string>& languages) {
+  std::vector<std::string> names = languages;
+  for (const std::string& language : languages) names.push_back(nameOf(language.c_str(), "en"));
+  const auto meant = nearest(name, {names.begin(), names.end()});
+  return meant ? fmt::format("write \"{}\" if that is meant", *meant)
+               : "zkstrings coverage lists those that have one";
+}
+
+/// The name without the folders before it and the extension: "de" for "resources/de.lproj/Localizable.strings".
+std::string_view withoutPath(std::string_view word) {
+  constexpr std::string_view kTable = "/Localizable.strings";
+  while (word.ends_with('/')) word.remove_suffix(1);
+  if (word.ends_with(kTable)) word.remove_suffix(kTable.size());
+  word.remove_prefix(word.rfind('/') + 1);
+  if (word.ends_with(kExtension)) word.remove_suffix(std::string_view(kExtension).size());
+  return word;
+}
+
+}  // namespace
+
+std::vector<std::string> languagesIn(const std::string& root) {
+  std::vector<std::string> languages;
+  std::error_code failure;
+  for (fs::directory_iterator entry(fs::path(root) / kResources, failure), end; !failure && entry != end;
+       entry.increment(failure)) {
+    if (entry->path().extension() == kExtension) languages.push_back(entry->path().stem().string());
+  }
+  if (failure) {
+    throw CommandFailed{{{Severity::error, kResources, 1, 1, "",
+                          "the directory cannot be listed; see that it exists and may be read"}}};
+  }
+  std::sort(languages.begin(), languages.end());
+  return languages;
+}
+
+std::string languageCodeOf(std::string_view word) {
+  const std::string name = lowerCased(withoutPath(word));
+  const std::string language = name.substr(0, name.find_first_of("-_.@"));
+  if (isLanguageCode(language)) return language;
+  UErrorCode status = U_ZERO_ERROR;
+  std::array<char, ULOC_FULLNAME_CAPACITY> canonical{};
+  uloc_toLanguageTag(language.c_str(), canonical.data(), static_cast<std::int32_t>(canonical.size()), false,
+                     &status);
+  if (U_SUCCESS(status) && isLanguageCode(canonical.data())) return canonical.data();
+  return codeOfName(name);
+}
+
+std::string existingLanguage(const std::string& root, std::string_view word) {
+  const std::vector<std::string> languages = languagesIn(root);
+  const auto exists = [&](std::string_view name) {
+    return std::find(languages.begin(), languages.end(), name) != languages.end();
+  };
+  const std::string name(withoutPath(word));
+  if (exists(name)) return name;
+  const std::string code = languageCodeOf(word);
+  if (code == "en") return std::string(kBase);
+  if (exists(code)) return code;
+
+  const std::string advice = code.empty() ? adviceFor(lowerCased(name), languages)
+                                          : fmt::format("zkstrings template {} begins one", code);
+  throw CommandFailed{
+      {{Severity::error, kResources, 1, 1, "", fmt::format("no table for \"{}\"; {}", word, advice)}}};
+}
+
+std::string whyNeverChosen(std::string_view language) {
+  if (language == kBase) return "";
+  if (language == "en") {
+    return "the module never chooses en.lproj, it takes English from Base.lproj; write the texts there";
+  }
+  if (isLanguageCode(language)) return "";
+  const std::string code = languageCodeOf(language);
+  return fmt::format(
+      "the module never chooses \"{}.lproj\", whose name is no language code of two letters; {}", language,
+      code == "en"   ? "write English in Base.lproj"
+      : code.empty() ? "only languages with an ISO 639-1 code can have a table"
+                     : fmt::format("name it {}.lproj", code));
+}
+
+bool inflectsForNumber(std::string_view language) {
+  return std::find(std::begin(kUninflected), std::end(kUninflected), language) == std::end(kUninflected);
+}
+
+}  // namespace zk::tools

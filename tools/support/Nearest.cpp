@@ -1,0 +1,48 @@
+#include <ZKStrings/tools/support/Nearest.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <numeric>
+
+namespace zk::tools {
+
+namespace {
+
+/// The most changes that still count as a misspelling.
+constexpr std::size_t kMostChanges = 6;
+
+/// The distance of the words, or any number above `most` when it is greater than that.
+std::size_t distance(std::string_view from, std::string_view to, std::size_t most) {
+  if (std::max(from.size(), to.size()) - std::min(from.size(), to.size()) > most) return most + 1;
+  std::vector<std::size_t> row(to.size() + 1);
+  std::iota(row.begin(), row.end(), std::size_t{0});
+  for (std::size_t i = 0; i < from.size(); ++i) {
+    std::size_t diagonal = row[0];
+    row[0] = i + 1;
+    for (std::size_t j = 0; j < to.size(); ++j) {
+      const std::size_t replaced = diagonal + (from[i] == to[j] ? 0 : 1);
+      diagonal = row[j + 1];
+      row[j + 1] = std::min({replaced, diagonal + 1, row[j] + 1});
+    }
+    if (*std::min_element(row.begin(), row.end()) > most) return most + 1;
+  }
+  return row.back();
+}
+
+}  // namespace
+
+std::optional<std::string_view> nearest(std::string_view word,
+                                        const std::vector<std::string_view>& candidates) {
+  std::optional<std::string_view> best;
+  std::size_t bound = std::min((word.size() + 2) / 3, kMostChanges);
+  for (const std::string_view candidate : candidates) {
+    if (best && bound == 0) break;
+    const std::size_t changes = distance(word, candidate, best ? bound - 1 : bound);
+    if (changes > (best ? bound - 1 : bound)) continue;
+    best = candidate;
+    bound = changes;
+  }
+  return best;
+}
+
+}  // namespace zk::tools

@@ -1,0 +1,106 @@
+#include <ZKStrings/tools/texts/Placeholders.h>
+
+#include <algorithm>
+#include <iterator>
+#include <optional>
+
+namespace zk::tools {
+
+namespace {
+
+bool isNameCharacter(char c) {
+  return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9');
+}
+
+/// Of any script; what else is not ASCII passes as well, and is then the name of no argument.
+bool isLetterOrDigit(char c) {
+  return isNameCharacter(c) || static_cast<unsigned char>(c) >= 0x80;
+}
+
+/// The first run of ASCII letters and digits in `text`.
+std::string_view nameIn(std::string_view text) {
+  const auto* const begin = std::find_if(text.begin(), text.end(), isNameCharacter);
+  const auto* const end = std::find_if_not(begin, text.end(), isNameCharacter);
+  return {begin, end};
+}
+
+/// A sign of placeholders, and the full-width and small characters that look like it.
+struct Sign {
+  std::string_view plain;
+  std::string_view lookAlikes[2];
+
+  /// The size of the sign or of one like it at the beginning of `text`; 0 when there is none.
+  [[nodiscard]] std::size_t sizeAt(std::string_view text) const {
+    if (text.starts_with(plain)) return plain.size();
+    const auto* const found =
+        std::find_if(std::begin(lookAlikes), std::end(lookAlikes),
+                     [&](std::string_view lookAlike) { return text.starts_with(lookAlike); });
+    return found == std::end(lookAlikes) ? 0 : found->size();
+  }
+};
+
+constexpr Sign kPercent = {"%", {"％", "﹪"}};
+constexpr Sign kOpening = {"{", {"｛", "﹛"}};
+constexpr Sign kClosing = {"}", {"｝", "﹜"}};
+
+/// The beginning of `text` up to the next sign or line break.
+std::string_view upToSign(std::string_view text) {
+  constexpr std::string_view kFirstBytes = "%{}\n\xEF";  // the look-alikes all begin with the byte EF
+  std::size_t at = text.find_first_of(kFirstBytes);
+  const auto isEnd = [&] {
+    const std::string_view rest = text.substr(at);
+    return rest[0] == '\n' || kPercent.sizeAt(rest) + kOpening.sizeAt(rest) + kClosing.sizeAt(rest) > 0;
+  };
+  while (at < text.size() && !isEnd()) at = text.find_first_of(kFirstBytes, at + 1);
+  return text.substr(0, at);
+}
+
+/// The placeholder, right or wrong, with which `text` begins.
+std::optional<PlaceholderUse> useAtBegin(std::string_view text) {
+  const std::size_t percent = kPercent.sizeAt(text);
+  const std::size_t brace = kOpening.sizeAt(text.substr(percent));
+  const std::string_view rest = text.substr(percent + brace);
+  if (brace == 0) {
+    const bool hasName = percent > 0 && !rest.empty() && isNameCharacter(rest[0]);
+    if (!hasName) return std::nullopt;
+    const std::string_view name = nameIn(rest);
+    return PlaceholderUse{0, text.substr(0, percent + name.size()), name, false, false};
+  }
+  const std::string_view inside = upToSign(rest);
+  const std::size_t closing = kClosing.sizeAt(rest.substr(inside.size()));
+  const bool isRight = percent == 1 && brace == 1 && closing == 1 && !inside.empty() &&
+                       std::all_of(inside.begin(), inside.end(), isLetterOrDigit);
+  const std::string_view name = isRight ? inside : nameIn(inside);
+  const std::size_t insideSize = closing > 0 ? inside.size() + closing : inside.find(name) + name.size();
+  return PlaceholderUse{0, text.substr(0, percent + brace + insideSize), name, true, isRight};
+}
+
+}  // namespace
+
+std::vector<std::string_view> placeholderNames(std::string_view text) {
+  std::vector<std::string_view> names;
+  for (std::size_t at = text.find("%{"); at != std::string_view::npos; at = text.find("%{", at)) {
+    at += 2;
+    const std::size_t end = text.find('}', at);
+    if (end == std::string_view::npos) break;
+    names.push_back(text.substr(at, end - at));
+  }
+  return names;
+}
+
+std::vector<PlaceholderUse> placeholderUses(std::string_view text) {
+  std::vector<PlaceholderUse> uses;
+  for (std::size_t at = 0; at < text.size();) {
+    std::optional<PlaceholderUse> use = useAtBegin(text.substr(at));
+    if (!use) {
+      ++at;
+      continue;
+    }
+    use->offset = at;
+    at += use->spelled.size();
+    uses.push_back(*use);
+  }
+  return uses;
+}
+
+}  // namespace zk::tools

@@ -1,0 +1,127 @@
+#include <ZKStrings/platform/text/UnicodeText.h>
+#include <ZKStrings/tools/texts/Placeholders.h>
+#include <ZKStrings/tools/texts/TextFeatures.h>
+
+#include <algorithm>
+#include <iterator>
+
+#include <unicode/uchar.h>
+
+namespace zk::tools {
+
+namespace {
+
+constexpr std::string_view kOpening[] = {"(", "[", "（", "［", "【", "〔"};
+constexpr std::string_view kClosing[] = {")", "]", "）", "］", "】", "〕"};
+
+bool isWhiteSpace(const CodePoint& character) {
+  return character.value && u_isUWhiteSpace(static_cast<UChar32>(*character.value)) != 0;
+}
+
+bool isSpace(const CodePoint& character) {
+  return character.value && u_charType(static_cast<UChar32>(*character.value)) == U_SPACE_SEPARATOR;
+}
+
+/// Calls `visit` with each character of `text`.
+template <class Visit>
+void forEachCharacter(std::string_view text, const Visit& visit) {
+  while (!text.empty()) {
+    const CodePoint character = firstCodePoint(text);
+    text.remove_prefix(character.bytes.size());
+    visit(character);
+  }
+}
+
+}  // namespace
+
+std::size_t findControlCharacter(std::string_view text) {
+  const auto found = std::find_if(text.begin(), text.end(), [](char character) {
+    return (static_cast<unsigned char>(character) < 0x20 && character != '\n' && character != '\t') ||
+           character == 0x7F;
+  });
+  return found == text.end() ? text.npos : static_cast<std::size_t>(found - text.begin());
+}
+
+bool isBlank(std::string_view text) {
+  bool result = true;
+  forEachCharacter(text, [&](const CodePoint& character) { result = result && isWhiteSpace(character); });
+  return result;
+}
+
+OuterSpace outerSpace(std::string_view text) {
+  OuterSpace space;
+  bool isLeading = true;
+  forEachCharacter(text, [&](const CodePoint& character) {
+    std::string& run = isLeading ? space.leading : space.trailing;
+    if (isWhiteSpace(character)) {
+      run += isSpace(character) ? " " : character.bytes;
+    } else {
+      isLeading = false;
+      space.trailing.clear();
+    }
+  });
+  return space;
+}
+
+std::size_t countOf(std::string_view text, std::string_view part) {
+  std::size_t count = 0;
+  for (std::size_t at = text.find(part); at != std::string_view::npos; at = text.find(part, at + part.size()))
+    ++count;
+  return count;
+}
+
+std::string withoutPlaceholders(std::string_view text) {
+  std::string result;
+  std::size_t begin = 0;
+  for (const PlaceholderUse& use : placeholderUses(text)) {
+    if (!use.isRight) continue;
+    result.append(text.substr(begin, use.offset - begin)).append(" ");
+    begin = use.offset + use.spelled.size();
+  }
+  return result.append(text.substr(begin));
+}
+
+std::vector<std::string_view> wordsOf(std::string_view text) {
+  std::vector<std::string_view> words;
+  std::size_t begin = 0;
+  std::size_t end = 0;
+  const auto finish = [&] {
+    if (end > begin) words.push_back(text.substr(begin, end - begin));
+  };
+  forEachCharacter(text, [&](const CodePoint& character) {
+    const bool isInWord = character.value && isLetterMarkOrDigit(*character.value);
+    if (!isInWord) finish();
+    end += character.bytes.size();
+    if (!isInWord) begin = end;
+  });
+  finish();
+  return words;
+}
+
+std::vector<std::string> numbersIn(std::string_view text) {
+  std::vector<std::string> numbers;
+  bool isInNumber = false;
+  forEachCharacter(text, [&](const CodePoint& character) {
+    const bool isDigit = character.value && isDecimalDigit(*character.value);
+    if (isDigit && !isInNumber) numbers.emplace_back();
+    if (isDigit)
+      numbers.back() += static_cast<char>('0' + u_charDigitValue(static_cast<UChar32>(*character.value)));
+    isInNumber = isDigit;
+  });
+  std::sort(numbers.begin(), numbers.end());
+  return numbers;
+}
+
+Brackets bracketsIn(std::string_view text) {
+  const auto isOneOf = [](const auto& forms, std::string_view spelled) {
+    return std::find(std::begin(forms), std::end(forms), spelled) != std::end(forms);
+  };
+  Brackets brackets;
+  forEachCharacter(text, [&](const CodePoint& character) {
+    if (isOneOf(kOpening, character.bytes)) ++brackets.opening;
+    if (isOneOf(kClosing, character.bytes)) ++brackets.closing;
+  });
+  return brackets;
+}
+
+}  // namespace zk::tools

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace zk::tools {
+
+/// All functions take UTF-8 and count bytes that are not as characters of their own.
+
+/// Where the first control character of `text` stands, line feeds and tabs aside; `npos` for none.
+[[nodiscard]] std::size_t findControlCharacter(std::string_view text);
+
+/// Whether `text` is empty or white space alone.
+[[nodiscard]] bool isBlank(std::string_view text);
+
+/// The white space at both ends, each space of whatever kind (no-break, narrow, wide) as " ". A blank text
+/// has all of it in front.
+struct OuterSpace {
+  std::string leading;
+  std::string trailing;
+  bool operator==(const OuterSpace&) const = default;
+};
+[[nodiscard]] OuterSpace outerSpace(std::string_view text);
+
+/// How often `part` stands in `text`.
+[[nodiscard]] std::size_t countOf(std::string_view text, std::string_view part);
+
+/// `text` with each placeholder replaced by a space.
+[[nodiscard]] std::string withoutPlaceholders(std::string_view text);
+
+/// The runs of letters, marks and digits in `text`.
+[[nodiscard]] std::vector<std::string_view> wordsOf(std::string_view text);
+
+/// The runs of decimal digits in `text`, of whatever script, each in ASCII digits, sorted.
+[[nodiscard]] std::vector<std::string> numbersIn(std::string_view text);
+
+/// The number of opening and closing brackets, of whatever form.
+struct Brackets {
+  std::size_t opening = 0;
+  std::size_t closing = 0;
+  bool operator==(const Brackets&) const = default;
+};
+[[nodiscard]] Brackets bracketsIn(std::string_view text);
+
+}  // namespace zk::tools

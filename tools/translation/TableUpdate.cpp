@@ -1,0 +1,68 @@
+#include <ZKStrings/tools/support/Files.h>
+#include <ZKStrings/tools/support/Languages.h>
+#include <ZKStrings/tools/translation/TableEditor.h>
+#include <ZKStrings/tools/translation/TableUpdate.h>
+#include <ZKStrings/tools/translation/Template.h>
+
+#include <utility>
+
+#include <fmt/format.h>
+
+namespace zk::tools {
+
+namespace {
+
+void refuse(const std::string& language, std::string reason) {
+  throw CommandFailed{{{Severity::error, tablePath(language), 1, 1, "", std::move(reason)}}};
+}
+
+/// Marks an entry that is empty or still in English, and removes the mark from one that is not.
+void updateMark(const TableEntry& entry, const EnglishText& english, std::string_view language,
+                TableEditor& editor, TableUpdate& update) {
+  const TranslationState state = stateOf(language, &entry, english);
+  const bool isUntranslated = state == TranslationState::untranslated;
+  if (isUntranslated == isMarked(entry, TranslationState::untranslated)) return;
+  editor.setState(entry, state);
+  ++(isUntranslated ? update.marked : update.unmarked);
+}
+
+void updateUnknown(const TableEntry& entry, bool prunes, TableEditor& editor, TableUpdate& update) {
+  if (prunes) {
+    editor.remove(entry);
+    ++update.removed;
+    return;
+  }
+  update.notLookedUp.push_back(
+      {Severity::warning, editor.table().file, entry.keyAt.line, entry.keyAt.column, "",
+       fmt::format("nothing looks up the key \"{}\"; --prune removes the entry", escaped(entry.key))});
+}
+
+}  // namespace
+
+TableUpdate updateTable(const std::string& root, const std::string& language, bool prunes) {
+  if (language == kBase)
+    refuse(language, "the English table is not translated; zkstrings add adds a text to it");
+  if (std::string reason = whyNeverChosen(language); !reason.empty()) refuse(language, std::move(reason));
+  const Catalogue catalogue = Catalogue::read(root);
+  const EnglishTexts english(catalogue, Table::readWellFormed(root, kBase));
+  TableEditor editor = TableEditor::open(root, language);
+
+  TableUpdate update;
+  const TableEntry* before = nullptr;
+  for (const EnglishText& text : english.all()) {
+    if (const TableEntry* const entry = editor.table().find(text.key)) {
+      before = entry;
+      updateMark(*entry, text, language, editor, update);
+    } else {
+      editor.insertBehind(before, untranslatedEntry(text));
+      ++update.added;
+    }
+  }
+  for (const TableEntry& entry : editor.table().entries) {
+    if (!english.find(entry.key)) updateUnknown(entry, prunes, editor, update);
+  }
+  if (editor.hasEdits()) writeFile(root, editor.table().file, editor.edited());
+  return update;
+}
+
+}  // namespace zk::tools

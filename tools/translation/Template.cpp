@@ -1,0 +1,67 @@
+#include <ZKStrings/platform/text/TextSearch.h>
+#include <ZKStrings/tools/project/EntryComments.h>
+#include <ZKStrings/tools/support/Files.h>
+#include <ZKStrings/tools/support/Languages.h>
+#include <ZKStrings/tools/translation/Template.h>
+#include <ZKStrings/tools/translation/TranslationState.h>
+
+#include <filesystem>
+#include <stdexcept>
+#include <system_error>
+#include <utility>
+
+#include <fmt/format.h>
+
+namespace zk::tools {
+
+namespace {
+
+/// `text` as a comment, which no text ends early.
+std::string comment(std::string text) {
+  replaceOccurrences(text, "*/", "* /");
+  return fmt::format("/* {} */", text);
+}
+
+[[noreturn]] void refuse(const std::string& path, std::string message) {
+  throw CommandFailed{{{Severity::error, path, 1, 1, "", std::move(message)}}};
+}
+
+}  // namespace
+
+std::string explanationOf(const EnglishText& english) {
+  std::string about = fmt::format("{} \"{}\"", kExplanation, escaped(english.text));
+  const std::vector<std::string_view> names = english.placeholders();
+  if (!names.empty()) about += fmt::format("; placeholders: %{{{}}}", fmt::join(names, "}, %{"));
+  return comment(std::move(about));
+}
+
+std::string untranslatedEntry(const EnglishText& english) {
+  const std::string mark =
+      isSameEverywhere(english.text) ? "" : markFor(TranslationState::untranslated) + "\n";
+  return explanationOf(english) + "\n" + mark + tableLine(english.key, english.text);
+}
+
+std::string templateFor(std::string_view language, const EnglishTexts& english) {
+  std::string table = comment(fmt::format(
+      "Language {}. Translate the texts behind the equals signs; keep keys and placeholders.", language));
+  table += "\n";
+  for (const EnglishText& text : english.all()) table += "\n" + untranslatedEntry(text);
+  return table;
+}
+
+std::size_t writeTemplate(const std::string& root, const std::string& language) {
+  if (language.empty()) throw std::invalid_argument("the language is empty; give its ISO 639-1 code");
+  const std::string path = tablePath(language);
+  std::string reason = whyNeverChosen(language);
+  if (!reason.empty()) refuse(path, std::move(reason));
+  std::error_code failure;
+  if (std::filesystem::exists(std::filesystem::path(root) / path, failure)) {
+    refuse(path, "the table is there already, and its texts would be lost; remove it first to begin anew");
+  }
+  const Catalogue catalogue = Catalogue::read(root);
+  const EnglishTexts english(catalogue, Table::readWellFormed(root, kBase));
+  writeFile(root, path, templateFor(language, english));
+  return english.all().size();
+}
+
+}  // namespace zk::tools

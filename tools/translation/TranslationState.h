@@ -1,0 +1,46 @@
+#pragma once
+
+#include <ZKStrings/tools/project/EnglishTexts.h>
+#include <ZKStrings/tools/project/Table.h>
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace zk::tools {
+
+/// How far the translation of one text has come.
+enum class TranslationState {
+  missing,       ///< the table has no entry for it
+  untranslated,  ///< the entry is empty or still in English
+  needsReview,   ///< the English text has changed since it was translated
+  translated,
+};
+
+/// "missing", "untranslated", "needs-review", "translated".
+[[nodiscard]] std::string_view nameOf(TranslationState state);
+
+/// The state of the text `english` in the table of `language`, where `entry` says it (null for none). It is
+/// `needsReview` when the entry is so marked. It is `untranslated` when the text equals the English one, and
+/// the entry is so marked, or two words or more stand in the text, not all of them names, and nobody has
+/// switched the rule `kUntranslatedRule` off for the entry. Texts of the English table are missing or
+/// translated.
+[[nodiscard]] TranslationState stateOf(std::string_view language, const TableEntry* entry,
+                                       const EnglishText& english);
+
+/// The rule of `check` that counts untranslated texts.
+inline constexpr std::string_view kUntranslatedRule = "untranslated";
+
+/// Whether a comment before the entry marks it so: `/* state: needs-review */`.
+[[nodiscard]] bool isMarked(const TableEntry& entry, TranslationState state);
+
+/// That comment, without a line break. Entries are marked as `untranslated` and `needsReview` only.
+[[nodiscard]] std::string markFor(TranslationState state);
+
+/// Whether there is nothing in `text` to translate: names, placeholders, numbers and single letters alone.
+[[nodiscard]] bool isSameEverywhere(std::string_view text);
+
+/// The words of `text` that belong to no name, without numbers and single letters.
+[[nodiscard]] std::vector<std::string_view> translatableWords(std::string_view text);
+
+}  // namespace zk::tools
