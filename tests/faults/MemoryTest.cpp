@@ -52,7 +52,7 @@ TEST(Memory, ThatIsExhaustedHarmsNothing) {
   int failures = 0;
   for (const Operation& operation : operationsIn(directory.path())) {
     if (operation.use != Use::firstOfICU) continue;
-    for (std::size_t size = 64; size < 256 * 1024; size += 64 + size / 8) {
+    for (std::size_t size = 16; size < 128 * 1024; size += 16 + size / 16) {
       const Outcome outcome = outcomeElsewhere([&]() noexcept {
         operation.prepare();
         bool hasThrown = false;
