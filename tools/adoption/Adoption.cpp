@@ -1,6 +1,6 @@
 #include <ZKStrings/tools/adoption/AdoptedTexts.h>
 #include <ZKStrings/tools/adoption/Adoption.h>
-#include <ZKStrings/tools/authoring/CatalogueCommands.h>
+#include <ZKStrings/tools/authoring/CatalogueFiles.h>
 #include <ZKStrings/tools/project/Catalogue.h>
 #include <ZKStrings/tools/project/Table.h>
 #include <ZKStrings/tools/support/Characters.h>

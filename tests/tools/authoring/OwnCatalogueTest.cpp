@@ -1,5 +1,6 @@
 #include <ZKStrings/tests/TemporaryDirectory.h>
-#include <ZKStrings/tools/authoring/CatalogueCommands.h>
+#include <ZKStrings/tools/authoring/CatalogueFiles.h>
+#include <ZKStrings/tools/authoring/EntryCommands.h>
 #include <ZKStrings/tools/authoring/Initialisation.h>
 #include <ZKStrings/tools/check/Checker.h>
 #include <ZKStrings/tools/project/CatalogueName.h>

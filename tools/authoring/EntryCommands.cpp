@@ -1,7 +1,6 @@
 #include <ZKStrings/catalogue/KeyRule.h>
-#include <ZKStrings/tools/authoring/AccessorGenerator.h>
-#include <ZKStrings/tools/authoring/CatalogueCommands.h>
-#include <ZKStrings/tools/project/Catalogue.h>
+#include <ZKStrings/tools/authoring/CatalogueFiles.h>
+#include <ZKStrings/tools/authoring/EntryCommands.h>
 #include <ZKStrings/tools/project/EnglishTexts.h>
 #include <ZKStrings/tools/project/Table.h>
 #include <ZKStrings/tools/support/Files.h>
@@ -13,12 +12,10 @@
 #include <ZKStrings/tools/translation/TranslationState.h>
 
 #include <algorithm>
-#include <filesystem>
 #include <functional>
 #include <iterator>
 #include <stdexcept>
 #include <string_view>
-#include <system_error>
 #include <utility>
 #include <vector>
 
@@ -30,32 +27,6 @@ namespace {
 
 /// The place of the form for one in `kPluralSuffixes`.
 constexpr std::size_t kFormForOne = 1;
-
-/// The accessors' files that belong to the catalogue and its English table.
-std::vector<FileChange> accessorFiles(const CatalogueName& name, const Catalogue& catalogue,
-                                      const Table& base) {
-  Accessors accessors = generateAccessors(catalogue, base, name);
-  return {{name.headerFile(), std::move(accessors.header)}, {name.sourceFile(), std::move(accessors.source)}};
-}
-
-/// Those of the project at `root`, with the catalogue and the English table that it has.
-std::vector<FileChange> accessorFilesOf(const std::string& root) {
-  return accessorFiles(CatalogueName::read(root), Catalogue::read(root), Table::readWellFormed(root, kBase));
-}
-
-/// Whether the project at `root` keeps its accessors beside the catalogue: the module does; another may leave
-/// them to its build.
-bool keepsAccessors(const std::string& root, const CatalogueName& name) {
-  std::error_code failure;
-  return name.isModule() || std::filesystem::exists(std::filesystem::path(root) / name.headerFile(), failure);
-}
-
-/// The catalogue as its file holds it. Throws `CommandFailed` when it breaks a rule.
-std::string checkedJson(const Catalogue& catalogue) {
-  std::string json = catalogue.toJson();
-  static_cast<void>(Catalogue::parse(json, Catalogue::kFile));
-  return json;
-}
 
 [[noreturn]] void refuse(const std::string& reason) {
   throw std::invalid_argument(reason);
@@ -174,34 +145,6 @@ std::string changedText(const TableKey& key, const std::string& present, const s
 }
 
 }  // namespace
-
-void writeCatalogue(const std::string& root, const Catalogue& catalogue, const std::string& base,
-                    std::vector<FileChange> translations) {
-  const CatalogueName name = CatalogueName::read(root);
-  std::vector<FileChange> changes;
-  if (keepsAccessors(root, name))
-    changes = accessorFiles(name, catalogue, Table::parse(base, tablePath(kBase)));
-  changes.push_back({Catalogue::kFile, checkedJson(catalogue)});
-  changes.push_back({tablePath(kBase), base});
-  std::move(translations.begin(), translations.end(), std::back_inserter(changes));
-  writeFiles(root, changes);
-}
-
-void generate(const std::string& root) {
-  writeFiles(root, accessorFilesOf(root));
-}
-
-void generateInto(const std::string& output, const std::string& root) {
-  std::vector<FileChange> files;
-  try {
-    files = accessorFilesOf(root);
-  } catch (CommandFailed& failed) {
-    for (Fault& fault : failed.faults) fault.file = (std::filesystem::path(root) / fault.file).string();
-    throw;
-  }
-  for (FileChange& file : files) file.path = std::filesystem::path(file.path).filename();
-  writeFiles(output, files);
-}
 
 std::string addEntry(const std::string& root, const NewEntry& added) {
   Catalogue catalogue = Catalogue::read(root);

@@ -1,6 +1,7 @@
 #include <ZKStrings/tests/TemporaryDirectory.h>
 #include <ZKStrings/tools/authoring/AccessorGenerator.h>
-#include <ZKStrings/tools/authoring/CatalogueCommands.h>
+#include <ZKStrings/tools/authoring/CatalogueFiles.h>
+#include <ZKStrings/tools/authoring/EntryCommands.h>
 #include <ZKStrings/tools/project/Catalogue.h>
 #include <ZKStrings/tools/project/Table.h>
 #include <ZKStrings/tools/support/Files.h>
@@ -8,7 +9,6 @@
 #include <optional>
 #include <stdexcept>
 #include <string>
-#include <utility>
 
 #include <gtest/gtest.h>
 
@@ -16,9 +16,9 @@ namespace zk::tools {
 namespace {
 
 /// A project with the entries B, "ZZ" kept in its place, and D.
-class CatalogueCommands : public ::testing::Test {
+class EntryCommands : public ::testing::Test {
  protected:
-  CatalogueCommands() {
+  EntryCommands() {
     project_.write(Catalogue::kFile,
                    "[\n  {\"key\": \"B\", \"text\": \"B\"},\n  {\"key\": \"ZZ\", \"text\": \"ZZ\", \"kept\": "
                    "\"place\"},\n"
@@ -31,7 +31,7 @@ class CatalogueCommands : public ::testing::Test {
   zk::testing::TemporaryDirectory project_;
 };
 
-TEST_F(CatalogueCommands, AddPutsTheEntryInItsPlaceEverywhere) {
+TEST_F(EntryCommands, AddPutsTheEntryInItsPlaceEverywhere) {
   EXPECT_EQ(addEntry(root(), {.text = "C \"%{name}\"\n"}), "C_name_n");
   EXPECT_EQ(addEntry(root(), {.text = "a"}), "a");
   EXPECT_EQ(addEntry(root(), {.text = "D", .plural = true, .forms = {std::nullopt, "one D"}}), "D");
@@ -50,7 +50,7 @@ TEST_F(CatalogueCommands, AddPutsTheEntryInItsPlaceEverywhere) {
   EXPECT_NE(read(CatalogueName().sourceFile()).find("entryText(\"D\", \"D\", count)"), std::string::npos);
 }
 
-TEST_F(CatalogueCommands, AddTakesAKeyWhereTheTextGivesNone) {
+TEST_F(EntryCommands, AddTakesAKeyWhereTheTextGivesNone) {
   EXPECT_EQ(addEntry(root(), {.text = "🎉🎉", .key = "Confetti"}), "Confetti");
   EXPECT_EQ(addEntry(root(), {.text = "B!", .key = "B_loud"}), "B_loud");
   EXPECT_EQ(addEntry(root(), {.text = "C", .key = "C"}), "C");
@@ -59,7 +59,7 @@ TEST_F(CatalogueCommands, AddTakesAKeyWhereTheTextGivesNone) {
   EXPECT_NE(read(Catalogue::kFile).find("{\"key\": \"C\", \"text\": \"C\"}"), std::string::npos);
 }
 
-TEST_F(CatalogueCommands, AddRefusesWithoutChangingAnything) {
+TEST_F(EntryCommands, AddRefusesWithoutChangingAnything) {
   const std::string before = read(Catalogue::kFile);
   const NewEntry cases[] = {
       {.text = "B"},
@@ -92,9 +92,9 @@ TEST_F(CatalogueCommands, AddRefusesWithoutChangingAnything) {
 }
 
 /// As above, with the counted D and a German table in which one text is translated, one is not.
-class CatalogueChanges : public CatalogueCommands {
+class EntryChanges : public EntryCommands {
  protected:
-  CatalogueChanges() {
+  EntryChanges() {
     addEntry(root(), {.text = "%{n} Ds", .plural = true, .forms = {"none", "%{n} D"}, .key = "Ds"});
     project_.write(
         tablePath("de"),
@@ -103,7 +103,7 @@ class CatalogueChanges : public CatalogueCommands {
   }
 };
 
-TEST_F(CatalogueChanges, ChangeKeepsTheKeyAndMarksTranslations) {
+TEST_F(EntryChanges, ChangeKeepsTheKeyAndMarksTranslations) {
   EXPECT_EQ(changeEntry(root(), "B", "Bee", {}), 1u);
   EXPECT_EQ(changeEntry(root(), "D", "Dee", {}), 0u);
   EXPECT_EQ(changeEntry(root(), "Ds", "%{n} Dees", {"none", "%{n} Dee"}), 1u);
@@ -121,7 +121,7 @@ TEST_F(CatalogueChanges, ChangeKeepsTheKeyAndMarksTranslations) {
   EXPECT_NE(read(Catalogue::kFile).find("{\"key\": \"B\", \"text\": \"B\"}"), std::string::npos);
 }
 
-TEST_F(CatalogueChanges, RemoveTakesTheTextOutEverywhere) {
+TEST_F(EntryChanges, RemoveTakesTheTextOutEverywhere) {
   removeEntry(root(), "Ds");
   removeEntry(root(), "D");
   EXPECT_EQ(read(tablePath("de")), "/* German */\n\n\"B\" = \"Be\";\n/* kept */\n");
@@ -129,7 +129,7 @@ TEST_F(CatalogueChanges, RemoveTakesTheTextOutEverywhere) {
   EXPECT_EQ(Catalogue::read(root()).entries().size(), 2u);
 }
 
-TEST_F(CatalogueChanges, RefuseWithoutChangingAnything) {
+TEST_F(EntryChanges, RefuseWithoutChangingAnything) {
   const auto everything = [&] {
     return read(Catalogue::kFile) + read(tablePath("Base")) + read(tablePath("de"));
   };
@@ -146,52 +146,11 @@ TEST_F(CatalogueChanges, RefuseWithoutChangingAnything) {
   EXPECT_EQ(everything(), before);
 }
 
-TEST_F(CatalogueCommands, GenerateKeepsReservedWordsOutOfTheCode) {
+TEST_F(EntryCommands, GenerateKeepsReservedWordsOutOfTheCode) {
   project_.write(Catalogue::kFile, "[\n  {\"key\": \"or_class\", \"text\": \"or %{class}\"}\n]\n");
   generate(root());
   EXPECT_NE(read(CatalogueName().sourceFile()).find("or_class(Text class_)"), std::string::npos);
   EXPECT_NE(read(CatalogueName().sourceFile()).find("{{\"class\", class_}}"), std::string::npos);
-}
-
-TEST(Table, FaultsNameLineAndColumn) {
-  const std::pair<std::string, Position> cases[] = {
-      {"\"a\" = \"1\"\n\"b\" = \"2\";\n", {1, 10}},
-      {"\n\"ä\" \"1\";\n", {2, 5}},
-      {"\"a\" = \"ä\xFF\";", {1, 9}},
-  };
-  for (const auto& [text, position] : cases) {
-    const Table table = Table::parse(text, "t");
-    ASSERT_EQ(table.faults.size(), 1u) << text;
-    EXPECT_EQ(table.faults[0].line, position.line) << text;
-    EXPECT_EQ(table.faults[0].column, position.column) << text;
-  }
-}
-
-TEST(Catalogue, FaultsNameLineAndColumn) {
-  struct Case {
-    std::string line;  ///< the second of entries.json, the only entry's
-    std::size_t column;
-  };
-  const Case cases[] = {
-      {R"({"key": "a", "text": 1e999})", 1},
-      {R"({"key": "a", "text": -1e999})", 1},
-      {R"(1e999)", 1},
-      {R"({"key": "ä" "text": "ä"})", 18},
-      {R"({"key": "ä", "text": "ä"},)", 26},
-      {"", 1},
-      {",", 1},
-      {"[", 2},
-      {"{\"key\": \"\xFF\"}", 10},
-  };
-  for (const auto& [line, column] : cases) {
-    try {
-      static_cast<void>(Catalogue::parse("[\n" + line + "\n]\n", "entries.json"));
-      ADD_FAILURE() << "no fault: " << line;
-    } catch (const CommandFailed& failed) {
-      EXPECT_EQ(failed.faults[0].line, 2u) << line;
-      EXPECT_EQ(failed.faults[0].column, column) << line << ": " << failed.faults[0].message;
-    }
-  }
 }
 
 }  // namespace

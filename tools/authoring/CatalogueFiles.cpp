@@ -1,0 +1,74 @@
+#include <ZKStrings/tools/authoring/AccessorGenerator.h>
+#include <ZKStrings/tools/authoring/CatalogueFiles.h>
+#include <ZKStrings/tools/project/CatalogueName.h>
+#include <ZKStrings/tools/project/Table.h>
+#include <ZKStrings/tools/support/Fault.h>
+#include <ZKStrings/tools/support/Languages.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <iterator>
+#include <system_error>
+#include <utility>
+
+namespace zk::tools {
+
+namespace {
+
+/// The accessors' files that belong to the catalogue and its English table.
+std::vector<FileChange> accessorFiles(const CatalogueName& name, const Catalogue& catalogue,
+                                      const Table& base) {
+  Accessors accessors = generateAccessors(catalogue, base, name);
+  return {{name.headerFile(), std::move(accessors.header)}, {name.sourceFile(), std::move(accessors.source)}};
+}
+
+/// Those of the project at `root`, with the catalogue and the English table that it has.
+std::vector<FileChange> accessorFilesOf(const std::string& root) {
+  return accessorFiles(CatalogueName::read(root), Catalogue::read(root), Table::readWellFormed(root, kBase));
+}
+
+/// Whether the project at `root` keeps its accessors beside the catalogue: the module does; another may leave
+/// them to its build.
+bool keepsAccessors(const std::string& root, const CatalogueName& name) {
+  std::error_code failure;
+  return name.isModule() || std::filesystem::exists(std::filesystem::path(root) / name.headerFile(), failure);
+}
+
+/// The catalogue as its file holds it. Throws `CommandFailed` when it breaks a rule.
+std::string checkedJson(const Catalogue& catalogue) {
+  std::string json = catalogue.toJson();
+  static_cast<void>(Catalogue::parse(json, Catalogue::kFile));
+  return json;
+}
+
+}  // namespace
+
+void writeCatalogue(const std::string& root, const Catalogue& catalogue, const std::string& base,
+                    std::vector<FileChange> translations) {
+  const CatalogueName name = CatalogueName::read(root);
+  std::vector<FileChange> changes;
+  if (keepsAccessors(root, name))
+    changes = accessorFiles(name, catalogue, Table::parse(base, tablePath(kBase)));
+  changes.push_back({Catalogue::kFile, checkedJson(catalogue)});
+  changes.push_back({tablePath(kBase), base});
+  std::move(translations.begin(), translations.end(), std::back_inserter(changes));
+  writeFiles(root, changes);
+}
+
+void generate(const std::string& root) {
+  writeFiles(root, accessorFilesOf(root));
+}
+
+void generateInto(const std::string& output, const std::string& root) {
+  std::vector<FileChange> files;
+  try {
+    files = accessorFilesOf(root);
+  } catch (CommandFailed& failed) {
+    for (Fault& fault : failed.faults) fault.file = (std::filesystem::path(root) / fault.file).string();
+    throw;
+  }
+  for (FileChange& file : files) file.path = std::filesystem::path(file.path).filename();
+  writeFiles(output, files);
+}
+
+}  // namespace zk::tools
