@@ -20,7 +20,7 @@ set(libraries ${ZK_ROOT}/usr/lib/${CMAKE_LIBRARY_ARCHITECTURE}:${ZK_ROOT}/lib/${
 set(CMAKE_EXE_LINKER_FLAGS_INIT -Wl,-rpath-link,${libraries})
 if(CMAKE_SYSTEM_PROCESSOR STREQUAL i686 AND CMAKE_HOST_SYSTEM_PROCESSOR STREQUAL x86_64)
   # This processor knows the instructions; what is missing are only the loader and the libraries.
-  string(APPEND CMAKE_EXE_LINKER_FLAGS_INIT " -Wl,--dynamic-linker=${ZK_ROOT}/lib/ld-linux.so.2 -Wl,-rpath,${libraries}")
+  string(APPEND CMAKE_EXE_LINKER_FLAGS_INIT " -Wl,--dynamic-linker=${ZK_ROOT}/lib/ld-linux.so.2 -Wl,--disable-new-dtags,-rpath,${libraries}")
 else()
   set(CMAKE_CROSSCOMPILING_EMULATOR qemu-${CMAKE_SYSTEM_PROCESSOR} -L ${ZK_ROOT})
 endif()
