@@ -18,9 +18,10 @@ set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
 # The root's libraries may need a newer C++ library than the compiler's own, and find it there.
 set(libraries ${ZK_ROOT}/usr/lib/${CMAKE_LIBRARY_ARCHITECTURE}:${ZK_ROOT}/lib/${CMAKE_LIBRARY_ARCHITECTURE})
 set(CMAKE_EXE_LINKER_FLAGS_INIT -Wl,-rpath-link,${libraries})
-if(CMAKE_SYSTEM_PROCESSOR STREQUAL i686 AND CMAKE_HOST_SYSTEM_PROCESSOR STREQUAL x86_64)
-  # This processor knows the instructions; what is missing are only the loader and the libraries.
-  string(APPEND CMAKE_EXE_LINKER_FLAGS_INIT " -Wl,--dynamic-linker=${ZK_ROOT}/lib/ld-linux.so.2 -Wl,--disable-new-dtags,-rpath,${libraries}")
+if(CMAKE_SYSTEM_PROCESSOR STREQUAL i686)
+  # An x86-64 processor knows the instructions; what is missing are only the loader and the libraries.
+  string(APPEND CMAKE_EXE_LINKER_FLAGS_INIT
+    " -Wl,--dynamic-linker=${ZK_ROOT}/lib/ld-linux.so.2 -Wl,--disable-new-dtags,-rpath,${libraries}")
 else()
   set(CMAKE_CROSSCOMPILING_EMULATOR qemu-${CMAKE_SYSTEM_PROCESSOR} -L ${ZK_ROOT})
 endif()
