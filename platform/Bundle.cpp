@@ -54,7 +54,7 @@ const StringTable* ResourcePath::openTable() const {
   if (const StringTable* open = table_.load()) return open;
   std::error_code failure;
   auto table = std::make_unique<const StringTable>(StringTable::inFile(path_, failure));
-  if (isPassing(failure)) return nullptr;
+  if (isPassing(failure) || failure == std::errc::permission_denied) return nullptr;
   table_.store(table.get(), std::memory_order_release);
   return table.release();
 }
@@ -142,7 +142,8 @@ const Bundle* Bundle::initWithPath(const ResourcePath& path) {
 const Bundle* Bundle::open(const ResourcePath& path) {
   std::error_code failure;
   const Bundle* const opened = open(path.string(), failure);
-  if (isPassing(failure)) return &withoutResources(path.string());
+  // Not null: who opens it twice may find the second time that it cannot be opened at all, and take that for a change.
+  if (isPassing(failure)) throw std::system_error(failure, path.string());
   path.bundle_.store(opened, std::memory_order_release);
   return opened;
 }

@@ -61,8 +61,8 @@ class ZK_EXPORT alignas(kCacheLine) Bundle {
   /// bundle.
   [[nodiscard]] static const Bundle* initWithPath(const std::string& path);
 
-  /// Opens a directory that a bundle holds. When it cannot be listed for the moment only, it is without
-  /// resources for the moment.
+  /// Opens a directory that a bundle holds; null when it cannot be listed. Throws std::system_error when that
+  /// is so for the moment only.
   [[nodiscard]] static const Bundle* initWithPath(const ResourcePath& path);
 
   /// The directory `name`.`type` among the bundle's resources, for example "de" and "lproj"; null when there

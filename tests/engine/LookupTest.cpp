@@ -1,7 +1,9 @@
+#include <ZKStrings/catalogue/ZKStrings.h>
 #include <ZKStrings/engine/LanguageChoice.h>
 #include <ZKStrings/engine/PluralSuffix.h>
 #include <ZKStrings/engine/StringLookup.h>
 #include <ZKStrings/platform/Bundle.h>
+#include <ZKStrings/platform/Resolver.h>
 #include <ZKStrings/region/CurrentLanguage.h>
 #include <ZKStrings/tests/TemporaryDirectory.h>
 
@@ -183,6 +185,31 @@ TEST(Lookup, FindsTheTextOfTheChosenTableOrTheEnglishDefault) {
   }
   const std::string longKey(1000, 'k');
   EXPECT_EQ(localizedString(longKey, "", 0, {}), longKey + "_zero");
+}
+
+TEST(Lookup, ResolvesTheLanguageOnce) {
+  const std::pair<const char*, std::string (*)()> families[] = {
+      {"plain", [] { return ZKStrings::About(); }},
+      {"counted", [] { return ZKStrings::Your_Extra_Lives_are_on_the_way(2); }},
+      {"with placeholders", [] { return ZKStrings::active_limit_players("1", "2"); }},
+      {"counted with placeholders", [] { return ZKStrings::badgeCount_Badges("4", 4); }},
+  };
+  Language language;
+  // The walk over many entries, and the second steps of the winner, are still one lookup.
+  language.preferredLanguages = std::vector<std::string>(100, "xx");
+  language.preferredLanguages.append("de");
+  int calls = 0;
+  ResolverOptions options = Resolver::register_<Language>([&] { return ++calls, language; });
+  for (const auto& [name, text] : families) {
+    calls = 0;
+    EXPECT_FALSE(text().empty());
+    EXPECT_EQ(calls, 1) << name;
+  }
+  options.scope(ResolverScope::application);
+  calls = 0;
+  for (const auto& [name, text] : families) EXPECT_FALSE(text().empty()) << name;
+  EXPECT_EQ(calls, 1);
+  Current::language = language;
 }
 
 TEST(Lookup, ThreadsFollowAChangeOfTheLanguage) {

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Runs the example with a catalogue of its own from the build folder, then builds it from an installation of the module,
-# installs and moves it. Also changes its catalogue, and makes it wrong.
+# installs and moves it. Also changes its catalogue, and makes it wrong. The same for a program with two catalogues of its
+# own, but for the changes.
 #   own_catalogue.sh CMAKE SOURCE_DIRECTORY BUILD_DIRECTORY CXX_COMPILER
 set -euo pipefail
 cmake=$1 source=$2 build=$3 compiler=$4
@@ -27,6 +28,15 @@ expect "from an installation" "$both" "$work/build/own_catalogue" de-DE
 mv "$work/first" "$work/moved"
 expect "installed and moved" "$both" "$work/moved/bin/own_catalogue" de-DE
 expect "installed, in another language" "Bonsoir, Kim !" "$work/moved/bin/own_catalogue" fr-FR
+
+two="Auf Sendung gehen, AUF SENDUNG, 12 Abzeichen"
+expect "two, in the build folder" "$two" "$build/bin/two_catalogues"
+"$cmake" -G Ninja -S "$source/tests/package/two-catalogues" -B "$work/two" -DCMAKE_CXX_COMPILER="$compiler" \
+  -DCMAKE_PREFIX_PATH="$work/module" -DCMAKE_INSTALL_PREFIX="$work/two-installed" -DCMAKE_INSTALL_RPATH_USE_LINK_PATH=ON >/dev/null
+"$cmake" --build "$work/two" >/dev/null
+expect "two, from an installation" "$two" "$work/two/two_catalogues"
+"$cmake" --install "$work/two" >/dev/null
+expect "two, installed" "$two" "$work/two-installed/bin/two_catalogues"
 
 entries=$work/app/texts/catalogue/entries.json
 sed -i 's/{"key": "Go_live", "text": "Go live"}/{"key": "Go_live", "text": "Go live!"}/' "$entries"

@@ -88,8 +88,14 @@ test("Each text has its language and direction", async () => {
     };
     return [leftOf(text.firstChild, 0), leftOf(text.lastChild, 0)];
   });
-  const value = await Arabic.locator(".value").evaluate((node) => node.getBoundingClientRect().left);
+  const values = (of) => of.locator(".value").evaluateAll((all) => all.map((one) => one.getBoundingClientRect().left));
+  const [value] = await values(Arabic);
   assert.ok(mark < value && value < verb, `${mark} ${value} ${verb}`);
+  // Two numbers that an app shows as "12/50" among Arabic words stand so here as well.
+  await page.evaluate(() => (location.hash = "active_limit_players"));
+  await page.waitForSelector("#card-title:has-text('active')");
+  const [active, limit] = await values(Arabic);
+  assert.ok(active < limit, `${active} ${limit}`);
 });
 
 test("Values, marks and what nobody fills in have colours of their own", async () => {
@@ -133,4 +139,13 @@ test("In print there are the texts alone, all of them", async () => {
   assert.ok(await page.isVisible("#list"));
   const isCut = await page.evaluate(() => list.scrollHeight > list.clientHeight + 1);
   assert.ok(!isCut);
+  const full = await open(browser, shipped);
+  const [first, all, texts] = await full.evaluate(() => {
+    document.getElementById("filters").dispatchEvent(new Event("input")); // makes the list anew, in steps
+    const first = list.children.length;
+    dispatchEvent(new Event("beforeprint"));
+    return [first, list.children.length, document.getElementById("count").textContent];
+  });
+  assert.ok(first < all);
+  assert.strictEqual(`${all} texts`, texts);
 });

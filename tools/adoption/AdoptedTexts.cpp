@@ -4,6 +4,7 @@
 #include <ZKStrings/tools/adoption/PositionalText.h>
 #include <ZKStrings/tools/project/Identifiers.h>
 #include <ZKStrings/tools/project/Table.h>
+#include <ZKStrings/tools/texts/TextFeatures.h>
 
 #include <algorithm>
 #include <utility>
@@ -55,13 +56,6 @@ const ForeignText& mainText(const ForeignEntry& entry) {
   return *best;
 }
 
-bool hasControlCharacters(std::string_view text) {
-  return std::any_of(text.begin(), text.end(), [](char character) {
-    return (static_cast<unsigned char>(character) < 0x20 && character != '\n' && character != '\t') ||
-           character == 0x7F;
-  });
-}
-
 bool isFormatted(const FormatPiece& piece) {
   return piece.isFormatted && piece.argument != 0;
 }
@@ -90,11 +84,12 @@ void AdoptedTexts::remark(Severity severity, const ForeignText& text, std::strin
 std::optional<std::string> AdoptedTexts::converted(const ForeignText& text, const Known& known) {
   std::string source = text.text;
   replaceOccurrences(source, "\r\n", "\n");
+  replaceOccurrences(source, "\r", "\n");
   if (source.empty()) {
     remark(Severity::warning, text, "the text is empty; left out");
     return std::nullopt;
   }
-  if (hasControlCharacters(source)) {
+  if (findControlCharacter(source) != source.npos) {
     remark(Severity::warning, text, "the text has control characters; left out");
     return std::nullopt;
   }
@@ -110,7 +105,8 @@ std::optional<std::string> AdoptedTexts::converted(const ForeignText& text, cons
 }
 
 std::string AdoptedTexts::whyRefused(const Entry& entry) const {
-  if (hasControlCharacters(entry.key)) return "the key has control characters; give it another by hand";
+  if (findControlCharacter(entry.key) != entry.key.npos)
+    return "the key has control characters; give it another by hand";
   Catalogue alone;
   alone.insert(0, entry);
   try {

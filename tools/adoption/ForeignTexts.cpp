@@ -1,3 +1,4 @@
+#include <ZKStrings/platform/formats/StringTableReader.h>
 #include <ZKStrings/platform/formats/TextEncoding.h>
 #include <ZKStrings/platform/system/File.h>
 #include <ZKStrings/tools/adoption/ForeignTexts.h>
@@ -62,6 +63,16 @@ std::optional<std::string> textOf(const std::string& file, Faults& faults) {
   return text;
 }
 
+/// The comments in a part of a table that has no entry.
+std::vector<std::string> commentsIn(std::string_view part) {
+  StringTableReader reader(part);
+  static_cast<void>(reader.next());
+  std::vector<std::string> comments;
+  for (const StringTableReader::Token& comment : reader.comments())
+    comments.emplace_back(part.substr(comment.begin, comment.end - comment.begin));
+  return comments;
+}
+
 /// Puts texts together by key.
 class Collector {
  public:
@@ -73,10 +84,13 @@ class Collector {
     return texts_.entries[place->second];
   }
 
-  void add(const Table& table, const std::set<std::string>& plurals) {
+  void add(const Table& table, std::string_view bytes, const std::set<std::string>& plurals) {
     for (const TableEntry& entry : table.entries) {
       ForeignText text{entry.text, table.file, entry.keyAt};
       for (const TableEntry::Comment& comment : entry.comments) text.comments.push_back(comment.text);
+      const std::size_t end = endOfLine(bytes, entry);
+      for (std::string& comment : commentsIn(bytes.substr(entry.span.end, end - entry.span.end)))
+        text.comments.push_back(std::move(comment));
       const std::optional<FormKey> formKey = formKeyOf(entry.key);
       const bool isForm = formKey && plurals.contains(formKey->base);
       ForeignEntry& group = entryOf(isForm ? formKey->base : entry.key, isForm);
@@ -86,19 +100,43 @@ class Collector {
                                  "the key stands again further down, and only the last one counts"});
       present = std::move(text);
     }
+    remarkOnLastComments(table, bytes);
   }
 
-  /// Texts of a dictionary replace those of a table, as they do in an app.
+  /// Texts of a dictionary replace those of a table, as they do in an app. Their comments stay.
   void add(std::vector<ForeignEntry> entries) {
     for (ForeignEntry& entry : entries) {
-      if (const auto plain = places_.find({entry.key, false}); plain != places_.end())
-        texts_.entries[plain->second].forms.clear();
-      entryOf(entry.key, true).forms = std::move(entry.forms);
+      std::vector<std::string> comments;
+      for (const bool isPlural : {false, true}) {
+        if (const auto present = places_.find({entry.key, isPlural}); present != places_.end())
+          takeAway(texts_.entries[present->second], comments);
+      }
+      entry.forms.begin()->second.comments = std::move(comments);
+      entryOf(entry.key, entry.isPlural()).forms = std::move(entry.forms);
     }
     std::erase_if(texts_.entries, [](const ForeignEntry& entry) { return entry.forms.empty(); });
   }
 
  private:
+  void remarkOnLastComments(const Table& table, std::string_view bytes) {
+    const std::size_t end = table.entries.empty() ? 0 : endOfLine(bytes, table.entries.back());
+    if (commentsIn(bytes.substr(end)).empty()) return;
+    const Position at = positionOf(bytes, bytes.find('/', end));
+    texts_.faults.push_back({Severity::note, table.file, at.line, at.column, "",
+                             "the comments from here on belong to no text; left out"});
+  }
+
+  /// Takes the texts of `entry` away, and adds their comments to `comments`.
+  void takeAway(ForeignEntry& entry, std::vector<std::string>& comments) {
+    for (auto& [name, text] : entry.forms) {
+      std::move(text.comments.begin(), text.comments.end(), std::back_inserter(comments));
+      texts_.faults.push_back(
+          {Severity::note, text.file, text.at.line, text.at.column, "",
+           "the key stands in the .stringsdict file as well, and only the last one there counts"});
+    }
+    entry.forms.clear();
+  }
+
   ForeignTexts& texts_;
   std::map<std::pair<std::string, bool>, std::size_t> places_;
 };
@@ -111,13 +149,13 @@ ForeignTexts readFiles(const std::string& file,
   const std::string dictionary = fs::path(file).replace_extension(".stringsdict").string();
   const bool hasDictionary = fs::exists(dictionary, failure);
   if (fs::exists(file, failure) || !hasDictionary) {
-    if (std::optional<std::string> text = textOf(file, texts.faults)) {
-      const Table table = Table::parse(*std::move(text), file);
+    if (const std::optional<std::string> text = textOf(file, texts.faults)) {
+      const Table table = Table::parse(*text, file);
       for (Fault fault : table.faults) {
         fault.severity = Severity::warning;
         texts.faults.push_back(std::move(fault));
       }
-      collector.add(table, pluralsOf(table));
+      collector.add(table, *text, pluralsOf(table));
     }
   }
   if (!hasDictionary) return texts;

@@ -46,6 +46,7 @@ struct Reading {
 };
 
 Reading readEntry(const pugi::xml_node& entry) {
+  if (std::string_view(entry.name()) == "string") return {"", {{"", entry.text().get()}}};
   const pugi::xml_node formatNode = memberOf(entry, "NSStringLocalizedFormatKey");
   if (!formatNode) return {"the entry has no format (NSStringLocalizedFormatKey)"};
   const std::vector<FormatPiece> format = formatPiecesOf(formatNode.text().get());

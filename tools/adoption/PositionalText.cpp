@@ -22,6 +22,14 @@ std::string_view take(std::string_view& rest, std::string_view set) {
   return taken;
 }
 
+/// Takes a width or precision off `rest`: digits, or a star for an argument that tells it.
+bool takeSize(std::string_view& rest, FormatPiece& piece) {
+  if (!rest.starts_with('*')) return !take(rest, kDigits).empty();
+  rest.remove_prefix(1);
+  ++piece.sizes;
+  return true;
+}
+
 /// The number that `digits` spell; 0 for one beyond all sense.
 std::size_t numberOf(std::string_view digits) {
   if (digits.size() > 3) return 0;
@@ -53,10 +61,10 @@ FormatPiece placeholderAt(std::string_view text) {
     rest.remove_prefix(end);
   } else {
     piece.isFormatted = !take(rest, kFlags).empty();
-    piece.isFormatted |= !take(rest, kDigits).empty();
+    piece.isFormatted |= takeSize(rest, piece);
     if (rest.starts_with('.')) {
       rest.remove_prefix(1);
-      take(rest, kDigits);
+      takeSize(rest, piece);
       piece.isFormatted = true;
     }
     take(rest, kLengths);
@@ -80,7 +88,10 @@ std::vector<FormatPiece> formatPiecesOf(std::string_view text, std::size_t alway
       pieces.push_back({std::string(text.substr(0, text.find('%')))});
     } else {
       FormatPiece piece = placeholderAt(text);
-      if (isPlaceholder(piece) && piece.argument == 0) piece.argument = always != 0 ? always : next++;
+      if (isPlaceholder(piece) && piece.argument == 0) {
+        next += piece.sizes;
+        piece.argument = always != 0 ? always : next++;
+      }
       pieces.push_back(std::move(piece));
     }
     text.remove_prefix(pieces.back().text.size());

@@ -13,6 +13,7 @@ struct FormatPiece {
   std::size_t argument = 0;   ///< the place of the argument that it stands for, from 1; 0 for plain text
   std::string variable = {};  ///< of "%#@coins@", the variable "coins", which has plural forms
   bool isFormatted = false;   ///< whether it says how its number is written, as "%.2f" does
+  std::size_t sizes = 0;      ///< how many arguments before its own tell its size, as in "%*d"
 };
 
 /// The pieces of `text`, in their order. A placeholder without a number takes the next argument, or, where

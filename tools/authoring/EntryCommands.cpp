@@ -1,4 +1,5 @@
 #include <ZKStrings/catalogue/KeyRule.h>
+#include <ZKStrings/platform/text/UnicodeText.h>
 #include <ZKStrings/tools/authoring/CatalogueFiles.h>
 #include <ZKStrings/tools/authoring/EntryCommands.h>
 #include <ZKStrings/tools/project/EnglishTexts.h>
@@ -41,9 +42,15 @@ void refuseUnknownPlaceholders(const std::string& form, const std::string& text)
   }
 }
 
-void refuseWrongForms(const PluralForms& forms, const std::string& text, bool isCounted) {
+void refuseOtherThanUtf8(const std::string& text) {
+  if (!isUtf8(text)) refuse("the text is not UTF-8; see that your terminal writes UTF-8");
+}
+
+void refuseWrongTexts(const PluralForms& forms, const std::string& text, bool isCounted) {
+  refuseOtherThanUtf8(text);
   for (const std::optional<std::string>& form : forms) {
     if (!form) continue;
+    refuseOtherThanUtf8(*form);
     if (!isCounted)
       refuse("a text without count has no plural forms; leave them out, or add it with --count");
     refuseUnknownPlaceholders(*form, text);
@@ -148,7 +155,7 @@ std::string changedText(const TableKey& key, const std::string& present, const s
 
 std::string addEntry(const std::string& root, const NewEntry& added) {
   Catalogue catalogue = Catalogue::read(root);
-  refuseWrongForms(added.forms, added.text, added.plural);
+  refuseWrongTexts(added.forms, added.text, added.plural);
   const PluralForms forms = added.plural ? completed(added.forms, added.text) : PluralForms();
   Entry entry = entryFor(added, catalogue);
   const std::size_t place = catalogue.placeFor(entry.key, entry.plural);
@@ -167,7 +174,7 @@ std::size_t changeEntry(const std::string& root, const std::string& key, const s
   Catalogue catalogue = Catalogue::read(root);
   const std::vector<Entry*> entries = entriesOf(catalogue, key);
   const std::string oldText = entries.front()->text;
-  refuseWrongForms(forms, text, entries.back()->plural);
+  refuseWrongTexts(forms, text, entries.back()->plural);
   if (text.empty()) refuse("the new text is empty; zkstrings remove removes one");
   for (Entry* const entry : entries) {
     entry->text = text;

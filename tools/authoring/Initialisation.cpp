@@ -34,8 +34,8 @@ constexpr const char* kReadme = R"(# {name}
 
 The texts of the program. `catalogue/entries.json` lists them with their English; `resources/` has one table a language.
 
-    zkstrings add "Bye, %{{name}}!"     a new text; the program calls {call}Bye_name(name)
-    zkstrings add --count "%{{n}} stars" --one "%{{n}} star"      one with plural forms
+    zkstrings add 'Bye, %{{name}}!'     a new text; the program calls {call}Bye_name(name)
+    zkstrings add --count '%{{n}} stars' --one '%{{n}} star'      one with plural forms
     zkstrings template de              begins the table of a language, here German
     zkstrings check                    says what is wrong or missing in the tables
 

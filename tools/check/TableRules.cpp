@@ -1,8 +1,15 @@
 #include <ZKStrings/tools/check/TableRules.h>
+#include <ZKStrings/tools/project/EntryComments.h>
 #include <ZKStrings/tools/support/Languages.h>
+#include <ZKStrings/tools/support/Nearest.h>
 #include <ZKStrings/tools/texts/TextFeatures.h>
+#include <ZKStrings/tools/translation/TranslationState.h>
 
+#include <algorithm>
 #include <map>
+#include <optional>
+#include <string>
+#include <vector>
 
 #include <fmt/format.h>
 
@@ -46,6 +53,18 @@ void findReplacementCharacters(const LanguageTable& subject, Findings& findings)
   }
 }
 
+void findControlCharacters(const LanguageTable& subject, Findings& findings) {
+  for (const TableEntry& entry : subject.table.entries) {
+    const std::size_t offset = findControlCharacter(entry.text);
+    if (offset == std::string::npos) continue;
+    findings.add(
+        entry, TextPlaces(entry).at(offset),
+        fmt::format("the control character U+{:04X} stands in the text, which shows as nothing or as a "
+                    "box; remove it",
+                    static_cast<unsigned>(entry.text[offset])));
+  }
+}
+
 void findEmptyTexts(const LanguageTable& subject, Findings& findings) {
   for (const TableEntry& entry : subject.table.entries) {
     if (isBlank(entry.text)) {
@@ -67,6 +86,23 @@ void findUnknownEscapes(const LanguageTable& subject, Findings& findings) {
   }
 }
 
+void findUnknownStates(const LanguageTable& subject, Findings& findings) {
+  const std::vector<std::string_view> states = {nameOf(TranslationState::untranslated),
+                                                nameOf(TranslationState::needsReview)};
+  for (const TableEntry& entry : subject.table.entries) {
+    for (const TableEntry::Comment& comment : entry.comments) {
+      const std::string state = fmt::format("{}", fmt::join(wordsTold(comment, kState), " "));
+      if (state.empty() || std::find(states.begin(), states.end(), state) != states.end()) continue;
+      const std::optional<std::string_view> meant = nearest(state, states);
+      findings.add(entry, comment.at,
+                   fmt::format("no entry is marked as \"{}\"; {}", state,
+                               meant ? fmt::format("write \"{}\" if that is meant", *meant)
+                                     : fmt::format("write \"{}\", or remove the comment",
+                                                   fmt::join(states, "\" or \""))));
+    }
+  }
+}
+
 constexpr RuleFor<LanguageTable> kRules[] = {
     {{"language-directory", Severity::error, "a directory that the module never chooses, by its name"},
      findDirectory},
@@ -78,9 +114,13 @@ constexpr RuleFor<LanguageTable> kRules[] = {
      findWhileReading<Table::kSyntax>},
     {{"duplicate-key", Severity::error, "a key that stands twice in a table"}, findDuplicates},
     {{"replacement-character", Severity::error, "U+FFFD in a text"}, findReplacementCharacters},
+    {{"control-character", Severity::error, "a control character in a text, line breaks and tabs aside"},
+     findControlCharacters},
     {{"empty-text", Severity::warning, "a text of nothing or white space"}, findEmptyTexts},
     {{"unknown-escape", Severity::warning, "a backslash before a character that it gives no meaning"},
      findUnknownEscapes},
+    {{"unknown-state", Severity::warning, "a comment \"state:\" with another word than those it may have"},
+     findUnknownStates},
 };
 
 }  // namespace

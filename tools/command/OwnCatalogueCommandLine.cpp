@@ -41,8 +41,8 @@ void runAdoption(const std::string& root, const std::string& file) {
     left += remark.severity == Severity::note ? 0 : 1;
     fmt::print("{}\n", formatted(remark, isatty(STDOUT_FILENO) == 1));
   }
-  fmt::print("Brought {} texts along, in {}; left {} out.\n", done.entries, fmt::join(done.languages, ", "),
-             left);
+  fmt::print("Brought {} text{} along, in {}; left {} out.\n", done.entries, done.entries == 1 ? "" : "s",
+             fmt::join(done.languages, ", "), left);
 }
 
 }  // namespace zk::tools

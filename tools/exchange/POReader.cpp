@@ -1,6 +1,7 @@
 #include <ZKStrings/platform/formats/TextEncoding.h>
 #include <ZKStrings/tools/exchange/PO.h>
 #include <ZKStrings/tools/exchange/POReference.h>
+#include <ZKStrings/tools/exchange/POText.h>
 #include <ZKStrings/tools/support/Fault.h>
 #include <ZKStrings/tools/support/Files.h>
 
@@ -16,38 +17,9 @@ namespace zk::tools {
 
 namespace {
 
-constexpr std::string_view kBlanks = " \t\r";
-
-/// `text` without the blanks in front.
-std::string_view behindBlanks(std::string_view text) {
-  return text.substr(std::min(text.find_first_not_of(kBlanks), text.size()));
-}
-
 std::string_view firstWord(std::string_view text) {
   text = behindBlanks(text);
-  return text.substr(0, text.find_first_of(kBlanks));
-}
-
-/// Takes an octal number of up to three digits off `text`.
-char takeOctal(std::string_view& text) {
-  unsigned value = 0;
-  for (int digits = 0; digits < 3 && !text.empty() && text[0] >= '0' && text[0] <= '7'; ++digits) {
-    value = value * 8 + static_cast<unsigned>(text[0] - '0');
-    text.remove_prefix(1);
-  }
-  return static_cast<char>(value);
-}
-
-/// Takes an escape, whose backslash is gone, off `text`. Nothing when it is none.
-std::optional<char> takeEscape(std::string_view& text) {
-  constexpr std::string_view kNames = "abfnrtv\\\"";
-  constexpr std::string_view kCharacters = "\a\b\f\n\r\t\v\\\"";
-  if (text.empty()) return std::nullopt;
-  if (text[0] >= '0' && text[0] <= '7') return takeOctal(text);
-  const std::size_t known = kNames.find(text[0]);
-  if (known == std::string_view::npos) return std::nullopt;
-  text.remove_prefix(1);
-  return kCharacters[known];
+  return text.substr(0, text.find_first_of(kPOBlanks));
 }
 
 /// Whether `text` is `part` once or several times.
@@ -113,7 +85,7 @@ class Reader {
     if (comment.starts_with("#:") && entry_.reference.empty()) entry_.reference = keyNamedBy(firstWord(told));
     if (comment.starts_with("#.") && told.starts_with(kIdentifier))
       entry_.identifier =
-          told.substr(kIdentifier.size(), told.find_last_not_of(kBlanks) + 1 - kIdentifier.size());
+          told.substr(kIdentifier.size(), told.find_last_not_of(kPOBlanks) + 1 - kIdentifier.size());
   }
 
   void beginStatement(std::string_view keyword) {
@@ -137,22 +109,8 @@ class Reader {
   }
 
   /// A text in quotes, up to the end of the line.
-  void readText(std::string_view rest) {
-    constexpr const char* kAdvice = "write the text in quotes, and a backslash before each quote in it";
-    if (!rest.starts_with('"')) fail(kAdvice);
-    rest.remove_prefix(1);
-    while (!rest.empty() && rest[0] != '"') {
-      const std::string_view plain = rest.substr(0, rest.find_first_of("\\\""));
-      *quoted_ += plain;
-      rest.remove_prefix(plain.size());
-      if (!rest.starts_with('\\')) continue;
-      rest.remove_prefix(1);
-      const std::optional<char> character = takeEscape(rest);
-      if (!character) fail("a backslash before a character that it gives no meaning; write \\\\ for itself");
-      *quoted_ += *character;
-    }
-    if (rest.empty()) fail("the text's closing quote is missing; the file may be cut off or damaged");
-    if (!behindBlanks(rest.substr(1)).empty()) fail(kAdvice);
+  void readText(std::string_view quoted) {
+    if (const char* const fault = appendUnquoted(quoted, *quoted_)) fail(fault);
   }
 
   void endEntry() {

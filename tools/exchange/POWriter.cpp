@@ -1,6 +1,6 @@
 #include <ZKStrings/tools/exchange/PO.h>
 #include <ZKStrings/tools/exchange/POReference.h>
-#include <ZKStrings/tools/project/Table.h>
+#include <ZKStrings/tools/exchange/POText.h>
 #include <ZKStrings/tools/support/Files.h>
 
 #include <algorithm>
@@ -12,25 +12,15 @@ namespace zk::tools {
 
 namespace {
 
-/// `text` between quotes, with the escapes of C.
-std::string quoted(std::string_view text) {
-  std::string result;
-  for (const char character : escaped(text)) {
-    const auto byte = static_cast<unsigned char>(character);
-    result += byte < 0x20 ? fmt::format("\\{:03o}", byte) : std::string(1, character);
-  }
-  return fmt::format("\"{}\"", result);
-}
-
 /// A keyword and its text; one of several lines stands on lines of its own.
 std::string statement(std::string_view keyword, std::string_view text) {
   const std::size_t lineBreak = text.find('\n');
   if (lineBreak == std::string_view::npos || lineBreak + 1 == text.size())
-    return fmt::format("{} {}\n", keyword, quoted(text));
+    return fmt::format("{} {}\n", keyword, quotedForPO(text));
   std::string lines = fmt::format("{} \"\"\n", keyword);
   while (!text.empty()) {
     const std::string_view line = text.substr(0, std::min(text.find('\n'), text.size() - 1) + 1);
-    lines += quoted(line) + "\n";
+    lines += quotedForPO(line) + "\n";
     text.remove_prefix(line.size());
   }
   return lines;

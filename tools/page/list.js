@@ -5,6 +5,7 @@ const listedCount = (entry) => (entry.counted ? data.counts[FORM_NAMES.length - 
 let shownEntries = [];
 let listedLanguage;
 let listing = 0; // which update of the list is at work
+let rows = 0; // how many it has added
 let openLink;
 
 function rowOf(entry) {
@@ -53,23 +54,26 @@ function showTableFindings() {
   place.replaceChildren(...findings.map(findingItem));
 }
 
-/** Adds the rows of the entries from `begin` on, some at a time, so that typing need not wait for all of them. */
-function addRows(begin, of) {
+/** Adds the next rows of the update `of`, some at a time, so that typing need not wait for all of them. */
+function addRows(of, atATime = 100) {
   if (of !== listing) return;
-  const AT_A_TIME = 100;
-  const end = begin + AT_A_TIME;
-  const added = shownEntries.slice(begin, end);
+  const added = shownEntries.slice(rows, rows + atATime);
+  rows += added.length;
   list.append(...added.map(rowOf));
   added.forEach(showTranslation);
-  if (end < shownEntries.length) setTimeout(addRows, 0, end, of);
+  if (rows < shownEntries.length) setTimeout(addRows, 0, of);
 }
+
+/** Paper has all rows, also when the list is printed right after it has changed. */
+addEventListener("beforeprint", () => addRows(listing, entries.length));
 
 /** Shows the entries that the filters let through. */
 function updateList() {
   listedLanguage = chosenLanguage();
   shownEntries = filtered();
   list.replaceChildren();
-  addRows(0, ++listing);
+  rows = 0;
+  addRows(++listing);
   list.scrollTop = 0;
   markChosenLanguage(listedLanguage);
   showTableFindings();

@@ -54,7 +54,7 @@ function showText(place, entry, language, count, edits = new Map()) {
   place.classList.toggle("is-missing", isMissing);
   const parts = runsOf(filledText(entry, language, count, edits)).flatMap(({ text, owner }) =>
     owner
-      ? [element("bdi", { className: "value", title: owner }, text)]
+      ? [element("span", { className: "value", title: owner }, text)]
       : text.split(MARKS).flatMap(markOrText),
   );
   place.replaceChildren(...parts);

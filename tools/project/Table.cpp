@@ -36,10 +36,13 @@ TableEntry entryFrom(const StringTableReader& reader, std::string_view text, std
     }
     return result;
   };
+  PositionTeller commentPositions = positions;  // some comments stand within the entry
   for (const Token& comment : reader.comments()) {
     if (comment.begin < commentsBegin) continue;
     const std::size_t closingMark = text[comment.begin - 1] == '*' ? 2 : 0;
-    entry.comments.push_back({std::string(spelled(comment)), {comment.begin - 2, comment.end + closingMark}});
+    entry.comments.push_back({std::string(spelled(comment)),
+                              {comment.begin - 2, comment.end + closingMark},
+                              commentPositions.at(comment.begin - 2)});
   }
   const Token& value = reader.value();
   const std::size_t quote = text[value.begin - 1] == '"' ? 1 : 0;

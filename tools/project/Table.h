@@ -27,6 +27,7 @@ struct TableEntry {
   struct Comment {
     std::string text;  ///< without its marks
     Span span;         ///< with them
+    Position at;
   };
 
   std::string key;

@@ -5,8 +5,10 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <list>
 #include <optional>
+#include <set>
 #include <system_error>
 #include <utility>
 
@@ -35,15 +37,38 @@ bool write(const fs::path& path, std::string_view bytes) {
   return file.good();
 }
 
+/// The folders that files need. Those that were made are gone with this object unless something is in them.
+class Folders {
+ public:
+  Folders() = default;
+  ~Folders() {
+    std::error_code failure;
+    for (const fs::path& folder : made_) fs::remove(folder, failure);
+  }
+  Folders(const Folders&) = delete;
+  Folders& operator=(const Folders&) = delete;
+
+  void make(fs::path folder) {
+    std::error_code failure;
+    const fs::path deepest = folder;
+    for (; !fs::exists(folder, failure) && folder.has_relative_path(); folder = folder.parent_path())
+      made_.insert(folder);
+    fs::create_directories(deepest, failure);
+  }
+
+ private:
+  std::set<fs::path, std::greater<>> made_;  // what is inside comes first
+};
+
 /// The new contents of a file, written beside it; gone with this object unless they took the file's place.
 class StagedFile {
  public:
-  StagedFile(const std::string& root, const FileChange& change) : path_(change.path) {
+  StagedFile(const std::string& root, const FileChange& change, Folders& folders) : path_(change.path) {
     std::error_code failure;
     target_ = fs::weakly_canonical(fs::path(root) / change.path, failure);
     if (failure) target_ = fs::path(root) / change.path;
     beside_ = target_.string() + ".new";
-    fs::create_directories(target_.parent_path(), failure);
+    folders.make(target_.parent_path());
     const fs::file_status before = fs::status(target_, failure);
     const bool exists = fs::exists(before);
     if (exists && (!fs::is_regular_file(before) || access(target_.c_str(), W_OK) != 0)) failToWrite(path_);
@@ -118,8 +143,9 @@ std::string readFile(const std::string& root, const std::string& path) {
 }
 
 void writeFiles(const std::string& root, const std::vector<FileChange>& changes) {
+  Folders folders;
   std::list<StagedFile> files;
-  for (const FileChange& change : changes) files.emplace_back(root, change);
+  for (const FileChange& change : changes) files.emplace_back(root, change, folders);
   try {
     for (StagedFile& file : files) file.putInPlace();
   } catch (const CommandFailed&) {

@@ -34,6 +34,14 @@ void forEachCharacter(std::string_view text, const Visit& visit) {
 
 }  // namespace
 
+std::size_t findControlCharacter(std::string_view text) {
+  const auto found = std::find_if(text.begin(), text.end(), [](char character) {
+    return (static_cast<unsigned char>(character) < 0x20 && character != '\n' && character != '\t') ||
+           character == 0x7F;
+  });
+  return found == text.end() ? text.npos : static_cast<std::size_t>(found - text.begin());
+}
+
 bool isBlank(std::string_view text) {
   bool result = true;
   forEachCharacter(text, [&](const CodePoint& character) { result = result && isWhiteSpace(character); });

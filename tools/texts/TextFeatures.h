@@ -9,6 +9,9 @@ namespace zk::tools {
 
 /// All functions take UTF-8 and count bytes that are not as characters of their own.
 
+/// Where the first control character of `text` stands, line feeds and tabs aside; `npos` for none.
+[[nodiscard]] std::size_t findControlCharacter(std::string_view text);
+
 /// Whether `text` is empty or white space alone.
 [[nodiscard]] bool isBlank(std::string_view text);
 

@@ -6,6 +6,7 @@
 #include <ZKStrings/tools/translation/TranslationState.h>
 
 #include <filesystem>
+#include <stdexcept>
 #include <system_error>
 #include <utility>
 
@@ -49,6 +50,7 @@ std::string templateFor(std::string_view language, const EnglishTexts& english) 
 }
 
 std::size_t writeTemplate(const std::string& root, const std::string& language) {
+  if (language.empty()) throw std::invalid_argument("the language is empty; give its ISO 639-1 code");
   const std::string path = tablePath(language);
   std::string reason = whyNeverChosen(language);
   if (!reason.empty()) refuse(path, std::move(reason));

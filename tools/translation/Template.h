@@ -21,7 +21,8 @@ namespace zk::tools {
 
 /// Writes that table to the project at `root`, and gives the number of its texts. Throws `CommandFailed`,
 /// having written nothing, when the language has a table already or the module would never choose its
-/// directory, or when the catalogue or the English table is wrong.
+/// directory, or when the catalogue or the English table is wrong; `std::invalid_argument` when `language` is
+/// empty.
 std::size_t writeTemplate(const std::string& root, const std::string& language);
 
 }  // namespace zk::tools

@@ -24,6 +24,7 @@ TEST(PositionalText, PlaceholdersGetNamesByTheirPlace) {
       {"%1$@ and %1$@", "%{value} and %{value}"},
       {"%.2f%% of %lu", "%{first}% of %{second}"},
       {"%-10s|%+5d|%llu", "%{first}|%{second}|%{third}"},
+      {"%*d of %-*.*f", "%{second} of %{fifth}"},
       {"100 % de", "100 % de"},
       {"%{name} and %@", "%{name} and %{value}"},
       {"%", "%"},
@@ -95,6 +96,27 @@ TEST_F(AdoptionOf, PluralFormsBecomeTheFive) {
   EXPECT_EQ(textOf("Base", "photos_one"), "%{second} has %{first} photo");
   ASSERT_EQ(done.remarks.size(), 2U);  // the repeated form, and the entry with two variables
   EXPECT_NE(done.remarks.back().message.find("several variables"), std::string::npos);
+}
+
+TEST_F(AdoptionOf, CommentsAndTextsOfBothFilesComeAlong) {
+  write(
+      "en",
+      "\"back\" = \"Back\";  // in the bar\n\"note\" = \"One\\rTwo\\r\\nThree\";\n/* the same */\n"
+      "\"coins\" = \"Coins\";\n\"about\" = \"Old\"; /* Info */ // shown once\n/* \"gone\" = \"Gone\"; */\n");
+  write("en", R"(<plist><dict><key>about</key><string>About &amp; more</string><key>coins</key><dict>
+<key>NSStringLocalizedFormatKey</key><string>%#@n@</string><key>n</key><dict><key>other</key><string>%d coins</string>
+</dict></dict><key>about</key><string>About</string></dict></plist>)",
+        "stringsdict");
+  const Adoption done = adopt(root(), english());
+  const std::string table = readFile(root(), tablePath("Base"));
+  for (const char* const part :
+       {"/* in the bar */\n\"back\" = \"Back\";", "\"note\" = \"One\\nTwo\\nThree\";",
+        "/* Info */\n/* shown once */\n\"about\" = \"About\";",
+        "/* the same */\n\"coins_zero\" = \"%{value} coins\";"})
+    EXPECT_NE(table.find(part), std::string::npos) << part << "\n" << table;
+  ASSERT_EQ(done.remarks.size(), 4U);  // the comment at the end; three texts, of which later ones count
+  EXPECT_EQ(formatted(done.remarks.front(), false).substr(directory_.path().size()),
+            "/en.lproj/Localizable.strings:6:1: note: the comments from here on belong to no text; left out");
 }
 
 TEST_F(AdoptionOf, WhatCannotComeAlongIsListedWithItsLine) {

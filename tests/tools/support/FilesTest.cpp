@@ -25,10 +25,12 @@ TEST(Files, AreAllChangedOrNone) {
   project.write("folder/inside", "x");
   // What stands where a file should go, or where its folder should: a folder, a file.
   for (const char* obstacle : {"folder", "a/below"}) {
-    EXPECT_THROW(writeFiles(project.path(), {{"a", "new a"}, {"b", "new b"}, {obstacle, "c"}}),
+    EXPECT_THROW(writeFiles(project.path(),
+                            {{"a", "new a"}, {"deep/er/b", "new b"}, {"deep/c", "c"}, {obstacle, "d"}}),
                  CommandFailed);
     EXPECT_EQ(readFile(project.path(), "a"), "old a") << obstacle;
     EXPECT_EQ(filesIn(project.path()), 2u) << obstacle;
+    EXPECT_FALSE(fs::exists(project.path() + "/deep")) << obstacle;
   }
   writeFiles(project.path(), {{"a", "new a"}, {"deep/er/b", "new b"}});
   EXPECT_EQ(readFile(project.path(), "a") + readFile(project.path(), "deep/er/b"), "new anew b");

@@ -5,6 +5,7 @@
 #include <ZKStrings/tools/translation/Template.h>
 
 #include <filesystem>
+#include <stdexcept>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -93,6 +94,7 @@ TEST(Template, IsRefusedWhereItWouldHarmOrHelpNobody) {
   EXPECT_TRUE(isRefused(project, "en", "Base.lproj"));
   EXPECT_TRUE(isRefused(project, "pt-BR", "name it pt.lproj"));
   EXPECT_TRUE(isRefused(project, "../x", "never chooses"));
+  EXPECT_THROW(writeTemplate(project.root(), ""), std::invalid_argument);
   project.write(TemporaryProject::table("Base"), "\"About\"");
   EXPECT_TRUE(isRefused(project, "fr", "expected"));
   EXPECT_FALSE(std::filesystem::exists(project.root() + "/resources/fr.lproj"));

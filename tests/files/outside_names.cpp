@@ -1,0 +1,114 @@
+// Uses the module step by step, with names from outside that try to leave its resources, for traced_files.sh to see which
+// files each step asks the system for. A step begins where the program asks for the file "step:" and its name.
+
+#include <ZKStrings/ZKStrings.h>
+
+#include <iostream>
+#include <random>
+#include <string>
+#include <string_view>
+#include <thread>
+#include <vector>
+
+#include <unistd.h>
+
+namespace {
+
+using namespace std::string_view_literals;
+
+void beginStep(const std::string& name) {
+  static_cast<void>(access(("step:" + name).c_str(), F_OK));
+}
+
+constexpr std::string_view kParts[] = {
+    "..",
+    "/",
+    "../",
+    "../../etc",
+    "/etc/passwd",
+    "\0"sv,
+    ".",
+    "~",
+    "%2e%2e%2f",
+    "\\",
+    "de",
+    "en",
+    "Base",
+    ".lproj",
+    "-",
+    "_",
+    "@",
+    " ",
+    "\n",
+    "\xFF",
+    "\xC0\xAF",
+    "\xED\xA0\x80",
+    "e\u0301",
+    "\u0301",
+    "\u0600",
+    "\u200D",
+    "\u202E",
+    "/\u0338",
+    ".\u0301",
+    "👨‍👩‍👧",
+    "\r\n",
+    "$HOME",
+    "`id`",
+    "*",
+    "countries.json",
+    "\xE2\x80",
+    "\u1100\u1161",
+    "\U0001F1E9\U0001F1EA",
+};
+
+std::vector<std::string> identifiers() {
+  constexpr int kCount = 5000;
+  constexpr std::size_t kMegabyte = 1 << 20;
+  std::vector<std::string> all;
+  std::mt19937 random;  // the same at each run
+  const auto part = [&] { return kParts[random() % std::size(kParts)]; };
+  for (int i = 0; i < kCount; ++i) {
+    std::string& identifier = all.emplace_back();
+    for (std::size_t parts = 1 + random() % 5; parts > 0; --parts) identifier += part();
+  }
+  for (const std::string_view repeated : kParts) {
+    std::string& identifier = all.emplace_back("d");
+    while (identifier.size() < kMegabyte) identifier += repeated;
+    all.push_back(identifier.substr(1));
+  }
+  return all;
+}
+
+/// How many of the identifiers give a text as it should be: that of any language of the module's, or English.
+std::size_t rightTexts(const std::vector<std::string>& all) {
+  std::size_t right = 0;
+  for (const std::string& identifier : all) {
+    zk::Current::language->preferredLanguages = {identifier};
+    const std::string text = zk::ZKStrings::Are_you_sure_you_want_to_kick_username(identifier);
+    const bool isWhole = text.find(identifier) != std::string::npos && text.size() < identifier.size() + 100;
+    if (isWhole) ++right;
+    const zk::Bundle& bundle = zk::bundle();
+    const bool isFound = bundle.pathForResource(identifier, "lproj") != nullptr;
+    if (isFound && identifier != "de" && identifier != "Base") --right;
+    if (bundle.localizedStringForKey("a", "b", identifier) != "b") --right;
+    if (bundle.URLForResource(identifier, identifier)) --right;
+  }
+  return right;
+}
+
+}  // namespace
+
+int main() {
+  beginStep("main");
+  static_cast<void>(zk::mainBundle());
+  beginStep("race");
+  std::vector<std::thread> threads;
+  for (int i = 0; i < 8; ++i) threads.emplace_back([] { static_cast<void>(zk::bundle()); });
+  for (std::thread& thread : threads) thread.join();
+  beginStep("names");
+  zk::Current::language = zk::Language{};
+  const std::vector<std::string> all = identifiers();
+  const std::size_t right = rightTexts(all);
+  std::cout << right << " of " << all.size() << " texts are right\n";
+  return right == all.size() ? 0 : 1;
+}

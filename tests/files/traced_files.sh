@@ -1,0 +1,39 @@
+#!/usr/bin/env bash
+# Shows by the system's own record which files the module asks for: none before its first use, none of its resources for
+# the app's bundle, its directory once when threads race for it, and none beside its resources whatever name is given.
+#   traced_files.sh PROGRAM RESOURCES
+set -euo pipefail
+program=$1 resources=$2
+
+if ! strace -o /dev/null true 2>/dev/null; then
+  echo "NOT TESTED: strace is missing, or may not trace programs here" >&2
+  exit 77
+fi
+trace=$(mktemp)
+trap 'rm -f "$trace"' EXIT
+LC_ALL='../../etc/passwd' LANGUAGE='/etc:../..:..:~:de/../../etc' \
+  strace --follow-forks --quiet=all --trace=%file --string-limit=200 --output="$trace" "$program"
+
+# The paths that the step asked for.
+paths() {
+  awk -F '"' -v step="$1" '/"step:/ { now = substr($2, 6); next } NF > 2 && now == step { print $2 }' "$trace"
+}
+
+fail() {
+  printf '%s:\n%s\n' "$1" "$2" >&2
+  exit 1
+}
+
+# Before the first step, and while only the app's bundle is used.
+early=$(paths '' | grep -F -e ZKStrings -e .lproj -e countries.json -e /proc/ || true)
+[ -z "$early" ] || fail "Asked for before the first use" "$early"
+early=$(paths main | grep -F "$resources" || true)
+[ -z "$early" ] || fail "Asked for by the app's bundle" "$early"
+
+opened=$(grep -c "openat([^\"]*\"$resources\".*O_DIRECTORY" "$trace" || true)
+[ "$opened" -eq 1 ] || fail "The resources were listed" "$opened times"
+
+[ "$(paths names | wc -l)" -ge 20 ] || fail "The trace holds too little" "$(paths names)"
+outside=$(paths names | grep -v "^$resources/[^/]*\(/[^/]*\)\?$" || true)
+outside+=$(paths names | grep -e '/\.\.\?\(/\|$\)' || true)
+[ -z "$outside" ] || fail "Asked for outside of $resources" "$(sort <<<"$outside" | uniq -c | head -n 20)"
