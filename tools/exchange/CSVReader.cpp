@@ -61,11 +61,13 @@ class Reader {
     Translations translations{*language, {}};
     while (at_ < text_.size()) {
       const Position at = positions.at(at_);
-      Row row = takeRow();
-      row.resize(std::max(row.size(), titles.size() + 1));
+      const Row row = takeRow();
+      // Rows may be shorter than the line of titles.
+      const auto cellOf = [&](std::size_t column) { return column < row.size() ? row[column] : ""; };
       const auto isEmpty = [](const std::string& cell) { return cell.empty(); };
       if (std::all_of(row.begin(), row.end(), isEmpty)) continue;
-      translations.units.push_back({row[key], row[english], row[target], stateFrom(row[state]), {}, at});
+      translations.units.push_back(
+          {cellOf(key), cellOf(english), cellOf(target), stateFrom(cellOf(state)), {}, at});
     }
     return translations;
   }

@@ -1,6 +1,9 @@
+#include <ZKStrings/platform/text/UnicodeText.h>
 #include <ZKStrings/tools/support/Fault.h>
 
+#include <cstdint>
 #include <cstdlib>
+#include <string_view>
 
 #include <fmt/color.h>
 #include <fmt/format.h>
@@ -30,6 +33,20 @@ Style styleOf(Severity severity) {
   return {"note", fmt::terminal_color::cyan};
 }
 
+/// `text`, in which a file may be quoted, with its control characters as a table's escapes: none begins a line or
+/// steers the terminal.
+std::string withoutControls(std::string_view text) {
+  std::string result;
+  while (!text.empty()) {
+    const CodePoint next = firstCodePoint(text);
+    text.remove_prefix(next.bytes.size());
+    const char32_t value = next.value.value_or(U' ');
+    const bool isControl = value < 0x20 || (value >= 0x7F && value < 0xA0);
+    result += isControl ? fmt::format("\\U{:04x}", std::uint32_t{value}) : std::string(next.bytes);
+  }
+  return result;
+}
+
 }  // namespace
 
 const char* nameOf(Severity severity) {
@@ -44,9 +61,10 @@ bool takesColours(std::FILE* stream) {
 std::string formatted(const Fault& fault, bool coloured) {
   const auto [name, colour] = styleOf(fault.severity);
   const auto in = [&](fmt::text_style wanted) { return coloured ? wanted : fmt::text_style(); };
-  std::string line = fmt::format(in(fmt::emphasis::bold), "{}:{}:{}: ", fault.file, fault.line, fault.column);
+  std::string line = fmt::format(in(fmt::emphasis::bold), "{}:{}:{}: ", withoutControls(fault.file),
+                                 fault.line, fault.column);
   line += fmt::format(in(fmt::emphasis::bold | fmt::fg(colour)), "{}: ", name);
-  line += fault.message;
+  line += withoutControls(fault.message);
   if (!fault.rule.empty()) line += fmt::format(in(fmt::emphasis::faint), " [{}]", fault.rule);
   return line;
 }

@@ -7,7 +7,9 @@
 #include <array>
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <iterator>
+#include <map>
 #include <system_error>
 
 #include <fmt/format.h>
@@ -46,12 +48,23 @@ std::string nameOf(const char* language, const char* in) {
   return U_SUCCESS(status) ? lowerCased(bytes.data()) : "";
 }
 
+/// The codes of all languages by their names, in lower case, in English and by themselves. ICU is slow to tell them.
+const std::map<std::string, std::string, std::less<>>& codesByName() {
+  static const auto codes = [] {
+    std::map<std::string, std::string, std::less<>> found;
+    for (const char* const* code = uloc_getISOLanguages(); *code; ++code) {
+      if (!isLanguageCode(*code)) continue;
+      for (const char* const in : {"en", *code}) found.emplace(nameOf(*code, in), *code);
+    }
+    return found;
+  }();
+  return codes;
+}
+
 /// The code of the language that is called `name`, in lower case, in English or by itself; empty when none is.
 std::string codeOfName(std::string_view name) {
-  for (const char* const* code = uloc_getISOLanguages(); *code; ++code) {
-    if (isLanguageCode(*code) && (name == nameOf(*code, "en") || name == nameOf(*code, *code))) return *code;
-  }
-  return "";
+  const auto found = codesByName().find(name);
+  return found == codesByName().end() ? "" : found->second;
 }
 
 /// What to do about `name`, which means no language that ICU knows.

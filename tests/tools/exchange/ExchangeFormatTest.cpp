@@ -286,6 +286,16 @@ TEST(ExchangeFormat, SaysWhereAFileIsWrong) {
   }
 }
 
+// It would take minutes if each row were as much work as the line of titles is long, or if languages were looked up
+// anew for each title.
+TEST(ExchangeFormat, ReadsShortRowsUnderManyTitles) {
+  std::string table = "key,en";
+  for (int title = 0; title < 100'000; ++title) table += ",c" + std::to_string(title);
+  table += ",de";
+  for (int row = 0; row < 100'000; ++row) table += "\nk,A";
+  EXPECT_EQ(readBack(table, "a.csv").units.size(), 100'000u);
+}
+
 TEST(ExchangeFormat, RefusesFilesThatAreNoFilesOrTooLarge) {
   const TemporaryDirectory directory;
   const std::string large = directory.write("large.xlf", "<");

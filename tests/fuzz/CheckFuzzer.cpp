@@ -1,0 +1,75 @@
+#include <ZKStrings/platform/formats/StringTable.h>
+#include <ZKStrings/tests/TemporaryDirectory.h>
+#include <ZKStrings/tests/fuzz/Fuzzing.h>
+#include <ZKStrings/tools/check/Checker.h>
+#include <ZKStrings/tools/project/Catalogue.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <system_error>
+#include <vector>
+
+#include <nlohmann/json.hpp>
+
+/// What `zkstrings check` says to a project whose files are the parts of the input.
+
+namespace zk::fuzzing {
+
+namespace {
+
+using namespace zk::tools;
+
+CheckResult checked(const std::string& root, std::size_t bytes) {
+  const TimeLimit limit(bytes);
+  CheckOptions options;
+  options.notes = true;
+  return check(root, options);
+}
+
+void tryFaults(Faults faults) {
+  constexpr std::size_t kMost = 100;  // each is tried alone
+  faults.resize(std::min(faults.size(), kMost));
+  for (const Fault& fault : faults) {
+    const std::string line = formatted(fault, false);
+    require(fault.line > 0 && fault.column > 0 && !fault.message.empty(), "it says nothing: " + line);
+    require(line.find_first_of("\n\r\x1B") == std::string::npos, "it is no line: " + line);
+  }
+  require(nlohmann::json::accept(toJson(faults)), "this is no JSON: " + toJson(faults));
+}
+
+bool isTableAtFault(const Fault& fault, const std::string& file) {
+  return fault.file == file && (fault.rule == Table::kSyntax || fault.rule == Table::kEncoding);
+}
+
+/// The module reads a table if and only if the command finds no fault in its form.
+void tryTable(const std::string& root, const std::string& language, const Faults& faults) {
+  const Table table = Table::read(root, language);
+  std::error_code unused;
+  const StringTable read = StringTable::inFile(root + "/" + tablePath(language), unused);
+  const bool isFaulty = std::any_of(faults.begin(), faults.end(), [&](const Fault& fault) {
+    return isTableAtFault(fault, tablePath(language));
+  });
+  for (const auto& [key, place] : table.places) {
+    require(read.find(key).has_value() != isFaulty, "check and the module disagree about " + key);
+    require(isFaulty || read.find(key) == table.entries[place].text, "they read another text of " + key);
+  }
+}
+
+}  // namespace
+
+void test(std::string_view input) {
+  static const testing::TemporaryDirectory directory;
+  const std::vector<std::string> files = partsOf(input, 5);
+  directory.write(tablePath("Base"), files[0]);
+  directory.write(tablePath("de"), files[1]);
+  directory.write(Catalogue::kFile, files[2]);
+  directory.write("resources/countries.json", files[3]);
+  directory.write("resources/glossary.json", files[4]);
+  const CheckResult result = checked(directory.path(), input.size());
+  tryFaults(result.faults);
+  for (const char* language : {"Base", "de"}) tryTable(directory.path(), language, result.faults);
+}
+
+}  // namespace zk::fuzzing

@@ -1,0 +1,135 @@
+#include <ZKStrings/tests/fuzz/Fuzzing.h>
+#include <ZKStrings/tests/tools/TemporaryProject.h>
+#include <ZKStrings/tools/adoption/Adoption.h>
+#include <ZKStrings/tools/authoring/Initialisation.h>
+#include <ZKStrings/tools/exchange/ExchangeFormat.h>
+#include <ZKStrings/tools/exchange/Import.h>
+#include <ZKStrings/tools/project/Catalogue.h>
+#include <ZKStrings/tools/project/Table.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+/// What `zkstrings import` does with files of translators' programs and of other apps. The first part of the input
+/// is the ending that tells the format.
+
+namespace zk::fuzzing {
+
+namespace {
+
+using namespace zk::tools;
+using testing::TemporaryDirectory;
+using testing::TemporaryProject;
+
+/// Whether `work` ends without a refusal, in time.
+template <class Work>
+bool succeeds(std::size_t bytes, Work work) {
+  const TimeLimit limit(bytes);
+  try {
+    work();
+  } catch (const CommandFailed& failed) {
+    require(!failed.faults.empty() && !failed.faults[0].message.empty(), "refused without a word");
+    return false;
+  }
+  return true;
+}
+
+void importInto(const TemporaryProject& project, const Translations& translations, std::size_t bytes) {
+  const std::string table = TemporaryProject::table("de");
+  const std::string before = "\"About\" = \"Info\";\n/* state: needs-review */\n\"Coins\" = \"Coins\";\n";
+  project.write(table, before);
+  const auto import = [&](Import& done) {
+    return succeeds(bytes, [&] { done = importTranslations(project.root(), translations, "de.xlf", false); });
+  };
+  Import done;
+  if (!import(done)) return require(project.read(table) == before, "refused, and yet the table is changed");
+  const std::string after = project.read(table);
+  require(Table::read(project.root(), "de").faults.empty(), "the table is broken:\n" + after);
+  Import again;
+  require(import(again) && again.refused == done.refused, "it cannot be imported again");
+  require(project.read(table) == after, "imported again, it changes the table again:\n" + after);
+}
+
+std::size_t sizeOf(const Translations& translations) {
+  std::size_t size = 0;
+  for (const TranslationUnit& unit : translations.units)
+    size += unit.key.size() + unit.source.size() + unit.target.size();
+  return size;
+}
+
+/// Whether exports have such units: with a key, without carriage returns, and translated if they have the
+/// English text, which otherwise stands for a translation that is missing.
+bool isExported(const TranslationUnit& unit) {
+  const bool isBegun = unit.state == TranslationState::translated || unit.target != unit.source;
+  return !unit.key.empty() && isBegun &&
+         (unit.key + unit.source + unit.target).find('\r') == std::string::npos;
+}
+
+bool areSame(const std::vector<TranslationUnit>& sent, const std::vector<TranslationUnit>& back) {
+  return std::equal(sent.begin(), sent.end(), back.begin(), back.end(),
+                    [](const TranslationUnit& one, const TranslationUnit& other) {
+                      return one.key == other.key && one.source == other.source && one.target == other.target;
+                    });
+}
+
+/// What a format has written, it reads again.
+void sendAround(Translations translations, const TemporaryDirectory& directory) {
+  translations.language = "de";
+  std::erase_if(translations.units, [](const TranslationUnit& unit) { return !isExported(unit); });
+  for (const auto& [format, name] : {std::pair{ExchangeFormat::xliff12, "a.xlf"},
+                                     {ExchangeFormat::xliff20, "a.xlf"},
+                                     {ExchangeFormat::po, "a.po"},
+                                     {ExchangeFormat::csv, "a.csv"}}) {
+    std::string bytes;
+    if (!succeeds(sizeOf(translations), [&, kind = format] { bytes = written(translations, kind); }))
+      continue;
+    Translations back;
+    const std::string file = directory.write(name, bytes);
+    require(succeeds(bytes.size(), [&] { back = readTranslations(file); }),
+            "it is not read again:\n" + bytes);
+    require(areSame(translations.units, back.units), "it is read as something else:\n" + bytes);
+  }
+}
+
+void tryTranslations(const std::string& ending, std::string_view bytes) {
+  static const TemporaryProject project;
+  static const TemporaryDirectory directory;
+  const std::string file = directory.write("de." + ending, bytes);
+  Translations translations;
+  if (!succeeds(bytes.size(), [&] { translations = readTranslations(file); })) return;
+  sendAround(translations, directory);
+  translations.language = "de";
+  importInto(project, translations, bytes.size());
+}
+
+void tryForeignTables(std::string_view input) {
+  const TemporaryDirectory directory;
+  const std::string root = directory.path() + "/texts";
+  initCatalogue(root, {"Texts", ""});
+  const std::vector<std::string> files = partsOf(input, 4);
+  const std::string english = directory.write("en.lproj/Localizable.strings", files[0]);
+  directory.write("en.lproj/Localizable.stringsdict", files[1]);
+  directory.write("de.lproj/Localizable.strings", files[2]);
+  directory.write("de.lproj/Localizable.stringsdict", files[3]);
+  Adoption done;
+  if (!succeeds(input.size(), [&] { done = adopt(root, english); })) return;
+  for (const std::string& language : done.languages)
+    require(Table::read(root, language).faults.empty(), "the table of " + language + " is broken");
+  require(Catalogue::read(root).entries().size() >= done.entries, "entries are lost");
+}
+
+}  // namespace
+
+void test(std::string_view input) {
+  const std::vector<std::string> parts = partsOf(input, 2);
+  for (const char* ending : {"xlf", "po", "csv", "tsv"}) {
+    if (parts[0] == ending) tryTranslations(ending, parts[1]);
+  }
+  if (parts[0] == "strings") tryForeignTables(parts[1]);
+}
+
+}  // namespace zk::fuzzing
