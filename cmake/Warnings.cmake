@@ -1,6 +1,10 @@
 # How all targets of this project are compiled.
 add_library(zk_compile_options INTERFACE)
 target_compile_features(zk_compile_options INTERFACE cxx_std_20)
+# Where files are otherwise refused whose number or size is too large for 32 bits.
+if(CMAKE_SIZEOF_VOID_P EQUAL 4)
+  target_compile_definitions(zk_compile_options INTERFACE _FILE_OFFSET_BITS=64)
+endif()
 # As a part of another project, the module is compiled with that project's warnings.
 if(PROJECT_IS_TOP_LEVEL)
   target_compile_options(zk_compile_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow)

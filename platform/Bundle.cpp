@@ -165,7 +165,7 @@ inline Bundle::Name Bundle::nameOf(std::string_view name, std::string_view type)
 }
 
 inline std::size_t Bundle::placeOf(const Name& name) const {
-  return hashOfWords(name.name, name.type, seed_) & last_;
+  return static_cast<std::size_t>(hashOfWords(name.name, name.type, seed_)) & last_;
 }
 
 inline const ResourcePath* Bundle::find(std::string_view name, std::string_view type) const {

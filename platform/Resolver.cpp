@@ -4,8 +4,8 @@
 #include <condition_variable>
 #include <cstdio>
 #include <cstdlib>
-#include <map>
 #include <typeindex>
+#include <unordered_map>
 
 #include <cxxabi.h>
 
@@ -95,10 +95,22 @@ bool Registration::isAwaitedBy(const Maker& thread) const {
   return false;
 }
 
+namespace {
+
+using Key = std::pair<std::type_index, std::optional<std::string>>;
+
+struct HashOfKey {
+  std::size_t operator()(const Key& key) const {
+    return std::hash<std::type_index>()(key.first) ^ std::hash<std::optional<std::string>>()(key.second);
+  }
+};
+
+}  // namespace
+
 Entry& entryFor(const std::type_info& type, std::optional<std::string_view> name) {
-  using Key = std::pair<std::type_index, std::optional<std::string>>;
   static std::mutex& mutex = *new std::mutex;  // never destroyed, as above
-  static auto& entries = *new std::map<Key, Entry>;
+  // Not in an order of types: on 32-bit ARM, GCC's puts types of one source file before and behind others at once.
+  static auto& entries = *new std::unordered_map<Key, Entry, HashOfKey>;
   const Key key(type, name);
   const std::lock_guard lock(mutex);
   return entries.try_emplace(key, type, key.second).first->second;

@@ -20,7 +20,7 @@ std::uint32_t shortHashOf(std::string_view key, std::uint64_t seed) {
 
 /// The place among `slots` where the search for `hash` begins: the hash as a fraction of the whole.
 std::size_t placeOf(std::uint32_t hash, std::size_t slots) {
-  return (std::uint64_t{hash} * slots) >> 32;
+  return static_cast<std::size_t>((std::uint64_t{hash} * slots) >> 32);
 }
 
 /// A place or a size in a table's text, which ends at 256 MiB of its file.

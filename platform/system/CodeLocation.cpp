@@ -45,6 +45,7 @@ std::string mappedFile(const void* address, std::error_code& failure) {
   while (std::fgets(line, sizeof(line), maps.get())) {
     std::uintptr_t begin = 0;
     std::uintptr_t end = 0;
+    // NOLINTNEXTLINE(cert-err34-c): the kernel writes no number that does not fit
     if (std::sscanf(line, "%" SCNxPTR "-%" SCNxPTR, &begin, &end) != 2) continue;
     if (wanted < begin || wanted >= end) continue;
     const char* const path = std::strchr(line, '/');

@@ -29,6 +29,16 @@ bool sameEnds(const char* a, const char* b, std::size_t size) {
   return ((load<Word>(a) ^ load<Word>(b)) | (load<Word>(a + last) ^ load<Word>(b + last))) == 0;
 }
 
+/// Copies the first and the last word of a text; all of a text that is at most two words long.
+template <class Word>
+void copyEnds(char* to, const char* from, std::size_t size) {
+  const std::size_t last = size - sizeof(Word);
+  const auto first = load<Word>(from);
+  const auto other = load<Word>(from + last);
+  std::memcpy(to, &first, sizeof(Word));
+  std::memcpy(to + last, &other, sizeof(Word));
+}
+
 /// Multiplies to 128 bits and folds the halves together, so that every bit of both factors reaches the
 /// result. This way serves every machine.
 constexpr std::uint64_t foldByHalves(std::uint64_t a, std::uint64_t b) {
@@ -184,20 +194,15 @@ inline std::size_t findNonAscii(std::string_view text, std::size_t from) {
 
 /// Copies `size` bytes to `to`, which must not overlap them, and gives the place behind the copy.
 inline char* copyBytes(char* to, const char* from, std::size_t size) {
-  const auto copyEnds = [&]<class Word>(Word) {
-    const auto first = bytes_detail::load<Word>(from);
-    const auto last = bytes_detail::load<Word>(from + size - sizeof(Word));
-    std::memcpy(to, &first, sizeof(Word));
-    std::memcpy(to + size - sizeof(Word), &last, sizeof(Word));
-  };
+  using bytes_detail::copyEnds;
   if (size > 16) {
     std::memcpy(to, from, size);
   } else if (size >= 8) {
-    copyEnds(std::uint64_t{});
+    copyEnds<std::uint64_t>(to, from, size);
   } else if (size >= 4) {
-    copyEnds(std::uint32_t{});
+    copyEnds<std::uint32_t>(to, from, size);
   } else if (size >= 2) {
-    copyEnds(std::uint16_t{});
+    copyEnds<std::uint16_t>(to, from, size);
   } else if (size == 1) {
     *to = *from;
   }

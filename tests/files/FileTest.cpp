@@ -46,6 +46,7 @@ std::string contents(const std::string& path) {
   return {std::istreambuf_iterator<char>(file), {}};
 }
 
+constexpr unsigned kSecondsForAll = 120;
 constexpr std::size_t kMany = 64 << 20;
 
 /// Blanks before what the file holds, or many files beside what the directory holds.
@@ -163,7 +164,7 @@ class OrdinaryUser {
 class FilesDeathTest : public ::testing::TestWithParam<Shape> {
  protected:
   void SetUp() override {
-    alarm(60);  // for what hangs
+    alarm(kSecondsForAll);  // for what hangs
     Current::language = Language{};
   }
   void TearDown() override { alarm(0); }
@@ -220,7 +221,7 @@ TEST(Files, MayChangeWhileTheyAreRead) {
        },
        false},
   };
-  alarm(60);
+  alarm(kSecondsForAll);
   Current::language = Language{};
   for (const auto& [replace, mayBeNothing] : ways) {
     const Resources resources;

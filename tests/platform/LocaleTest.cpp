@@ -65,7 +65,11 @@ TEST(Locale, AHostMaySupplyTheSettings) {
   Locale::readSettingsFrom([] { return LocaleSettings{"fr-CA", {"fr-CA", "en-CA"}}; });
   EXPECT_EQ(Locale::autoupdatingCurrent().identifier(), "fr-CA");
   EXPECT_EQ(Locale::preferredLanguages()[1], "en-CA");
-  Locale::readSettingsFrom({});
+  Locale::readSettingsFrom([] {
+    Locale::readSettingsFrom({});
+    return LocaleSettings{"ja-JP", {}};
+  });
+  EXPECT_EQ(Locale::autoupdatingCurrent().identifier(), "ja-JP");
   EXPECT_EQ(Locale::autoupdatingCurrent().identifier(), "de-DE");
 }
 

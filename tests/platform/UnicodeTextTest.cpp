@@ -82,6 +82,19 @@ TEST(UnicodeText, UpperCasesByTheFullMapping) {
   for (const auto& [text, expected] : cases) EXPECT_EQ(upperCased(text), expected) << text;
 }
 
+TEST(UnicodeText, TellsLettersAndDigits) {
+  struct Case {
+    char32_t codePoint;
+    bool isLetterMarkOrDigit, isDecimalDigit;
+  };
+  for (const Case& c : {Case{U'z', true, false}, Case{U'日', true, false}, Case{U'\u0301', true, false},
+                        Case{U'7', true, true}, Case{U'\u0663', true, true}, Case{U'²', false, false},
+                        Case{U'_', false, false}, Case{U' ', false, false}, Case{U'🎉', false, false}}) {
+    EXPECT_EQ(isLetterMarkOrDigit(c.codePoint), c.isLetterMarkOrDigit) << std::uint32_t{c.codePoint};
+    EXPECT_EQ(isDecimalDigit(c.codePoint), c.isDecimalDigit) << std::uint32_t{c.codePoint};
+  }
+}
+
 TEST(UnicodeText, TellsUtf8) {
   for (const char* text : {"", "plain ascii, long", "éééééééééé", "12345678é", "🎉"})
     EXPECT_TRUE(isUtf8(text)) << text;

@@ -1,6 +1,7 @@
 #include <ZKStrings/platform/formats/StringTableReader.h>
 #include <ZKStrings/platform/formats/TextEncoding.h>
 #include <ZKStrings/platform/system/File.h>
+#include <ZKStrings/platform/text/TextSearch.h>
 #include <ZKStrings/tools/adoption/ForeignTexts.h>
 #include <ZKStrings/tools/adoption/PluralDictionary.h>
 #include <ZKStrings/tools/project/Table.h>
@@ -49,7 +50,7 @@ std::set<std::string> pluralsIn(const Table& table) {
   return plurals;
 }
 
-/// The text of `file` in UTF-8; nothing, with a fault, when it cannot be read.
+/// The text of `file` in UTF-8, its lines ended by "\n"; nothing, with a fault, when it cannot be read.
 std::optional<std::string> textOf(const std::string& file, Faults& faults) {
   const auto fail = [&](const char* message) {
     faults.push_back({Severity::warning, file, 1, 1, "", message});
@@ -60,6 +61,8 @@ std::optional<std::string> textOf(const std::string& file, Faults& faults) {
   if (bytes->starts_with("bplist")) return fail("the file is compiled; bring along the one it was made of");
   std::optional<std::string> text = decodedText(*std::move(bytes), UnmarkedText::mayBeUtf16Or32);
   if (!text) return fail("the bytes are no text in UTF-8 or UTF-16; save the file as UTF-8");
+  replaceOccurrences(*text, "\r\n", "\n");
+  replaceOccurrences(*text, "\r", "\n");
   return text;
 }
 

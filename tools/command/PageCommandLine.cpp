@@ -63,7 +63,7 @@ void addLengthsCommand(CLI::App& app, const RootFinder& inRoot) {
       ->type_name("LANGUAGE");
   command->footer("Example: zkstrings lengths de pl --limit 10");
   command->add_option("--limit", arguments->limit, "How many to list")
-      ->check(CLI::NonNegativeNumber)
+      ->check(CLI::Range(std::size_t{0}, std::size_t{1'000'000}))
       ->type_name("N")
       ->capture_default_str();
   command->callback([arguments, inRoot] {

@@ -60,7 +60,12 @@ Translations readTranslations(const std::string& path) {
   }
   std::string bytes = readFile("", path);
   const ExchangeFormat format = formatNamedBy(path);
-  if (beginsAsXML(bytes) || format == ExchangeFormat::xliff12) return fromXLIFF(std::move(bytes), path);
+  if (beginsAsXML(bytes)) return fromXLIFF(std::move(bytes), path);
+  if (format == ExchangeFormat::xliff12) {
+    throw CommandFailed{{{Severity::error, path, 1, 1, "",
+                          "the file is no XLIFF, and its name ends in none of .po, .csv, .tsv, .strings and "
+                          ".stringsdict; export it as one of these"}}};
+  }
   return format == ExchangeFormat::po ? fromPO(std::move(bytes), path) : fromCSV(std::move(bytes), path);
 }
 

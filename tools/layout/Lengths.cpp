@@ -31,6 +31,7 @@ std::vector<TextSize> sizesOf(const AppTexts& texts, const Catalogue& catalogue,
   };
   if (!entry.plural) return {size(std::nullopt)};
   std::vector<TextSize> sizes;
+  sizes.reserve(std::size(kExampleCounts));
   for (const std::int64_t count : kExampleCounts) sizes.push_back(size(count));
   return sizes;
 }

@@ -154,6 +154,20 @@ TEST_F(AdoptionOf, TakesTablesInUtf16) {
   }
 }
 
+TEST_F(AdoptionOf, TakesTheLineEndsOfAllSystems) {
+  int number = 0;
+  for (const char* const end : {"\n", "\r\n", "\r"}) {
+    const std::string folder = root() + std::to_string(++number);
+    initCatalogue(folder, {"Texts", ""});
+    write("en", std::string("\"one\" = \"One\"; // first") + end + "// second" + end + "\"two\" = \"a" + end +
+                    "b\";");
+    EXPECT_EQ(adopt(folder, english()).entries, 2U) << number;
+    EXPECT_NE(readFile(folder, tablePath("Base")).find("/* second */\n\"two\" = \"a\\nb\";"),
+              std::string::npos)
+        << number;
+  }
+}
+
 TEST_F(AdoptionOf, WhatIsNoTableChangesNothing) {
   const std::string before = readFile(root(), Catalogue::kFile);
   for (const std::string_view bytes :

@@ -28,7 +28,7 @@ TEST(PageCommandLine, SaysWhatItDidOrWhatIsInTheWay) {
       {"lengths", 0, "de        About"},
       {"lengths German --limit 1", 0, "de        About"},
       {"lengths --limit 0", 0, " times"},
-      {"lengths --limit -1", 2, ""},
+      {"lengths --limit -1", 2, "--limit: Value -1 not in range 0 to 1000000"},
       {"lengths xx", 1, "error: no table for \"xx\""},
       {"pseudo", 0, "An app that prefers one of them shows it."},
       {"pseudo -o \"$ZK_ROOT/resources\"", 1, "error: these resources are shipped"},

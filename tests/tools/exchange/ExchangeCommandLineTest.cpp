@@ -1,31 +1,17 @@
-#include <ZKStrings/tests/tools/TemporaryProject.h>
+#include <ZKStrings/tests/tools/CommandLine.h>
 
-#include <array>
-#include <cstdio>
 #include <string>
 
-#include <fmt/format.h>
 #include <gtest/gtest.h>
-#include <sys/wait.h>
 
 namespace {
 
+using zk::testing::Answer;
 using zk::testing::TemporaryProject;
 
-struct Answer {
-  int status;
-  std::string output;
-};
-
 /// What the built command answers to `arguments`, in the project's folder.
-Answer answerTo(const TemporaryProject& project, const std::string& arguments) {
-  std::FILE* const pipe =
-      popen(fmt::format("cd {} && {} {} 2>&1", project.root(), ZK_COMMAND, arguments).c_str(), "r");
-  std::string output;
-  std::array<char, 4096> buffer;
-  while (const std::size_t size = std::fread(buffer.data(), 1, buffer.size(), pipe))
-    output.append(buffer.data(), size);
-  return {WEXITSTATUS(pclose(pipe)), output};
+Answer answerInside(const TemporaryProject& project, const std::string& arguments) {
+  return zk::testing::outputOf("cd \"$ZK_ROOT\" && " + zk::testing::inShell(project, arguments) + " 2>&1");
 }
 
 TEST(ExchangeCommandLine, EndsWithAStatusThatTellsWhetherAllWasTaken) {
@@ -64,7 +50,7 @@ TEST(ExchangeCommandLine, EndsWithAStatusThatTellsWhetherAllWasTaken) {
       {"import", 2},
   };
   for (const auto& [arguments, status] : kCases) {
-    const Answer answer = answerTo(project, arguments);
+    const Answer answer = answerInside(project, arguments);
     EXPECT_EQ(answer.status, status) << arguments << "\n" << answer.output;
     EXPECT_NE(project.read(table).find("\"About\" = \"Info\";\n"), std::string::npos) << arguments;
   }
@@ -74,11 +60,11 @@ TEST(ExchangeCommandLine, TellsWhatItDid) {
   const TemporaryProject project;
   const std::string table = TemporaryProject::table("de");
   project.write(table, "\"About\" = \"Info\";\n\"Coins\" = \"Münzen\";\n");
-  EXPECT_EQ(answerTo(project, "export de -o de.csv --missing").output, "Wrote de.csv with 23 texts.\n");
+  EXPECT_EQ(answerInside(project, "export de -o de.csv --missing").output, "Wrote de.csv with 23 texts.\n");
   EXPECT_TRUE(project.read("de.csv").starts_with("\xEF\xBB\xBFkey,en,de,state,notes\r\n"));
   project.write("de.csv",
                 "key,en,de\nAbout,About,Über uns\nCoins,Coins,Münzen\nTop_10,Top 10,Top 10\nX,X,Y\n");
-  EXPECT_EQ(answerTo(project, "import de.csv").output,
+  EXPECT_EQ(answerInside(project, "import de.csv").output,
             "de.csv:5:1: warning: nothing looks up the key \"X\"; the text was left out\n" + table +
                 ": 1 added, 1 changed, 1 as before, 1 refused\n");
   EXPECT_EQ(project.read(table),

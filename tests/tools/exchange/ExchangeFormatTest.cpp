@@ -242,7 +242,8 @@ TEST(ExchangeFormat, SaysWhereAFileIsWrong) {
   for (int i = 0; i < 200'000; ++i) deep += "</g>";
   deep += "</source></trans-unit></xliff>";
   const Case cases[] = {
-      {"a.xlf", "", "1:1: the document is no well-formed XML"},
+      {"a.xlf", "", "1:1: the file is no XLIFF"},
+      {"a.xcstrings", "{}", "1:1: the file is no XLIFF"},
       {"a.xlf", "<xliff version='1.2'>\n<file>", "2:"},
       {"a.xlf", "<xliff version='1.2'>\n</file></xliff>", "2:"},
       {"a.xlf", "<ts version='1.2'/>", "1:1: the document is no XLIFF"},

@@ -1,0 +1,107 @@
+// What the module does when memory is truly exhausted, and where ICU, which sets up its tables once, is refused any.
+
+#include <ZKStrings/tests/TemporaryDirectory.h>
+#include <ZKStrings/tests/faults/Failures.h>
+#include <ZKStrings/tests/faults/Operations.h>
+#include <ZKStrings/tests/faults/Outcome.h>
+
+#include <cerrno>
+#include <cstdlib>
+#include <new>
+#include <string>
+#include <utility>
+
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+
+namespace zk::faults {
+namespace {
+
+/// Takes all memory of the process but for a block of `size` bytes, and gives it back at its end.
+class ExhaustedMemory {
+ public:
+  explicit ExhaustedMemory(std::size_t size) {
+    void* const left = std::malloc(size);
+    rlimit nothing{};
+    getrlimit(RLIMIT_AS, &before_);
+    nothing.rlim_max = before_.rlim_max;
+    setrlimit(RLIMIT_AS, &nothing);
+    for (std::size_t part = 1 << 20; part >= sizeof(Block); part /= 2) {
+      while (void* const memory = std::malloc(part)) blocks_ = new (memory) Block{blocks_};
+    }
+    std::free(left);
+  }
+  ExhaustedMemory(const ExhaustedMemory&) = delete;
+  ExhaustedMemory& operator=(const ExhaustedMemory&) = delete;
+  ~ExhaustedMemory() {
+    while (blocks_) std::free(std::exchange(blocks_, blocks_->next));
+    setrlimit(RLIMIT_AS, &before_);
+  }
+
+ private:
+  struct Block {
+    Block* next;
+  };
+  Block* blocks_ = nullptr;
+  rlimit before_{};
+};
+
+TEST(Memory, ThatIsExhaustedHarmsNothing) {
+  if (!canAllocationsFail()) GTEST_SKIP() << "sanitizers need more memory than they could have";
+  const testing::TemporaryDirectory directory;
+  int failures = 0;
+  for (const Operation& operation : operationsIn(directory.path())) {
+    if (operation.use != Use::firstOfICU) continue;
+    for (std::size_t size = 16; size < 128 * 1024; size += 16 + size / 16) {
+      const Outcome outcome = outcomeElsewhere([&]() noexcept {
+        operation.prepare();
+        bool hasThrown = false;
+        try {
+          const ExhaustedMemory exhausted(size);
+          static_cast<void>(operation.act());
+        } catch (const std::bad_alloc&) {
+          hasThrown = true;
+        }
+        operation.prepare();
+        return operation.act() != operation.right ? lasted : hasThrown ? failed : notFailed;
+      });
+      EXPECT_LE(outcome, failed) << operation.name << " with " << size << " bytes: " << outcome;
+      if (outcome == failed) ++failures;
+    }
+  }
+  EXPECT_GT(failures, 30);
+}
+
+// Where memory is refused right behind the block that the module has just seen to be free, ICU remembers that. Texts
+// that need its tables are not to be had then, and no other one is harmed.
+TEST(Memory, ThatIsRefusedToICUAtItsFirstUseIsMissedByTextsThatNeedIt) {
+  if (!canAllocationsFail()) GTEST_SKIP() << "the sanitizer's allocations cannot be made to fail";
+  const testing::TemporaryDirectory directory;
+  for (const Operation& operation : operationsIn(directory.path())) {
+    if (operation.use != Use::firstOfICU) continue;
+    Outcome outcome = failed;
+    for (int before = 0; outcome == failed; ++before) {
+      outcome = outcomeElsewhere([&]() noexcept {
+        operation.prepare();
+        leaveNoRoom();
+        begin({Kind::allocation, ENOMEM, false}, before);
+        const auto textOrNothing = [&] {
+          try {
+            return operation.act();
+          } catch (const std::bad_alloc&) {
+            return std::string(operation.right);
+          }
+        };
+        const std::string during = textOrNothing();
+        if (during != operation.right && during != operation.quiet) return wrong;
+        const bool hasFailed = end();
+        if (textOrNothing() != operation.right) return lasted;
+        return !isAllRight() ? lasted : hasFailed ? failed : notFailed;
+      });
+      EXPECT_LE(outcome, failed) << operation.name << " at " << before << ": " << outcome;
+    }
+  }
+}
+
+}  // namespace
+}  // namespace zk::faults

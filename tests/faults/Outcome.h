@@ -1,0 +1,43 @@
+#pragma once
+
+#include <ZKStrings/tests/faults/Failures.h>
+
+#include <cerrno>
+#include <csignal>
+#include <cstdlib>
+
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace zk::faults {
+
+/// What came of one try: nothing failed; something did, with an outcome that is allowed; a text was wrong; it was wrong
+/// also when nothing failed any more; the process came to an end.
+enum Outcome { notFailed, failed, wrong, lasted, stopped };
+
+/// The outcome of `act` in a process of its own, which must end within a minute. `mayTrap` tells whether the module may
+/// stop it.
+template <class Act>
+Outcome outcomeElsewhere(Act act, bool mayTrap = false) {
+  constexpr unsigned kSeconds = 60;
+  const pid_t child = fork();
+  if (child == 0) {
+    alarm(kSeconds);
+    _exit(act());
+  }
+  int status = 0;
+  waitpid(child, &status, 0);
+  if (WIFEXITED(status)) return static_cast<Outcome>(WEXITSTATUS(status));
+  const bool isTrapped = WTERMSIG(status) == SIGILL || WTERMSIG(status) == SIGTRAP;
+  return mayTrap && isTrapped ? failed : stopped;
+}
+
+/// Whether allocations can be made to fail here; sanitizers have an allocator of their own.
+[[nodiscard]] inline bool canAllocationsFail() {
+  begin({Kind::allocation, ENOMEM, false}, 0);
+  void* const volatile memory = std::malloc(1);
+  std::free(memory);
+  return end();
+}
+
+}  // namespace zk::faults

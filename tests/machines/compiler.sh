@@ -1,0 +1,10 @@
+#!/usr/bin/env bash
+# Prints how Debian's compilers call a machine, or fails for one that is not known.
+case "${1:-}" in
+  arm64) echo aarch64-linux-gnu ;;
+  armhf) echo arm-linux-gnueabihf ;;
+  i386) echo i686-linux-gnu ;;
+  riscv64) echo riscv64-linux-gnu ;;
+  s390x) echo s390x-linux-gnu ;;
+  *) exit 1 ;;
+esac

@@ -1,0 +1,32 @@
+#!/usr/bin/env bash
+# Unpacks another machine's libraries from Debian, for compilers and emulators of this one; installs nothing.
+#   make_root.sh ARCH FOLDER PACKAGE...
+# They are of this machine's release, or of trixie, the first with riscv64.
+set -euo pipefail
+arch=$1 root=$(realpath -m "$2")
+shift 2
+
+wanted=$(sort -u <<<"$*")
+[ "$(cat "$root/.packages" 2>/dev/null)" != "$wanted" ] || exit 0
+
+release=$(. /etc/os-release && echo "$VERSION_CODENAME")
+mirror=$(apt-get indextargets --format '$(RELEASE) $(SITE)' 'Created-By: Packages' |
+  awk -v release="$release" '$1 == release {print $2; exit}')
+[ "$arch" != riscv64 ] || [ "$release" != bookworm ] || release=trixie
+
+rm -rf "$root"
+work=$root/.apt
+mkdir -p "$work"/{lists,archives}/partial
+touch "$work/status"
+echo "deb $mirror $release main" >"$work/sources.list"
+# An apt of its own, for which nothing is installed yet.
+options=(-q -o "APT::Architecture=$arch" -o "APT::Architectures::=$arch" -o APT::Install-Recommends=false
+  -o "Dir::State::Lists=$work/lists" -o "Dir::State::status=$work/status" -o "Dir::Cache=$work"
+  -o "Dir::Cache::archives=$work/archives" -o "Dir::Etc::SourceList=$work/sources.list" -o Dir::Etc::SourceParts=-
+  -o Acquire::Languages=none -o Debug::NoLocking=true)
+[ "$(id -u)" -ne 0 ] || options+=(-o APT::Sandbox::User=root)
+apt-get "${options[@]}" update
+apt-get "${options[@]}" --yes --download-only install "$@"
+for package in "$work"/archives/*.deb; do dpkg -x "$package" "$root"; done
+rm -rf "$work"
+echo "$wanted" >"$root/.packages"

@@ -1,0 +1,27 @@
+# Compiles for another machine: ZK_TARGET is what Debian's compilers call it, ZK_ROOT the folder with its libraries. What is
+# built runs here, under emulation where this machine's processor does not know the other's instructions.
+list(APPEND CMAKE_TRY_COMPILE_PLATFORM_VARIABLES ZK_TARGET ZK_ROOT)
+string(REGEX MATCH "^[^-]+" CMAKE_SYSTEM_PROCESSOR ${ZK_TARGET})
+set(CMAKE_SYSTEM_NAME Linux)
+set(CMAKE_CXX_COMPILER ${ZK_TARGET}-g++)
+set(CMAKE_LIBRARY_ARCHITECTURE ${ZK_TARGET})
+if(CMAKE_SYSTEM_PROCESSOR STREQUAL i686)
+  set(CMAKE_LIBRARY_ARCHITECTURE i386-linux-gnu)
+endif()
+
+set(CMAKE_SYSROOT ${ZK_ROOT})
+set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
+set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
+
+# The root's libraries may need a newer C++ library than the compiler's own, and find it there.
+set(libraries ${ZK_ROOT}/usr/lib/${CMAKE_LIBRARY_ARCHITECTURE}:${ZK_ROOT}/lib/${CMAKE_LIBRARY_ARCHITECTURE})
+set(CMAKE_EXE_LINKER_FLAGS_INIT -Wl,-rpath-link,${libraries})
+if(CMAKE_SYSTEM_PROCESSOR STREQUAL i686)
+  # An x86-64 processor knows the instructions; what is missing are only the loader and the libraries.
+  string(APPEND CMAKE_EXE_LINKER_FLAGS_INIT
+    " -Wl,--dynamic-linker=${ZK_ROOT}/lib/ld-linux.so.2 -Wl,--disable-new-dtags,-rpath,${libraries}")
+else()
+  set(CMAKE_CROSSCOMPILING_EMULATOR qemu-${CMAKE_SYSTEM_PROCESSOR} -L ${ZK_ROOT})
+endif()

@@ -1,0 +1,122 @@
+#!/usr/bin/env python3
+"""Puts small faults into the code, one at a time, and tells which ones no test notices.
+
+    tests/mutants/mutants.py --count 50 --seed 7 --under engine,region,platform
+    tests/mutants/mutants.py --count 50 --under tools
+
+Works in a copy of the tree in build/mutants/. A survivor is printed with its place, and is either a change that
+changes nothing that anybody could see, or a hole in the tests.
+"""
+
+import argparse
+import collections
+import os
+import pathlib
+import random
+import shutil
+import subprocess
+import sys
+import time
+
+import faults
+
+PROJECT = pathlib.Path(__file__).resolve().parents[2]
+FOLDER = PROJECT / "build/mutants"
+TREE = FOLDER / "tree"
+BUILD = FOLDER / "build"
+MEMORY = 4 << 30
+
+
+def copy_tree():
+    """Brings the copy up to date, and leaves what has not changed as it is, so that it is not built again."""
+    listed = subprocess.run(["git", "ls-files", "-z", "--cached", "--others", "--exclude-standard"],
+                            cwd=PROJECT, check=True, capture_output=True).stdout.decode().split("\0")
+    for name in filter(None, listed):
+        source, copy = PROJECT / name, TREE / name
+        if not source.is_file() or (copy.is_file() and copy.read_bytes() == source.read_bytes()):
+            continue
+        copy.parent.mkdir(parents=True, exist_ok=True)
+        shutil.copy(source, copy)
+    for copy in [path for path in TREE.rglob("*") if path.is_file()]:
+        if str(copy.relative_to(TREE)) not in listed:
+            copy.unlink()
+
+
+def build(targets):
+    return subprocess.run(["cmake", "--build", BUILD, "-j", str(os.cpu_count()), "--target", *targets],
+                          capture_output=True, text=True)
+
+
+def passes(tests, seconds):
+    """Whether all tests pass within the time; a test that hangs or takes all memory fails."""
+    scratch = FOLDER / "scratch"
+    shutil.rmtree(scratch, ignore_errors=True)
+    scratch.mkdir()
+    for test in tests:
+        with subprocess.Popen(["prlimit", f"--as={MEMORY}", BUILD / "bin" / test, "--gtest_fail_fast", "--gtest_brief=1"],
+                              stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
+                              env={**os.environ, "TMPDIR": str(scratch)}, start_new_session=True) as process:
+            try:
+                status = process.wait(seconds)
+            except subprocess.TimeoutExpired:
+                status = "late"
+            finally:
+                try:
+                    os.killpg(process.pid, 9)
+                except ProcessLookupError:
+                    pass
+        if status != 0:
+            return False
+    return True
+
+
+def prepare(tests):
+    """Builds the copy without a fault, and gives the time that its tests may take with one."""
+    copy_tree()
+    subprocess.run(["cmake", "-G", "Ninja", "-S", TREE, "-B", BUILD, "-DCMAKE_CXX_FLAGS=-O1 -w", "-DZK_EXAMPLES=OFF"],
+                   check=True, stdout=subprocess.DEVNULL)
+    built = build(tests)
+    if built.returncode != 0:
+        sys.exit(built.stdout[-4000:])
+    start = time.monotonic()
+    if not passes(tests, 600):
+        sys.exit("The tests fail without a fault as well.")
+    return 10 + 5 * (time.monotonic() - start)
+
+
+def outcome_of(fault, tests, seconds):
+    path = TREE / fault.path
+    original = path.read_text()
+    path.write_text(fault.applied_to(original))
+    try:
+        if build(tests).returncode != 0:
+            return "not compiled"
+        return "survived" if passes(tests, seconds) else "caught"
+    finally:
+        path.write_text(original)
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
+    parser.add_argument("--count", type=int, default=20, help="how many faults, without those that do not compile")
+    parser.add_argument("--seed", type=int, default=1, help="the same seed puts the same faults into the same code")
+    parser.add_argument("--under", default="engine,region,platform", help="folders, or files, with commas between them")
+    options = parser.parse_args()
+
+    os.nice(10)
+    folders = options.under.split(",")
+    tests = ["zk_tools_tests" if folders[0].startswith("tools") else "zk_module_tests"]
+    seconds = prepare(tests)
+    outcomes = collections.Counter()
+    for fault in faults.drawn(TREE, folders, random.Random(options.seed)):
+        if outcomes["caught"] + outcomes["survived"] == options.count:
+            break
+        outcome = outcome_of(fault, tests, seconds)
+        outcomes[outcome] += 1
+        if outcome == "survived":
+            print(f"{fault}\n", flush=True)
+    print(", ".join(f"{number} {outcome}" for outcome, number in sorted(outcomes.items())))
+
+
+if __name__ == "__main__":
+    main()
