@@ -34,5 +34,6 @@ for package in "$work"/archives/*.deb; do
     *) dpkg -x "$package" "$root" ;;
   esac
 done
+[ -e "$root/lib" ] || ln -s usr/lib "$root/lib"
 rm -rf "$work"
 echo "$wanted" >"$root/.packages"

@@ -1,30 +1,12 @@
 #pragma once
 
+#include <ZKStrings/tests/Shell.h>
 #include <ZKStrings/tests/tools/TemporaryProject.h>
 
-#include <array>
-#include <cstdio>
 #include <cstdlib>
 #include <string>
 
-#include <sys/wait.h>
-
 namespace zk::testing {
-
-/// What a command answered: its exit status and what it printed.
-struct Answer {
-  int status;
-  std::string output;
-};
-
-inline Answer outputOf(const std::string& command) {
-  std::FILE* const pipe = popen(command.c_str(), "r");
-  std::string output;
-  std::array<char, 4096> buffer;
-  while (const std::size_t size = std::fread(buffer.data(), 1, buffer.size(), pipe))
-    output.append(buffer.data(), size);
-  return {WEXITSTATUS(pclose(pipe)), output};
-}
 
 /// The command with its project and `arguments`, for a shell to which no character in a path means anything.
 inline std::string inShell(const TemporaryProject& project, const std::string& arguments) {
