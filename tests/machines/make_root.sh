@@ -27,6 +27,13 @@ options=(-q -o "APT::Architecture=$arch" -o "APT::Architectures::=$arch" -o APT:
 [ "$(id -u)" -ne 0 ] || options+=(-o APT::Sandbox::User=root)
 apt-get "${options[@]}" update
 apt-get "${options[@]}" --yes --download-only install "$@"
-for package in "$work"/archives/*.deb; do dpkg -x "$package" "$root"; done
+for package in "$work"/archives/*.deb; do
+  case $package in
+    # The compiler brings the headers of its own C library, which may be another version.
+    */libc6-dev_* | */linux-libc-dev_*) dpkg --fsys-tarfile "$package" | tar -x -C "$root" --exclude=./usr/include ;;
+    *) dpkg -x "$package" "$root" ;;
+  esac
+done
+[ -e "$root/lib" ] || ln -s usr/lib "$root/lib"
 rm -rf "$work"
 echo "$wanted" >"$root/.packages"

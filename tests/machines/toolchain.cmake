@@ -15,9 +15,9 @@ set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
 
-# The root's libraries may need a newer C++ library than the compiler's own, and find it there.
+# The root's libraries may need newer C and C++ libraries than the compiler's own, and find them there.
 set(libraries ${ZK_ROOT}/usr/lib/${CMAKE_LIBRARY_ARCHITECTURE}:${ZK_ROOT}/lib/${CMAKE_LIBRARY_ARCHITECTURE})
-set(CMAKE_EXE_LINKER_FLAGS_INIT -Wl,-rpath-link,${libraries})
+set(CMAKE_EXE_LINKER_FLAGS_INIT "-Wl,-rpath-link,${libraries} -Wl,--allow-shlib-undefined")
 if(CMAKE_SYSTEM_PROCESSOR STREQUAL i686)
   # An x86-64 processor knows the instructions; what is missing are only the loader and the libraries.
   string(APPEND CMAKE_EXE_LINKER_FLAGS_INIT

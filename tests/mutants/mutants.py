@@ -18,7 +18,8 @@ import subprocess
 import sys
 import time
 
-import faults
+sys.dont_write_bytecode = True  # nothing is left among the sources
+import faults  # noqa: E402
 
 PROJECT = pathlib.Path(__file__).resolve().parents[2]
 FOLDER = PROJECT / "build/mutants"
@@ -108,13 +109,16 @@ def main():
     tests = ["zk_tools_tests" if folders[0].startswith("tools") else "zk_module_tests"]
     seconds = prepare(tests)
     outcomes = collections.Counter()
-    for fault in faults.drawn(TREE, folders, random.Random(options.seed)):
-        if outcomes["caught"] + outcomes["survived"] == options.count:
-            break
-        outcome = outcome_of(fault, tests, seconds)
-        outcomes[outcome] += 1
-        if outcome == "survived":
-            print(f"{fault}\n", flush=True)
+    try:
+        for fault in faults.drawn(TREE, folders, random.Random(options.seed)):
+            if outcomes["caught"] + outcomes["survived"] == options.count:
+                break
+            outcome = outcome_of(fault, tests, seconds)
+            outcomes[outcome] += 1
+            if outcome == "survived":
+                print(f"{fault}\n", flush=True)
+    except KeyboardInterrupt:
+        pass
     print(", ".join(f"{number} {outcome}" for outcome, number in sorted(outcomes.items())))
 
 
