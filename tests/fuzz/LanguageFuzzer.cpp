@@ -1,9 +1,12 @@
 #include <ZKStrings/engine/BundleGlobals.h>
+#include <ZKStrings/engine/LanguageChoice.h>
 #include <ZKStrings/engine/StringLookup.h>
 #include <ZKStrings/platform/text/UnicodeText.h>
 #include <ZKStrings/region/CurrentLanguage.h>
 #include <ZKStrings/tests/fuzz/Fuzzing.h>
 
+#include <algorithm>
+#include <cstddef>
 #include <filesystem>
 #include <map>
 #include <memory>
@@ -80,16 +83,20 @@ std::map<std::string, std::string> textsOfAllLanguages() {
   return texts;
 }
 
+/// The first two characters, or "Base" for English.
+std::string codePlainly(const std::string& identifier) {
+  const std::vector<std::string> characters = charactersOf(identifier);
+  std::string code;
+  for (std::size_t i = 0; i < std::min<std::size_t>(characters.size(), 2); ++i) code += characters[i];
+  return code == "en" ? "Base" : code;
+}
+
 std::string textPlainly(const std::vector<std::string>& identifiers) {
   static const std::map<std::string, std::string> texts = textsOfAllLanguages();
   for (const std::string& identifier : identifiers) {
-    std::string code;
-    for (const std::string& character : charactersOf(identifier)) {
-      code += character;
-      if (code.size() > character.size()) break;
-    }
-    const auto text = texts.find(code == "en" ? "Base" : code);
-    if (text != texts.end()) return text->second;
+    const std::string code = codePlainly(identifier);
+    require(languageCode(identifier) == code, "the directory is not that of " + code);
+    if (const auto text = texts.find(code); text != texts.end()) return text->second;
   }
   return texts.at("Base");
 }
