@@ -13,6 +13,7 @@ trace=$(mktemp)
 trap 'rm -f "$trace"' EXIT
 LC_ALL='../../etc/passwd' LANGUAGE='/etc:../..:..:~:de/../../etc' \
   strace --follow-forks --quiet=all --trace=%file --string-limit=200 --output="$trace" "$program"
+perl -i -pe 's/\\([23][0-7]{2})/chr oct $1/ge' "$trace"  # strace writes the bytes of "ü" as \303\274
 
 # The paths that the step asked for.
 paths() {

@@ -2,7 +2,7 @@
 #include <ZKStrings/platform/Dictionary.h>
 #include <ZKStrings/platform/text/UnicodeText.h>
 #include <ZKStrings/region/Country.h>
-#include <ZKStrings/tests/Shell.h>
+#include <ZKStrings/tests/CommandOutput.h>
 
 #include <algorithm>
 #include <cstddef>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <ZKStrings/tests/Shell.h>
+#include <ZKStrings/tests/CommandOutput.h>
 #include <ZKStrings/tests/tools/TemporaryProject.h>
 
 #include <cstdlib>

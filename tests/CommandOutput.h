@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdio>
 #include <string>
 
@@ -14,6 +15,7 @@ struct Answer {
   std::string output;
 };
 
+/// What the shell's command `command` answers.
 inline Answer outputOf(const std::string& command) {
   std::FILE* const pipe = popen(command.c_str(), "r");
   std::string output;
