@@ -20,7 +20,7 @@ REPLACEMENTS = [
     (r"\btrue\b", ["false"]),
     (r"\bfalse\b", ["true"]),
     (r"(?<=\()!(?=[\w(])", [""]),
-    (r"(?<=\bif \()(?=[\w(*])", ["!"]),
+    (r"(?<=\bif \()(?=[\w*.:]+(?:\([^()]*\))?\))", ["!"]),
 ]
 NUMBER = re.compile(r"(?<![\w.'])(0x[0-9A-Fa-f]+|\d+)(?![\w.'])")
 # A statement of one line that is a call, an assignment or a jump, and no declaration.
