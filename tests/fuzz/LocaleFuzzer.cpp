@@ -20,22 +20,27 @@ std::string replaced(std::string text, char before, char now) {
   return text;
 }
 
+std::string withoutModifiers(const std::string& name) {
+  return name.substr(0, name.find_first_of(".@"));
+}
+
 /// "sr-Latn-RS" of "sr_RS.UTF-8@latin"; empty for a name without language.
 std::string plainly(const std::string& name) {
-  const std::string plain = name.substr(0, name.find_first_of(".@"));
-  const std::string language = plain.substr(0, plain.find('_'));
+  if (withoutModifiers(name) == "C" || withoutModifiers(name) == "POSIX") return "en";
+  std::string plain = replaced(withoutModifiers(name), '_', '-');
+  while (plain.ends_with('-')) plain.pop_back();
+  const std::string language = plain.substr(0, plain.find('-'));
   if (language.empty()) return "";
-  if (plain == "C" || plain == "POSIX") return "en";
   std::string script;
   for (const auto& [modifier, code] : {std::pair{"@latin", "-Latn"}, std::pair{"@cyrillic", "-Cyrl"},
                                        std::pair{"@devanagari", "-Deva"}, std::pair{"@iqtelif", "-Latn"}}) {
     if (name.find('@') != name.npos && name.substr(name.find('@')) == modifier) script = code;
   }
-  return language + script + replaced(plain.substr(language.size()), '_', '-');
+  return language + script + plain.substr(language.size());
 }
 
 bool isWithoutLanguage(const std::string& name) {
-  const std::string plain = name.substr(0, name.find_first_of(".@"));
+  const std::string plain = withoutModifiers(name);
   return plain == "C" || plain == "POSIX" || plainly(name).empty();
 }
 
