@@ -20,31 +20,28 @@ std::string replaced(std::string text, char before, char now) {
   return text;
 }
 
-std::string withoutEncoding(const std::string& name) {
+std::string withoutModifiers(const std::string& name) {
   return name.substr(0, name.find_first_of(".@"));
-}
-
-bool isCOrPosix(const std::string& name) {
-  return withoutEncoding(name) == "C" || withoutEncoding(name) == "POSIX";
 }
 
 /// "sr-Latn-RS" of "sr_RS.UTF-8@latin"; empty for a name without language.
 std::string plainly(const std::string& name) {
-  if (isCOrPosix(name)) return "en";
-  std::string identifier = replaced(withoutEncoding(name), '_', '-');
-  while (identifier.ends_with('-')) identifier.pop_back();
-  const std::string language = identifier.substr(0, identifier.find('-'));
+  if (withoutModifiers(name) == "C" || withoutModifiers(name) == "POSIX") return "en";
+  std::string plain = replaced(withoutModifiers(name), '_', '-');
+  while (plain.ends_with('-')) plain.pop_back();
+  const std::string language = plain.substr(0, plain.find('-'));
   if (language.empty()) return "";
   std::string script;
   for (const auto& [modifier, code] : {std::pair{"@latin", "-Latn"}, std::pair{"@cyrillic", "-Cyrl"},
                                        std::pair{"@devanagari", "-Deva"}, std::pair{"@iqtelif", "-Latn"}}) {
     if (name.find('@') != name.npos && name.substr(name.find('@')) == modifier) script = code;
   }
-  return language + script + identifier.substr(language.size());
+  return language + script + plain.substr(language.size());
 }
 
 bool isWithoutLanguage(const std::string& name) {
-  return isCOrPosix(name) || plainly(name).empty();
+  const std::string plain = withoutModifiers(name);
+  return plain == "C" || plain == "POSIX" || plainly(name).empty();
 }
 
 std::vector<std::string> languagesPlainly(const std::string& locale, const std::string& list) {

@@ -107,13 +107,9 @@ std::optional<std::string> AdoptedTexts::converted(const ForeignText& text, cons
 std::string AdoptedTexts::whyRefused(const Entry& entry) const {
   if (findControlCharacter(entry.key) != entry.key.npos)
     return "the key has control characters; give it another by hand";
+  if (std::string fault = Catalogue::faultIn(entry); !fault.empty()) return fault;
   Catalogue alone;
   alone.insert(0, entry);
-  try {
-    static_cast<void>(Catalogue::parse(alone.toJson(), Catalogue::kFile));
-  } catch (const CommandFailed& failed) {
-    return failed.faults.front().message;
-  }
   for (const Catalogue::LookedUpKey& key : alone.lookedUpKeys()) {
     if (lookedUp_.contains(key.key)) return fmt::format("the catalogue has the key \"{}\" already", key.key);
   }

@@ -33,6 +33,10 @@ constexpr std::size_t kFormForOne = 1;
   throw std::invalid_argument(reason);
 }
 
+void refuseFaultIn(const Entry& entry) {
+  if (const std::string fault = Catalogue::faultIn(entry); !fault.empty()) refuse(fault);
+}
+
 void refuseUnknownPlaceholders(const std::string& form, const std::string& text) {
   const std::vector<std::string_view> allowed = placeholderNames(text);
   for (const std::string_view name : placeholderNames(form)) {
@@ -73,6 +77,7 @@ Entry entryFor(const NewEntry& added, const Catalogue& catalogue) {
     refuse(
         fmt::format("the key \"{}\" cannot name a function; write \"{}\"", entry.key, keyForText(entry.key)));
   if (entry.key != ruled) entry.kept = Entry::Kept::key;
+  refuseFaultIn(entry);
   for (const Entry& present : catalogue.entries()) {
     if (present.key == entry.key && (present.plural == entry.plural || present.text != entry.text))
       refuse(fmt::format("the key \"{}\" is that of the text \"{}\"; give the new text another with --key",
@@ -180,6 +185,7 @@ std::size_t changeEntry(const std::string& root, const std::string& key, const s
     entry->text = text;
     if (entry->kept != Entry::Kept::place)
       entry->kept = key == keyForText(text) ? Entry::Kept::nothing : Entry::Kept::key;
+    refuseFaultIn(*entry);
   }
 
   const std::vector<TableKey> keys = tableKeysOf(entries);

@@ -195,6 +195,12 @@ Catalogue Catalogue::parse(std::string_view json, const std::string& file) {
   return catalogue;
 }
 
+std::string Catalogue::faultIn(const Entry& entry) {
+  Faults faults;
+  checkEntry(entry, kFile, faults);
+  return faults.empty() ? "" : faults.front().message;
+}
+
 std::vector<Catalogue::LookedUpKey> Catalogue::lookedUpKeys() const {
   std::vector<LookedUpKey> keys;
   for (const Entry& entry : entries_) {

@@ -37,6 +37,9 @@ class Catalogue {
   /// The same of the text of such a file, which faults call `file`.
   [[nodiscard]] static Catalogue parse(std::string_view json, const std::string& file);
 
+  /// What is wrong with `entry` by itself, and what to do; empty when nothing is.
+  [[nodiscard]] static std::string faultIn(const Entry& entry);
+
   [[nodiscard]] const std::vector<Entry>& entries() const { return entries_; }
   [[nodiscard]] std::vector<Entry>& entries() { return entries_; }
 
