@@ -1,4 +1,5 @@
 #include <ZKStrings/tests/TemporaryDirectory.h>
+#include <ZKStrings/tests/tools/exchange/ReadBack.h>
 #include <ZKStrings/tools/exchange/ExchangeFormat.h>
 #include <ZKStrings/tools/exchange/Export.h>
 #include <ZKStrings/tools/support/Fault.h>
@@ -15,7 +16,9 @@
 namespace {
 
 using namespace zk::tools;
+using zk::testing::readBack;
 using zk::testing::TemporaryDirectory;
+using zk::testing::unitIn;
 
 struct Form {
   ExchangeFormat format;
@@ -25,11 +28,6 @@ constexpr Form kForms[] = {{ExchangeFormat::xliff12, "12.xlf"},
                            {ExchangeFormat::xliff20, "20.xliff"},
                            {ExchangeFormat::po, "x.po"},
                            {ExchangeFormat::csv, "x.csv"}};
-
-Translations readBack(std::string_view bytes, const std::string& name) {
-  const TemporaryDirectory directory;
-  return readTranslations(directory.write(name, bytes));
-}
 
 void expectSame(const Translations& sent, const Translations& back, const std::string& about) {
   EXPECT_EQ(back.language, sent.language) << about;
@@ -93,22 +91,6 @@ TEST(ExchangeFormat, KeepsAllShippedTexts) {
   }
 }
 
-TEST(ExchangeFormat, ProtectsCodesInXLIFF) {
-  const Translations sent{
-      "de",
-      {{"k", "%{a}<b>x</b>", "<b>y</b>%{a}", TranslationState::translated, {}}},
-  };
-  const std::string old = written(sent, ExchangeFormat::xliff12);
-  EXPECT_NE(old.find("<ph id=\"2\">&lt;b&gt;</ph>y<ph id=\"3\">&lt;/b&gt;</ph><ph id=\"1\">%{a}</ph>"),
-            std::string::npos)
-      << old;
-  const std::string current = written(sent, ExchangeFormat::xliff20);
-  EXPECT_NE(current.find("<pc id=\"2\" dataRefStart=\"d2\" dataRefEnd=\"d3\">y</pc>"
-                         "<ph id=\"1\" dataRef=\"d1\" disp=\"%{a}\"/>"),
-            std::string::npos)
-      << current;
-}
-
 TEST(ExchangeFormat, WritesNothingThatASpreadsheetTakesForAFormula) {
   Translations sent{"de", {}};
   for (const char* const text : {"=1+1", "+1", "-1", "@SUM(A1)", "\t=1", "\r=1", "'=1", "＝1"})
@@ -125,84 +107,6 @@ TEST(ExchangeFormat, RefusesWhatXMLCannotHold) {
   EXPECT_THROW(static_cast<void>(written(sent, ExchangeFormat::xliff12)), CommandFailed);
   EXPECT_THROW(static_cast<void>(written(sent, ExchangeFormat::xliff20)), CommandFailed);
   expectSame(sent, readBack(written(sent, ExchangeFormat::po), "x.po"), "po");
-}
-
-/// The one unit of a file as "key|source|target|state".
-std::string unitIn(std::string_view bytes, const std::string& name) {
-  const Translations translations = readBack(bytes, name);
-  if (translations.units.size() != 1) return fmt::format("{} units", translations.units.size());
-  const TranslationUnit& unit = translations.units[0];
-  return fmt::format("{}|{}|{}|{}", unit.key, unit.source, unit.target, nameOf(unit.state));
-}
-
-TEST(ExchangeFormat, TakesXLIFFOfOtherPrograms) {
-  struct Case {
-    const char* unit;
-    const char* read;
-  };
-  constexpr Case kOld[] = {
-      {"<trans-unit id='k'><source>A</source><target>B</target></trans-unit>", "k|A|B|translated"},
-      {"<trans-unit id='7' resname='k'><source>A</source><target>B</target></trans-unit>",
-       "k|A|B|translated"},
-      {"<trans-unit id='k' approved='no'><source>A</source><target>B</target></trans-unit>",
-       "k|A|B|needs-review"},
-      {"<trans-unit id='k' approved='no'><source>A</source><target state='final'>B</target></trans-unit>",
-       "k|A|B|translated"},
-      {"<trans-unit id='k'><source>A</source><target state='needs-l10n'>B</target></trans-unit>",
-       "k|A|B|needs-review"},
-      {"<trans-unit id='k'><source>A</source><target state='new'>A</target></trans-unit>",
-       "k|A||needs-review"},
-      {"<trans-unit id='k'><source>A</source><target/></trans-unit>", "k|A||translated"},
-      {"<trans-unit id='k'><source>A</source><alt-trans><target>B</target></alt-trans></trans-unit>",
-       "k|A||translated"},
-      {"<group><trans-unit id='k'><source>A</source><seg-source><mrk mtype='seg'>A</mrk></seg-source>"
-       "<target><mrk mtype='seg'>B</mrk> <mrk mtype='seg'>C</mrk></target></trans-unit></group>",
-       "k|A|B C|translated"},
-      {"<trans-unit id='k'><source><x id='1' equiv-text='%{a}'/>A</source><target>B<x id='1'/></target>"
-       "</trans-unit>",
-       "k|%{a}A|B%{a}|translated"},
-      {"<trans-unit id='k'><source><bpt id='1'>&lt;b></bpt>A<ept id='2'>&lt;/b></ept></source>"
-       "<target><![CDATA[<b>B</b>]]></target></trans-unit>",
-       "k|<b>A</b>|<b>B</b>|translated"},
-      {"<trans-unit id='_msg1'><source>A<ph id='p' ctype='x-ch-lf'>\\n</ph>B</source><target>C</target>"
-       "<context-group><context context-type='x-gettext-msgctxt'>k</context></context-group></trans-unit>",
-       "k|A\nB|C|translated"},
-      {"<trans-unit id='5'><source>A</source><target>B</target><context-group>"
-       "<context context-type='sourcefile'>k</context></context-group></trans-unit>",
-       "k|A|B|translated"},
-      {"<trans-unit id='5'><source>About</source><target>B</target></trans-unit>",
-       "About|About|B|translated"},
-      {"<x:trans-unit id='k'><x:source>A</x:source><x:target>B</x:target></x:trans-unit>",
-       "k|A|B|translated"},
-  };
-  for (const auto& [unit, read] : kOld) {
-    const std::string document = fmt::format(
-        "<?xml version='1.0'?>\n<xliff version='1.2'><file "
-        "target-language='de'><body>{}</body></file></xliff>",
-        unit);
-    EXPECT_EQ(unitIn(document, "a.xlf"), read) << unit;
-  }
-  constexpr Case kCurrent[] = {
-      {"<unit id='k'><segment><source>A</source><target>B</target></segment></unit>", "k|A|B|translated"},
-      {"<unit id='u1' name='k'><segment "
-       "state='initial'><source>A</source><target>B</target></segment></unit>",
-       "k|A|B|needs-review"},
-      {"<unit id='k'><segment><source>A.</source><target>B.</target></segment><ignorable><source> </source>"
-       "</ignorable><segment><source>C</source><target>D</target></segment></unit>",
-       "k|A. C|B. D|translated"},
-      {"<unit id='k'><segment><source>A.</source><target>B.</target></segment>"
-       "<segment><source>C</source></segment></unit>",
-       "k|A.C||translated"},
-      {"<unit id='k'><originalData><data id='d1'>&lt;b></data><data id='d2'>&lt;/b></data></originalData>"
-       "<segment><source><sc id='1' dataRef='d1'/>A<ec startRef='1' dataRef='d2'/></source>"
-       "<target><pc id='1' dataRefStart='d1' dataRefEnd='d2'>B</pc></target></segment></unit>",
-       "k|<b>A</b>|<b>B</b>|translated"},
-  };
-  for (const auto& [unit, read] : kCurrent) {
-    const std::string document =
-        fmt::format("<xliff version='2.1' trgLang='de'><file id='f'>{}</file></xliff>", unit);
-    EXPECT_EQ(unitIn(document, "a.xml"), read) << unit;
-  }
 }
 
 TEST(ExchangeFormat, TakesPOAndCSVOfOtherPrograms) {
