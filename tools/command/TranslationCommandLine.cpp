@@ -45,6 +45,7 @@ CLI::Validator isRule() {
     const auto isMeant = [&](const Rule& rule) { return rule.name == name; };
     if (std::any_of(rules.begin(), rules.end(), isMeant)) return "";
     std::vector<std::string_view> names;
+    names.reserve(rules.size());
     for (const Rule& rule : rules) names.push_back(rule.name);
     const std::optional<std::string_view> meant = nearest(name, names);
     return fmt::format(
