@@ -62,6 +62,7 @@ class ZK_EXPORT Substitutions {
   }
   Substitutions(const Pairs& pairs ZK_REFERRED_TO) : Substitutions() {
     std::vector<Pair> list;
+    if constexpr (requires { std::size(pairs); }) list.reserve(std::size(pairs));
     for (const auto& pair : pairs) list.emplace_back(pair);
     *this = Substitutions(list.data(), list.size());
   }

@@ -189,7 +189,7 @@ std::string mirroredText(const EnglishText& english) {
     std::string result = mark;
     for (const Piece& piece : piecesOf(text)) {
       if (piece.text == "\n") {
-        result += mark + "\n" + mark;
+        result.append(mark).append("\n").append(mark);
       } else {
         result += piece.isPlain ? turnedAround(piece.text) : std::string(piece.text);
       }
