@@ -111,12 +111,11 @@ void checkEntry(const Entry& entry, const std::string& file, Faults& faults) {
   const auto fail = [&](std::string message) {
     faults.push_back({Severity::error, file, entry.line, 1, "", std::move(message)});
   };
-  const bool isKept = entry.kept == Entry::Kept::key;
   const std::string ruled = keyForText(entry.text);
-  if (!isKept && entry.key != ruled) {
+  if (entry.kept == Entry::Kept::nothing && entry.key != ruled) {
     fail(fmt::format("the key \"{}\" is not the one that its text gets; use \"{}\"", entry.key, ruled));
   }
-  if (isKept && entry.key == ruled) {
+  if (entry.kept == Entry::Kept::key && entry.key == ruled) {
     fail(fmt::format("the key \"{}\" follows the rule; remove \"kept\"", entry.key));
   }
   if (identifierFor(entry.key).empty()) {

@@ -13,7 +13,7 @@ namespace zk::tools {
 
 /// One entry of the catalogue, as catalogue/entries.json holds it.
 struct Entry {
-  /// What of an old entry stays as it is although a rule says otherwise.
+  /// What of an old entry stays as it is although a rule says otherwise: its key, or its key and its place.
   enum class Kept { nothing, key, place };
 
   std::string key;

@@ -107,6 +107,7 @@ class EntryChanges : public EntryCommands {
 TEST_F(EntryChanges, ChangeKeepsTheKeyAndMarksTranslations) {
   EXPECT_EQ(changeEntry(root(), "B", "Bee", {}), 1u);
   EXPECT_EQ(changeEntry(root(), "D", "Dee", {}), 0u);
+  EXPECT_EQ(changeEntry(root(), "ZZ", "Zed", {}), 0u) << "an entry kept in its place";
   EXPECT_EQ(changeEntry(root(), "Ds", "%{n} Dees", {"none", "%{n} Dee"}), 1u);
   EXPECT_EQ(read(tablePath("de")),
             "/* German */\n\n/* state: needs-review */\n\"B\" = \"Be\";\n/* English: \"Dee\" */\n/* state: "
