@@ -1,5 +1,6 @@
 #include <ZKStrings/engine/PlaceholderSubstitution.h>
 #include <ZKStrings/platform/text/TextSearch.h>
+#include <ZKStrings/tests/RandomTexts.h>
 
 #include <algorithm>
 #include <map>
@@ -44,6 +45,9 @@ TEST(Substitution, FillsInThePlaceholdersThatHaveAText) {
   };
   for (const Case& item : cases)
     EXPECT_EQ(applySubstitutions(item.text, item.substitutions), item.expected) << item.text;
+  const Substitutions alike = {
+      {"firstLetter", "1"}, {"fourthLetter", "2"}, {"é", "3"}, {"e", "4"}, {"É", "5"}};
+  EXPECT_EQ(applySubstitutions("%{firstLetter}%{fourthLetter}%{é}%{e}%{É}", alike), "12345");
   const std::string longName(500, 'n');
   EXPECT_EQ(applySubstitutions("%{" + longName + "}", {{longName, "x"}}), "x");
 }
@@ -89,19 +93,13 @@ TEST(Substitution, IsAValue) {
 }
 
 TEST(Substitution, IsOnePairAfterTheOther) {
-  const std::string pieces[] = {
-      "%{a}", "%{b}",   "%{ab}", "%{}",  "%",          "{",       "}",    "a",
-      "b",    "\u0301", "é",     "%{é}", "%{e\u0301}", "%{a%{b}", "\xFF", "some longer text "};
+  testing::RandomTexts texts({"%{a}", "%{b}", "%{ab}", "%{}", "%", "{", "}", "a", "b", "\u0301", "é", "%{é}",
+                              "%{e\u0301}", "%{a%{b}", "\xFF", "some longer text "});
   std::string names[] = {"a", "b", "ab", "", "é", "a%{b", "%", "c}", "a}b", "a}%{b", "{"};
   std::mt19937 random(20240901);
-  const auto mixed = [&](std::size_t most) {
-    std::string text;
-    for (auto i = random() % (most + 1); i > 0; --i) text += pieces[random() % std::size(pieces)];
-    return text;
-  };
   for (int round = 0; round < 50000; ++round) {
-    const std::string text = mixed(8);
-    const std::string values[] = {mixed(2), mixed(1), mixed(1)};
+    const std::string text = texts.next(8);
+    const std::string values[] = {texts.next(2), texts.next(1), texts.next(1)};
     std::shuffle(std::begin(names), std::end(names), random);
     std::string expected = text;
     for (int i = 0; i < 3; ++i) replaceOccurrences(expected, "%{" + names[i] + "}", values[i]);
@@ -131,12 +129,6 @@ TEST(SubstitutionDeathTest, ARepeatedNameStopsTheProcess) {
   many.back().first = "é";
   many.emplace_back("e\u0301", "again");
   EXPECT_DEATH(Substitutions{many}, "^$");
-}
-
-TEST(Substitution, NamesThatOnlyLookAlikeDiffer) {
-  const Substitutions pairs = {
-      {"firstLetter", "1"}, {"fourthLetter", "2"}, {"é", "3"}, {"e", "4"}, {"É", "5"}};
-  EXPECT_EQ(applySubstitutions("%{firstLetter}%{fourthLetter}%{é}%{e}%{É}", pairs), "12345");
 }
 
 }  // namespace
