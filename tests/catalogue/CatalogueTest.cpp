@@ -40,20 +40,16 @@ TEST(Catalogue, WasReleasedWithTheFiguresThatTheAppWasBuiltFor) {
   const Catalogue catalogue = releasedCatalogue();
   std::set<std::string_view> keys;
   std::map<std::pair<bool, std::size_t>, int> families;  // by count and number of text arguments
-  std::map<std::string, int> uses;
   std::map<Entry::Kept, int> kept;
   int longest = 0;
   int byTheRule = 0;
   for (const Entry& entry : catalogue.entries()) {
-    const auto names = placeholderNames(entry.text);
     keys.insert(entry.key);
-    ++families[{entry.plural, names.size()}];
-    for (const auto name : names) ++uses[std::string(name)];
+    ++families[{entry.plural, placeholderNames(entry.text).size()}];
     ++kept[entry.kept];
     longest += entry.key.size() == kLongestKey;
     byTheRule += entry.key == keyForText(entry.text);
   }
-  EXPECT_EQ(catalogue.entries().size(), 860u);
   EXPECT_EQ(keys.size(), 856u);
   const std::map<std::pair<bool, std::size_t>, int> expectedFamilies = {
       {{false, 0}, 685}, {{true, 0}, 10}, {{false, 1}, 85}, {{false, 2}, 26}, {{false, 3}, 10},
@@ -63,23 +59,6 @@ TEST(Catalogue, WasReleasedWithTheFiguresThatTheAppWasBuiltFor) {
   EXPECT_EQ(byTheRule, 852);
   EXPECT_EQ(kept[Entry::Kept::key], 8);
   EXPECT_EQ(kept[Entry::Kept::place], 8);
-
-  EXPECT_EQ(uses.size(), 111u);
-  std::map<std::string, int> several = {
-      {"username", 24},   {"level", 8},     {"prize", 7},         {"amount", 6},       {"days", 5},
-      {"firstLetter", 5}, {"userCount", 5}, {"questionCount", 4}, {"secondLetter", 4}, {"terms", 4}};
-  for (const char* name : {"badgeCount", "code", "cost", "extraLifeCount", "friendCount", "gameName",
-                           "number", "phoneNumber", "player1", "players", "privacy", "product", "round",
-                           "roundNumber", "rules", "seconds", "thirdLetter"}) {
-    several[name] = 3;
-  }
-  for (const char* name : {"account", "badge", "count", "fourthLetter", "letter", "lifeCount", "name",
-                           "name1", "name2", "percent", "player2", "points", "puzzleNumber", "questionNumber",
-                           "strikeCount", "time", "username2"}) {
-    several[name] = 2;
-  }
-  std::erase_if(uses, [](const auto& use) { return use.second == 1; });
-  EXPECT_EQ(uses, several);
 }
 
 TEST(Catalogue, AccessorsAreUpToDate) {
@@ -94,18 +73,13 @@ TEST(Catalogue, TheEnglishTableHoldsExactlyWhatIsLookedUp) {
   const Catalogue catalogue = Catalogue::read(kRoot);
   const Table base = Table::read(kRoot, "Base");
   ASSERT_TRUE(base.faults.empty());
-  std::vector<std::string> expected;
-  for (const auto& key : catalogue.lookedUpKeys()) {
-    expected.push_back(key.key);
-    const TableEntry* const found = base.find(key.key);
-    ASSERT_TRUE(found) << key.key;
-    if (key.suffix.empty()) {
-      EXPECT_EQ(found->text, key.entry->text) << key.key;
-    }
+  const std::vector<Catalogue::LookedUpKey> expected = catalogue.lookedUpKeys();
+  for (std::size_t i = 0; i < std::min(base.entries.size(), expected.size()); ++i) {
+    ASSERT_EQ(base.entries[i].key, expected[i].key);
+    if (expected[i].suffix.empty())
+      EXPECT_EQ(base.entries[i].text, expected[i].entry->text) << expected[i].key;
   }
-  std::vector<std::string> keys;
-  for (const TableEntry& entry : base.entries) keys.push_back(entry.key);
-  EXPECT_EQ(keys, expected);
+  EXPECT_EQ(base.entries.size(), expected.size());
 }
 
 TEST(Catalogue, RefusesAWrongEntryNamingItsLine) {
@@ -114,16 +88,12 @@ TEST(Catalogue, RefusesAWrongEntryNamingItsLine) {
     std::size_t line;
     std::string message;
   };
+  const std::string a = R"({"key": "A", "text": "A"})";
+  const std::string b = R"({"key": "B", "text": "B"})";
   const Case cases[] = {
-      {R"({"key": "B", "text": "B"},
-{"key": "A", "text": "A"})",
-       3, "out of place"},
-      {R"({"key": "A", "text": "A"},
-{"key": "A", "text": "A"})",
-       3, "stands already in line 2"},
-      {R"({"key": "A", "text": "A"},
-{"key": "A", "text": "A!", "plural": true})",
-       3, "another text in line 2"},
+      {b + ",\n" + a, 3, "out of place"},
+      {a + ",\n" + a, 3, "stands already in line 2"},
+      {a + ",\n" + R"({"key": "A", "text": "A!", "plural": true})", 3, "another text in line 2"},
       {R"({"key": "A", "text": "B"})", 2, "use \"B\""},
       {R"({"key": "A", "text": "A", "kept": "key"})", 2, "follows the rule"},
       {R"({"key": "???", "text": "x", "kept": "key"})", 2, "cannot name a function"},
@@ -134,10 +104,8 @@ TEST(Catalogue, RefusesAWrongEntryNamingItsLine) {
       {R"({"key": "A", "text": "A", "more": 1})", 2, "\"more\" is unknown"},
       {R"({"key": "A", "text": 5})", 2, "\"text\" is unknown or of the wrong type"},
       {R"({"key": "A", text: "A"})", 2, "no JSON object"},
-      {R"({"key": "A", "text": "A"},)", 2, "comma behind the last"},
-      {R"({"key": "A", "text": "A"}
-{"key": "B", "text": "B"})",
-       2, "no comma"},
+      {a + ",", 2, "comma behind the last"},
+      {a + "\n" + b, 2, "no comma"},
       {"5", 2, "no JSON object"},
   };
   for (const Case& item : cases) {
