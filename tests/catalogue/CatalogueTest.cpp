@@ -1,4 +1,5 @@
 #include <ZKStrings/catalogue/KeyRule.h>
+#include <ZKStrings/tests/Rows.h>
 #include <ZKStrings/tools/authoring/AccessorGenerator.h>
 #include <ZKStrings/tools/project/Catalogue.h>
 #include <ZKStrings/tools/support/Files.h>
@@ -76,8 +77,9 @@ TEST(Catalogue, TheEnglishTableHoldsExactlyWhatIsLookedUp) {
   const std::vector<Catalogue::LookedUpKey> expected = catalogue.lookedUpKeys();
   for (std::size_t i = 0; i < std::min(base.entries.size(), expected.size()); ++i) {
     ASSERT_EQ(base.entries[i].key, expected[i].key);
-    if (expected[i].suffix.empty())
+    if (expected[i].suffix.empty()) {
       EXPECT_EQ(base.entries[i].text, expected[i].entry->text) << expected[i].key;
+    }
   }
   EXPECT_EQ(base.entries.size(), expected.size());
 }
@@ -121,25 +123,11 @@ TEST(Catalogue, RefusesAWrongEntryNamingItsLine) {
 }
 
 TEST(KeyRule, DerivesTheKeyFromTheText) {
-  const std::pair<std::string, std::string> cases[] = {
-      {"Your purchase was successful!", "Your_purchase_was_successful"},
-      {"%{active}/%{limit} players", "active_limit_players"},
-      {"1st", "_1st"},
-      {"...2 left", "_2_left"},
-      {"Daily\nChallenge", "Daily_nChallenge"},
-      {"Tell us about your \n experience", "Tell_us_about_your_n_experience"},
-      {"\nfirst", "nfirst"},
-      {"<b>Privacy Policy</b>,", "b_Privacy_Policy_b"},
-      {"Search results for \"%{searchTerm}\"", "Search_results_for_searchTerm"},
-      {"You got an Extra Life from ZK! ❤️", "You_got_an_Extra_Life_from_ZK_\uFE0F"},
-      {"Ünïcode: e\u0301 日本 ٣", "Ünïcode_e\u0301_日本_٣"},
-      {"½ ² Ⅳ", ""},
-      {"!?", ""},
-      {std::string(99, 'a') + " b", std::string(99, 'a') + "_"},
-      {std::string(100, 'a') + "!", std::string(100, 'a')},
-      {"1" + std::string(120, 'a'), "_1" + std::string(98, 'a')},
-  };
-  for (const auto& [text, key] : cases) EXPECT_EQ(keyForText(text), key) << text;
+  auto rows = testing::rowsOf<std::string, std::string>("catalogue/KeyRuleTest.json");
+  rows.emplace_back(std::string(99, 'a') + " b", std::string(99, 'a') + "_");
+  rows.emplace_back(std::string(100, 'a') + "!", std::string(100, 'a'));
+  rows.emplace_back("1" + std::string(120, 'a'), "_1" + std::string(98, 'a'));
+  for (const auto& [text, key] : rows) EXPECT_EQ(keyForText(text), key) << text;
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include <ZKStrings/platform/Bundle.h>
 #include <ZKStrings/platform/Resolver.h>
 #include <ZKStrings/region/CurrentLanguage.h>
+#include <ZKStrings/tests/Rows.h>
 #include <ZKStrings/tests/TemporaryDirectory.h>
 
 #include <cstdint>
@@ -62,33 +63,13 @@ struct StandInBundle {
 };
 
 TEST(Lookup, MakesExactlyThePlatformCallsThatItMust) {
-  const std::string base = "Base.lproj open:Base ";
-  const std::string baseWins = "Base.lproj Base.lproj open:Base Base.lproj open:Base ";
-  const std::string frenchWins = "fr.lproj fr.lproj open:fr fr.lproj open:fr ";
-  struct Case {
-    std::vector<std::string> preferred;
-    std::string asked;
-  };
-  const Case cases[] = {
-      {{}, base},
-      {{"de-DE"}, "de.lproj " + base},
-      {{"en-GB", "fr-FR"}, baseWins},
-      {{"en"}, baseWins},
-      {{"EN-US"}, "EN.lproj " + base},
-      {{"fr-FR", "pt-BR"}, frenchWins},
-      {{"de-DE", "xx", "fr-CA"}, "de.lproj xx.lproj " + frenchWins},
-      {{"it-IT", "fr-FR"}, "it.lproj it.lproj open:it " + frenchWins},
-      {{"it-IT"}, "it.lproj it.lproj open:it " + base},
-      {{"fil-PH"}, "fi.lproj fi.lproj open:fi fi.lproj open:fi "},
-      {{"x"}, "x.lproj " + base},
-      {{""}, ".lproj " + base},
-      {{"日本語"}, "日本.lproj " + base},
-  };
+  using Identifiers = std::vector<std::string>;
   StandInBundle::paths = StandInBundle::openings = 1000;
-  for (const Case& item : cases) {
+  for (const auto& [preferred, asked] :
+       testing::rowsOf<Identifiers, std::string>("engine/LanguageChoiceTest.json")) {
     StandInBundle::asked.clear();
-    static_cast<void>(chosenLanguageBundle(StandInBundle(), item.preferred));
-    EXPECT_EQ(StandInBundle::asked, item.asked) << (item.preferred.empty() ? "none" : item.preferred[0]);
+    static_cast<void>(chosenLanguageBundle(StandInBundle(), preferred));
+    EXPECT_EQ(StandInBundle::asked, asked) << (preferred.empty() ? "none" : preferred[0]);
   }
 }
 

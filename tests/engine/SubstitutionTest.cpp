@@ -1,6 +1,7 @@
 #include <ZKStrings/engine/PlaceholderSubstitution.h>
 #include <ZKStrings/platform/text/TextSearch.h>
 #include <ZKStrings/tests/RandomTexts.h>
+#include <ZKStrings/tests/Rows.h>
 
 #include <algorithm>
 #include <map>
@@ -16,43 +17,19 @@
 namespace zk {
 namespace {
 
+using Texts = std::vector<std::pair<std::string, std::string>>;
+
 TEST(Substitution, FillsInThePlaceholdersThatHaveAText) {
-  struct Case {
-    std::string text;
-    Substitutions substitutions;
-    std::string expected;
-  };
-  const Case cases[] = {
-      {"%{active}/%{limit} players", {}, "%{active}/%{limit} players"},
-      {"%{active}/%{limit} players", {{"active", "12"}, {"limit", "50"}}, "12/50 players"},
-      {"%{a} and %{a}", {{"a", "x"}}, "x and x"},
-      {"%{username}", {{"Username", "x"}, {"user", "y"}}, "%{username}"},
-      {"%{a}}", {{"a", "x"}}, "x}"},
-      {"%{ a}", {{"a", "x"}}, "%{ a}"},
-      {"%{}", {{"", "x"}}, "x"},
-      {"%{a}", {{"a", "100% {sure} %{"}}, "100% {sure} %{"},
-      {"%{a}", {{"a", "%{b}"}, {"b", "x"}}, "x"},
-      {"%{a}", {{"b", "x"}, {"a", "%{b}"}}, "%{b}"},
-      {"%{a}", {{"a", "%{a}"}}, "%{a}"},
-      {"Größe: %{größe} %{gro\u0308ße}", {{"größe", "XL"}}, "Größe: XL XL"},
-      {"%{a}%{b}%{c}%{d}%{e}%{f}",
-       {{"f", "6"}, {"e", "5"}, {"d", "4"}, {"c", "3"}, {"b", "2"}, {"a", "1"}},
-       "123456"},
-      {"%{a} \xFF", {{"a", "\xFE"}}, "\xFE \xFF"},
-      {"%{a}%{c}}", {{"c", "b"}, {"a}b", "x"}, {"a", "y"}}, "x"},
-      {"%{b}%{a}", {{"a", "\u0301"}, {"b", "x"}}, "%{b}\u0301"},
-      {"100% %{a}%", {{"a", "5%"}}, "100% 5%%"},
-  };
-  for (const Case& item : cases)
-    EXPECT_EQ(applySubstitutions(item.text, item.substitutions), item.expected) << item.text;
+  for (const auto& [text, pairs, expected] :
+       testing::rowsOf<std::string, Texts, std::string>("engine/SubstitutionTest.json"))
+    EXPECT_EQ(applySubstitutions(text, pairs), expected) << text;
+  EXPECT_EQ(applySubstitutions("%{a} \xFF", {{"a", "\xFE"}}), "\xFE \xFF");
   const Substitutions alike = {
       {"firstLetter", "1"}, {"fourthLetter", "2"}, {"é", "3"}, {"e", "4"}, {"É", "5"}};
   EXPECT_EQ(applySubstitutions("%{firstLetter}%{fourthLetter}%{é}%{e}%{É}", alike), "12345");
   const std::string longName(500, 'n');
   EXPECT_EQ(applySubstitutions("%{" + longName + "}", {{longName, "x"}}), "x");
 }
-
-using Texts = std::vector<std::pair<std::string, std::string>>;
 
 /// As many pairs as asked for: n0 and 0, n1 and 1, ...
 Texts numbered(int count) {

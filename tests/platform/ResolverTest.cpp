@@ -91,23 +91,6 @@ TEST(Resolver, FactoryThatThrowsIsAskedAgain) {
   EXPECT_EQ(resolved<6>(), 2);
 }
 
-TEST(Resolver, ThreadsRegisterAndResolveAtOnce) {
-  registerOne<7>([] { return 0; });
-  std::atomic<bool> done = false;
-  std::vector<std::future<void>> readers(3);
-  for (auto& reader : readers) {
-    reader = std::async(std::launch::async, [&] {
-      for (int last = 0, now = 0; !done; last = now) {
-        now = viewed<7>();
-        EXPECT_GE(now, last);
-      }
-      EXPECT_EQ(viewed<7>(), 2000);
-    });
-  }
-  for (int value = 1; value <= 2000; ++value) registerOne<7>([value] { return value; });
-  done = true;
-}
-
 TEST(Resolver, AThreadGivesUpWhatItKeptWhenItEnds) {
   using Shared = std::shared_ptr<int>;
   const Shared counted = std::make_shared<int>(1);

@@ -2,6 +2,7 @@
 #include <ZKStrings/platform/formats/StringTableReader.h>
 #include <ZKStrings/platform/system/ProcessSeed.h>
 #include <ZKStrings/platform/text/Bytes.h>
+#include <ZKStrings/tests/Rows.h>
 #include <ZKStrings/tests/TemporaryDirectory.h>
 
 #include <cstdint>
@@ -104,40 +105,24 @@ TEST(StringTable, WhatIsNoReadableFileHoldsNothing) {
 }
 
 TEST(StringTableReader, SaysWhatWasExpectedWhereAndGoesOn) {
-  struct Faulty {
-    std::string text, at;  // the text from the fault's offset on begins with `at`
-    std::string expected;
-    std::vector<std::string> keys;  // of all entries that can be read
-  };
-  const Faulty cases[] = {
-      {"\"a\" = \"1\"\n\"b\" = \"2\";\n", "\n\"b\"", "\";\"", {"b"}},
-      {"\"a\" =\n\"1\" /* x */\n\"b\" = \"2\";\n", " /* x */", "\";\"", {"b"}},
-      {"\"a\" \"1\";\n\"b\" = \"2\";\n", "\"1\"", "\"=\"", {"b"}},
-      {"\"a\" = \"1\";\n\"b\" \"2\";\n\"c\" = \"3\";\n", "\"2\"", "\"=\"", {"a", "c"}},
-      {"\"a\" \"1\";\n/* old:\n\"b\" = \"2\";\n*/\n\"c\" = \"3\";\n", "\"1\"", "\"=\"", {"c"}},
-      {"\"a\" = ;\n\"b\" = \"2\";\n", ";\n", "the text of the key", {"b"}},
-      {"\"a\" = \"1;\n\"b\" = \"2\";\n\"c\" = \"3\";\n", "\"1;", "closing quote", {"b", "c"}},
-      {"\"a\" = \"1\";\nö = 2;\n\"c\" = \"3\";\n", "ö", "a key", {"a", "c"}},
-      {"\"a\" = \"1\"; /* x\n", "/* x", "\"*/\"", {"a"}},
-      {"\n/*", "/*", "\"*/\"", {}},
-      {"\"a\" = \"1\";\n\"b\" /*\n/*\n\"c\" = \"3\";\n/*", "/*\n/*\n", "\"*/\"", {"a"}},
-  };
-  for (const Faulty& item : cases) {
-    StringTableReader reader(item.text);
-    std::vector<std::string> keys;
-    const auto readAll = [&] {
+  using Keys = std::vector<std::string>;  // of all entries that can be read
+  for (const auto& [text, beginOfRest, expected, allKeys] :
+       testing::rowsOf<std::string, std::string, std::string, Keys>("platform/StringTableReaderTest.json")) {
+    StringTableReader reader(text);
+    Keys keys;
+    const auto readAll = [&, &text = text] {
       while (reader.next())
-        keys.push_back(item.text.substr(reader.key().begin, reader.key().end - reader.key().begin));
+        keys.push_back(text.substr(reader.key().begin, reader.key().end - reader.key().begin));
     };
     readAll();
-    ASSERT_TRUE(reader.fault()) << item.text;
-    EXPECT_TRUE(item.text.substr(reader.fault()->offset).starts_with(item.at)) << item.text;
-    EXPECT_NE(reader.fault()->expected.find(item.expected), std::string::npos) << reader.fault()->expected;
+    ASSERT_TRUE(reader.fault()) << text;
+    EXPECT_TRUE(text.substr(reader.fault()->offset).starts_with(beginOfRest)) << text;
+    EXPECT_NE(reader.fault()->expected.find(expected), std::string::npos) << reader.fault()->expected;
     while (reader.fault()) {
       reader.recover();
       readAll();
     }
-    EXPECT_EQ(keys, item.keys) << item.text;
+    EXPECT_EQ(keys, allKeys) << text;
   }
 }
 

@@ -1,6 +1,7 @@
 #include <ZKStrings/platform/text/TextSearch.h>
 #include <ZKStrings/platform/text/UnicodeText.h>
 #include <ZKStrings/tests/RandomTexts.h>
+#include <ZKStrings/tests/Rows.h>
 
 #include <string>
 #include <vector>
@@ -20,36 +21,17 @@ std::string replaced(std::string text, std::string_view target, std::string_view
 }
 
 TEST(TextSearch, ReplacesCanonicallyEquivalentOccurrences) {
-  struct Case {
-    std::string text, target, expected;
-  };
-  const Case cases[] = {
-      {"a%{x}b%{x}", "%{x}", "a#b#"},
-      {"aaaa", "aa", "##"},
-      {"abc", "", "abc"},
-      {"%{X}", "%{x}", "%{X}"},
-      {"%{caf\u00E9}", "%{cafe\u0301}", "#"},
-      {"%{cafe\u0301}", "%{caf\u00E9}", "#"},
-      {"%{cafe\u0301}", "%{cafe}", "%{cafe\u0301}"},
-      {"\u00E9", "e", "\u00E9"},
-      {"%{x}\u0301 %{x}", "%{x}", "%{x}\u0301 #"},
-      {"%{\u212A}", "%{K}", "#"},
-      {"%{K}", "%{\u212A}", "#"},
-      {"\u037E`", ";", "#`"},
-      {"\uFB01", "fi", "\uFB01"},
-      {"q\u0307\u0323", "q\u0323\u0307", "#"},
-      {"\uAC01", "\u1100\u1161\u11A8", "#"},
-      {"\uAC01", "\u1100", "\uAC01"},
-      {"\xFF%{x}\xFF", "%{x}", "\xFF#\xFF"},
-      {"a\xFF\xC3"
-       "b",
-       "\xFF\xC3", "a#b"},
-      {"é\xFF", "\xC3", "é\xFF"},
-      {"\xFF\u0301", "\xFF", "#\u0301"},
-      {"\uAC01\u0301\u0316", "\u1100\u1161\u11A8\u0316\u0301", "#"},
-  };
-  for (const Case& item : cases)
-    EXPECT_EQ(replaced(item.text, item.target), item.expected) << item.text << " " << item.target;
+  auto rows = testing::rowsOf<std::string, std::string, std::string>("platform/TextSearchTest.json");
+  // What is not UTF-8 cannot stand in JSON.
+  rows.emplace_back("\xFF%{x}\xFF", "%{x}", "\xFF#\xFF");
+  rows.emplace_back(
+      "a\xFF\xC3"
+      "b",
+      "\xFF\xC3", "a#b");
+  rows.emplace_back("é\xFF", "\xC3", "é\xFF");
+  rows.emplace_back("\xFF\u0301", "\xFF", "#\u0301");
+  for (const auto& [text, target, expected] : rows)
+    EXPECT_EQ(replaced(text, target), expected) << text << " " << target;
   EXPECT_EQ(replaced("%{a}", "%{a}", "%{a}%{a}"), "%{a}%{a}");
 }
 

@@ -2,6 +2,7 @@
 #include <ZKStrings/platform/ZKCommon.h>
 #include <ZKStrings/region/CurrentLanguage.h>
 #include <ZKStrings/region/Language.h>
+#include <ZKStrings/tests/Rows.h>
 
 #include <atomic>
 #include <cstdlib>
@@ -55,32 +56,15 @@ TEST(Language, CopiesAreIndependent) {
 }
 
 TEST(Language, DerivesCountryAndCodeFromTheFirstIdentifier) {
-  using Text = std::optional<std::string>;
-  struct Case {
-    std::vector<std::string> preferred;
-    Text country, code;
-  };
-  const Case cases[] = {
-      {{"en-US", "fr-FR"}, "US", "en"},
-      {{"zh-Hans-CN"}, "CN", "zh-Hans"},
-      {{"zh-Hans"}, "Hans", "zh"},
-      {{"en"}, "en", Text()},
-      {{"sr-Latn-RS-x"}, "x", Text()},
-      {{"es-419"}, "419", "es"},
-      {{"en_US"}, "en_US", Text()},
-      {{"-US-"}, "US", Text()},
-      {{"en--US"}, "US", "en"},
-      {{}, Text(), Text()},
-      {{"", "en-US"}, Text(), Text()},
-      {{"--"}, Text(), Text()},
-      {{"a-\u0301b-c"}, "c", "a-\u0301b"},
-  };
+  using Json = nlohmann::json;
+  const auto shown = [](const std::optional<std::string>& text) { return text ? Json(*text) : Json(); };
   Language language;
-  for (const Case& item : cases) {
-    language.preferredLanguages = item.preferred;
-    EXPECT_EQ(language.preferredLanguageCountry(), item.country) << joined(language);
-    EXPECT_EQ(language.preferredLanguageCode(), item.code) << joined(language);
-    EXPECT_EQ(language.country(), item.country) << joined(language);
+  for (const auto& [preferred, country, code] :
+       testing::rowsOf<std::vector<std::string>, Json, Json>("region/LanguageTest.json")) {
+    language.preferredLanguages = preferred;
+    EXPECT_EQ(shown(language.preferredLanguageCountry()), country) << joined(language);
+    EXPECT_EQ(shown(language.preferredLanguageCode()), code) << joined(language);
+    EXPECT_EQ(shown(language.country()), country) << joined(language);
   }
 }
 
