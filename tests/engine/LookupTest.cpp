@@ -97,31 +97,16 @@ TEST(LookupDeathTest, NeedsACurrentLanguage) {
 
 TEST(Lookup, FindsTheTextOfTheChosenTableOrTheEnglishDefault) {
   Current::language = Language{};
-  struct Case {
-    std::string preferred, key, defaultValue;
-    std::optional<std::int64_t> count;
-    Substitutions substitutions;
-    std::string text;
-  };
-  const Substitutions four = {{"badgeCount", "4"}};
-  const std::string longKey(1000, 'k');
-  const Case cases[] = {
-      {"de-DE", "About", "?", std::nullopt, {}, "Über uns"},
-      {"en-US", "About", "?", std::nullopt, {}, "About"},
-      {"el-GR", "About", "?", std::nullopt, {}, "About"},
-      {"de-DE", "badgeCount_Badges", "%{badgeCount} Badges", 4, four, "4 Abzeichen"},
-      // The bare key is in no table.
-      {"de-DE", "badgeCount_Badges", "%{badgeCount} Badges", std::nullopt, four, "4 Badges"},
-      {"de-DE", "No_such_key", "Hi %{x}", 4, {{"x", "y"}}, "Hi y"},
-      {"de-DE", "No_%{x}", "", std::nullopt, {{"x", "key"}}, "No_key"},
-      {"de-DE", "About", "?", 1, {}, "?"},
-      {"de-DE", longKey, "", 0, {}, longKey + "_zero"},
-  };
-  for (const Case& item : cases) {
-    Current::language->preferredLanguages = {item.preferred};
-    EXPECT_EQ(localizedString(item.key, item.defaultValue, item.count, item.substitutions), item.text)
-        << item.preferred << " " << item.key;
+  using Pairs = std::vector<std::pair<std::string, std::string>>;
+  for (const auto& [preferred, key, defaultValue, count, pairs, text] :
+       testing::rowsOf<std::string, std::string, std::string, nlohmann::json, Pairs, std::string>(
+           "engine/LookupTest.json")) {
+    Current::language->preferredLanguages = {preferred};
+    const auto number = count.is_null() ? std::nullopt : std::optional<std::int64_t>(count);
+    EXPECT_EQ(localizedString(key, defaultValue, number, pairs), text) << preferred << " " << key;
   }
+  const std::string longKey(1000, 'k');
+  EXPECT_EQ(localizedString(longKey, "", 0, {}), longKey + "_zero");
 }
 
 TEST(Lookup, ResolvesTheLanguageOnce) {

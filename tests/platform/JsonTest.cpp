@@ -119,6 +119,7 @@ TEST(Json, NumbersHaveAPointWhateverTheLocale) {
 TEST(Json, DeepNestingIsCheckedAndWhatFollowsItRead) {
   const std::string deep = std::string(100000, '[') + std::string(100000, ']');
   const std::optional<Value> value = parseJson("{\"deep\": " + deep + ", \"o\": {\"a\": {}}, \"n\": 1}");
+  ASSERT_TRUE(value);
   EXPECT_EQ(shown(&*value), "n=1");
   EXPECT_TRUE(value->as<Dictionary>()->find<Value::List>("deep"));
 }

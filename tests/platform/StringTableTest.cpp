@@ -20,50 +20,38 @@ namespace {
 using namespace std::string_literals;
 using testing::TemporaryDirectory;
 
-StringTable tableIn(const std::string& path) {
+std::optional<std::string> textIn(const std::string& path, std::string_view key = "a") {
   std::error_code unused;
-  return StringTable::inFile(path, unused);
+  const StringTable table = StringTable::inFile(path, unused);
+  const std::optional<std::string_view> text = table.find(key);
+  return text ? std::optional<std::string>(*text) : std::nullopt;
 }
 
 TEST(StringTable, FindsTheTextThatTheFileSpells) {
-  struct Case {
-    std::string file, key;
-    std::optional<std::string> text;
-  };
-  const Case cases[] = {
-      {"\"a\" = \"b\";", "a", "b"},
-      {"\xEF\xBB\xBF\"a\" = \"ü\";", "a", "ü"},
-      {"\xFF\xFE\"\0a\0\"\0=\0\"\0\x16\x30\"\0;\0"s, "a", "〖"},  // UTF-16
-      {"\"a\"=\"1\";\r\n\"b\"=\"2\";\r\n", "b", "2"},
-      {"/* x */ \"a\" /* = */ = // ;\n \"b\" /**/ ; // end", "a", "b"},
-      {"key/* c */=v;", "key", "v"},
-      {"a_$/:.-9 = http://x.y;", "a_$/:.-9", "http://x.y"},
-      {"\"a\" = \"line\nbreak\";", "a", "line\nbreak"},
-      {"\"a\" = \"1\"; \"b\" = \"2\"; \"a\" = \"3\";", "a", "3"},
-      {R"("a\"b" = "\"\\\n\t\r\a\b\f\v";)", "a\"b", "\"\\\n\t\r\a\b\f\v"},
-      {R"("a" = "\101\7x\0";)", "a", "A\ax\0"s},
-      {R"("a" = "\U00e9\Ud83c\Udf89\Ud83c!";)", "a", "é🎉\uFFFD!"},
-      {R"("a" = "\U00e9a";)", "a", "éa"},
-      {R"("a" = "\U41,\U41g\Ue9\U7ff\U1234";)", "a", "A,Agé\u07FF\u1234"},
-      {R"("a" = "\Ud83c\Udf8 \Ud83c\U9";)", "a", "\uFFFD\u0DF8 \uFFFD\t"},
-      {R"("a" = "\q\Ug\é\U";)", "a", "qUgéU"},
-      {"\"\" = \"\";", "", ""},
-      {"\"a_one\" = \"1\";", "a", std::nullopt},
-      {"", "a", std::nullopt},
-      // Not well-formed as a whole, and so without any text.
-      {"\"a\" = \"b\";\n\"c\" = \"d\"", "a", std::nullopt},
-      {"\"a\" = \"b\"; \"c\" \"d\";", "a", std::nullopt},
-      {"\"a\" = \"b\"; /* open", "a", std::nullopt},
-      {"\"a\" = \"b\"; \"open", "a", std::nullopt},
-      {"\"a\" = \"b\"; ü = x;", "a", std::nullopt},
-      {"\"a\" = \"b\"; \"c\" = \"\xFF\";", "a", std::nullopt},
-      {"\"a\" = \"b\\", "a", std::nullopt},
+  const TemporaryDirectory directory;
+  using Json = nlohmann::json;
+  for (const auto& [file, key, expected] :
+       testing::rowsOf<std::string, std::string, Json>("platform/StringTableTest.json")) {
+    const std::optional<std::string> text = textIn(directory.write("t.strings", file), key);
+    EXPECT_EQ(text ? Json(*text) : Json(), expected) << file;
+  }
+  EXPECT_EQ(textIn(directory.write("utf16", "\xFF\xFE\"\0a\0\"\0=\0\"\0\x16\x30\"\0;\0"s)), "〖");
+  EXPECT_EQ(textIn(directory.write("bytes", "\"a\" = \"b\"; \"c\" = \"\xFF\";")), std::nullopt);
+}
+
+TEST(StringTable, ResolvesEscapes) {
+  const std::pair<std::string, std::string> cases[] = {
+      {R"(\"\\\n\t\r\a\b\f\v)", "\"\\\n\t\r\a\b\f\v"},
+      {R"(\101\7x\0)", "A\ax\0"s},
+      {R"(\U00e9\Ud83c\Udf89\Ud83c!)", "é🎉\uFFFD!"},
+      {R"(\U00e9a)", "éa"},
+      {R"(\U41,\U41g\Ue9\U7ff\U1234)", "A,Agé\u07FF\u1234"},
+      {R"(\Ud83c\Udf8 \Ud83c\U9)", "\uFFFD\u0DF8 \uFFFD\t"},
+      {R"(\q\Ug\é\U)", "qUgéU"},
   };
   const TemporaryDirectory directory;
-  for (const Case& item : cases) {
-    const StringTable table = tableIn(directory.write("t.strings", item.file));
-    EXPECT_EQ(table.find(item.key), item.text) << item.file;
-  }
+  for (const auto& [spelled, text] : cases)
+    EXPECT_EQ(textIn(directory.write("t.strings", "\"a\" = \"" + spelled + "\";")), text) << spelled;
 }
 
 TEST(StringTable, FindsEveryKeyOfALargeTable) {
@@ -71,7 +59,8 @@ TEST(StringTable, FindsEveryKeyOfALargeTable) {
   for (int i = 0; i < 20000; ++i)
     file += "\"key_" + std::to_string(i) + "\" = \"" + std::to_string(i * 7) + "\";\n";
   const TemporaryDirectory directory;
-  const StringTable table = tableIn(directory.write("t.strings", file));
+  std::error_code unused;
+  const StringTable table = StringTable::inFile(directory.write("t.strings", file), unused);
   for (int i = 0; i < 20000; ++i) ASSERT_EQ(table.find("key_" + std::to_string(i)), std::to_string(i * 7));
   for (int i = 20000; i < 40000; ++i) ASSERT_EQ(table.find("key_" + std::to_string(i)), std::nullopt);
 }
@@ -99,9 +88,8 @@ TEST(StringTable, WhatIsNoReadableFileHoldsNothing) {
   ASSERT_EQ(mkfifo(fifo.c_str(), 0600), 0);
   std::filesystem::resize_file(huge, std::uintmax_t{1} << 40);
   for (const std::string& path :
-       {directory.path(), fifo, huge, directory.path() + "/missing", "/dev/zero"s, ""s}) {
-    EXPECT_EQ(tableIn(path).find("a"), std::nullopt) << path;
-  }
+       {directory.path(), fifo, huge, directory.path() + "/missing", "/dev/zero"s, ""s})
+    EXPECT_EQ(textIn(path), std::nullopt) << path;
 }
 
 TEST(StringTableReader, SaysWhatWasExpectedWhereAndGoesOn) {
