@@ -16,7 +16,8 @@ using testing::TemporaryDirectory;
 
 TEST(Bundle, ListsItsDirectoryByExactNames) {
   const TemporaryDirectory directory;
-  for (const char* file : {"de.lproj/x", "fr.lproj", "countries.json", ".lproj/x", "a.b.lproj/x"})
+  for (const char* file :
+       {"de.lproj/Localizable.strings", "fr.lproj", "countries.json", ".lproj/x", "a.b.lproj/x"})
     directory.write(file, "");
   const Bundle* const bundle = Bundle::initWithPath(directory.path());
   ASSERT_TRUE(bundle && bundle->pathForResource("de", "lproj"));
@@ -26,8 +27,8 @@ TEST(Bundle, ListsItsDirectoryByExactNames) {
   using Name = std::pair<std::string_view, std::string_view>;
   for (const auto& [name, type] :
        {Name("fr", "lproj"), Name("DE", "lproj"), Name("", "lproj"), Name("d", "lproj"), Name("de", ""),
-        Name("de.lproj", ""), Name("a", "b.lproj"), Name("../x", "lproj"), Name("de.lproj/x", ""),
-        Name("de\0"sv, "lproj"), Name(".", ".")})
+        Name("de.lproj", ""), Name("a", "b.lproj"), Name("../x", "lproj"),
+        Name("de.lproj/Localizable", "strings"), Name("de\0"sv, "lproj"), Name(".", ".")})
     EXPECT_EQ(bundle->pathForResource(name, type), nullptr) << name << " " << type;
 }
 
