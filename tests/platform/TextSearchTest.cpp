@@ -24,10 +24,7 @@ TEST(TextSearch, ReplacesCanonicallyEquivalentOccurrences) {
   auto rows = testing::rowsOf<std::string, std::string, std::string>("platform/TextSearchTest.json");
   // What is not UTF-8 cannot stand in JSON.
   rows.emplace_back("\xFF%{x}\xFF", "%{x}", "\xFF#\xFF");
-  rows.emplace_back(
-      "a\xFF\xC3"
-      "b",
-      "\xFF\xC3", "a#b");
+  rows.emplace_back("a\xFF\xC3z", "\xFF\xC3", "a#z");
   rows.emplace_back("é\xFF", "\xC3", "é\xFF");
   rows.emplace_back("\xFF\u0301", "\xFF", "#\u0301");
   for (const auto& [text, target, expected] : rows)
