@@ -1,11 +1,10 @@
 #include <ZKStrings/catalogue/KeyRule.h>
+#include <ZKStrings/tests/Rows.h>
 #include <ZKStrings/tools/authoring/AccessorGenerator.h>
 #include <ZKStrings/tools/project/Catalogue.h>
 #include <ZKStrings/tools/support/Files.h>
 
-#include <algorithm>
 #include <map>
-#include <set>
 #include <string>
 #include <utility>
 #include <vector>
@@ -17,14 +16,11 @@ namespace {
 
 constexpr const char* kRoot = ZK_PROJECT_ROOT;
 
-/// The texts that apps were built with, as they were released.
-Catalogue releasedCatalogue() {
-  constexpr const char* kFile = "tests/catalogue/released.json";
-  return Catalogue::parse(readFile(kRoot, kFile), kFile);
-}
-
+/// Against the texts that apps were built with.
 TEST(Catalogue, NeitherLosesNorChangesWhatWasReleased) {
-  const Catalogue released = releasedCatalogue();
+  constexpr const char* kReleased = "tests/catalogue/released.json";
+  const Catalogue released = Catalogue::parse(readFile(kRoot, kReleased), kReleased);
+  EXPECT_EQ(released.entries().size(), 860u);
   std::map<std::pair<std::string_view, bool>, const Entry*> present;
   const Catalogue catalogue = Catalogue::read(kRoot);
   for (const Entry& entry : catalogue.entries()) present[{entry.key, entry.plural}] = &entry;
@@ -36,142 +32,42 @@ TEST(Catalogue, NeitherLosesNorChangesWhatWasReleased) {
   }
 }
 
-TEST(Catalogue, WasReleasedWithTheFiguresThatTheAppWasBuiltFor) {
-  const Catalogue catalogue = releasedCatalogue();
-  std::set<std::string_view> keys;
-  std::map<std::pair<bool, std::size_t>, int> families;  // by count and number of text arguments
-  std::map<std::string, int> uses;
-  std::map<Entry::Kept, int> kept;
-  int longest = 0;
-  int byTheRule = 0;
-  for (const Entry& entry : catalogue.entries()) {
-    const auto names = placeholderNames(entry.text);
-    keys.insert(entry.key);
-    ++families[{entry.plural, names.size()}];
-    for (const auto name : names) ++uses[std::string(name)];
-    ++kept[entry.kept];
-    longest += entry.key.size() == kLongestKey;
-    byTheRule += entry.key == keyForText(entry.text);
-  }
-  EXPECT_EQ(catalogue.entries().size(), 860u);
-  EXPECT_EQ(keys.size(), 856u);
-  const std::map<std::pair<bool, std::size_t>, int> expectedFamilies = {
-      {{false, 0}, 685}, {{true, 0}, 10}, {{false, 1}, 85}, {{false, 2}, 26}, {{false, 3}, 10},
-      {{false, 4}, 1},   {{false, 5}, 1}, {{true, 1}, 37},  {{true, 2}, 4},   {{true, 3}, 1}};
-  EXPECT_EQ(families, expectedFamilies);
-  EXPECT_EQ(longest, 27);
-  EXPECT_EQ(byTheRule, 852);
-  EXPECT_EQ(kept[Entry::Kept::key], 8);
-  EXPECT_EQ(kept[Entry::Kept::place], 8);
-
-  EXPECT_EQ(uses.size(), 111u);
-  std::map<std::string, int> several = {
-      {"username", 24},   {"level", 8},     {"prize", 7},         {"amount", 6},       {"days", 5},
-      {"firstLetter", 5}, {"userCount", 5}, {"questionCount", 4}, {"secondLetter", 4}, {"terms", 4}};
-  for (const char* name : {"badgeCount", "code", "cost", "extraLifeCount", "friendCount", "gameName",
-                           "number", "phoneNumber", "player1", "players", "privacy", "product", "round",
-                           "roundNumber", "rules", "seconds", "thirdLetter"}) {
-    several[name] = 3;
-  }
-  for (const char* name : {"account", "badge", "count", "fourthLetter", "letter", "lifeCount", "name",
-                           "name1", "name2", "percent", "player2", "points", "puzzleNumber", "questionNumber",
-                           "strikeCount", "time", "username2"}) {
-    several[name] = 2;
-  }
-  std::erase_if(uses, [](const auto& use) { return use.second == 1; });
-  EXPECT_EQ(uses, several);
-}
-
-TEST(Catalogue, AccessorsAreUpToDate) {
+TEST(Catalogue, ItsFilesAreUpToDate) {
   const Catalogue catalogue = Catalogue::read(kRoot);
-  const Accessors fresh = generateAccessors(catalogue, Table::read(kRoot, "Base"), CatalogueName());
+  const Table base = Table::read(kRoot, "Base");
+  const Accessors fresh = generateAccessors(catalogue, base, CatalogueName());
   EXPECT_TRUE(readFile(kRoot, CatalogueName().headerFile()) == fresh.header) << "run zkstrings generate";
   EXPECT_TRUE(readFile(kRoot, CatalogueName().sourceFile()) == fresh.source) << "run zkstrings generate";
   EXPECT_EQ(readFile(kRoot, Catalogue::kFile), catalogue.toJson());
-}
-
-TEST(Catalogue, TheEnglishTableHoldsExactlyWhatIsLookedUp) {
-  const Catalogue catalogue = Catalogue::read(kRoot);
-  const Table base = Table::read(kRoot, "Base");
-  ASSERT_TRUE(base.faults.empty());
-  std::vector<std::string> expected;
-  for (const auto& key : catalogue.lookedUpKeys()) {
-    expected.push_back(key.key);
-    const TableEntry* const found = base.find(key.key);
-    ASSERT_TRUE(found) << key.key;
-    if (key.suffix.empty()) {
-      EXPECT_EQ(found->text, key.entry->text) << key.key;
-    }
-  }
-  std::vector<std::string> keys;
-  for (const TableEntry& entry : base.entries) keys.push_back(entry.key);
-  EXPECT_EQ(keys, expected);
+  const std::vector<Catalogue::LookedUpKey> keys = catalogue.lookedUpKeys();
+  ASSERT_EQ(base.entries.size(), keys.size()) << "run zkstrings check";
+  for (std::size_t i = 0; i < keys.size(); ++i) EXPECT_EQ(base.entries[i].key, keys[i].key);
 }
 
 TEST(Catalogue, RefusesAWrongEntryNamingItsLine) {
-  struct Case {
-    std::string lines;  // between the brackets
-    std::size_t line;
-    std::string message;
-  };
-  const Case cases[] = {
-      {R"({"key": "B", "text": "B"},
-{"key": "A", "text": "A"})",
-       3, "out of place"},
-      {R"({"key": "A", "text": "A"},
-{"key": "A", "text": "A"})",
-       3, "stands already in line 2"},
-      {R"({"key": "A", "text": "A"},
-{"key": "A", "text": "A!", "plural": true})",
-       3, "another text in line 2"},
-      {R"({"key": "A", "text": "B"})", 2, "use \"B\""},
-      {R"({"key": "A", "text": "A", "kept": "key"})", 2, "follows the rule"},
-      {R"({"key": "???", "text": "x", "kept": "key"})", 2, "cannot name a function"},
-      {R"({"key": "a_a", "text": "%{a} %{a}"})", 2, "stands twice"},
-      {R"({"key": "a_b", "text": "%{a b}"})", 2, "cannot name an argument"},
-      {R"({"key": "count", "text": "%{count}", "plural": true})", 2, "has the argument count already"},
-      {R"({"key": "A"})", 2, "no key or no text"},
-      {R"({"key": "A", "text": "A", "more": 1})", 2, "\"more\" is unknown"},
-      {R"({"key": "A", "text": 5})", 2, "\"text\" is unknown or of the wrong type"},
-      {R"({"key": "A", text: "A"})", 2, "no JSON object"},
-      {R"({"key": "A", "text": "A"},)", 2, "comma behind the last"},
-      {R"({"key": "A", "text": "A"}
-{"key": "B", "text": "B"})",
-       2, "no comma"},
-      {"5", 2, "no JSON object"},
-  };
-  for (const Case& item : cases) {
+  using Json = nlohmann::json;
+  for (const auto& [entries, line, message] :
+       testing::rowsOf<std::vector<Json>, std::size_t, std::string>("catalogue/CatalogueTest.json")) {
+    std::string lines;
+    for (const Json& entry : entries)
+      lines += (lines.empty() ? "" : ",\n") + (entry.is_string() ? entry.get<std::string>() : entry.dump());
     try {
-      static_cast<void>(Catalogue::parse("[\n" + item.lines + "\n]\n", "entries.json"));
-      ADD_FAILURE() << "accepted: " << item.lines;
+      static_cast<void>(Catalogue::parse("[\n" + lines + "\n]\n", "entries.json"));
+      ADD_FAILURE() << "accepted: " << lines;
     } catch (const CommandFailed& failed) {
-      EXPECT_EQ(failed.faults.front().line, item.line) << item.lines;
-      EXPECT_NE(failed.faults.front().message.find(item.message), std::string::npos)
+      EXPECT_EQ(failed.faults.front().line, line) << lines;
+      EXPECT_NE(failed.faults.front().message.find(message), std::string::npos)
           << failed.faults.front().message;
     }
   }
 }
 
 TEST(KeyRule, DerivesTheKeyFromTheText) {
-  const std::pair<std::string, std::string> cases[] = {
-      {"Your purchase was successful!", "Your_purchase_was_successful"},
-      {"%{active}/%{limit} players", "active_limit_players"},
-      {"1st", "_1st"},
-      {"...2 left", "_2_left"},
-      {"Daily\nChallenge", "Daily_nChallenge"},
-      {"Tell us about your \n experience", "Tell_us_about_your_n_experience"},
-      {"\nfirst", "nfirst"},
-      {"<b>Privacy Policy</b>,", "b_Privacy_Policy_b"},
-      {"Search results for \"%{searchTerm}\"", "Search_results_for_searchTerm"},
-      {"You got an Extra Life from ZK! ❤️", "You_got_an_Extra_Life_from_ZK_\uFE0F"},
-      {"Ünïcode: e\u0301 日本 ٣", "Ünïcode_e\u0301_日本_٣"},
-      {"½ ² Ⅳ", ""},
-      {"!?", ""},
-      {std::string(99, 'a') + " b", std::string(99, 'a') + "_"},
-      {std::string(100, 'a') + "!", std::string(100, 'a')},
-      {"1" + std::string(120, 'a'), "_1" + std::string(98, 'a')},
-  };
-  for (const auto& [text, key] : cases) EXPECT_EQ(keyForText(text), key) << text;
+  auto rows = testing::rowsOf<std::string, std::string>("catalogue/KeyRuleTest.json");
+  rows.emplace_back(std::string(99, 'a') + " b", std::string(99, 'a') + "_");
+  rows.emplace_back(std::string(100, 'a') + "!", std::string(100, 'a'));
+  rows.emplace_back("1" + std::string(120, 'a'), "_1" + std::string(98, 'a'));
+  for (const auto& [text, key] : rows) EXPECT_EQ(keyForText(text), key) << text;
 }
 
 }  // namespace

@@ -1,5 +1,7 @@
 #include <ZKStrings/engine/PlaceholderSubstitution.h>
 #include <ZKStrings/platform/text/TextSearch.h>
+#include <ZKStrings/tests/RandomTexts.h>
+#include <ZKStrings/tests/Rows.h>
 
 #include <algorithm>
 #include <map>
@@ -15,40 +17,16 @@
 namespace zk {
 namespace {
 
+using Texts = std::vector<std::pair<std::string, std::string>>;
+
 TEST(Substitution, FillsInThePlaceholdersThatHaveAText) {
-  struct Case {
-    std::string text;
-    Substitutions substitutions;
-    std::string expected;
-  };
-  const Case cases[] = {
-      {"%{active}/%{limit} players", {}, "%{active}/%{limit} players"},
-      {"%{active}/%{limit} players", {{"active", "12"}, {"limit", "50"}}, "12/50 players"},
-      {"%{a} and %{a}", {{"a", "x"}}, "x and x"},
-      {"%{username}", {{"Username", "x"}, {"user", "y"}}, "%{username}"},
-      {"%{a}}", {{"a", "x"}}, "x}"},
-      {"%{ a}", {{"a", "x"}}, "%{ a}"},
-      {"%{}", {{"", "x"}}, "x"},
-      {"%{a}", {{"a", "100% {sure} %{"}}, "100% {sure} %{"},
-      {"%{a}", {{"a", "%{b}"}, {"b", "x"}}, "x"},
-      {"%{a}", {{"b", "x"}, {"a", "%{b}"}}, "%{b}"},
-      {"%{a}", {{"a", "%{a}"}}, "%{a}"},
-      {"Größe: %{größe} %{gro\u0308ße}", {{"größe", "XL"}}, "Größe: XL XL"},
-      {"%{a}%{b}%{c}%{d}%{e}%{f}",
-       {{"f", "6"}, {"e", "5"}, {"d", "4"}, {"c", "3"}, {"b", "2"}, {"a", "1"}},
-       "123456"},
-      {"%{a} \xFF", {{"a", "\xFE"}}, "\xFE \xFF"},
-      {"%{a}%{c}}", {{"c", "b"}, {"a}b", "x"}, {"a", "y"}}, "x"},
-      {"%{b}%{a}", {{"a", "\u0301"}, {"b", "x"}}, "%{b}\u0301"},
-      {"100% %{a}%", {{"a", "5%"}}, "100% 5%%"},
-  };
-  for (const Case& item : cases)
-    EXPECT_EQ(applySubstitutions(item.text, item.substitutions), item.expected) << item.text;
+  for (const auto& [text, pairs, expected] :
+       testing::rowsOf<std::string, Texts, std::string>("engine/SubstitutionTest.json"))
+    EXPECT_EQ(applySubstitutions(text, pairs), expected) << text;
+  EXPECT_EQ(applySubstitutions("%{a} \xFF", {{"a", "\xFE"}}), "\xFE \xFF");
   const std::string longName(500, 'n');
   EXPECT_EQ(applySubstitutions("%{" + longName + "}", {{longName, "x"}}), "x");
 }
-
-using Texts = std::vector<std::pair<std::string, std::string>>;
 
 /// As many pairs as asked for: n0 and 0, n1 and 1, ...
 Texts numbered(int count) {
@@ -89,19 +67,13 @@ TEST(Substitution, IsAValue) {
 }
 
 TEST(Substitution, IsOnePairAfterTheOther) {
-  const std::string pieces[] = {
-      "%{a}", "%{b}",   "%{ab}", "%{}",  "%",          "{",       "}",    "a",
-      "b",    "\u0301", "é",     "%{é}", "%{e\u0301}", "%{a%{b}", "\xFF", "some longer text "};
+  testing::RandomTexts texts({"%{a}", "%{b}", "%{ab}", "%{}", "%", "{", "}", "a", "b", "\u0301", "é", "%{é}",
+                              "%{e\u0301}", "%{a%{b}", "\xFF", "some longer text "});
   std::string names[] = {"a", "b", "ab", "", "é", "a%{b", "%", "c}", "a}b", "a}%{b", "{"};
   std::mt19937 random(20240901);
-  const auto mixed = [&](std::size_t most) {
-    std::string text;
-    for (auto i = random() % (most + 1); i > 0; --i) text += pieces[random() % std::size(pieces)];
-    return text;
-  };
   for (int round = 0; round < 50000; ++round) {
-    const std::string text = mixed(8);
-    const std::string values[] = {mixed(2), mixed(1), mixed(1)};
+    const std::string text = texts.next(8);
+    const std::string values[] = {texts.next(2), texts.next(1), texts.next(1)};
     std::shuffle(std::begin(names), std::end(names), random);
     std::string expected = text;
     for (int i = 0; i < 3; ++i) replaceOccurrences(expected, "%{" + names[i] + "}", values[i]);
@@ -131,12 +103,6 @@ TEST(SubstitutionDeathTest, ARepeatedNameStopsTheProcess) {
   many.back().first = "é";
   many.emplace_back("e\u0301", "again");
   EXPECT_DEATH(Substitutions{many}, "^$");
-}
-
-TEST(Substitution, NamesThatOnlyLookAlikeDiffer) {
-  const Substitutions pairs = {
-      {"firstLetter", "1"}, {"fourthLetter", "2"}, {"é", "3"}, {"e", "4"}, {"É", "5"}};
-  EXPECT_EQ(applySubstitutions("%{firstLetter}%{fourthLetter}%{é}%{e}%{É}", pairs), "12345");
 }
 
 }  // namespace

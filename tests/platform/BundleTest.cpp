@@ -2,7 +2,8 @@
 #include <ZKStrings/platform/Bundle.h>
 #include <ZKStrings/tests/TemporaryDirectory.h>
 
-#include <thread>
+#include <future>
+#include <set>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -10,33 +11,24 @@
 namespace zk {
 namespace {
 
+using namespace std::string_view_literals;
 using testing::TemporaryDirectory;
 
 TEST(Bundle, ListsItsDirectoryByExactNames) {
   const TemporaryDirectory directory;
-  directory.write("de.lproj/Localizable.strings", "");
-  directory.write("fr.lproj", "a file");
-  directory.write("countries.json", "[]");
-  directory.write(".lproj/x", "");
-  directory.write("a.b.lproj/x", "");
+  for (const char* file :
+       {"de.lproj/Localizable.strings", "fr.lproj", "countries.json", ".lproj/x", "a.b.lproj/x"})
+    directory.write(file, "");
   const Bundle* const bundle = Bundle::initWithPath(directory.path());
-  ASSERT_NE(bundle, nullptr);
-  ASSERT_NE(bundle->pathForResource("de", "lproj"), nullptr);
+  ASSERT_TRUE(bundle && bundle->pathForResource("de", "lproj"));
   EXPECT_EQ(bundle->pathForResource("de", "lproj")->string(), directory.path() + "/de.lproj");
   EXPECT_EQ(bundle->URLForResource("countries", "json"), directory.path() + "/countries.json");
   EXPECT_EQ(bundle->URLForResource("fr", "lproj"), directory.path() + "/fr.lproj");
-  const std::pair<std::string_view, std::string_view> absent[] = {{"fr", "lproj"},
-                                                                  {"DE", "lproj"},
-                                                                  {"", "lproj"},
-                                                                  {"d", "lproj"},
-                                                                  {"de", ""},
-                                                                  {"de.lproj", ""},
-                                                                  {"a", "b.lproj"},
-                                                                  {"../x", "lproj"},
-                                                                  {"de.lproj/Localizable", "strings"},
-                                                                  {std::string_view("de\0", 3), "lproj"},
-                                                                  {".", "."}};
-  for (const auto& [name, type] : absent)
+  using Name = std::pair<std::string_view, std::string_view>;
+  for (const auto& [name, type] :
+       {Name("fr", "lproj"), Name("DE", "lproj"), Name("", "lproj"), Name("d", "lproj"), Name("de", ""),
+        Name("de.lproj", ""), Name("a", "b.lproj"), Name("../x", "lproj"),
+        Name("de.lproj/Localizable", "strings"), Name("de\0"sv, "lproj"), Name(".", ".")})
     EXPECT_EQ(bundle->pathForResource(name, type), nullptr) << name << " " << type;
 }
 
@@ -49,27 +41,35 @@ TEST(Bundle, LooksForAFileAfreshByOneName) {
   directory.write("countries.json", "[]");
   EXPECT_EQ(outer.URLForResource("countries", "json"), directory.path() + "/countries.json");
   std::filesystem::remove(directory.path() + "/inner/countries.json");
-  const std::pair<std::string_view, std::string_view> absent[] = {
-      {"countries", "json"}, {"../countries", "json"},    {".", ""},
-      {"", "json"},          {"/", "/../countries.json"}, {"countries", std::string_view("json\0", 5)}};
-  for (const auto& [name, extension] : absent)
+  using Name = std::pair<std::string_view, std::string_view>;
+  for (const auto& [name, extension] :
+       {Name("countries", "json"), Name("../countries", "json"), Name(".", ""), Name("", "json"),
+        Name("/", "/../countries.json"), Name("countries", "json\0"sv)})
     EXPECT_EQ(bundle.URLForResource(name, extension), std::nullopt) << name << " " << extension;
   EXPECT_EQ(Bundle::withoutResources("").URLForResource("tmp", ""), std::nullopt);
 }
 
-TEST(Bundle, OpensDirectoriesOnly) {
+TEST(Bundle, OpensADirectoryOnceAndNothingElse) {
   const TemporaryDirectory directory;
   EXPECT_EQ(Bundle::initWithPath(directory.write("file", "")), nullptr);
   EXPECT_EQ(Bundle::initWithPath(directory.path() + "/missing"), nullptr);
   EXPECT_EQ(Bundle::initWithPath(directory.path()), Bundle::initWithPath(directory.path()));
 }
 
-TEST(Bundle, OfAModuleWithoutResourcesIsMadeOnce) {
+TEST(Bundle, OfCodeHasTheResourcesBesideIt) {
+  EXPECT_NE(bundle().pathForResource("Base", "lproj"), nullptr);
+  EXPECT_EQ(&bundle(), &bundle());
+  EXPECT_EQ(mainBundle().path(), std::filesystem::read_symlink("/proc/self/exe").parent_path());
+  EXPECT_EQ(&mainBundle(), &mainBundle());
   // This type belongs to the standard library, which has no texts of ours beside it.
   const Bundle& none = Bundle::bundleForClass(typeid(int));
   EXPECT_EQ(&none, &Bundle::bundleForClass(typeid(int)));
   EXPECT_EQ(none.path(), "");
   EXPECT_EQ(none.pathForResource("Base", "lproj"), nullptr);
+  // Resources of one's own have a single name.
+  for (const char* name : {"", ".", "..", "a/b", "../share/ZKStrings", "nothing there"})
+    EXPECT_EQ(Bundle::bundleForClass(typeid(TemporaryDirectory), name).path(), "") << name;
+  EXPECT_NE(Bundle::bundleForClass(typeid(TemporaryDirectory), "ZKStrings").path(), "");
 }
 
 TEST(Bundle, GivesTheValueAndThenTheKeyForAMissingText) {
@@ -89,19 +89,12 @@ TEST(Bundle, ThreadsOpenOneTableAtOnce) {
   const TemporaryDirectory directory;
   directory.write("Localizable.strings", "\"a\" = \"text\";");
   const Bundle& bundle = *Bundle::initWithPath(directory.path());
-  std::vector<const char*> found(8);
-  std::vector<std::thread> threads;
-  for (const char*& text : found)
-    threads.emplace_back([&] { text = bundle.localizedStringForKey("a", "").data(); });
-  for (std::thread& thread : threads) thread.join();
-  for (const char* text : found) EXPECT_EQ(text, found[0]);
-}
-
-TEST(Bundle, GlobalsAreTheModulesResourcesAndTheAppsDirectory) {
-  EXPECT_NE(bundle().pathForResource("Base", "lproj"), nullptr);
-  EXPECT_EQ(&bundle(), &bundle());
-  EXPECT_EQ(mainBundle().path(), std::filesystem::read_symlink("/proc/self/exe").parent_path());
-  EXPECT_EQ(&mainBundle(), &mainBundle());
+  std::vector<std::future<const char*>> threads(8);
+  for (auto& thread : threads)
+    thread = std::async(std::launch::async, [&] { return bundle.localizedStringForKey("a", "").data(); });
+  std::set<const char*> found;
+  for (auto& thread : threads) found.insert(thread.get());
+  EXPECT_EQ(found.size(), 1u);
 }
 
 }  // namespace

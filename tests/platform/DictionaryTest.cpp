@@ -10,30 +10,29 @@
 namespace zk {
 namespace {
 
-static_assert(!std::is_constructible_v<Value, void*>);
-static_assert(!std::is_constructible_v<Value, const int*>);
-static_assert(!std::is_constructible_v<Value, char>);
-static_assert(!std::is_constructible_v<Value, char32_t>);
+template <class... Types>
+constexpr bool takesNone = !(std::is_constructible_v<Value, Types> || ...);
+static_assert(takesNone<void*, const int*, char, char32_t>);
 
 TEST(Value, TakesEveryKindOfNumberAndText) {
-  const std::int64_t seven = 7;
-  const Value integers[] = {
-      static_cast<signed char>(7), static_cast<unsigned short>(7), 7, 7U, 7L, 7UL, 7LL, 7ULL, seven};
-  for (const Value& value : integers) {
-    ASSERT_TRUE(value.as<std::int64_t>());
+  const signed char seven = 7;
+  const unsigned short unsignedSeven = 7;
+  for (const Value& value : {Value(seven), Value(unsignedSeven), Value(7), Value(7U), Value(7L), Value(7ULL)})
     EXPECT_EQ(*value.as<std::int64_t>(), 7);
-  }
-  const Value texts[] = {"seven", std::string("seven"), std::string_view("seven")};
-  for (const Value& value : texts) {
-    ASSERT_TRUE(value.as<std::string>());
+  for (const Value& value : {Value("seven"), Value(std::string("seven")), Value(std::string_view("seven"))})
     EXPECT_EQ(*value.as<std::string>(), "seven");
-  }
   EXPECT_EQ(*Value(INT64_MIN).as<std::int64_t>(), INT64_MIN);
   EXPECT_EQ(*Value(UINT64_MAX).as<double>(), 18446744073709551616.0);
   EXPECT_EQ(*Value(0.5F).as<double>(), 0.5);
-  EXPECT_EQ(*Value(true).as<bool>(), true);
-  EXPECT_FALSE(Value(true).as<std::int64_t>());
-  EXPECT_FALSE(Value(1).as<bool>());
+  EXPECT_TRUE(*Value(true).as<bool>());
+  EXPECT_FALSE(Value(true).as<std::int64_t>() || Value(1).as<bool>());
+}
+
+TEST(Dictionary, TheLastOfSeveralMembersCounts) {
+  const Dictionary dictionary = {{"a", 1}, {"A", 2}, {"a", 3}};
+  EXPECT_EQ(*dictionary.find<std::int64_t>("a"), 3);
+  EXPECT_EQ(dictionary.find<std::string>("a"), nullptr);
+  EXPECT_EQ(dictionary.find("b"), nullptr);
 }
 
 }  // namespace

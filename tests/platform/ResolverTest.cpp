@@ -5,6 +5,7 @@
 #include <atomic>
 #include <cstdint>
 #include <future>
+#include <latch>
 #include <memory>
 #include <stdexcept>
 #include <thread>
@@ -21,118 +22,92 @@ struct Service {  // a type of its own for each test, since the registry lives a
   int value;
 };
 
+template <int kNumber>
+int resolved(std::optional<std::string_view> name = std::nullopt) {
+  return Resolver::resolve<Service<kNumber>>(name).value;
+}
+
+template <int kNumber>
+int viewed() {
+  return ServiceView<Service<kNumber>>()->value;
+}
+
+/// Registers a factory for the scope of the application that gives what `value` does.
+template <int kNumber, class Value>
+void registerOne(Value value) {
+  Resolver::register_<Service<kNumber>>([value = std::move(value)] {
+    return Service<kNumber>{value()};
+  }).scope(ResolverScope::application);
+}
+
 TEST(Resolver, KeepsTypesAndNamesApart) {
-  Resolver::register_<Service<1>>([] { return Service<1>{1}; });
+  Resolver::register_<Service<1>>([onlyMoved = std::make_unique<int>(1)] { return Service<1>{*onlyMoved}; });
   Resolver::register_<Service<1>>([] { return Service<1>{2}; }, "two");
   Resolver::register_<Service<1>>([] { return Service<1>{3}; }, "");
   Resolver::register_<Service<2>>([] { return Service<2>{4}; });
-  EXPECT_EQ(Resolver::resolve<Service<1>>().value, 1);
-  EXPECT_EQ(Resolver::resolve<Service<1>>("two").value, 2);
-  EXPECT_EQ(Resolver::resolve<Service<1>>("").value, 3);
-  EXPECT_EQ(Resolver::resolve<Service<2>>().value, 4);
+  EXPECT_EQ(resolved<1>(), 1);
+  EXPECT_EQ(resolved<1>("two"), 2);
+  EXPECT_EQ(resolved<1>(""), 3);
+  EXPECT_EQ(resolved<2>(), 4);
 }
 
 TEST(Resolver, ScopeDecidesHowOftenTheFactoryRuns) {
   int calls = 0;
   ResolverOptions options = Resolver::register_<Service<3>>([&] { return Service<3>{++calls}; });
-  EXPECT_EQ(Resolver::resolve<Service<3>>().value, 1);
-  EXPECT_EQ(ServiceView<Service<3>>()->value, 2);
+  EXPECT_EQ(resolved<3>(), 1);
+  EXPECT_EQ(viewed<3>(), 2);
   options.scope(ResolverScope::application);
-  EXPECT_EQ(Resolver::resolve<Service<3>>().value, 3);
-  EXPECT_EQ(ServiceView<Service<3>>()->value, 3);
-  EXPECT_EQ(Resolver::resolve<Service<3>>().value, 3);
+  EXPECT_EQ(resolved<3>(), 3);
+  EXPECT_EQ(viewed<3>(), 3);
+  EXPECT_EQ(resolved<3>(), 3);
   options.scope(ResolverScope::everyResolve);
-  EXPECT_EQ(ServiceView<Service<3>>()->value, 4);
+  EXPECT_EQ(viewed<3>(), 4);
 }
 
 TEST(Resolver, ViewFollowsANewRegistrationButAnOpenViewKeepsItsValue) {
-  Resolver::register_<Service<4>>([] { return Service<4>{1}; }).scope(ResolverScope::application);
+  registerOne<4>([] { return 1; });
   const auto before = ServiceView<Service<4>>();
-  Resolver::register_<Service<4>>([] { return Service<4>{2}; }).scope(ResolverScope::application);
-  EXPECT_EQ(ServiceView<Service<4>>()->value, 2);
+  registerOne<4>([] { return 2; });
+  EXPECT_EQ(viewed<4>(), 2);
   EXPECT_EQ(before->value, 1);
 }
 
 TEST(Resolver, ApplicationFactoryRunsOnceWhenFirstResolvesRace) {
   std::atomic<int> calls = 0;
-  Resolver::register_<Service<5>>([&] {
+  registerOne<5>([&] {
     std::this_thread::yield();
-    return Service<5>{++calls};
-  }).scope(ResolverScope::application);
-  std::vector<std::thread> threads;
-  for (int i = 0; i < 8; ++i) {
-    threads.emplace_back([] { EXPECT_EQ(ServiceView<Service<5>>()->value, 1); });
-  }
-  for (std::thread& thread : threads) thread.join();
+    return ++calls;
+  });
+  std::vector<std::future<int>> threads(8);
+  for (auto& thread : threads) thread = std::async(std::launch::async, viewed<5>);
+  for (auto& thread : threads) EXPECT_EQ(thread.get(), 1);
   EXPECT_EQ(calls, 1);
-}
-
-TEST(Resolver, FactoryMayUseTheRegistry) {
-  Resolver::register_<Service<6>>([] {
-    Resolver::register_<Service<7>>([] { return Service<7>{7}; });
-    return Service<6>{Resolver::resolve<Service<7>>().value};
-  }).scope(ResolverScope::application);
-  EXPECT_EQ(Resolver::resolve<Service<6>>().value, 7);
 }
 
 TEST(Resolver, FactoryThatThrowsIsAskedAgain) {
   int calls = 0;
-  Resolver::register_<Service<8>>([&] {
-    if (++calls == 1) throw std::runtime_error("not yet");
-    return Service<8>{calls};
-  }).scope(ResolverScope::application);
-  EXPECT_THROW(static_cast<void>(Resolver::resolve<Service<8>>()), std::runtime_error);
-  EXPECT_EQ(Resolver::resolve<Service<8>>().value, 2);
-}
-
-TEST(Resolver, ThreadsRegisterAndResolveAtOnce) {
-  const auto assign = [](int value) {
-    Resolver::register_<Service<9>>([value] { return Service<9>{value}; }).scope(ResolverScope::application);
-  };
-  assign(0);
-  std::atomic<bool> done = false;
-  std::vector<std::thread> readers;
-  for (int i = 0; i < 3; ++i) {
-    readers.emplace_back([&] {
-      for (int last = 0; !done;) {
-        const int now = ServiceView<Service<9>>()->value;
-        EXPECT_GE(now, last);
-        last = now;
-      }
-      EXPECT_EQ(ServiceView<Service<9>>()->value, 2000);
-    });
-  }
-  for (int value = 1; value <= 2000; ++value) assign(value);
-  done = true;
-  for (std::thread& reader : readers) reader.join();
+  registerOne<6>([&] { return ++calls == 1 ? throw std::runtime_error("not yet") : calls; });
+  EXPECT_THROW(static_cast<void>(resolved<6>()), std::runtime_error);
+  EXPECT_EQ(resolved<6>(), 2);
 }
 
 TEST(Resolver, AThreadGivesUpWhatItKeptWhenItEnds) {
-  const auto counted = std::make_shared<int>(1);
   using Shared = std::shared_ptr<int>;
-  Resolver::register_<Shared>([counted] { return counted; }).scope(ResolverScope::application);
-  std::thread([] { static_cast<void>(*ServiceView<Shared>()); }).join();
-  Resolver::register_<Shared>([] { return std::make_shared<int>(2); }).scope(ResolverScope::application);
-  EXPECT_EQ(counted.use_count(), 1);
-}
-
-TEST(Resolver, AThreadGivesUpWhatItKeptAlsoWhenItsFirstViewComesAtItsVeryEnd) {
-  using Shared = std::shared_ptr<long>;
-  const Shared counted = std::make_shared<long>(1);
+  const Shared counted = std::make_shared<int>(1);
   Resolver::register_<Shared>([counted] { return counted; }).scope(ResolverScope::application);
   static_cast<void>(Resolver::resolve<Shared>());
   const long before = counted.use_count();
+  const auto view = [](void*) { EXPECT_EQ(**ServiceView<Shared>(), 1); };
+  std::thread(view, nullptr).join();
+  EXPECT_EQ(counted.use_count(), before);
+  // Also when its first view comes at its very end.
   pthread_key_t atThreadEnd{};
-  ASSERT_EQ(pthread_key_create(&atThreadEnd, [](void*) { EXPECT_EQ(**ServiceView<Shared>(), 1); }), 0);
+  ASSERT_EQ(pthread_key_create(&atThreadEnd, view), 0);
   std::thread([&] { pthread_setspecific(atThreadEnd, &atThreadEnd); }).join();
   EXPECT_EQ(counted.use_count(), before);
   pthread_key_delete(atThreadEnd);
-}
-
-TEST(Resolver, MovesFactoriesAndNeverCopiesThem) {
-  auto captured = std::make_unique<int>(13);
-  Resolver::register_<Service<13>>([captured = std::move(captured)] { return Service<13>{*captured}; });
-  EXPECT_EQ(Resolver::resolve<Service<13>>().value, 13);
+  Resolver::register_<Shared>([] { return std::make_shared<int>(2); });
+  EXPECT_EQ(counted.use_count(), 1);
 }
 
 /// Reads its own type when it goes, as a service that logs might.
@@ -158,7 +133,6 @@ TEST(Resolver, AServiceMayReadItsOwnTypeInItsDestructor) {
 }
 
 struct alignas(512) Wide {
-  char content = 'w';
   [[nodiscard]] bool isAligned() const { return reinterpret_cast<std::uintptr_t>(this) % alignof(Wide) == 0; }
 };
 
@@ -172,39 +146,30 @@ TEST(Resolver, AlignsServicesAndElementsAsTheirTypesAsk) {
   }
 }
 
-TEST(Resolver, FactoriesMayWaitForOneAnotherWithoutACircle) {
+TEST(Resolver, FactoriesMayUseTheRegistryAndWaitForOneAnotherWithoutACircle) {
   std::promise<void> innerIsBeingMade;
-  Resolver::register_<Service<14>>([&] {
+  registerOne<8>([&] {
     innerIsBeingMade.set_value();
     std::this_thread::yield();
-    return Service<14>{14};
-  }).scope(ResolverScope::application);
-  Resolver::register_<Service<15>>([] {
-    return Service<15>{Resolver::resolve<Service<14>>().value + 1};
-  }).scope(ResolverScope::application);
-  std::thread other([] { EXPECT_EQ(Resolver::resolve<Service<14>>().value, 14); });
+    return 8;
+  });
+  registerOne<9>([] {
+    registerOne<10>([] { return 10; });
+    return resolved<8>() + resolved<10>();
+  });
+  const auto other = std::async(std::launch::async, [] { EXPECT_EQ(resolved<8>(), 8); });
   innerIsBeingMade.get_future().wait();
-  EXPECT_EQ(Resolver::resolve<Service<15>>().value, 15);
-  other.join();
+  EXPECT_EQ(resolved<9>(), 18);
 }
 
 TEST(ResolverDeathTest, StopsACircleOfFactoriesOnSeveralThreads) {
   GTEST_FLAG_SET(death_test_style, "threadsafe");
   const auto resolveInACircle = [] {
-    std::promise<void> one;
-    std::promise<void> two;
-    Resolver::register_<Service<16>>([&] {
-      one.set_value();
-      two.get_future().wait();
-      return Service<16>{Resolver::resolve<Service<17>>().value};
-    }).scope(ResolverScope::application);
-    Resolver::register_<Service<17>>([&] {
-      two.set_value();
-      one.get_future().wait();
-      return Service<17>{Resolver::resolve<Service<16>>().value};
-    }).scope(ResolverScope::application);
-    std::thread other([] { static_cast<void>(Resolver::resolve<Service<17>>()); });
-    static_cast<void>(Resolver::resolve<Service<16>>());
+    std::latch bothAreBeingMade(2);
+    registerOne<11>([&] { return bothAreBeingMade.arrive_and_wait(), resolved<12>(); });
+    registerOne<12>([&] { return bothAreBeingMade.arrive_and_wait(), resolved<11>(); });
+    std::thread other([] { static_cast<void>(resolved<12>()); });
+    static_cast<void>(resolved<11>());
     other.join();
   };
   EXPECT_DEATH(resolveInACircle(), "is resolved by its own factory, directly or through others");
@@ -212,16 +177,13 @@ TEST(ResolverDeathTest, StopsACircleOfFactoriesOnSeveralThreads) {
 
 TEST(ResolverDeathTest, SaysWhatIsWrongAndStops) {
   GTEST_FLAG_SET(death_test_style, "threadsafe");
-  EXPECT_DEATH(static_cast<void>(Resolver::resolve<Service<10>>()), "Service<10> is not registered");
-  EXPECT_DEATH(static_cast<void>(ServiceView<Service<10>>()), "Service<10> is not registered");
-  EXPECT_DEATH(static_cast<void>(Resolver::resolve<Service<10>>("x")),
-               "Service<10> named \"x\" is not registered");
-  Resolver::register_<Service<11>>([]() -> std::optional<Service<11>> { return std::nullopt; });
-  EXPECT_DEATH(static_cast<void>(Resolver::resolve<Service<11>>()), "has a factory that gives nothing");
-  Resolver::register_<Service<12>>([] {
-    return Resolver::resolve<Service<12>>();
-  }).scope(ResolverScope::application);
-  EXPECT_DEATH(static_cast<void>(Resolver::resolve<Service<12>>()), "is resolved by its own factory");
+  EXPECT_DEATH(static_cast<void>(resolved<13>()), "Service<13> is not registered");
+  EXPECT_DEATH(static_cast<void>(viewed<13>()), "Service<13> is not registered");
+  EXPECT_DEATH(static_cast<void>(resolved<13>("x")), "Service<13> named \"x\" is not registered");
+  Resolver::register_<Service<14>>([]() -> std::optional<Service<14>> { return std::nullopt; });
+  EXPECT_DEATH(static_cast<void>(resolved<14>()), "has a factory that gives nothing");
+  registerOne<15>([] { return resolved<15>(); });
+  EXPECT_DEATH(static_cast<void>(resolved<15>()), "is resolved by its own factory");
 }
 
 }  // namespace
