@@ -106,11 +106,11 @@ TEST(StringTable, TextsThatCollideUnderOneSeedDoNotUnderThatOfTheProcess) {
   ASSERT_NE(processSeed(), 0u);
   EXPECT_EQ(processSeed(), processSeed());
   for (const auto& [seed, expected] : {std::pair{known, 1}, std::pair{processSeed(), 10000}}) {
-    const auto collidingKey = [&, seed = seed](std::uint64_t number) {
+    const auto collidingKey = [&, chosen = seed](std::uint64_t number) {
       char key[16];
       std::memcpy(key, &known, 8);
       std::memcpy(key + 8, &number, 8);
-      return hashOf({key, 16}, seed);
+      return hashOf({key, 16}, chosen);
     };
     EXPECT_EQ(differentHashes(collidingKey), expected) << seed;
   }
