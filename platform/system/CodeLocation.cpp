@@ -10,7 +10,6 @@
 #include <filesystem>
 #include <memory>
 #include <span>
-#include <utility>
 
 #include <link.h>
 #include <sys/auxv.h>
@@ -29,19 +28,18 @@ bool holds(const dl_phdr_info& file, std::uintptr_t address) {
 }
 
 /// What the dynamic loader calls the file that holds `address`: the path under which it was loaded, which may
-/// be relative, and nothing for the executable, whose name says with some C libraries only how it was called.
+/// be relative, and nothing for the executable, whose name is with some C libraries only what it was called by.
 std::string loadedName(const void* address) {
   struct Search {
     std::uintptr_t address;
-    bool isAtExecutable;  // the first file
     const char* name;
   };
-  Search search{reinterpret_cast<std::uintptr_t>(address), true, ""};
+  Search search{reinterpret_cast<std::uintptr_t>(address), ""};
   const auto look = [](dl_phdr_info* file, std::size_t, void* data) {
-    auto& [wanted, isAtExecutable, name] = *static_cast<Search*>(data);
-    const bool isExecutable = std::exchange(isAtExecutable, false);
-    if (!holds(*file, wanted)) return 0;
-    if (!isExecutable) name = file->dlpi_name;
+    Search& wanted = *static_cast<Search*>(data);
+    if (!holds(*file, wanted.address)) return 0;
+    const bool isExecutable = reinterpret_cast<std::uintptr_t>(file->dlpi_phdr) == getauxval(AT_PHDR);
+    if (!isExecutable) wanted.name = file->dlpi_name;
     return 1;
   };
   dl_iterate_phdr(look, &search);

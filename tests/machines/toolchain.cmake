@@ -1,4 +1,4 @@
-# Compiles for another machine: ZK_TARGET is what Debian's compilers call it, ZK_ROOT the folder with its libraries. What is
+# Compiles for another machine: ZK_TARGET is what compilers call it, ZK_ROOT the folder with its libraries. What is
 # built runs here, under emulation where this machine's processor does not know the other's instructions.
 list(APPEND CMAKE_TRY_COMPILE_PLATFORM_VARIABLES ZK_TARGET ZK_ROOT)
 string(REGEX MATCH "^[^-]+" CMAKE_SYSTEM_PROCESSOR ${ZK_TARGET})
