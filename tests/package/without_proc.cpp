@@ -9,7 +9,6 @@
 
 #include <dlfcn.h>
 #include <elf.h>
-#include <link.h>
 #include <sys/auxv.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -47,10 +46,6 @@ int stat(const char* path, struct stat* status) noexcept {
     std::exit(0);
   }
   return real<int(const char*, struct stat*)>("stat")(path, status);
-}
-int dladdr1(const void* address, Dl_info* info, void** extra, int flags) noexcept {
-  if (hasNoNames()) return 0;
-  return real<int(const void*, Dl_info*, void**, int)>("dladdr1")(address, info, extra, flags);
 }
 unsigned long getauxval(unsigned long type) noexcept {
   return hasNoNames() && type == AT_EXECFN ? 0 : real<unsigned long(unsigned long)>("getauxval")(type);
