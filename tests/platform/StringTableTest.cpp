@@ -98,9 +98,9 @@ TEST(StringTableReader, SaysWhatWasExpectedWhereAndGoesOn) {
        testing::rowsOf<std::string, std::string, std::string, Keys>("platform/StringTableReaderTest.json")) {
     StringTableReader reader(text);
     Keys keys;
-    const auto readAll = [&, &text = text] {
+    const auto readAll = [&, &table = text] {
       while (reader.next())
-        keys.push_back(text.substr(reader.key().begin, reader.key().end - reader.key().begin));
+        keys.push_back(table.substr(reader.key().begin, reader.key().end - reader.key().begin));
     };
     readAll();
     ASSERT_TRUE(reader.fault()) << text;
