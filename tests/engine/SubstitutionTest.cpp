@@ -88,6 +88,7 @@ TEST(Substitution, FillsInTextsOfEverySize) {
     const std::string plain(size, 'x');
     EXPECT_EQ(applySubstitutions(plain + "%{a}" + plain, {{"a", "kim"}}), plain + "kim" + plain) << size;
     EXPECT_EQ(applySubstitutions("%{a} 5% %{a}", {{"a", plain}}), plain + " 5% " + plain) << size;
+    EXPECT_EQ(applySubstitutions(plain + "%{a}", {{"a", plain}}), plain + plain) << size;
   }
 }
 

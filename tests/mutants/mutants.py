@@ -26,6 +26,9 @@ FOLDER = PROJECT / "build/mutants"
 TREE = FOLDER / "tree"
 BUILD = FOLDER / "build"
 MEMORY = 4 << 30
+# Of the tools, and of the module: what notices most comes first.
+TOOLS_TESTS = ["zk_tools_tests"]
+MODULE_TESTS = ["zk_module_tests", "zk_file_tests", "zk_failure_tests", "zk_tools_tests"]
 
 
 def copy_tree():
@@ -43,56 +46,58 @@ def copy_tree():
             copy.unlink()
 
 
-def build(targets):
-    return subprocess.run(["cmake", "--build", BUILD, "-j", str(os.cpu_count()), "--target", *targets],
+def build(test):
+    return subprocess.run(["cmake", "--build", BUILD, "-j", str(os.cpu_count()), "--target", test],
                           capture_output=True, text=True)
 
 
-def passes(tests, seconds):
-    """Whether all tests pass within the time; a test that hangs or takes all memory fails."""
+def passes(test, seconds):
+    """Whether it passes within the time; a test that hangs or takes all memory fails."""
     scratch = FOLDER / "scratch"
     shutil.rmtree(scratch, ignore_errors=True)
     scratch.mkdir()
-    for test in tests:
-        with subprocess.Popen(["prlimit", f"--as={MEMORY}", BUILD / "bin" / test, "--gtest_fail_fast", "--gtest_brief=1"],
-                              stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
-                              env={**os.environ, "TMPDIR": str(scratch)}, start_new_session=True) as process:
-            try:
-                status = process.wait(seconds)
-            except subprocess.TimeoutExpired:
-                status = "late"
-            finally:
-                try:
-                    os.killpg(process.pid, 9)
-                except ProcessLookupError:
-                    pass
-        if status != 0:
+    with subprocess.Popen(["prlimit", f"--as={MEMORY}", BUILD / "bin" / test, "--gtest_fail_fast", "--gtest_brief=1"],
+                          stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
+                          env={**os.environ, "TMPDIR": str(scratch)}, start_new_session=True) as process:
+        try:
+            return process.wait(seconds) == 0
+        except subprocess.TimeoutExpired:
             return False
-    return True
+        finally:
+            try:
+                os.killpg(process.pid, 9)
+            except ProcessLookupError:
+                pass
 
 
 def prepare(tests):
-    """Builds the copy without a fault, and gives the time that its tests may take with one."""
+    """Builds the copy without a fault, and gives the time that each test may take with one."""
     copy_tree()
     subprocess.run(["cmake", "-G", "Ninja", "-S", TREE, "-B", BUILD, "-DCMAKE_CXX_FLAGS=-O1 -w", "-DZK_EXAMPLES=OFF"],
                    check=True, stdout=subprocess.DEVNULL)
-    built = build(tests)
-    if built.returncode != 0:
-        sys.exit(built.stdout[-4000:])
-    start = time.monotonic()
-    if not passes(tests, 600):
-        sys.exit("The tests fail without a fault as well.")
-    return 10 + 5 * (time.monotonic() - start)
+    limits = {}
+    for test in tests:
+        built = build(test)
+        if built.returncode != 0:
+            sys.exit(built.stdout[-4000:])
+        start = time.monotonic()
+        if not passes(test, 600):
+            sys.exit(f"{test} fails without a fault as well.")
+        limits[test] = 10 + 5 * (time.monotonic() - start)
+    return limits
 
 
-def outcome_of(fault, tests, seconds):
+def outcome_of(fault, limits):
     path = TREE / fault.path
     original = path.read_text()
     path.write_text(fault.applied_to(original))
     try:
-        if build(tests).returncode != 0:
-            return "not compiled"
-        return "survived" if passes(tests, seconds) else "caught"
+        for test, seconds in limits.items():
+            if build(test).returncode != 0:
+                return "not compiled"
+            if not passes(test, seconds):
+                return "caught"
+        return "survived"
     finally:
         path.write_text(original)
 
@@ -106,14 +111,13 @@ def main():
 
     os.nice(10)
     folders = options.under.split(",")
-    tests = ["zk_tools_tests" if folders[0].startswith("tools") else "zk_module_tests"]
-    seconds = prepare(tests)
+    limits = prepare(TOOLS_TESTS if folders[0].startswith("tools") else MODULE_TESTS)
     outcomes = collections.Counter()
     try:
         for fault in faults.drawn(TREE, folders, random.Random(options.seed)):
             if outcomes["caught"] + outcomes["survived"] == options.count:
                 break
-            outcome = outcome_of(fault, tests, seconds)
+            outcome = outcome_of(fault, limits)
             outcomes[outcome] += 1
             if outcome == "survived":
                 print(f"{fault}\n", flush=True)

@@ -47,6 +47,7 @@ TEST(StringTable, ResolvesEscapes) {
       {R"(\U00e9a)", "éa"},
       {R"(\U41,\U41g\Ue9\U7ff\U1234)", "A,Agé\u07FF\u1234"},
       {R"(\Ud83c\Udf8 \Ud83c\U9)", "\uFFFD\u0DF8 \uFFFD\t"},
+      {R"(\Ud7ff\Udc00\Udbff\Udfff)", "\uD7FF\uFFFD\U0010FFFF"},
       {R"(\q\Ug\é\U)", "qUgéU"},
   };
   const TemporaryDirectory directory;
