@@ -1,3 +1,4 @@
+#include <ZKStrings/platform/text/TextSearch.h>
 #include <ZKStrings/tests/CommandOutput.h>
 #include <ZKStrings/tests/tools/TemporaryProject.h>
 #include <ZKStrings/tools/support/Files.h>
@@ -14,7 +15,7 @@
 
 // A transcript tells what the command answers in a terminal. Its lines are commands ("  $ "), which may go on ("  > "),
 // below each what it prints and its status where that is not 0 ("  [1]"), and, at the margin, what is to be said about
-// it. The commands run one after another in the folder of a small project.
+// it. The commands run one after another in the folder of a small project; what ships is in $ZK_SHIPPED.
 
 namespace {
 
@@ -38,10 +39,12 @@ std::vector<fs::path> transcripts() {
 std::string shownAnswer(const std::string& folder, const std::string& command) {
   setenv("ZK_COMMAND", ZK_COMMAND, 1);
   setenv("ZK_FOLDER", folder.c_str(), 1);
-  const Answer answer = outputOf(
+  setenv("ZK_SHIPPED", ZK_PROJECT_ROOT, 1);
+  Answer answer = outputOf(
       "cd \"$ZK_FOLDER\"; exec 2>&1; export LC_ALL=C\n"
       "zkstrings() { \"$ZK_COMMAND\" \"$@\"; }\n" +
       command);
+  zk::replaceOccurrences(answer.output, folder, "$PWD");
   std::string shown;
   for (const std::string_view line : linesOf(answer.output)) shown += fmt::format("  {}\n", line);
   if (!answer.output.empty() && answer.output.back() != '\n') shown += "  (no line end)\n";
@@ -60,7 +63,8 @@ std::string playedAgain(const std::string& transcript) {
   };
   for (const std::string_view line : linesOf(transcript)) {
     if (!line.starts_with(kMore)) play();
-    if (line.starts_with(kCommand) || line.starts_with(kMore)) {
+    const bool goesOn = !command.empty() && line.starts_with(kMore);
+    if (goesOn || line.starts_with(kCommand)) {
       command.append(line.substr(kCommand.size())).append("\n");
     } else if (line.starts_with("  ")) {
       continue;
