@@ -41,7 +41,7 @@ std::string shownAnswer(const std::string& folder, const std::string& command) {
   setenv("ZK_FOLDER", folder.c_str(), 1);
   setenv("ZK_SHIPPED", ZK_PROJECT_ROOT, 1);
   Answer answer = outputOf(
-      "cd \"$ZK_FOLDER\"; exec 2>&1; export LC_ALL=C\n"
+      "cd \"$ZK_FOLDER\"; exec 2>&1; set -u; export LC_ALL=C\n"
       "zkstrings() { \"$ZK_COMMAND\" \"$@\"; }\n" +
       command);
   zk::replaceOccurrences(answer.output, folder, "$PWD");
