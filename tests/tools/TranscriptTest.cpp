@@ -16,6 +16,7 @@
 // A transcript tells what the command answers in a terminal. Its lines are commands ("  $ "), which may go on ("  > "),
 // below each what it prints and its status where that is not 0 ("  [1]"), and, at the margin, what is to be said about
 // it. The commands run one after another in the folder of a small project; what ships is in $ZK_SHIPPED.
+// ZK_RECORD=1 in the environment writes the transcripts anew.
 
 namespace {
 
@@ -79,7 +80,9 @@ class Transcript : public ::testing::TestWithParam<fs::path> {};
 
 TEST_P(Transcript, IsWhatTheCommandAnswers) {
   const std::string transcript = zk::tools::readFile("", GetParam());
-  EXPECT_EQ(playedAgain(transcript), transcript);
+  const std::string played = playedAgain(transcript);
+  if (std::getenv("ZK_RECORD")) zk::tools::writeFile("", GetParam(), played);
+  EXPECT_EQ(played, transcript);
 }
 
 INSTANTIATE_TEST_SUITE_P(Commands, Transcript, ::testing::ValuesIn(transcripts()), [](const auto& test) {
