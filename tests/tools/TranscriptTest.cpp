@@ -15,8 +15,8 @@
 
 // A transcript tells what the command answers in a terminal. Its lines are commands ("  $ "), which may go on ("  > "),
 // below each what it prints and its status where that is not 0 ("  [1]"), and, at the margin, what is to be said about
-// it. The commands run one after another in the folder of a small project; what ships is in $ZK_SHIPPED.
-// ZK_RECORD=1 in the environment writes the transcripts anew.
+// it. Each command has a shell of its own, in one copy of small-project/; what ships is in $ZK_SHIPPED. With ZK_RECORD
+// in the environment, the transcripts are written anew as well.
 
 namespace {
 
@@ -42,7 +42,7 @@ std::string shownAnswer(const std::string& folder, const std::string& command) {
   setenv("ZK_FOLDER", folder.c_str(), 1);
   setenv("ZK_SHIPPED", ZK_PROJECT_ROOT, 1);
   Answer answer = outputOf(
-      "cd \"$ZK_FOLDER\"; exec 2>&1; set -u; export LC_ALL=C\n"
+      "cd \"$ZK_FOLDER\" || exit; exec 2>&1; set -u; export LC_ALL=C\n"
       "zkstrings() { \"$ZK_COMMAND\" \"$@\"; }\n" +
       command);
   zk::replaceOccurrences(answer.output, folder, "$PWD");
@@ -56,10 +56,11 @@ std::string shownAnswer(const std::string& folder, const std::string& command) {
 /// The transcript, with what its commands answer now.
 std::string playedAgain(const std::string& transcript) {
   const TemporaryProject project;
+  const std::string folder = fs::canonical(project.root());
   std::string result;
   std::string command;
   const auto play = [&] {
-    if (!command.empty()) result += shownAnswer(project.root(), command);
+    if (!command.empty()) result += shownAnswer(folder, command);
     command.clear();
   };
   for (const std::string_view line : linesOf(transcript)) {
