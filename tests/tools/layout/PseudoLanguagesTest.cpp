@@ -1,4 +1,4 @@
-#include <ZKStrings/tests/tools/TemporaryProject.h>
+#include <ZKStrings/tests/TemporaryDirectory.h>
 #include <ZKStrings/tools/check/Checker.h>
 #include <ZKStrings/tools/layout/PseudoLanguages.h>
 #include <ZKStrings/tools/support/Fault.h>
@@ -15,7 +15,6 @@ namespace {
 
 using namespace zk::tools;
 using zk::testing::TemporaryDirectory;
-using zk::testing::TemporaryProject;
 
 namespace fs = std::filesystem;
 
@@ -96,39 +95,6 @@ TEST_F(PseudoTables, AreAThirdLongerInReadersEyes) {
     constexpr std::size_t kMarks = 14;  // two pairs of <b>, which do not count
     EXPECT_GE(3 * (lettersOf(entry->text) - added) + kMarks, 4 * lettersOf(text.text)) << entry->text;
   }
-}
-
-TEST(PseudoLanguages, AreNeverWrittenIntoWhatIsShipped) {
-  const TemporaryProject project;
-  const TemporaryDirectory elsewhere;
-  const std::string link = elsewhere.path() + "/link";
-  fs::create_directory_symlink(project.root() + "/resources", link);
-  for (const std::string& directory :
-       {project.root() + "/resources", project.root() + "/resources/",
-        project.root() + "/catalogue/../resources/deeper", link, link + "/new"}) {
-    EXPECT_THROW(writePseudoLanguages(project.root(), directory), CommandFailed) << directory;
-  }
-  EXPECT_EQ(languagesIn(project.root()), std::vector<std::string>{"Base"});
-}
-
-TEST(PseudoLanguages, BringTheOtherResourcesUpToDate) {
-  const TemporaryProject project;
-  const TemporaryDirectory elsewhere;
-  const std::string copy = elsewhere.path() + "/share/ZKStrings";
-  writePseudoLanguages(project.root(), copy);
-  project.write(TemporaryProject::table("de"), "\"About\" = \"Info\";\n");
-  writePseudoLanguages(project.root(), copy);
-  EXPECT_EQ(readFile(copy, "de.lproj/Localizable.strings"), "\"About\" = \"Info\";\n");
-  EXPECT_EQ(readFile(copy, "countries.json"), project.read(TemporaryProject::kCountries));
-  EXPECT_NE(readFile(copy, "xb.lproj/Localizable.strings").find("\"Coins_many\""), std::string::npos);
-}
-
-TEST(PseudoLanguages, AreNotMadeOfAFaultyTable) {
-  const TemporaryProject project;
-  const TemporaryDirectory elsewhere;
-  project.write(TemporaryProject::table("Base"), "\"About\" = ");
-  EXPECT_THROW(writePseudoLanguages(project.root(), elsewhere.path()), CommandFailed);
-  EXPECT_TRUE(fs::is_empty(elsewhere.path()));
 }
 
 }  // namespace
