@@ -41,7 +41,8 @@ std::string entryOf(const TranslationUnit& unit) {
 }  // namespace
 
 std::string toPO(const Translations& translations) {
-  std::string file = "msgid \"\"\nmsgstr \"\"\n\"Project-Id-Version: ZKStrings\\n\"\n";
+  std::string file = "msgid \"\"\nmsgstr \"\"\n";
+  file += fmt::format("\"Project-Id-Version: {}\\n\"\n", translations.catalogue);
   file += fmt::format("\"Language: {}\\n\"\n", translations.language);
   file +=
       "\"MIME-Version: 1.0\\n\"\n\"Content-Type: text/plain; charset=UTF-8\\n\"\n"

@@ -23,6 +23,7 @@ struct TranslationUnit {
 struct Translations {
   std::string language;  ///< empty in a file that does not tell it
   std::vector<TranslationUnit> units;
+  std::string catalogue{};  ///< what the catalogue is called; empty in what was read from a file
 };
 
 }  // namespace zk::tools
