@@ -14,9 +14,9 @@
 #include <gtest/gtest.h>
 
 // A transcript tells what the command answers in a terminal. Its lines are commands ("  $ "), which may go on ("  > "),
-// below each what it prints and its status where that is not 0 ("  [1]"), and, at the margin, what is to be said about
-// it. Each command has a shell of its own, in one copy of small-project/; what ships is in $ZK_SHIPPED. With ZK_RECORD
-// in the environment, the transcripts are written anew as well.
+// below each what it prints, with carriage returns as "\r", and its status where that is not 0 ("  [1]"), and, at the
+// margin, what is to be said about it. Each command has a shell of its own, in one copy of small-project/; what ships is
+// in $ZK_SHIPPED. With ZK_RECORD in the environment, the transcripts are written anew as well.
 
 namespace {
 
@@ -46,6 +46,7 @@ std::string shownAnswer(const std::string& folder, const std::string& command) {
       "zkstrings() { \"$ZK_COMMAND\" \"$@\"; }\n" +
       command);
   zk::replaceOccurrences(answer.output, folder, "$PWD");
+  zk::replaceOccurrences(answer.output, "\r", "\\r");
   std::string shown;
   for (const std::string_view line : linesOf(answer.output)) shown += fmt::format("  {}\n", line);
   if (!answer.output.empty() && answer.output.back() != '\n') shown += "  (no line end)\n";
