@@ -77,7 +77,8 @@ TEST(Files, AreAllChangedOrNoneWhenASignalEndsTheProcess) {
       writeFiles(project.path(), {{"a", ""}, {"b", ""}});
       const pid_t writer = fork();
       ASSERT_NE(writer, -1);
-      if (writer == 0) std::signal(signal, SIG_DFL);  // shells have what they start in the background ignore some
+      // A shell has what it starts in the background ignore some.
+      if (writer == 0) std::signal(signal, SIG_DFL);
       for (std::string bytes; writer == 0; bytes += 'x')
         writeFiles(project.path(), {{"a", bytes}, {"b", bytes}});
       usleep(static_cast<useconds_t>(2000 + 100 * delay));
