@@ -6,7 +6,7 @@ set -euo pipefail
 program=$1 resources=$2
 
 if ! strace -o /dev/null true 2>/dev/null; then
-  echo "NOT TESTED: strace is missing, or may not trace programs here" >&2
+  printf '%s: Skipped\nstrace is missing, or may not trace programs here\n' "$0"
   exit 77
 fi
 trace=$(mktemp)
