@@ -10,6 +10,7 @@
 #include <ZKStrings/tools/support/Nearest.h>
 #include <ZKStrings/tools/support/Undisturbed.h>
 
+#include <csignal>
 #include <cstdio>
 #include <exception>
 #include <memory>
@@ -88,6 +89,7 @@ int run(int argc, char** argv) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  std::signal(SIGXFSZ, SIG_IGN);  // what may not be written is told of
   try {
     const int status = run(argc, argv);
     if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0) return status;
