@@ -88,8 +88,9 @@ TEST(StringTable, WhatIsNoReadableFileHoldsNothing) {
   const std::string huge = directory.write("huge", "\"a\" = \"b\";");
   ASSERT_EQ(mkfifo(fifo.c_str(), 0600), 0);
   std::filesystem::resize_file(huge, std::uintmax_t{1} << 40);
-  for (const std::string& path :
-       {directory.path(), fifo, huge, directory.path() + "/missing", "/dev/zero"s, ""s})
+  const std::string table = directory.write("table", "\"a\" = \"b\";");
+  for (const std::string& path : {directory.path(), fifo, huge, directory.path() + "/missing",
+                                  table + "\0.strings"s, "/dev/zero"s, ""s})
     EXPECT_EQ(textIn(path), std::nullopt) << path;
 }
 
