@@ -69,7 +69,8 @@ TEST(Json, RefusesWhatIsNotJson) {
   expectRefused(
       {"\"\xFF\"", "[\"\xC3\"]", "[1]\0"s, "[1] \0[2]"s, "[\"\0\"]"s, "[1]\uFEFF", "\uFEFF\uFEFF[1]"});
   expectRefused({"\xFF\xFE[", "\0[\0"s, "[\0]\0 \0\0\0"s, "\xFF\xFE\xFF\xFE[\0]\0"s,
-                 "\xFF\xFE\"\0\0\xD8\"\0"s, "\xFF\xFE\"\0\0\xDC\"\0"s, "\xFF\xFE[\0]\0x"s});
+                 "\xFF\xFE\"\0\0\xD8\"\0"s, "\xFF\xFE\"\0\0\xDC\"\0"s, "\xFF\xFE\"\0\0\xD8x\0\"\0"s,
+                 "\xFF\xFE[\0]\0x"s});
 }
 
 TEST(Json, ReadsFragmentsAndNumbersOfEverySize) {

@@ -77,10 +77,10 @@ TEST(Files, AreAllChangedOrNoneWhenASignalEndsTheProcess) {
       writeFiles(project.path(), {{"a", ""}, {"b", ""}});
       const pid_t writer = fork();
       ASSERT_NE(writer, -1);
-      // A shell has what it starts in the background ignore some.
-      if (writer == 0) std::signal(signal, SIG_DFL);
-      for (std::string bytes; writer == 0; bytes += 'x')
-        writeFiles(project.path(), {{"a", bytes}, {"b", bytes}});
+      if (writer == 0) {
+        std::signal(signal, SIG_DFL);  // a shell has what it starts in the background ignore some
+        for (std::string bytes;; bytes += 'x') writeFiles(project.path(), {{"a", bytes}, {"b", bytes}});
+      }
       usleep(static_cast<useconds_t>(2000 + 100 * delay));
       kill(writer, signal);
       waitpid(writer, nullptr, 0);
