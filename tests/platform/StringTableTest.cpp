@@ -6,6 +6,7 @@
 #include <ZKStrings/tests/TemporaryDirectory.h>
 
 #include <cstdint>
+#include <cstdlib>
 #include <set>
 #include <string>
 #include <utility>
@@ -92,6 +93,15 @@ TEST(StringTable, WhatIsNoReadableFileHoldsNothing) {
   for (const std::string& path : {directory.path(), fifo, huge, directory.path() + "/missing",
                                   table + "\0.strings"s, "/dev/zero"s, ""s})
     EXPECT_EQ(textIn(path), std::nullopt) << path;
+}
+
+// Who wrote a table could else choose keys that collide.
+TEST(StringTableDeathTest, HashesOtherwiseInEachProcess) {
+  GTEST_FLAG_SET(death_test_style, "threadsafe");  // the child starts anew, and finds the variable
+  setenv("ZK_SEED", std::to_string(processSeed()).c_str(), 0);
+  EXPECT_EXIT(std::exit(std::getenv("ZK_SEED") == std::to_string(processSeed()) ? 1 : 0),
+              ::testing::ExitedWithCode(0), "");
+  unsetenv("ZK_SEED");
 }
 
 TEST(StringTableReader, SaysWhatWasExpectedWhereAndGoesOn) {

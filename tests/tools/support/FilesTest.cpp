@@ -36,6 +36,12 @@ TEST(Files, AreAllChangedOrNone) {
     EXPECT_EQ(filesIn(project.path()), 2u) << obstacle;
     EXPECT_FALSE(fs::exists(project.path() + "/deep")) << obstacle;
   }
+  // What shows only when others are in their places already: a folder that a later file needs.
+  EXPECT_THROW(writeFiles(project.path(), {{"a", "new a"}, {"b", "new b"}, {"c", "c"}, {"c/d", "d"}}),
+               CommandFailed);
+  EXPECT_EQ(readFile(project.path(), "a"), "old a");
+  EXPECT_EQ(filesIn(project.path()), 2u);
+  EXPECT_FALSE(fs::exists(project.path() + "/c"));
   writeFiles(project.path(), {{"a", "new a"}, {"deep/er/b", "new b"}});
   EXPECT_EQ(readFile(project.path(), "a") + readFile(project.path(), "deep/er/b"), "new anew b");
   EXPECT_EQ(filesIn(project.path()), 3u);
