@@ -34,6 +34,9 @@ early=$(paths main | grep -F "$resources" || true)
 opened=$(grep -c "openat([^\"]*\"$resources\".*O_DIRECTORY" "$trace" || true)
 [ "$opened" -eq 1 ] || fail "The resources were listed" "$opened times"
 
+inherited=$(grep -F "\"$resources" "$trace" | grep 'open\(at\)\?(' | grep -v O_CLOEXEC || true)
+[ -z "$inherited" ] || fail "Opened so that the programs that an app starts have it too" "$inherited"
+
 [ "$(paths names | wc -l)" -ge 20 ] || fail "The trace holds too little" "$(paths names)"
 outside=$(paths names | grep -v "^$resources/[^/]*\(/[^/]*\)\?$" || true)
 outside+=$(paths names | grep -e '/\.\.\?\(/\|$\)' || true)
