@@ -119,8 +119,8 @@ bool isNumber(std::string_view text) {
   return at == text.size();
 }
 
-/// Whether the number at `begin`, of `length` bytes, is beyond every double. What the C library reads on, as it does
-/// at 0x1p1024, is none.
+/// Whether the number at `begin`, of `length` bytes, is beyond every double. One of which the C library takes
+/// more, as it does of 0x1p1024, is not JSON.
 bool isHuge(const char* begin, std::size_t length) {
   char* end = nullptr;
   return std::isinf(std::strtod(begin, &end)) && end == begin + length;

@@ -128,7 +128,8 @@ class Importer {
     for (const Fault& fault : checkTable(translations_.language, table, catalogue_, base_)) {
       if (fault.severity > Severity::warning) continue;
       const TableEntry* const entry = entryAt(table, fault);
-      const auto taken = entry ? taken_.find(entry->key) : taken_.end();
+      if (!entry) continue;
+      const auto taken = taken_.find(entry->key);
       if (taken == taken_.end()) continue;
       report(fault.severity, *taken->second.unit,
              fmt::format("\"{}\": {}", escaped(entry->key), fault.message), fault.rule);

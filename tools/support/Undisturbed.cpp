@@ -9,7 +9,7 @@
 namespace zk::tools {
 
 void keepOthersOut(const std::string& root) {
-  // Open until the process ends, which gives the lock back. Where the file system has no locks, all goes on without.
+  // Open until the process ends, which gives the lock back. Where there are no locks, all goes on without.
   const int folder = open(root.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
   if (flock(folder, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK) return;
   std::fputs("Another zkstrings changes this project; waiting for it.\n", stderr);

@@ -7,8 +7,8 @@
 
 namespace zk::tools {
 
-/// Keeps other commands from changing the project at `root` until this process ends. Says so on standard error when it
-/// has to wait for one that does.
+/// Keeps other commands from changing the project at `root` until this process ends. Says so on standard error
+/// when it has to wait for one that does.
 void keepOthersOut(const std::string& root);
 
 /// As long as it lives, the signals by which users and systems end a process wait.
