@@ -119,6 +119,13 @@ bool isNumber(std::string_view text) {
   return at == text.size();
 }
 
+/// Whether the number at `begin`, of `length` bytes, is beyond every double. One of which the C library takes
+/// more, as it does of 0x1p1024, is not JSON.
+bool isHuge(const char* begin, std::size_t length) {
+  char* end = nullptr;
+  return std::isinf(std::strtod(begin, &end)) && end == begin + length;
+}
+
 /// Overwrites the numbers beyond every double, for which the library would give up the whole text, by nulls.
 void blankHugeNumbers(std::string& text) {
   bool inString = false;
@@ -129,7 +136,7 @@ void blankHugeNumbers(std::string& text) {
     const std::size_t end = std::min(text.find_first_not_of("+-.0123456789eE", at), text.size());
     if (end == at) continue;
     const std::size_t length = end - at;
-    if (isNumber({text.data() + at, length}) && std::isinf(std::strtod(text.data() + at, nullptr))) {
+    if (isNumber({text.data() + at, length}) && isHuge(text.data() + at, length)) {
       text.replace(at, length, std::string("null").append(length - 4, ' '));
     }
     at = end - 1;

@@ -10,6 +10,7 @@
 #include <filesystem>
 #include <memory>
 #include <span>
+#include <string_view>
 
 #include <link.h>
 #include <sys/auxv.h>
@@ -50,6 +51,17 @@ struct Closer {
   void operator()(FILE* file) const { std::fclose(file); }
 };
 
+/// The path that the kernel spells as `spelling`: \012 stands for a line break, and for itself.
+std::string pathSpelled(std::string spelling) {
+  constexpr std::string_view kLineBreak = "\\012";
+  std::error_code notThere;
+  std::size_t at = spelling.find(kLineBreak);
+  if (at == std::string::npos || fs::exists(spelling, notThere)) return spelling;
+  for (; at != std::string::npos; at = spelling.find(kLineBreak, at))
+    spelling.replace(at, kLineBreak.size(), "\n");
+  return spelling;
+}
+
 /// The file that the kernel has mapped at `address`, always by its absolute path without links.
 std::string mappedFile(const void* address, std::error_code& failure) {
   failure.clear();
@@ -67,7 +79,7 @@ std::string mappedFile(const void* address, std::error_code& failure) {
     if (std::sscanf(line, "%" SCNxPTR "-%" SCNxPTR, &begin, &end) != 2) continue;
     if (wanted < begin || wanted >= end) continue;
     const char* const path = std::strchr(line, '/');
-    return path ? std::string(path, std::strcspn(path, "\n")) : std::string();
+    return path ? pathSpelled({path, std::strcspn(path, "\n")}) : std::string();
   }
   if (std::ferror(maps.get())) failure = make_error_code(std::errc::io_error);
   return {};

@@ -89,6 +89,10 @@ TEST(Substitution, FillsInTextsOfEverySize) {
     EXPECT_EQ(applySubstitutions(plain + "%{a}" + plain, {{"a", "kim"}}), plain + "kim" + plain) << size;
     EXPECT_EQ(applySubstitutions("%{a} 5% %{a}", {{"a", plain}}), plain + " 5% " + plain) << size;
     EXPECT_EQ(applySubstitutions(plain + "%{a}", {{"a", plain}}), plain + plain) << size;
+    for (const std::size_t whole : {500U, 508U}) {
+      const std::string rest(whole - std::min(whole, size), 'y');
+      EXPECT_EQ(applySubstitutions("%{a}" + plain, {{"a", rest}}), rest + plain) << size;
+    }
   }
 }
 

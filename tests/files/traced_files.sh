@@ -6,7 +6,7 @@ set -euo pipefail
 program=$1 resources=$2
 
 if ! strace -o /dev/null true 2>/dev/null; then
-  echo "NOT TESTED: strace is missing, or may not trace programs here" >&2
+  printf '%s: Skipped\nstrace is missing, or may not trace programs here\n' "$0"
   exit 77
 fi
 trace=$(mktemp)
@@ -33,6 +33,9 @@ early=$(paths main | grep -F "$resources" || true)
 
 opened=$(grep -c "openat([^\"]*\"$resources\".*O_DIRECTORY" "$trace" || true)
 [ "$opened" -eq 1 ] || fail "The resources were listed" "$opened times"
+
+inherited=$(grep -F "\"$resources" "$trace" | grep 'open\(at\)\?(' | grep -v O_CLOEXEC || true)
+[ -z "$inherited" ] || fail "Opened so that the programs that an app starts have it too" "$inherited"
 
 [ "$(paths names | wc -l)" -ge 20 ] || fail "The trace holds too little" "$(paths names)"
 outside=$(paths names | grep -v "^$resources/[^/]*\(/[^/]*\)\?$" || true)

@@ -109,8 +109,11 @@ def main():
     parser.add_argument("--under", default="engine,region,platform", help="folders, or files, with commas between them")
     options = parser.parse_args()
 
-    os.nice(10)
     folders = options.under.split(",")
+    for folder in folders:
+        if not (PROJECT / folder).exists():
+            parser.error(f"argument --under: there is no {folder}")
+    os.nice(10)
     limits = prepare(TOOLS_TESTS if folders[0].startswith("tools") else MODULE_TESTS)
     outcomes = collections.Counter()
     try:

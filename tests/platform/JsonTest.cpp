@@ -64,11 +64,13 @@ void expectRefused(const std::vector<std::string>& texts) {
 TEST(Json, RefusesWhatIsNotJson) {
   const std::string deep(100000, '[');
   expectRefused({"", " ", "[1,]", "[1", "[1] 2", "{\"a\" 1}", "nul", deep, deep + "]"});
-  expectRefused({"[01]", "[1e999, 1e]", "[1e999 1]", "[1e999, 1e999.5]", "[1e999, -]"});
+  expectRefused({"[01]", "[1e999, 1e]", "[1e999 1]", "[1e999, 1e999.5]", "[1e999, -]", "[1e999, 0x1p1024]",
+                 "[1e999, -0X1P1024]", "[1e999, 0infinity]"});
   expectRefused(
       {"\"\xFF\"", "[\"\xC3\"]", "[1]\0"s, "[1] \0[2]"s, "[\"\0\"]"s, "[1]\uFEFF", "\uFEFF\uFEFF[1]"});
   expectRefused({"\xFF\xFE[", "\0[\0"s, "[\0]\0 \0\0\0"s, "\xFF\xFE\xFF\xFE[\0]\0"s,
-                 "\xFF\xFE\"\0\0\xD8\"\0"s, "\xFF\xFE\"\0\0\xDC\"\0"s, "\xFF\xFE[\0]\0x"s});
+                 "\xFF\xFE\"\0\0\xD8\"\0"s, "\xFF\xFE\"\0\0\xDC\"\0"s, "\xFF\xFE\"\0\0\xD8x\0\"\0"s,
+                 "\xFF\xFE[\0]\0x"s});
 }
 
 TEST(Json, ReadsFragmentsAndNumbersOfEverySize) {

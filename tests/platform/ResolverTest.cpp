@@ -65,11 +65,19 @@ TEST(Resolver, ScopeDecidesHowOftenTheFactoryRuns) {
 }
 
 TEST(Resolver, ViewFollowsANewRegistrationButAnOpenViewKeepsItsValue) {
-  registerOne<4>([] { return 1; });
-  const auto before = ServiceView<Service<4>>();
-  registerOne<4>([] { return 2; });
-  EXPECT_EQ(viewed<4>(), 2);
-  EXPECT_EQ(before->value, 1);
+  using Shared = std::shared_ptr<Service<4>>;
+  const auto registerShared = [](int value) {
+    Resolver::register_<Shared>([value] {
+      return std::make_shared<Service<4>>(Service<4>{value});
+    }).scope(ResolverScope::application);
+  };
+  registerShared(1);
+  const auto before = ServiceView<Shared>();
+  const std::weak_ptr<Service<4>> seen = *before;
+  registerShared(2);
+  EXPECT_EQ((*ServiceView<Shared>())->value, 2);
+  ASSERT_FALSE(seen.expired());
+  EXPECT_EQ((*before)->value, 1);
 }
 
 TEST(Resolver, ApplicationFactoryRunsOnceWhenFirstResolvesRace) {

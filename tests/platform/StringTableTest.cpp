@@ -6,6 +6,7 @@
 #include <ZKStrings/tests/TemporaryDirectory.h>
 
 #include <cstdint>
+#include <cstdlib>
 #include <set>
 #include <string>
 #include <utility>
@@ -89,9 +90,19 @@ TEST(StringTable, WhatIsNoReadableFileHoldsNothing) {
   ASSERT_EQ(mkfifo(fifo.c_str(), 0600), 0);
   std::filesystem::resize_file(huge, std::uintmax_t{1} << 40);
   const std::string endsEarly = "/sys/kernel/uevent_seqnum";  // long before its size says
-  for (const std::string& path :
-       {directory.path(), fifo, huge, endsEarly, directory.path() + "/missing", "/dev/zero"s, ""s})
+  const std::string table = directory.write("table", "\"a\" = \"b\";");
+  for (const std::string& path : {directory.path(), fifo, huge, endsEarly, directory.path() + "/missing",
+                                  table + "\0.strings"s, "/dev/zero"s, ""s})
     EXPECT_EQ(textIn(path), std::nullopt) << path;
+}
+
+// Who wrote a table could else choose keys that collide.
+TEST(StringTableDeathTest, HashesOtherwiseInEachProcess) {
+  GTEST_FLAG_SET(death_test_style, "threadsafe");  // the child starts anew, and finds the variable
+  setenv("ZK_SEED", std::to_string(processSeed()).c_str(), 0);
+  EXPECT_EXIT(std::exit(std::getenv("ZK_SEED") == std::to_string(processSeed()) ? 1 : 0),
+              ::testing::ExitedWithCode(0), "");
+  unsetenv("ZK_SEED");
 }
 
 TEST(StringTableReader, SaysWhatWasExpectedWhereAndGoesOn) {

@@ -158,6 +158,13 @@ std::string changedText(const TableKey& key, const std::string& present, const s
 
 }  // namespace
 
+std::string keyOf(const std::string& text) {
+  refuseOtherThanUtf8(text);
+  std::string key = keyForText(text);
+  if (key.empty()) refuse("the text has no letter or digit to make a key of");
+  return key;
+}
+
 std::string addEntry(const std::string& root, const NewEntry& added) {
   Catalogue catalogue = Catalogue::read(root);
   refuseWrongTexts(added.forms, added.text, added.plural);

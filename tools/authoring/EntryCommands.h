@@ -22,6 +22,9 @@ struct NewEntry {
   std::string key = {};  ///< empty for the key that the text gets
 };
 
+/// The key that `text` gets. Throws `std::invalid_argument`, with what is wrong, when it gets none.
+std::string keyOf(const std::string& text);
+
 // All these change all files that hold the text, or none. They throw `CommandFailed` when a file is wrong
 // or cannot be written, and `std::invalid_argument`, with what is wrong and what to do, when the text or the
 // key cannot be taken.

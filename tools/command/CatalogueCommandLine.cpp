@@ -1,4 +1,3 @@
-#include <ZKStrings/catalogue/KeyRule.h>
 #include <ZKStrings/platform/text/TextSearch.h>
 #include <ZKStrings/tools/authoring/CatalogueFiles.h>
 #include <ZKStrings/tools/authoring/EntryCommands.h>
@@ -55,7 +54,7 @@ void addKeyCommand(CLI::App& app) {
   auto* const command = app.add_subcommand("key", "Print the key that a text gets");
   command->add_option("text", *text, "The English text; \\n is a line break")->required();
   command->footer("Example: zkstrings key 'Kick %{username}?'");
-  command->callback([text] { fmt::print("{}\n", keyForText(withLineBreaks(*text))); });
+  command->callback([text] { fmt::print("{}\n", keyOf(withLineBreaks(*text))); });
 }
 
 void addAddCommand(CLI::App& app, const RootFinder& inRoot) {

@@ -8,7 +8,9 @@
 #include <ZKStrings/tools/support/Fault.h>
 #include <ZKStrings/tools/support/Files.h>
 #include <ZKStrings/tools/support/Nearest.h>
+#include <ZKStrings/tools/support/Undisturbed.h>
 
+#include <csignal>
 #include <cstdio>
 #include <exception>
 #include <memory>
@@ -27,6 +29,11 @@ using namespace zk::tools;
 
 constexpr int kFailure = 1;
 constexpr int kWrongUse = 2;
+
+/// Prints a line on standard error. That it cannot be printed keeps the command from nothing.
+void complain(const std::string& line) {
+  std::fputs((line + "\n").c_str(), stderr);
+}
 
 /// What is wrong with a command line that names no subcommand; empty when that is not what is wrong.
 std::string unknownCommand(const CLI::App& app) {
@@ -48,16 +55,21 @@ int run(int argc, char** argv) {
   std::string root;
   app.add_option("--root", root, "The project's folder; found from here upward otherwise")->type_name("DIR");
   const auto inRoot = [&] { return root.empty() ? findRoot() : rootAt(root); };
+  const auto aloneInRoot = [&] {
+    const std::string found = inRoot();
+    keepOthersOut(found);
+    return found;
+  };
 
   int status = 0;
   addInitCommand(app);
-  addCatalogueCommands(app, inRoot);
+  addCatalogueCommands(app, aloneInRoot);
   addCheckCommand(app, inRoot, status);
   addCoverageCommand(app, inRoot);
-  addTemplateCommand(app, inRoot);
-  addUpdateCommand(app, inRoot);
+  addTemplateCommand(app, aloneInRoot);
+  addUpdateCommand(app, aloneInRoot);
   addExportCommand(app, inRoot);
-  addImportCommand(app, inRoot, status);
+  addImportCommand(app, aloneInRoot, status);
   addPageCommands(app, inRoot);
   for (CLI::App* const command : app.get_subcommands({})) command->fallthrough();
 
@@ -68,7 +80,7 @@ int run(int argc, char** argv) {
   } catch (const CLI::ParseError& wrongUse) {
     const std::string message = unknownCommand(app);
     if (message.empty()) return app.exit(wrongUse) == 0 ? 0 : kWrongUse;
-    fmt::print(stderr, "{}\n", message);
+    complain(message);
     return kWrongUse;
   }
   return status;
@@ -77,18 +89,18 @@ int run(int argc, char** argv) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  std::signal(SIGXFSZ, SIG_IGN);  // what may not be written is told of
   try {
     const int status = run(argc, argv);
-    if (std::fflush(stdout) == 0) return status;
-    fmt::print(stderr, "the output cannot be written; see that its place has room\n");
+    if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0) return status;
+    complain("the output cannot be written; see that its place has room");
   } catch (const CommandFailed& failed) {
-    for (const Fault& fault : failed.faults)
-      fmt::print(stderr, "{}\n", formatted(fault, takesColours(stderr)));
+    for (const Fault& fault : failed.faults) complain(formatted(fault, takesColours(stderr)));
   } catch (const std::invalid_argument& refused) {
-    fmt::print(stderr, "{}\n", refused.what());
+    complain(refused.what());
     return kWrongUse;
   } catch (const std::exception& failure) {
-    std::fprintf(stderr, "zkstrings: %s\n", failure.what());
+    complain(std::string("zkstrings: ") + failure.what());
   }
   return kFailure;
 }

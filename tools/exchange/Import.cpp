@@ -8,8 +8,10 @@
 #include <ZKStrings/tools/translation/TableEditor.h>
 
 #include <algorithm>
+#include <iterator>
 #include <map>
 #include <string_view>
+#include <tuple>
 #include <utility>
 
 #include <fmt/format.h>
@@ -125,8 +127,9 @@ class Importer {
   void refuseErrors(const Table& table) {
     for (const Fault& fault : checkTable(translations_.language, table, catalogue_, base_)) {
       if (fault.severity > Severity::warning) continue;
-      const TableEntry* const entry = entryAt(table, fault.line);
-      const auto taken = entry ? taken_.find(entry->key) : taken_.end();
+      const TableEntry* const entry = entryAt(table, fault);
+      if (!entry) continue;
+      const auto taken = taken_.find(entry->key);
       if (taken == taken_.end()) continue;
       report(fault.severity, *taken->second.unit,
              fmt::format("\"{}\": {}", escaped(entry->key), fault.message), fault.rule);
@@ -138,10 +141,17 @@ class Importer {
     throw CommandFailed{std::move(result_.faults)};
   }
 
-  static const TableEntry* entryAt(const Table& table, std::size_t line) {
-    const auto entry = std::partition_point(table.entries.begin(), table.entries.end(),
-                                            [&](const TableEntry& one) { return one.lastLine < line; });
-    return entry == table.entries.end() ? nullptr : &*entry;
+  /// The entry in which `fault` lies, or before which, in its comments.
+  static const TableEntry* entryAt(const Table& table, const Fault& fault) {
+    const std::vector<TableEntry>& entries = table.entries;
+    const auto ending = std::partition_point(
+        entries.begin(), entries.end(), [&](const TableEntry& one) { return one.lastLine < fault.line; });
+    // Several may stand on one line.
+    const auto behind = std::partition_point(ending, entries.end(), [&](const TableEntry& one) {
+      return std::tie(one.keyAt.line, one.keyAt.column) <= std::tie(fault.line, fault.column);
+    });
+    if (ending == entries.end()) return nullptr;
+    return behind == ending ? &*ending : &*std::prev(behind);
   }
 
   const std::string& root_;

@@ -206,7 +206,8 @@ void writePseudoLanguages(const std::string& root, const std::string& directory)
   std::error_code failure;
   fs::create_directories(directory, failure);
   if (!failure) {
-    fs::copy(resources, directory, fs::copy_options::recursive | fs::copy_options::update_existing, failure);
+    fs::copy(resources, directory, fs::copy_options::recursive | fs::copy_options::overwrite_existing,
+             failure);
   }
   if (failure)
     fail(directory, "the resources cannot be written; see that the folder may be written and has room");

@@ -1,8 +1,10 @@
 #include <ZKStrings/platform/system/File.h>
 #include <ZKStrings/tools/support/Fault.h>
 #include <ZKStrings/tools/support/Files.h>
+#include <ZKStrings/tools/support/Undisturbed.h>
 
 #include <algorithm>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <functional>
@@ -12,6 +14,7 @@
 #include <system_error>
 #include <utility>
 
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace zk::tools {
@@ -35,6 +38,22 @@ bool write(const fs::path& path, std::string_view bytes) {
   file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
   file.close();
   return file.good();
+}
+
+/// Makes an empty file whose name begins with `target` and is no other's; empty when that fails.
+fs::path madeBeside(const fs::path& target) {
+  std::string path = target.string() + ".XXXXXX";
+  const int file = mkstemp(path.data());
+  if (file < 0) return {};
+  close(file);
+  return path;
+}
+
+/// What users want a new file to have.
+fs::perms usualPermissions() {
+  const mode_t mask = umask(0);
+  umask(mask);
+  return static_cast<fs::perms>(0666 & ~mask);
 }
 
 /// The folders that files need. Those that were made are gone with this object unless something is in them.
@@ -67,14 +86,14 @@ class StagedFile {
     std::error_code failure;
     target_ = fs::weakly_canonical(fs::path(root) / change.path, failure);
     if (failure) target_ = fs::path(root) / change.path;
-    beside_ = target_.string() + ".new";
     folders.make(target_.parent_path());
     const fs::file_status before = fs::status(target_, failure);
     const bool exists = fs::exists(before);
     if (exists && (!fs::is_regular_file(before) || access(target_.c_str(), W_OK) != 0)) failToWrite(path_);
     old_ = exists ? contentsOfFile(target_.string()) : std::nullopt;
+    beside_ = madeBeside(target_);
     if (!write(beside_, change.bytes)) discard();
-    if (exists) fs::permissions(beside_, before.permissions(), failure);
+    fs::permissions(beside_, exists ? before.permissions() : usualPermissions(), failure);
   }
   ~StagedFile() {
     std::error_code failure;
@@ -143,6 +162,7 @@ std::string readFile(const std::string& root, const std::string& path) {
 }
 
 void writeFiles(const std::string& root, const std::vector<FileChange>& changes) {
+  const SignalsHeldBack undisturbed;
   Folders folders;
   std::list<StagedFile> files;
   for (const FileChange& change : changes) files.emplace_back(root, change, folders);

@@ -22,8 +22,9 @@ struct FileChange {
   std::string bytes;
 };
 
-/// Replaces all of the files, or none: what is new is written beside them first and then put in their places. Files
-/// keep their permissions, links keep pointing to them. Throws `CommandFailed`, naming the file, when it fails.
+/// Replaces all of the files, or none, also when the user interrupts: what is new is written beside them first
+/// and then put in their places. Files keep their permissions, links keep pointing to them. Throws
+/// `CommandFailed`, naming the file, when it fails.
 void writeFiles(const std::string& root, const std::vector<FileChange>& changes);
 
 /// The same for one file.

@@ -4,7 +4,9 @@
 #   reference.sh COMMAND MANUAL SOURCE_DIRECTORY
 set -euo pipefail
 command=$1 manual=$2 source=$3
-for program in man groff zsh; do command -v "$program" >/dev/null || { echo "no $program"; exit 77; }; done
+for program in man groff zsh; do
+  command -v "$program" >/dev/null || { printf '%s: Skipped\nno %s\n' "$0" "$program"; exit 77; }
+done
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 fail() { echo "$*" >&2; exit 1; }
