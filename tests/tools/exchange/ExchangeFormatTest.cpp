@@ -72,6 +72,11 @@ TEST(ExchangeFormat, ReadsWhatItWrites) {
     sent.units.push_back({key + "c", text, "", TranslationState::missing, {}});
   }
   for (const auto& [format, name] : kForms) expectSame(sent, readBack(written(sent, format), name), name);
+  // What is between quotes in CSV has the line ends of the program that wrote it.
+  sent.units = {{"k", "a\rb", "b\r\na", TranslationState::translated, {}}};
+  for (const auto& [format, name] : kForms) {
+    if (format != ExchangeFormat::csv) expectSame(sent, readBack(written(sent, format), name), name);
+  }
 }
 
 TEST(ExchangeFormat, KeepsAllShippedTexts) {
