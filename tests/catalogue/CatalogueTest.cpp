@@ -4,9 +4,7 @@
 #include <ZKStrings/tools/project/Catalogue.h>
 #include <ZKStrings/tools/support/Files.h>
 
-#include <map>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -15,22 +13,6 @@ namespace zk::tools {
 namespace {
 
 constexpr const char* kRoot = ZK_PROJECT_ROOT;
-
-/// Against the texts that apps were built with.
-TEST(Catalogue, NeitherLosesNorChangesWhatWasReleased) {
-  constexpr const char* kReleased = "tests/catalogue/released.json";
-  const Catalogue released = Catalogue::parse(readFile(kRoot, kReleased), kReleased);
-  EXPECT_EQ(released.entries().size(), 860u);
-  std::map<std::pair<std::string_view, bool>, const Entry*> present;
-  const Catalogue catalogue = Catalogue::read(kRoot);
-  for (const Entry& entry : catalogue.entries()) present[{entry.key, entry.plural}] = &entry;
-  for (const Entry& entry : released.entries()) {
-    const Entry* const now = present[{entry.key, entry.plural}];
-    ASSERT_TRUE(now) << entry.key << " was released and is gone";
-    EXPECT_EQ(now->text, entry.text) << entry.key << " was released with another text";
-    EXPECT_EQ(now->kept, entry.kept) << entry.key;
-  }
-}
 
 TEST(Catalogue, ItsFilesAreUpToDate) {
   const Catalogue catalogue = Catalogue::read(kRoot);
