@@ -1,10 +1,7 @@
 #include <ZKStrings/tests/fuzz/Fuzzing.h>
 #include <ZKStrings/tests/tools/TemporaryProject.h>
-#include <ZKStrings/tools/adoption/Adoption.h>
-#include <ZKStrings/tools/authoring/Initialisation.h>
 #include <ZKStrings/tools/exchange/ExchangeFormat.h>
 #include <ZKStrings/tools/exchange/Import.h>
-#include <ZKStrings/tools/project/Catalogue.h>
 #include <ZKStrings/tools/project/Table.h>
 
 #include <algorithm>
@@ -14,8 +11,8 @@
 #include <utility>
 #include <vector>
 
-/// What `zkstrings import` does with files of translators' programs and of other apps. The first part of the input
-/// is the ending that tells the format.
+/// What `zkstrings import` does with files of translation programs. The first part of the input is the file name's
+/// extension, which names the format.
 
 namespace zk::fuzzing {
 
@@ -106,22 +103,6 @@ void tryTranslations(const std::string& ending, std::string_view bytes) {
   importInto(project, translations, bytes.size());
 }
 
-void tryForeignTables(std::string_view input) {
-  const TemporaryDirectory directory;
-  const std::string root = directory.path() + "/texts";
-  initCatalogue(root, {"Texts", ""});
-  const std::vector<std::string> files = partsOf(input, 4);
-  const std::string english = directory.write("en.lproj/Localizable.strings", files[0]);
-  directory.write("en.lproj/Localizable.stringsdict", files[1]);
-  directory.write("de.lproj/Localizable.strings", files[2]);
-  directory.write("de.lproj/Localizable.stringsdict", files[3]);
-  Adoption done;
-  if (!succeeds(input.size(), [&] { done = adopt(root, english); })) return;
-  for (const std::string& language : done.languages)
-    require(Table::read(root, language).faults.empty(), "the table of " + language + " is broken");
-  require(Catalogue::read(root).entries().size() >= done.entries, "entries are lost");
-}
-
 }  // namespace
 
 void test(std::string_view input) {
@@ -129,7 +110,6 @@ void test(std::string_view input) {
   for (const char* ending : {"xlf", "po", "csv", "tsv"}) {
     if (parts[0] == ending) tryTranslations(ending, parts[1]);
   }
-  if (parts[0] == "strings") tryForeignTables(parts[1]);
 }
 
 }  // namespace zk::fuzzing

@@ -1,5 +1,4 @@
 #include <ZKStrings/tools/command/ExchangeCommandLine.h>
-#include <ZKStrings/tools/command/OwnCatalogueCommandLine.h>
 #include <ZKStrings/tools/exchange/ExchangeFormat.h>
 #include <ZKStrings/tools/exchange/Export.h>
 #include <ZKStrings/tools/exchange/Import.h>
@@ -112,19 +111,14 @@ void addImportCommand(CLI::App& app, const RootFinder& inRoot, int& status) {
     bool force = false;
   };
   const auto arguments = std::make_shared<Arguments>();
-  auto* const command =
-      app.add_subcommand("import", "Bring a translated XLIFF, PO or CSV file, or another app's tables, in");
-  command
-      ->add_option("file", arguments->file,
-                   "The file, as a translators' program saved it; or the English .strings of another app")
-      ->required();
+  auto* const command = app.add_subcommand("import", "Import a translated XLIFF, PO or CSV file");
+  command->add_option("file", arguments->file, "The file, as the translation program saved it")->required();
   command->add_option("--language", arguments->language, "The language, if the file does not tell it")
       ->type_name("LANGUAGE");
   command->add_flag("--force", arguments->force,
                     "Take translations of an English text that has changed, and mark them for review");
   command->footer("Example: zkstrings import de.xlf");
   command->callback([arguments, inRoot, &status] {
-    if (isForeignTable(arguments->file)) return runAdoption(inRoot(), arguments->file);
     const Import done = runImport(inRoot(), arguments->file, arguments->language, arguments->force);
     for (const Fault& fault : done.faults) fmt::print("{}\n", formatted(fault, isatty(STDOUT_FILENO) == 1));
     fmt::print("{}: {}\n", tablePath(done.language), summaryOf(done));

@@ -58,13 +58,17 @@ Translations readTranslations(const std::string& path) {
     throw CommandFailed{{{Severity::error, path, 1, 1, "",
                           "the file is larger than 32 MiB, which no export is; import another"}}};
   }
+  if (path.ends_with(".strings")) {
+    throw CommandFailed{{{Severity::error, path, 1, 1, "",
+                          "string tables are not imported; edit resources/xx.lproj/Localizable.strings in place"}}};
+  }
   std::string bytes = readFile("", path);
   const ExchangeFormat format = formatNamedBy(path);
   if (beginsAsXML(bytes)) return fromXLIFF(std::move(bytes), path);
   if (format == ExchangeFormat::xliff12) {
     throw CommandFailed{{{Severity::error, path, 1, 1, "",
-                          "the file is no XLIFF, and its name ends in none of .po, .csv, .tsv, .strings and "
-                          ".stringsdict; export it as one of these"}}};
+                          "the file is not XLIFF, and its name does not end in .po, .csv or .tsv; export it in one "
+                          "of these formats"}}};
   }
   return format == ExchangeFormat::po ? fromPO(std::move(bytes), path) : fromCSV(std::move(bytes), path);
 }
