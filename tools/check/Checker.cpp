@@ -11,12 +11,16 @@
 
 #include <algorithm>
 #include <array>
+#include <filesystem>
 #include <optional>
 #include <span>
+#include <system_error>
 #include <tuple>
 #include <utility>
 
 namespace zk::tools {
+
+namespace fs = std::filesystem;
 
 namespace {
 
@@ -32,8 +36,9 @@ class Checker {
     const std::optional<Catalogue> catalogue = readCatalogue();
     readGlossary();
     const Table base = Table::read(root_, kBase);
-    for (const std::string& language : options_.languages.empty() ? languagesIn(root_) : options_.languages) {
-      checkTable(language, Table::read(root_, language), catalogue, base);
+    for (const std::string& language : languagesToCheck(base)) {
+      const Table table = language == kBase ? base : Table::read(root_, language);
+      checkTable(language, table, isListable(table), catalogue, base);
     }
     if (options_.languages.empty()) checkCountries();
     const auto order = [](const Fault& fault) {
@@ -46,7 +51,7 @@ class Checker {
 
   Faults faultsIn(const std::string& language, const Table& table, const Catalogue& catalogue,
                   const Table& base) {
-    checkTable(language, table, catalogue, base);
+    checkTable(language, table, true, catalogue, base);
     return std::move(result_.faults);
   }
 
@@ -68,6 +73,22 @@ class Checker {
     }
   }
 
+  /// Without the English table, every app stops at its first text, whatever the language.
+  [[nodiscard]] std::vector<std::string> languagesToCheck(const Table& base) const {
+    std::vector<std::string> languages = options_.languages.empty() ? languagesIn(root_) : options_.languages;
+    const bool hasBase = std::find(languages.begin(), languages.end(), kBase) != languages.end();
+    const bool isMissing = !base.faults.empty() && base.faults.front().rule == Table::kMissing;
+    if (isMissing && !hasBase) languages.emplace_back(kBase);
+    return languages;
+  }
+
+  /// Whether the module can list the directory of `table`; it skips a language whose directory it cannot list.
+  [[nodiscard]] bool isListable(const Table& table) const {
+    std::error_code failure;
+    const fs::directory_iterator listing((fs::path(root_) / table.file).parent_path(), failure);
+    return !failure;
+  }
+
   void checkCountries() {
     if (!CountryFile::isExpected(root_)) return;
     const CountryFile file = CountryFile::read(root_);
@@ -75,10 +96,10 @@ class Checker {
     apply(countryRules(), file, CountryFile::kFile);
   }
 
-  void checkTable(const std::string& language, const Table& table, const std::optional<Catalogue>& catalogue,
-                  const Table& base) {
+  void checkTable(const std::string& language, const Table& table, bool isListable,
+                  const std::optional<Catalogue>& catalogue, const Table& base) {
     ++result_.tables;
-    apply(tableRules(), LanguageTable{language, table}, table.file);
+    apply(tableRules(), LanguageTable{language, table, isListable}, table.file);
     if (!catalogue) return;
     // The English table is no measure of itself.
     const EnglishTexts english(*catalogue, language == kBase ? Table{} : base);

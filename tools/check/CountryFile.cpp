@@ -82,6 +82,8 @@ CountryFile CountryFile::parse(const std::string& bytes) {
   auto* const list = content->as<Value::List>();
   if (!list)
     return {{}, Finding{{1, 1}, "the file is no array, and the module offers no country; write [ ... ]"}};
+  if (list->empty())
+    return {{}, Finding{{1, 1}, "the list is empty, and the module offers no country; add the countries"}};
   CountryFile file;
   const std::vector<std::size_t> offsets = elementOffsets(*text);
   PositionTeller positions(*text);

@@ -25,6 +25,22 @@ void findDirectory(const LanguageTable& subject, Findings& findings) {
   if (!reason.empty()) findings.add(kFileBegin, std::move(reason));
 }
 
+void findMissingTable(const LanguageTable& subject, Findings& findings) {
+  const Table& table = subject.table;
+  const bool isMissing = !table.faults.empty() && table.faults.front().rule == Table::kMissing;
+  const bool isEmpty = table.faults.empty() && table.entries.empty();
+  if (subject.language == kBase && (isMissing || isEmpty)) {
+    findings.add(kFileBegin,
+                 "the English table is missing, empty or not readable, and without it an app stops at its "
+                 "first text; restore it");
+  } else if (isMissing) {
+    findings.add(kFileBegin, table.faults.front().message);
+  } else if (!subject.isDirectoryListable) {
+    findings.add(kFileBegin,
+                 "the module skips this language: its directory cannot be listed; allow reading it");
+  }
+}
+
 /// What reading the file has found already.
 template <const char* rule>
 void findWhileReading(const LanguageTable& subject, Findings& findings) {
@@ -107,7 +123,7 @@ constexpr RuleFor<LanguageTable> kRules[] = {
     {{"language-directory", Severity::error, "a directory that the module never chooses, by its name"},
      findDirectory},
     {{Table::kMissing, Severity::error, "a language's directory without a table that can be read"},
-     findWhileReading<Table::kMissing>},
+     findMissingTable},
     {{Table::kEncoding, Severity::error, "bytes that are no text in the file's encoding"},
      findWhileReading<Table::kEncoding>},
     {{Table::kSyntax, Severity::error, "a table that is not well formed: the module reads nothing of it"},

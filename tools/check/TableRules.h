@@ -13,6 +13,7 @@ namespace zk::tools {
 struct LanguageTable {
   std::string_view language;
   const Table& table;
+  bool isDirectoryListable;  ///< the module skips a directory that it cannot list
 };
 
 /// The rules for a table by itself: its directory, its file, each entry without regard to its meaning.
