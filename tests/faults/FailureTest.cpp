@@ -44,9 +44,9 @@ Outcome outcomeHere(const Operation& operation, const Failure& failure, int befo
   if (result != operation.right && !isQuiet && !hasThrown) return wrong;
   operation.prepare();
   const std::string later = operation.act();
-  if (isRefused && later == operation.refused) return failed;
-  if (later != operation.right) return lasted;
-  return !isAllRight() ? lasted : hasFailed ? failed : notFailed;
+  if (isRefused && later == operation.refused) return handled;
+  if (later != operation.right) return lasting;
+  return !isAllRight() ? lasting : hasFailed ? handled : nothingFailed;
 }
 
 class Failures : public ::testing::TestWithParam<Failure> {};
@@ -70,19 +70,19 @@ TEST_P(Failures, OfAnyCallPass) {
       operation.prepare();
       static_cast<void>(operation.act());
       while (const Outcome outcome = attempt()) {
-        if (outcome != failed) return outcome;
+        if (outcome != handled) return outcome;
       }
-      return notFailed;
+      return nothingFailed;
     };
-    Outcome outcome = failed;
+    Outcome outcome = handled;
     progress.before = 0;
-    while (outcome == failed) {
+    while (outcome == handled) {
       outcome = operation.use == Use::later ? outcomeElsewhere(attemptAll, mayTrap)
                                             : outcomeElsewhere(attempt, mayTrap);
     }
     const int last = progress.before - 1;
-    EXPECT_EQ(outcome, notFailed) << operation.name << ", " << std::strerror(failure.number) << " at "
-                                  << last;
+    EXPECT_EQ(outcome, nothingFailed)
+        << operation.name << ", " << std::strerror(failure.number) << " at " << last;
     progress.failures += last;
   }
   EXPECT_GE(progress.failures, failure.kind == Kind::shortRead ? 10 : 100);

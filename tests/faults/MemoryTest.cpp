@@ -63,10 +63,10 @@ TEST(Memory, ThatIsExhaustedHarmsNothing) {
           hasThrown = true;
         }
         operation.prepare();
-        return operation.act() != operation.right ? lasted : hasThrown ? failed : notFailed;
+        return operation.act() != operation.right ? lasting : hasThrown ? handled : nothingFailed;
       });
-      EXPECT_LE(outcome, failed) << operation.name << " with " << size << " bytes: " << outcome;
-      if (outcome == failed) ++failures;
+      EXPECT_LE(outcome, handled) << operation.name << " with " << size << " bytes: " << outcome;
+      if (outcome == handled) ++failures;
     }
   }
   EXPECT_GT(failures, 30);
@@ -79,8 +79,8 @@ TEST(Memory, ThatIsRefusedToICUAtItsFirstUseIsMissedByTextsThatNeedIt) {
   const testing::TemporaryDirectory directory;
   for (const Operation& operation : operationsIn(directory.path())) {
     if (operation.use != Use::firstOfICU) continue;
-    Outcome outcome = failed;
-    for (int before = 0; outcome == failed; ++before) {
+    Outcome outcome = handled;
+    for (int before = 0; outcome == handled; ++before) {
       outcome = outcomeElsewhere([&]() noexcept {
         operation.prepare();
         leaveNoRoom();
@@ -95,10 +95,10 @@ TEST(Memory, ThatIsRefusedToICUAtItsFirstUseIsMissedByTextsThatNeedIt) {
         const std::string during = textOrNothing();
         if (during != operation.right && during != operation.quiet) return wrong;
         const bool hasFailed = end();
-        if (textOrNothing() != operation.right) return lasted;
-        return !isAllRight() ? lasted : hasFailed ? failed : notFailed;
+        if (textOrNothing() != operation.right) return lasting;
+        return !isAllRight() ? lasting : hasFailed ? handled : nothingFailed;
       });
-      EXPECT_LE(outcome, failed) << operation.name << " at " << before << ": " << outcome;
+      EXPECT_LE(outcome, handled) << operation.name << " at " << before << ": " << outcome;
     }
   }
 }

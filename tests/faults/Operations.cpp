@@ -56,85 +56,148 @@ std::string firstLanguageAfter(Change change) {
   return Current::language.get().preferredLanguages[0];
 }
 
-constexpr void (*kNothing)() = [] {};
-
 const Operation kAll[] = {
-    {"the first text of all", Use::first, kNothing, [] { return assignGerman(), about(); }, "Über uns",
-     "English", "About"},
-    {"the first text in a known directory", Use::first, [] { assignGerman(), static_cast<void>(bundle()); },
-     about, "Über uns", "English", "About"},
-    {"the first text in another language", Use::first, [] { useGerman(), assign("fr"); }, about, "À propos",
-     "English", "About"},
-    {"a later text", Use::later, assignGerman, about, "Über uns", "", ""},
-    {"a later text by an accessor", Use::later, assignGerman,
-     [] { return ZKStrings::Are_you_sure_you_want_to_kick_username("a player with a long name"); },
-     "Möchtest du a player with a long name wirklich rauswerfen?", "", ""},
-    {"the first language", Use::first, kNothing, [] { return std::to_string(Language().countries.size()); },
-     "246", "0", "0"},
-    {"a later language", Use::later, assignGerman, [] { return std::to_string(Language().countries.size()); },
-     "246", "0", "0"},
-    {"the app's directory", Use::first, kNothing,
-     [] { return mainBundle().path().empty() ? "nowhere" : std::string("somewhere"); }, "somewhere",
-     "nowhere", "nowhere"},
-    {"a bundle", Use::first, assignGerman, textInBundle, "text", "value", "base"},
-    {"a language that has gone", Use::first,
-     [] {
-       assignGerman();
-       const std::string german = ownDirectory + "/gone/de.lproj";
-       fs::create_directory(german);
-       static_cast<void>(Bundle::initWithPath(ownDirectory + "/gone"));
-       fs::remove(german);
-     },
-     [] { return textIn(ownDirectory + "/gone"); }, "base", "value", ""},
-    {"an assignment", Use::later, assignGerman,
-     [] {
-       return firstLanguageAfter([](const SharedArray<std::string>& list) {
-         Language language;
-         language.preferredLanguages = list;
-         Current::language = language;
-       });
-     },
-     "fr-FR", "", ""},
-    {"a change in place", Use::later, assignGerman,
-     [] {
-       return firstLanguageAfter(
-           [](const SharedArray<std::string>& list) { Current::language->preferredLanguages = list; });
-     },
-     "fr-FR", "", ""},
-    {"a change by a function", Use::later, assignGerman,
-     [] {
-       return firstLanguageAfter([](const SharedArray<std::string>& list) {
-         Current::language.change([&](Language& language) { language.preferredLanguages = list; });
-       });
-     },
-     "fr-FR", "", ""},
-    {"an identifier of joined emoji", Use::firstOfICU,
-     [] { useGerman(), assign("👨‍👩‍👧🇩🇪x"); }, about, "About", "English", ""},
-    {"an identifier with an accent", Use::firstOfICU, [] { useGerman(), assign("de\u0301x"); }, about,
-     "About", "English", ""},
-    {"names with accents", Use::firstOfICU, useGerman,
-     [] {
-       return localizedString("none", "%{cafe\u0301\u0316} und %{é}", std::nullopt,
-                              {{"caf\u00E9\u0316", "kim"}, {"e\u0301", "a text that is not so short"}});
-     },
-     "kim und a text that is not so short", "", ""},
-    {"what follows a placeholder", Use::firstOfICU, useGerman,
-     [] {
-       return localizedString("none", "%{a}\u0301 %{a}é", std::nullopt,
-                              {{"a", "a longer text than all those"}});
-     },
-     "%{a}\u0301 a longer text than all thoseé", "", ""},
-    {"upper case", Use::first, kNothing,
-     [] {
-       return Country::fromDictionary({{"name", "A"}, {"phoneCode", 1}, {"iso", "äß"}})->emoji();
-     },
-     "\U0001F269\U0001F1F8\U0001F1F8", "", ""},
-    {"JSON", Use::first, kNothing,
-     [] {
-       const auto value = parseJson(R"([1e999, "a text that is not short", {"a": [1.5]}])");
-       return std::to_string(value ? value->as<Value::List>()->size() : 0);
-     },
-     "3", "", ""},
+    {.name = "the first text of all",
+     .use = Use::first,
+     .act = [] { return assignGerman(), about(); },
+     .right = "Über uns",
+     .quiet = "English",
+     .refused = "About"},
+    {.name = "the first text in a known directory",
+     .use = Use::first,
+     .prepare = [] { assignGerman(), static_cast<void>(bundle()); },
+     .act = about,
+     .right = "Über uns",
+     .quiet = "English",
+     .refused = "About"},
+    {.name = "the first text in another language",
+     .use = Use::first,
+     .prepare = [] { useGerman(), assign("fr"); },
+     .act = about,
+     .right = "À propos",
+     .quiet = "English",
+     .refused = "About"},
+    {.name = "a later text", .use = Use::later, .prepare = assignGerman, .act = about, .right = "Über uns"},
+    {.name = "a later text by an accessor",
+     .use = Use::later,
+     .prepare = assignGerman,
+     .act = [] { return ZKStrings::Are_you_sure_you_want_to_kick_username("a player with a long name"); },
+     .right = "Möchtest du a player with a long name wirklich rauswerfen?"},
+    {.name = "the first language",
+     .use = Use::first,
+     .act = [] { return std::to_string(Language().countries.size()); },
+     .right = "246",
+     .quiet = "0",
+     .refused = "0"},
+    {.name = "a later language",
+     .use = Use::later,
+     .prepare = assignGerman,
+     .act = [] { return std::to_string(Language().countries.size()); },
+     .right = "246",
+     .quiet = "0",
+     .refused = "0"},
+    {.name = "the app's directory",
+     .use = Use::first,
+     .act = [] { return mainBundle().path().empty() ? "nowhere" : std::string("somewhere"); },
+     .right = "somewhere",
+     .quiet = "nowhere",
+     .refused = "nowhere"},
+    {.name = "a bundle",
+     .use = Use::first,
+     .prepare = assignGerman,
+     .act = textInBundle,
+     .right = "text",
+     .quiet = "value",
+     .refused = "base"},
+    {.name = "a language that has gone",
+     .use = Use::first,
+     .prepare =
+         [] {
+           assignGerman();
+           const std::string german = ownDirectory + "/gone/de.lproj";
+           fs::create_directory(german);
+           static_cast<void>(Bundle::initWithPath(ownDirectory + "/gone"));
+           fs::remove(german);
+         },
+     .act = [] { return textIn(ownDirectory + "/gone"); },
+     .right = "base",
+     .quiet = "value"},
+    {.name = "an assignment",
+     .use = Use::later,
+     .prepare = assignGerman,
+     .act =
+         [] {
+           return firstLanguageAfter([](const SharedArray<std::string>& list) {
+             Language language;
+             language.preferredLanguages = list;
+             Current::language = language;
+           });
+         },
+     .right = "fr-FR"},
+    {.name = "a change in place",
+     .use = Use::later,
+     .prepare = assignGerman,
+     .act =
+         [] {
+           return firstLanguageAfter(
+               [](const SharedArray<std::string>& list) { Current::language->preferredLanguages = list; });
+         },
+     .right = "fr-FR"},
+    {.name = "a change by a function",
+     .use = Use::later,
+     .prepare = assignGerman,
+     .act =
+         [] {
+           return firstLanguageAfter([](const SharedArray<std::string>& list) {
+             Current::language.change([&](Language& language) { language.preferredLanguages = list; });
+           });
+         },
+     .right = "fr-FR"},
+    {.name = "an identifier of joined emoji",
+     .use = Use::firstOfICU,
+     .prepare = [] { useGerman(), assign("👨‍👩‍👧🇩🇪x"); },
+     .act = about,
+     .right = "About",
+     .quiet = "English"},
+    {.name = "an identifier with an accent",
+     .use = Use::firstOfICU,
+     .prepare = [] { useGerman(), assign("de\u0301x"); },
+     .act = about,
+     .right = "About",
+     .quiet = "English"},
+    {.name = "names with accents",
+     .use = Use::firstOfICU,
+     .prepare = useGerman,
+     .act =
+         [] {
+           return localizedString("none", "%{cafe\u0301\u0316} und %{é}", std::nullopt,
+                                  {{"caf\u00E9\u0316", "kim"}, {"e\u0301", "a text that is not so short"}});
+         },
+     .right = "kim und a text that is not so short"},
+    {.name = "what follows a placeholder",
+     .use = Use::firstOfICU,
+     .prepare = useGerman,
+     .act =
+         [] {
+           return localizedString("none", "%{a}\u0301 %{a}é", std::nullopt,
+                                  {{"a", "a longer text than all those"}});
+         },
+     .right = "%{a}\u0301 a longer text than all thoseé"},
+    {.name = "upper case",
+     .use = Use::first,
+     .act =
+         [] {
+           return Country::fromDictionary({{"name", "A"}, {"phoneCode", 1}, {"iso", "äß"}})->emoji();
+         },
+     .right = "\U0001F269\U0001F1F8\U0001F1F8"},
+    {.name = "JSON",
+     .use = Use::first,
+     .act =
+         [] {
+           const auto value = parseJson(R"([1e999, "a text that is not short", {"a": [1.5]}])");
+           return std::to_string(value ? value->as<Value::List>()->size() : 0);
+         },
+     .right = "3"},
 };
 
 void writeTable(const std::string& directory, const char* table) {

@@ -5,10 +5,10 @@
 
 namespace zk::faults {
 
-/// Whether something is done once in the life of a process, so that each try needs a process of its own.
+/// When an operation can be tried again in the same process.
 enum class Use {
-  first,
-  firstOfICU,  ///< also by ICU, which sets its tables up
+  first,       ///< only once in a process, so each try needs a new one
+  firstOfICU,  ///< like `first`, because ICU sets up its tables then
   later,
 };
 
@@ -16,11 +16,11 @@ enum class Use {
 struct Operation {
   const char* name;
   Use use;
-  void (*prepare)();  ///< before the failure
+  void (*prepare)() = [] {};  ///< runs before the injected failure
   std::string (*act)();
   const char* right;
-  const char* quiet;    ///< what the failure of a call of the system may make of it
-  const char* refused;  ///< and what a refusal may, also later: unlike the others it is an answer
+  const char* quiet = "";    ///< the other permitted result if a system call fails
+  const char* refused = "";  ///< the other permitted result after EACCES, then and later
 };
 
 /// All of them, with `directory` for bundles of their own; it is to be empty.

@@ -11,9 +11,14 @@
 
 namespace zk::faults {
 
-/// What came of one try: nothing failed; something did, with an outcome that is allowed; a text was wrong; it was wrong
-/// also when nothing failed any more; the process came to an end.
-enum Outcome { notFailed, failed, wrong, lasted, stopped };
+/// The result of one try, from best to worst.
+enum Outcome {
+  nothingFailed,
+  handled,  ///< a failure was injected, and the result is a documented one
+  wrong,    ///< the result is not a documented one
+  lasting,  ///< the result is still wrong without an injected failure
+  crashed,
+};
 
 /// The outcome of `act` in a process of its own, which must end within a minute. `mayTrap` tells whether the module may
 /// stop it.
@@ -29,7 +34,7 @@ Outcome outcomeElsewhere(Act act, bool mayTrap = false) {
   waitpid(child, &status, 0);
   if (WIFEXITED(status)) return static_cast<Outcome>(WEXITSTATUS(status));
   const bool isTrapped = WTERMSIG(status) == SIGILL || WTERMSIG(status) == SIGTRAP;
-  return mayTrap && isTrapped ? failed : stopped;
+  return mayTrap && isTrapped ? handled : crashed;
 }
 
 /// Whether allocations can be made to fail here; sanitizers have an allocator of their own.

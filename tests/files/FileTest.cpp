@@ -57,67 +57,81 @@ void makeEnormous(const std::string& path) {
 
 constexpr const char* kStops = "the process stops";
 
-/// What becomes of a resource, and what the module makes of it.
+/// A way in which a resource can be damaged, and the documented result for each resource damaged so.
 struct Shape {
   const char* name;
-  void (*give)(const std::string& path);
-  const char* table;     // the text when the table of the first language has the shape
-  const char* language;  // when its directory has
-  const char* base;      // the text in another language when Base.lproj has
-  std::size_t countries;
+  void (*change)(const std::string& path);
+  const char* table = "value";        // the text if the table of the first language is damaged
+  const char* language = "français";  // the text if the directory of the first language is damaged
+  const char* base = kStops;          // the text in an unknown language if Base.lproj is damaged
+  std::size_t countries = 0;
 };
 
 const Shape kShapes[] = {
-    {"what it should be", [](const std::string&) {}, "deutsch", "deutsch", "base", 2},
-    {"a link to what it should be",
-     [](const std::string& path) {
-       fs::rename(path, path + ".real");
-       makeLink(path, path + ".real");
-     },
-     "deutsch", "deutsch", "base", 2},
-    {"enormous", makeEnormous, "deutsch", "deutsch", "base", 2},
-    {"missing", [](const std::string& path) { fs::remove_all(path); }, "value", "français", kStops, 0},
-    {"an empty file", [](const std::string& path) { makeFile(path, ""); }, "value", "français", kStops, 0},
-    {"one byte", [](const std::string& path) { makeFile(path, "\""); }, "value", "français", kStops, 0},
-    {"64 MB of zeros",
-     [](const std::string& path) {
-       makeFile(path, "");
-       fs::resize_file(path, kMany);
-     },
-     "value", "français", kStops, 0},
-    {"a file cut short",
-     [](const std::string& path) {
-       const std::string whole = fs::is_directory(path) ? "" : contents(path);
-       makeFile(path, whole.substr(0, whole.size() / 2));
-     },
-     "value", "français", kStops, 0},
-    {"an empty directory",
-     [](const std::string& path) {
-       fs::remove_all(path);
-       fs::create_directory(path);
-     },
-     "value", "value", "value", 0},
-    {"a FIFO", [](const std::string& path) { makeNode(path, S_IFIFO); }, "value", "français", kStops, 0},
-    {"a socket", [](const std::string& path) { makeNode(path, S_IFSOCK); }, "value", "français", kStops, 0},
-    {"a dangling link", [](const std::string& path) { makeLink(path, "nothing"); }, "value", "français",
-     kStops, 0},
-    {"a link to itself", [](const std::string& path) { makeLink(path, path); }, "value", "français", kStops,
-     0},
-    {"unreadable", [](const std::string& path) { chmod(path.c_str(), 0); }, "value", "français", kStops, 0},
+    {.name = "what it should be",
+     .change = [](const std::string&) {},
+     .table = "deutsch",
+     .language = "deutsch",
+     .base = "base",
+     .countries = 2},
+    {.name = "a link to what it should be",
+     .change =
+         [](const std::string& path) {
+           fs::rename(path, path + ".real");
+           makeLink(path, path + ".real");
+         },
+     .table = "deutsch",
+     .language = "deutsch",
+     .base = "base",
+     .countries = 2},
+    {.name = "enormous",
+     .change = makeEnormous,
+     .table = "deutsch",
+     .language = "deutsch",
+     .base = "base",
+     .countries = 2},
+    {.name = "missing", .change = [](const std::string& path) { fs::remove_all(path); }},
+    {.name = "an empty file", .change = [](const std::string& path) { makeFile(path, ""); }},
+    {.name = "one byte", .change = [](const std::string& path) { makeFile(path, "\""); }},
+    {.name = "64 MB of zeros",
+     .change =
+         [](const std::string& path) {
+           makeFile(path, "");
+           fs::resize_file(path, kMany);
+         }},
+    {.name = "a file cut short",
+     .change =
+         [](const std::string& path) {
+           const std::string whole = fs::is_directory(path) ? "" : contents(path);
+           makeFile(path, whole.substr(0, whole.size() / 2));
+         }},
+    {.name = "an empty directory",
+     .change =
+         [](const std::string& path) {
+           fs::remove_all(path);
+           fs::create_directory(path);
+         },
+     .language = "value",
+     .base = "value"},
+    {.name = "a FIFO", .change = [](const std::string& path) { makeNode(path, S_IFIFO); }},
+    {.name = "a socket", .change = [](const std::string& path) { makeNode(path, S_IFSOCK); }},
+    {.name = "a dangling link", .change = [](const std::string& path) { makeLink(path, "nothing"); }},
+    {.name = "a link to itself", .change = [](const std::string& path) { makeLink(path, path); }},
+    {.name = "unreadable", .change = [](const std::string& path) { chmod(path.c_str(), 0); }},
 };
 
 /// A resource directory as it should be, but for what becomes of one path in it. Anybody may read it.
 class Resources {
  public:
   Resources() : Resources("", [](const std::string&) {}) {}
-  Resources(const std::string& name, void (*give)(const std::string&)) : shaped_(path() + "/" + name) {
+  Resources(const std::string& name, void (*change)(const std::string&)) : shaped_(path() + "/" + name) {
     directory_.write("Base.lproj/Localizable.strings", "\"a\" = \"base\";");
     directory_.write("de.lproj/Localizable.strings", "/* a */ \"a\" = \"deutsch\"; \"b\" = \"b\";");
     directory_.write("fr.lproj/Localizable.strings", "\"a\" = \"français\";");
     directory_.write("countries.json", R"([{"name": "Austria", "phoneCode": 43, "iso": "AT"},)"
                                        R"( {"name": "Belgium", "phoneCode": 32, "iso": "BE"}])");
     chmod(path().c_str(), 0755);
-    give(shaped_);
+    change(shaped_);
   }
   Resources(const Resources&) = delete;
   Resources& operator=(const Resources&) = delete;
@@ -172,10 +186,10 @@ class FilesDeathTest : public ::testing::TestWithParam<Shape> {
 
 TEST_P(FilesDeathTest, GiveWhatTheDocumentsPromise) {
   const Shape& shape = GetParam();
-  const Resources ofTable("de.lproj/Localizable.strings", shape.give);
-  const Resources ofLanguage("de.lproj", shape.give);
-  const Resources ofBase("Base.lproj", shape.give);
-  const Resources ofCountries("countries.json", shape.give);
+  const Resources ofTable("de.lproj/Localizable.strings", shape.change);
+  const Resources ofLanguage("de.lproj", shape.change);
+  const Resources ofBase("Base.lproj", shape.change);
+  const Resources ofCountries("countries.json", shape.change);
   const OrdinaryUser user;
   std::error_code unreachable;
   if (!user || !fs::exists(ofTable.path() + "/de.lproj", unreachable))
