@@ -189,7 +189,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 1: "%{badgeCount} Badge"
   /// - 2: "%{badgeCount} Badges"
   /// - 3 to 5: "%{badgeCount} Badges"
-  /// - 6 and more: "%{badgeCount} Badges"
+  /// - 6 or more: "%{badgeCount} Badges"
   [[nodiscard]] static std::string badgeCount_Badges(Text badgeCount, std::int64_t count);
 
   /// "%{badgeCount} Badges unlocked!"
@@ -236,7 +236,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 1: "%{bonusStrikeCount} Bonus Strike"
   /// - 2: "%{bonusStrikeCount} Bonus Strikes"
   /// - 3 to 5: "%{bonusStrikeCount} Bonus Strikes"
-  /// - 6 and more: "%{bonusStrikeCount} Bonus Strikes"
+  /// - 6 or more: "%{bonusStrikeCount} Bonus Strikes"
   [[nodiscard]] static std::string bonusStrikeCount_Bonus_Strikes(Text bonusStrikeCount, std::int64_t count);
 
   /// "Boost"
@@ -367,7 +367,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 1: "Coin"
   /// - 2: "Coins"
   /// - 3 to 5: "Coins"
-  /// - 6 and more: "Coins"
+  /// - 6 or more: "Coins"
   [[nodiscard]] static std::string Coins(std::int64_t count);
 
   /// "coins"
@@ -435,7 +435,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 1: "%{contactCount} contact on ZK"
   /// - 2: "%{contactCount} contacts on ZK"
   /// - 3 to 5: "%{contactCount} contacts on ZK"
-  /// - 6 and more: "%{contactCount} contacts on ZK"
+  /// - 6 or more: "%{contactCount} contacts on ZK"
   [[nodiscard]] static std::string contactCount_contacts_on_ZK(Text contactCount, std::int64_t count);
 
   /// "Continue"
@@ -659,7 +659,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 1: "Eraser"
   /// - 2: "Erasers"
   /// - 3 to 5: "Erasers"
-  /// - 6 and more: "Erasers"
+  /// - 6 or more: "Erasers"
   [[nodiscard]] static std::string Erasers(std::int64_t count);
 
   /// "erasers"
@@ -703,7 +703,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 1: "Extra Life"
   /// - 2: "Extra Lives"
   /// - 3 to 5: "Extra Lives"
-  /// - 6 and more: "Extra Lives"
+  /// - 6 or more: "Extra Lives"
   [[nodiscard]] static std::string Extra_Lives(std::int64_t count);
 
   /// "extra lives"
@@ -774,7 +774,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 1: "Found *%{username}* nearby, looking for %{remaining} more player"
   /// - 2: "Found *%{username}* nearby, looking for %{remaining} more players"
   /// - 3 to 5: "Found *%{username}* nearby, looking for %{remaining} more players"
-  /// - 6 and more: "Found *%{username}* nearby, looking for %{remaining} more players"
+  /// - 6 or more: "Found *%{username}* nearby, looking for %{remaining} more players"
   [[nodiscard]] static std::string Found_username_nearby_looking_for_remaining_more_players(Text username, Text remaining, std::int64_t count);
 
   /// "four"
@@ -794,7 +794,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 1: "%{friendCount} friend"
   /// - 2: "%{friendCount} friends"
   /// - 3 to 5: "%{friendCount} friends"
-  /// - 6 and more: "%{friendCount} friends"
+  /// - 6 or more: "%{friendCount} friends"
   [[nodiscard]] static std::string friendCount_friends(Text friendCount, std::int64_t count);
 
   /// "%{friendCount} friends still in"
@@ -802,7 +802,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 1: "%{friendCount} friend still in"
   /// - 2: "%{friendCount} friends still in"
   /// - 3 to 5: "%{friendCount} friends still in"
-  /// - 6 and more: "%{friendCount} friends still in"
+  /// - 6 or more: "%{friendCount} friends still in"
   [[nodiscard]] static std::string friendCount_friends_still_in(Text friendCount, std::int64_t count);
 
   /// "%{friendRequestCount} friend requests"
@@ -810,7 +810,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 1: "%{friendRequestCount} friend request"
   /// - 2: "%{friendRequestCount} friend requests"
   /// - 3 to 5: "%{friendRequestCount} friend requests"
-  /// - 6 and more: "%{friendRequestCount} friend requests"
+  /// - 6 or more: "%{friendRequestCount} friend requests"
   [[nodiscard]] static std::string friendRequestCount_friend_requests(Text friendRequestCount, std::int64_t count);
 
   /// "Friends"
@@ -1172,7 +1172,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 1: "%{messageCount} new message"
   /// - 2: "%{messageCount} new messages"
   /// - 3 to 5: "%{messageCount} new messages"
-  /// - 6 and more: "%{messageCount} new messages"
+  /// - 6 or more: "%{messageCount} new messages"
   [[nodiscard]] static std::string messageCount_new_messages(Text messageCount, std::int64_t count);
 
   /// "Mini-games"
@@ -1195,7 +1195,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 1: "Multiplier"
   /// - 2: "Multipliers"
   /// - 3 to 5: "Multipliers"
-  /// - 6 and more: "Multipliers"
+  /// - 6 or more: "Multipliers"
   [[nodiscard]] static std::string Multipliers(std::int64_t count);
 
   /// "Multiply your game points"
@@ -1218,7 +1218,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 1: "%{nearbyCount} person nearby"
   /// - 2: "%{nearbyCount} people nearby"
   /// - 3 to 5: "%{nearbyCount} people nearby"
-  /// - 6 and more: "%{nearbyCount} people nearby"
+  /// - 6 or more: "%{nearbyCount} people nearby"
   [[nodiscard]] static std::string nearbyCount_people_nearby(Text nearbyCount, std::int64_t count);
 
   /// "New Feature:\nFind Friends on ZK"
@@ -1247,7 +1247,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 1: "Next prize in %{questionCount} question"
   /// - 2: "Next prize in %{questionCount} questions"
   /// - 3 to 5: "Next prize in %{questionCount} questions"
-  /// - 6 and more: "Next prize in %{questionCount} questions"
+  /// - 6 or more: "Next prize in %{questionCount} questions"
   [[nodiscard]] static std::string Next_prize_in_questionCount_questions(Text questionCount, std::int64_t count);
 
   /// "*Next prize*\nin %{questionCount} questions"
@@ -1255,7 +1255,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 1: "*Next prize*\nin %{questionCount} question"
   /// - 2: "*Next prize*\nin %{questionCount} questions"
   /// - 3 to 5: "*Next prize*\nin %{questionCount} questions"
-  /// - 6 and more: "*Next prize*\nin %{questionCount} questions"
+  /// - 6 or more: "*Next prize*\nin %{questionCount} questions"
   [[nodiscard]] static std::string Next_prize_n_in_questionCount_questions(Text questionCount, std::int64_t count);
 
   /// "Next Round in %{time}"
@@ -1398,7 +1398,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 1: "Play %{days} more day"
   /// - 2: "Play %{days} more days in a row"
   /// - 3 to 5: "Play %{days} more days in a row"
-  /// - 6 and more: "Play %{days} more days in a row"
+  /// - 6 or more: "Play %{days} more days in a row"
   [[nodiscard]] static std::string Play_days_more_days_in_a_row(Text days, std::int64_t count);
 
   /// "Play %{days} more days in a row to earn an Extra Life!"
@@ -1406,7 +1406,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 1: "Play %{days} more day to earn an Extra Life!"
   /// - 2: "Play %{days} more days in a row to earn an Extra Life!"
   /// - 3 to 5: "Play %{days} more days in a row to earn an Extra Life!"
-  /// - 6 and more: "Play %{days} more days in a row to earn an Extra Life!"
+  /// - 6 or more: "Play %{days} more days in a row to earn an Extra Life!"
   [[nodiscard]] static std::string Play_days_more_days_in_a_row_to_earn_an_Extra_Life(Text days, std::int64_t count);
 
   /// "Play for points"
@@ -1420,7 +1420,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 1: "Play %{gameCount} game"
   /// - 2: "Play %{gameCount} games"
   /// - 3 to 5: "Play %{gameCount} games"
-  /// - 6 and more: "Play %{gameCount} games"
+  /// - 6 or more: "Play %{gameCount} games"
   [[nodiscard]] static std::string Play_gameCount_games(Text gameCount, std::int64_t count);
 
   /// "Play %{gameName} with me! Use my code \"%{username}\" to sign up: https://zktrivia.example"
@@ -1458,7 +1458,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 1: "%{playersCount} player"
   /// - 2: "%{playersCount} players"
   /// - 3 to 5: "%{playersCount} players"
-  /// - 6 and more: "%{playersCount} players"
+  /// - 6 or more: "%{playersCount} players"
   [[nodiscard]] static std::string playersCount_players(Text playersCount, std::int64_t count);
 
   /// "Playing for points"
@@ -1514,7 +1514,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 1: "Point Multiplier"
   /// - 2: "Point Multipliers"
   /// - 3 to 5: "Point Multipliers"
-  /// - 6 and more: "Point Multipliers"
+  /// - 6 or more: "Point Multipliers"
   [[nodiscard]] static std::string Point_Multipliers(std::int64_t count);
 
   /// "%{pointCount} pts away from Level %{level}"
@@ -1522,7 +1522,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 1: "%{pointCount} pt away from Level %{level}"
   /// - 2: "%{pointCount} pts away from Level %{level}"
   /// - 3 to 5: "%{pointCount} pts away from Level %{level}"
-  /// - 6 and more: "%{pointCount} pts away from Level %{level}"
+  /// - 6 or more: "%{pointCount} pts away from Level %{level}"
   [[nodiscard]] static std::string pointCount_pts_away_from_Level_level(Text pointCount, Text level, std::int64_t count);
 
   /// "points"
@@ -1587,7 +1587,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 1: "%{questionsCount} question"
   /// - 2: "%{questionsCount} questions"
   /// - 3 to 5: "%{questionsCount} questions"
-  /// - 6 and more: "%{questionsCount} questions"
+  /// - 6 or more: "%{questionsCount} questions"
   [[nodiscard]] static std::string questionsCount_questions(Text questionsCount, std::int64_t count);
 
   /// "R%{roundNumber} of %{roundCount}"
@@ -1607,7 +1607,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 1: "%{recommendedCount} recommended friend"
   /// - 2: "%{recommendedCount} recommended friends"
   /// - 3 to 5: "%{recommendedCount} recommended friends"
-  /// - 6 and more: "%{recommendedCount} recommended friends"
+  /// - 6 or more: "%{recommendedCount} recommended friends"
   [[nodiscard]] static std::string recommendedCount_recommended_friends(Text recommendedCount, std::int64_t count);
 
   /// "Reconnecting…"
@@ -1636,7 +1636,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 1: "%{referralCount} referral left"
   /// - 2: "%{referralCount} referrals left"
   /// - 3 to 5: "%{referralCount} referrals left"
-  /// - 6 and more: "%{referralCount} referrals left"
+  /// - 6 or more: "%{referralCount} referrals left"
   [[nodiscard]] static std::string referralCount_referrals_left(Text referralCount, std::int64_t count);
 
   /// "Refresh contacts"
@@ -1746,7 +1746,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 1: "Searching for %{cost} nearby player to collect an *Eraser* power up"
   /// - 2: "Searching for %{cost} nearby players to collect an *Eraser* power up"
   /// - 3 to 5: "Searching for %{cost} nearby players to collect an *Eraser* power up"
-  /// - 6 and more: "Searching for %{cost} nearby players to collect an *Eraser* power up"
+  /// - 6 or more: "Searching for %{cost} nearby players to collect an *Eraser* power up"
   [[nodiscard]] static std::string Searching_for_cost_nearby_players_to_collect_an_Eraser_power_up(Text cost, std::int64_t count);
 
   /// "Season Ended!"
@@ -1808,7 +1808,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 1: "%{shareCount} share left"
   /// - 2: "%{shareCount} shares left"
   /// - 3 to 5: "%{shareCount} shares left"
-  /// - 6 and more: "%{shareCount} shares left"
+  /// - 6 or more: "%{shareCount} shares left"
   [[nodiscard]] static std::string shareCount_shares_left(Text shareCount, std::int64_t count);
 
   /// "Show details"
@@ -1906,7 +1906,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 1: "%{strikeCount} strike left"
   /// - 2: "%{strikeCount} strikes left"
   /// - 3 to 5: "%{strikeCount} strikes left"
-  /// - 6 and more: "%{strikeCount} strikes left"
+  /// - 6 or more: "%{strikeCount} strikes left"
   [[nodiscard]] static std::string strikeCount_strikes_left(Text strikeCount, std::int64_t count);
 
   /// "%{strikeCount} strikes left this round!"
@@ -1914,7 +1914,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 1: "%{strikeCount} strike left this round!"
   /// - 2: "%{strikeCount} strikes left this round!"
   /// - 3 to 5: "%{strikeCount} strikes left this round!"
-  /// - 6 and more: "%{strikeCount} strikes left this round!"
+  /// - 6 or more: "%{strikeCount} strikes left this round!"
   [[nodiscard]] static std::string strikeCount_strikes_left_this_round(Text strikeCount, std::int64_t count);
 
   /// "Submit"
@@ -1943,7 +1943,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 1: "Success! You bought %{extraLifeCount} Extra Life to help you win."
   /// - 2: "Success! You bought %{extraLifeCount} Extra Lives to help you win."
   /// - 3 to 5: "Success! You bought %{extraLifeCount} Extra Lives to help you win."
-  /// - 6 and more: "Success! You bought %{extraLifeCount} Extra Lives to help you win."
+  /// - 6 or more: "Success! You bought %{extraLifeCount} Extra Lives to help you win."
   [[nodiscard]] static std::string Success_You_bought_extraLifeCount_Extra_Lives_to_help_you_win(Text extraLifeCount, std::int64_t count);
 
   /// "Success! You have %{count} %{name}."
@@ -1957,7 +1957,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 1: "%{suggestedCount} suggested friend"
   /// - 2: "%{suggestedCount} suggested friends"
   /// - 3 to 5: "%{suggestedCount} suggested friends"
-  /// - 6 and more: "%{suggestedCount} suggested friends"
+  /// - 6 or more: "%{suggestedCount} suggested friends"
   [[nodiscard]] static std::string suggestedCount_suggested_friends(Text suggestedCount, std::int64_t count);
 
   /// "Super Spins"
@@ -1968,7 +1968,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 1: "Super Spin"
   /// - 2: "Super Spins"
   /// - 3 to 5: "Super Spins"
-  /// - 6 and more: "Super Spins"
+  /// - 6 or more: "Super Spins"
   [[nodiscard]] static std::string Super_Spins(std::int64_t count);
 
   /// "Super Wheel"
@@ -2186,7 +2186,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 1: "Unlock"
   /// - 2: "Unlocks"
   /// - 3 to 5: "Unlocks"
-  /// - 6 and more: "Unlocks"
+  /// - 6 or more: "Unlocks"
   [[nodiscard]] static std::string Unlocks(std::int64_t count);
 
   /// "%{unlocks} Unlocks left"
@@ -2248,7 +2248,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 1: "%{userCount} other"
   /// - 2: "%{userCount} others"
   /// - 3 to 5: "%{userCount} others"
-  /// - 6 and more: "%{userCount} others"
+  /// - 6 or more: "%{userCount} others"
   [[nodiscard]] static std::string userCount_others(Text userCount, std::int64_t count);
 
   /// "%{userCount} others still in"
@@ -2256,7 +2256,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 1: "%{userCount} other still in"
   /// - 2: "%{userCount} others still in"
   /// - 3 to 5: "%{userCount} others still in"
-  /// - 6 and more: "%{userCount} others still in"
+  /// - 6 or more: "%{userCount} others still in"
   [[nodiscard]] static std::string userCount_others_still_in(Text userCount, std::int64_t count);
 
   /// "%{userCount} people"
@@ -2264,7 +2264,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 1: "%{userCount} person"
   /// - 2: "%{userCount} people"
   /// - 3 to 5: "%{userCount} people"
-  /// - 6 and more: "%{userCount} people"
+  /// - 6 or more: "%{userCount} people"
   [[nodiscard]] static std::string userCount_people(Text userCount, std::int64_t count);
 
   /// "%{userCount} VIPs"
@@ -2272,7 +2272,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 1: "%{userCount} VIP"
   /// - 2: "%{userCount} VIPs"
   /// - 3 to 5: "%{userCount} VIPs"
-  /// - 6 and more: "%{userCount} VIPs"
+  /// - 6 or more: "%{userCount} VIPs"
   [[nodiscard]] static std::string userCount_VIPs(Text userCount, std::int64_t count);
 
   /// "%{userCount} VIPs still in"
@@ -2280,7 +2280,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 1: "%{userCount} VIP still in"
   /// - 2: "%{userCount} VIPs still in"
   /// - 3 to 5: "%{userCount} VIPs still in"
-  /// - 6 and more: "%{userCount} VIPs still in"
+  /// - 6 or more: "%{userCount} VIPs still in"
   [[nodiscard]] static std::string userCount_VIPs_still_in(Text userCount, std::int64_t count);
 
   /// "Username"
@@ -2309,7 +2309,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 1: "%{username}, %{username2}, and %{friendCount} other friend were eliminated."
   /// - 2: "%{username}, %{username2}, and %{friendCount} other friends were eliminated."
   /// - 3 to 5: "%{username}, %{username2}, and %{friendCount} other friends were eliminated."
-  /// - 6 and more: "%{username}, %{username2}, and %{friendCount} other friends were eliminated."
+  /// - 6 or more: "%{username}, %{username2}, and %{friendCount} other friends were eliminated."
   [[nodiscard]] static std::string username_username2_and_friendCount_other_friends_were_eliminated(Text username, Text username2, Text friendCount, std::int64_t count);
 
   /// "%{username} was eliminated."
@@ -2377,7 +2377,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 1: "We are still processing your Extra Life. Please check back later."
   /// - 2: "We are still processing your Extra Lives. Please check back later."
   /// - 3 to 5: "We are still processing your Extra Lives. Please check back later."
-  /// - 6 and more: "We are still processing your Extra Lives. Please check back later."
+  /// - 6 or more: "We are still processing your Extra Lives. Please check back later."
   [[nodiscard]] static std::string We_are_still_processing_your_Extra_Lives_Please_check_back_later(std::int64_t count);
 
   /// "We are still processing your payment. Please check back later."
@@ -2451,7 +2451,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 1: "%{winnerCount} Winner!"
   /// - 2: "%{winnerCount} Winners!"
   /// - 3 to 5: "%{winnerCount} Winners!"
-  /// - 6 and more: "%{winnerCount} Winners!"
+  /// - 6 or more: "%{winnerCount} Winners!"
   [[nodiscard]] static std::string winnerCount_Winners(Text winnerCount, std::int64_t count);
 
   /// "Winners"
@@ -2483,7 +2483,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 1: "Yay! You played %{days} day!"
   /// - 2: "Yay! You played %{days} days in a row!"
   /// - 3 to 5: "Yay! You played %{days} days in a row!"
-  /// - 6 and more: "Yay! You played %{days} days in a row!"
+  /// - 6 or more: "Yay! You played %{days} days in a row!"
   [[nodiscard]] static std::string Yay_You_played_days_days_in_a_row(Text days, std::int64_t count);
 
   /// "Year"
@@ -2512,7 +2512,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 1: "You can't win the cash prize, but get %{pointsToGo} more point to earn an Extra Life!"
   /// - 2: "You can't win the cash prize, but get %{pointsToGo} more points to earn an Extra Life!"
   /// - 3 to 5: "You can't win the cash prize, but get %{pointsToGo} more points to earn an Extra Life!"
-  /// - 6 and more: "You can't win the cash prize, but get %{pointsToGo} more points to earn an Extra Life!"
+  /// - 6 or more: "You can't win the cash prize, but get %{pointsToGo} more points to earn an Extra Life!"
   [[nodiscard]] static std::string You_can_t_win_the_cash_prize_but_get_pointsToGo_more_points_to_earn_an_Extra_Life(Text pointsToGo, std::int64_t count);
 
   /// "You can use your purchased ticket for the next game."
@@ -2562,7 +2562,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 1: "You got %{coinCount} coin!"
   /// - 2: "You got %{coinCount} coins!"
   /// - 3 to 5: "You got %{coinCount} coins!"
-  /// - 6 and more: "You got %{coinCount} coins!"
+  /// - 6 or more: "You got %{coinCount} coins!"
   [[nodiscard]] static std::string You_got_coinCount_coins(Text coinCount, std::int64_t count);
 
   /// "You got %{dollarCount} dollars!"
@@ -2570,7 +2570,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 1: "You got %{dollarCount} dollar!"
   /// - 2: "You got %{dollarCount} dollars!"
   /// - 3 to 5: "You got %{dollarCount} dollars!"
-  /// - 6 and more: "You got %{dollarCount} dollars!"
+  /// - 6 or more: "You got %{dollarCount} dollars!"
   [[nodiscard]] static std::string You_got_dollarCount_dollars(Text dollarCount, std::int64_t count);
 
   /// "You got %{lifeCount} Extra Lives!"
@@ -2578,7 +2578,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 1: "You got %{lifeCount} Extra Life!"
   /// - 2: "You got %{lifeCount} Extra Lives!"
   /// - 3 to 5: "You got %{lifeCount} Extra Lives!"
-  /// - 6 and more: "You got %{lifeCount} Extra Lives!"
+  /// - 6 or more: "You got %{lifeCount} Extra Lives!"
   [[nodiscard]] static std::string You_got_lifeCount_Extra_Lives(Text lifeCount, std::int64_t count);
 
   /// "You got %{lifeCount} Extra Lives from %{sender}!"
@@ -2586,7 +2586,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 1: "You got %{lifeCount} Extra Life from %{sender}!"
   /// - 2: "You got %{lifeCount} Extra Lives from %{sender}!"
   /// - 3 to 5: "You got %{lifeCount} Extra Lives from %{sender}!"
-  /// - 6 and more: "You got %{lifeCount} Extra Lives from %{sender}!"
+  /// - 6 or more: "You got %{lifeCount} Extra Lives from %{sender}!"
   [[nodiscard]] static std::string You_got_lifeCount_Extra_Lives_from_sender(Text lifeCount, Text sender, std::int64_t count);
 
   /// "You got %{number} %{products}!"
@@ -2606,7 +2606,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 1: "You got the letter %{letter} and %{extraLifeCount} extra life!"
   /// - 2: "You got the letter %{letter} and %{extraLifeCount} extra lives!"
   /// - 3 to 5: "You got the letter %{letter} and %{extraLifeCount} extra lives!"
-  /// - 6 and more: "You got the letter %{letter} and %{extraLifeCount} extra lives!"
+  /// - 6 or more: "You got the letter %{letter} and %{extraLifeCount} extra lives!"
   [[nodiscard]] static std::string You_got_the_letter_letter_and_extraLifeCount_extra_lives(Text letter, Text extraLifeCount, std::int64_t count);
 
   /// "You got the letters %{letters}!"
@@ -2614,7 +2614,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 1: "You got the letter %{letters}!"
   /// - 2: "You got the letters %{letters}!"
   /// - 3 to 5: "You got the letters %{letters}!"
-  /// - 6 and more: "You got the letters %{letters}!"
+  /// - 6 or more: "You got the letters %{letters}!"
   [[nodiscard]] static std::string You_got_the_letters_letters(Text letters, std::int64_t count);
 
   /// "You got the\n%{product}!"
@@ -2628,7 +2628,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 1: "*You have 1 Extra Life*\nBuy more to help you win!"
   /// - 2: "*You have 2 Extra Lives*\nBuy more to help you win!"
   /// - 3 to 5: "*You have a few Extra Lives*\nBuy more to help you win!"
-  /// - 6 and more: "*You have plenty of Extra Lives*\nBuy more to help you win!"
+  /// - 6 or more: "*You have plenty of Extra Lives*\nBuy more to help you win!"
   [[nodiscard]] static std::string You_have_0_Extra_Lives_nBuy_some_to_help_you_win(std::int64_t count);
 
   /// "You have already applied a referral code. You may only do this once."
@@ -2645,7 +2645,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 1: "You have %{extraLifeCount} Extra Life!"
   /// - 2: "You have %{extraLifeCount} Extra Lives!"
   /// - 3 to 5: "You have %{extraLifeCount} Extra Lives!"
-  /// - 6 and more: "You have %{extraLifeCount} Extra Lives!"
+  /// - 6 or more: "You have %{extraLifeCount} Extra Lives!"
   [[nodiscard]] static std::string You_have_extraLifeCount_Extra_Lives(Text extraLifeCount, std::int64_t count);
 
   /// "You have reached the maximum number of Friends. We are working to increase this limit soon."
@@ -2713,7 +2713,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 1: "You unlocked %{badgeCount} Badge"
   /// - 2: "You unlocked %{badgeCount} Badges"
   /// - 3 to 5: "You unlocked %{badgeCount} Badges"
-  /// - 6 and more: "You unlocked %{badgeCount} Badges"
+  /// - 6 or more: "You unlocked %{badgeCount} Badges"
   [[nodiscard]] static std::string You_unlocked_badgeCount_Badges(Text badgeCount, std::int64_t count);
 
   /// "You've been eliminated from the game. You can watch and chat only."
@@ -2790,7 +2790,7 @@ struct ZK_EXPORT ZKStrings {
   /// - 1: "Your Extra Life is on the way"
   /// - 2: "Your Extra Lives are on the way"
   /// - 3 to 5: "Your Extra Lives are on the way"
-  /// - 6 and more: "Your Extra Lives are on the way"
+  /// - 6 or more: "Your Extra Lives are on the way"
   [[nodiscard]] static std::string Your_Extra_Lives_are_on_the_way(std::int64_t count);
 
   /// "Your forms have been received"

@@ -11,8 +11,6 @@ namespace zk::tools {
 
 namespace {
 
-constexpr std::string_view kCounts[] = {"0", "1", "2", "3 to 5", "6 and more"};
-
 constexpr const char* kNotice =
     "// Generated from catalogue/entries.json by `zkstrings generate`. Do not edit: change the catalogue "
     "instead.\n"
@@ -125,9 +123,9 @@ std::string lookupOf(const Entry& entry, const CatalogueName& catalogue) {
 std::string commentOf(const Entry& entry, const Table& base) {
   std::string comment = fmt::format("  /// \"{}\"\n", escaped(entry.text));
   if (!entry.plural) return comment;
-  for (std::size_t form = 0; form < std::size(kPluralSuffixes); ++form) {
-    const TableEntry* const text = base.find(std::string(entry.key).append(kPluralSuffixes[form]));
-    if (text) comment += fmt::format("  /// - {}: \"{}\"\n", kCounts[form], escaped(text->text));
+  for (const PluralForm& form : kPluralForms) {
+    const TableEntry* const text = base.find(std::string(entry.key).append(form.suffix));
+    if (text) comment += fmt::format("  /// - {}: \"{}\"\n", form.counts, escaped(text->text));
   }
   return comment;
 }

@@ -26,7 +26,7 @@ namespace zk::tools {
 
 namespace {
 
-/// The place of the form for one in `kPluralSuffixes`.
+/// The index of the form for one in `kPluralForms`.
 constexpr std::size_t kFormForOne = 1;
 
 [[noreturn]] void refuse(const std::string& reason) {
@@ -124,8 +124,8 @@ std::vector<TableKey> tableKeysOf(const std::vector<Entry*>& entries) {
   std::vector<TableKey> keys;
   for (const Entry* const entry : entries) {
     if (!entry->plural) keys.push_back({entry->key, std::nullopt});
-    for (std::size_t i = 0; entry->plural && i < std::size(kPluralSuffixes); ++i)
-      keys.push_back({entry->key + std::string(kPluralSuffixes[i]), i});
+    for (std::size_t i = 0; entry->plural && i < std::size(kPluralForms); ++i)
+      keys.push_back({entry->key + std::string(kPluralForms[i].suffix), i});
   }
   return keys;
 }
@@ -151,9 +151,9 @@ std::string changedText(const TableKey& key, const std::string& present, const s
   if (!key.form) return newText;
   if (forms[*key.form]) return *forms[*key.form];
   if (present == oldText) return newText;
-  const std::string_view name = kPluralSuffixes[*key.form].substr(1);
+  const std::string_view name = kPluralForms[*key.form].suffix.substr(1);
   refuse(fmt::format("the form for {} is \"{}\"; say what it is now with --{} 'TEXT'",
-                     kCountsOfForms[*key.form], escaped(present), name));
+                     kPluralForms[*key.form].counts, escaped(present), name));
 }
 
 }  // namespace

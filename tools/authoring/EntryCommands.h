@@ -10,8 +10,8 @@
 
 namespace zk::tools {
 
-/// The English plural forms of a text, in the order of `kPluralSuffixes`, as far as they are given.
-using PluralForms = std::array<std::optional<std::string>, std::size(kPluralSuffixes)>;
+/// The English plural forms of a text that are given, in the order of `kPluralForms`.
+using PluralForms = std::array<std::optional<std::string>, std::size(kPluralForms)>;
 
 /// A text to be added.
 struct NewEntry {

@@ -34,8 +34,8 @@ void findMissing(const KeyedTable& subject, Findings& findings) {
 
 /// The key whose plural form `key` would be, if it were a plural form.
 std::string_view withoutSuffix(std::string_view key) {
-  for (const std::string_view suffix : kPluralSuffixes) {
-    if (key.ends_with(suffix)) return key.substr(0, key.size() - suffix.size());
+  for (const PluralForm& form : kPluralForms) {
+    if (key.ends_with(form.suffix)) return key.substr(0, key.size() - form.suffix.size());
   }
   return key;
 }
@@ -90,7 +90,7 @@ struct Forms {
 
 Forms formsOf(const Entry& counted, const KeyedTable& subject) {
   Forms forms;
-  for (const std::string_view suffix : kPluralSuffixes) {
+  for (const auto& [suffix, counts, example] : kPluralForms) {
     const std::string key = std::string(counted.key).append(suffix);
     const TableEntry* const form = subject.table.find(key);
     const EnglishText* const english = subject.english.find(key);
@@ -106,9 +106,9 @@ Forms formsOf(const Entry& counted, const KeyedTable& subject) {
 void findSamePlurals(const KeyedTable& subject, Findings& findings) {
   if (!inflectsForNumber(subject.language)) return;
   for (const EnglishText& english : subject.english.all()) {
-    if (english.suffix != kPluralSuffixes[0]) continue;
+    if (english.suffix != kPluralForms[0].suffix) continue;
     const Forms forms = formsOf(*english.entry, subject);
-    const bool areSame = forms.count == std::size(kPluralSuffixes) && forms.texts.size() == 1;
+    const bool areSame = forms.count == std::size(kPluralForms) && forms.texts.size() == 1;
     if (!areSame || forms.english.size() == 1) continue;
     findings.add(
         *forms.first,

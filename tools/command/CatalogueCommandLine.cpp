@@ -26,11 +26,11 @@ std::string withLineBreaks(std::string text) {
 /// Lets the user give the plural forms of a text: --zero to --many.
 void addForms(CLI::App& command, PluralForms& forms) {
   for (std::size_t i = 0; i < forms.size(); ++i) {
-    const std::string name(kPluralSuffixes[i].substr(1));
+    const std::string name(kPluralForms[i].suffix.substr(1));
     command
         .add_option_function<std::string>(
             "--" + name, [&forms, i](const std::string& text) { forms[i] = withLineBreaks(text); },
-            "The English form for " + std::string(kCountsOfForms[i]))
+            "The English form for " + std::string(kPluralForms[i].counts))
         ->type_name("TEXT");
   }
 }

@@ -1,13 +1,9 @@
 #include <ZKStrings/tools/command/PageCommandLine.h>
-#include <ZKStrings/tools/layout/Lengths.h>
 #include <ZKStrings/tools/layout/PseudoLanguages.h>
 #include <ZKStrings/tools/page/Page.h>
 #include <ZKStrings/tools/support/Files.h>
-#include <ZKStrings/tools/support/Languages.h>
 
-#include <cstddef>
 #include <memory>
-#include <vector>
 
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
@@ -52,32 +48,10 @@ void addPseudoCommand(CLI::App& app, const RootFinder& inRoot) {
   });
 }
 
-void addLengthsCommand(CLI::App& app, const RootFinder& inRoot) {
-  struct Arguments {
-    std::vector<std::string> languages;
-    std::size_t limit = 20;
-  };
-  const auto arguments = std::make_shared<Arguments>();
-  auto* const command = app.add_subcommand("lengths", "List the texts that come out longest beside English");
-  command->add_option("languages", arguments->languages, "The languages; without any, all")
-      ->type_name("LANGUAGE");
-  command->footer("Example: zkstrings lengths de pl --limit 10");
-  command->add_option("--limit", arguments->limit, "How many to list")
-      ->check(CLI::Range(std::size_t{0}, std::size_t{1'000'000}))
-      ->type_name("N")
-      ->capture_default_str();
-  command->callback([arguments, inRoot] {
-    const std::string root = inRoot();
-    for (std::string& language : arguments->languages) language = existingLanguage(root, language);
-    fmt::print("{}", formatted(widestTranslations(root, arguments->languages, arguments->limit)));
-  });
-}
-
 }  // namespace
 
 void addPageCommands(CLI::App& app, const RootFinder& inRoot) {
   addPageCommand(app, inRoot);
-  addLengthsCommand(app, inRoot);
   addPseudoCommand(app, inRoot);
 }
 

@@ -9,8 +9,8 @@ class App;
 
 namespace zk::tools {
 
-/// Adds the commands for those who look at the texts to `app`: page, pseudo and lengths. Each works in the
-/// project whose root `inRoot` gives when it runs.
+/// Adds the commands page and pseudo to `app`. Each works in the project whose root `inRoot` returns when the
+/// command runs.
 void addPageCommands(CLI::App& app, const std::function<std::string()>& inRoot);
 
 }  // namespace zk::tools

@@ -12,14 +12,11 @@ namespace zk::tools {
 
 namespace {
 
-/// What each of `kPluralSuffixes` is used for.
-constexpr std::string_view kCounts[] = {"0", "1", "2", "3, 4 and 5", "6 and more, and every negative number"};
-
 std::string pluralNote(const EnglishText& english) {
-  const auto* const suffix =
-      std::find(std::begin(kPluralSuffixes), std::end(kPluralSuffixes), english.suffix);
+  const auto* const form = std::find_if(std::begin(kPluralForms), std::end(kPluralForms),
+                                        [&](const PluralForm& one) { return one.suffix == english.suffix; });
   return fmt::format("The plural form {} is used for {}. It must be right for every such number.",
-                     english.suffix, kCounts[suffix - std::begin(kPluralSuffixes)]);
+                     form->suffix, form->counts);
 }
 
 std::string placeholderNote(const EnglishText& english) {

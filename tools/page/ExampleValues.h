@@ -2,15 +2,11 @@
 
 #include <ZKStrings/tools/page/AppTexts.h>
 
-#include <array>
 #include <cstdint>
 #include <optional>
 #include <string_view>
 
 namespace zk::tools {
-
-/// The counts for which a counted text is shown, one for each of `kPluralSuffixes`.
-inline constexpr std::array<std::int64_t, 5> kExampleCounts = {0, 1, 2, 3, 6};
 
 /// The placeholder of `entry` that says its count; empty when none does, or the entry has no count.
 [[nodiscard]] std::string_view countPlaceholder(const Entry& entry);

@@ -23,9 +23,10 @@ using Json = nlohmann::ordered_json;
 
 /// The count for which a key with the plural form `suffix` is looked up.
 std::optional<std::int64_t> exampleCount(std::string_view suffix) {
-  const auto form = std::find(std::begin(kPluralSuffixes), std::end(kPluralSuffixes), suffix);
-  if (form == std::end(kPluralSuffixes)) return std::nullopt;
-  return kExampleCounts[static_cast<std::size_t>(form - std::begin(kPluralSuffixes))];
+  for (const PluralForm& form : kPluralForms) {
+    if (form.suffix == suffix) return form.example;
+  }
+  return std::nullopt;
 }
 
 char letterOf(TranslationState state) {
@@ -74,7 +75,10 @@ class PageDataMaker {
     for (const Entry& entry : catalogue_.entries()) entries.push_back(dataOf(entry));
     Json languages = Json::array();
     for (const std::string& language : languages_) languages.push_back(dataOf(language));
-    return {{"counts", kExampleCounts}, {"entries", std::move(entries)}, {"languages", std::move(languages)}};
+    Json counts = Json::array();
+    for (const PluralForm& form : kPluralForms) counts.push_back(form.example);
+    return {
+        {"counts", std::move(counts)}, {"entries", std::move(entries)}, {"languages", std::move(languages)}};
   }
 
  private:
@@ -135,7 +139,7 @@ class PageDataMaker {
         language, entry, count, exampleValues(texts_, catalogue_, language, entry, count));
     data["texts"].push_back(text);
     data["finished"].push_back(finished == text ? Json(0) : Json(finished));
-    data["characters"].push_back(sizeOf(finished).characters);
+    data["characters"].push_back(charactersIn(finished));
   }
 
   [[nodiscard]] std::string statesOf(const std::string& language, const Table& table) const {

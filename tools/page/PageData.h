@@ -6,7 +6,7 @@ namespace zk::tools {
 
 /// All that the page shows of the project at `root`, as the JSON text that its script reads:
 ///
-///     {"counts": [0, 1, 2, 3, 6],
+///     {"counts": [0, 1, 2, 4, 11],
 ///      "entries": [{"key", "text", "counted", "call", "values": [["username", "kim"], …]}, …],
 ///      "languages": [{"tag", "english", "native", "isRightToLeft", "file", "isWellFormed",
 ///                     "texts", "finished", "characters", "states", "findings"}, …]}

@@ -205,8 +205,8 @@ std::vector<Catalogue::LookedUpKey> Catalogue::lookedUpKeys() const {
   for (const Entry& entry : entries_) {
     if (!entry.plural) keys.push_back({entry.key, &entry, ""});
     if (!entry.plural) continue;
-    for (const std::string_view suffix : kPluralSuffixes) {
-      keys.push_back({std::string(entry.key).append(suffix), &entry, suffix});
+    for (const PluralForm& form : kPluralForms) {
+      keys.push_back({std::string(entry.key).append(form.suffix), &entry, form.suffix});
     }
   }
   return keys;

@@ -2,6 +2,7 @@
 
 #include <ZKStrings/tools/support/Fault.h>
 #include <ZKStrings/tools/texts/Placeholders.h>
+#include <ZKStrings/tools/texts/PluralForms.h>
 
 #include <cstddef>
 #include <optional>
@@ -23,11 +24,6 @@ struct Entry {
   std::size_t line = 0;  ///< in entries.json
 };
 
-/// The endings of the plural forms' keys, in the order of the counts.
-inline constexpr std::string_view kPluralSuffixes[] = {"_zero", "_one", "_two", "_few", "_many"};
-/// The counts that each of them serves, for people.
-inline constexpr std::string_view kCountsOfForms[] = {"0", "1", "2", "3, 4 and 5", "6 and more"};
-
 /// All texts of the app, in catalogue order.
 class Catalogue {
  public:
@@ -48,7 +44,7 @@ class Catalogue {
   struct LookedUpKey {
     std::string key;
     const Entry* entry;
-    std::string_view suffix;  ///< one of `kPluralSuffixes`, or empty
+    std::string_view suffix;  ///< of a plural form, or empty
   };
   [[nodiscard]] std::vector<LookedUpKey> lookedUpKeys() const;
 

@@ -15,7 +15,7 @@ namespace zk::tools {
 struct EnglishText {
   std::string key;
   const Entry* entry;
-  std::string_view suffix;  ///< one of `kPluralSuffixes`, or empty
+  std::string_view suffix;  ///< of a plural form, or empty
   std::string text;         ///< of the English table for a plural form, of the entry otherwise
 
   /// The names of the placeholders that a translation may use: those of the text, and of a plural form those

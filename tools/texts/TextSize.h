@@ -5,13 +5,8 @@
 
 namespace zk::tools {
 
-/// How much room a text takes on a screen.
-struct TextSize {
-  std::size_t characters = 0;  ///< user-perceived ones (extended grapheme clusters)
-  std::size_t columns = 0;     ///< two for a wide East Asian character or an emoji, none for an invisible one
-};
-
-/// The size of `text`, UTF-8, on one line.
-[[nodiscard]] TextSize sizeOf(std::string_view text);
+/// The number of user-perceived characters (extended grapheme clusters) of `text`, UTF-8. A byte that is not
+/// UTF-8 counts as one.
+[[nodiscard]] std::size_t charactersIn(std::string_view text);
 
 }  // namespace zk::tools

@@ -82,7 +82,7 @@ TEST_F(PseudoTables, AreAThirdLongerInReadersEyes) {
   const Catalogue catalogue = Catalogue::read(ZK_PROJECT_ROOT);
   const EnglishTexts english(catalogue, Table::read(ZK_PROJECT_ROOT, kBase));
   const Table table = Table::read(directory_.path(), "xa");
-  const auto lettersOf = [](std::string_view text) { return sizeOf(withoutPlaceholders(text)).characters; };
+  const auto lettersOf = [](std::string_view text) { return charactersIn(withoutPlaceholders(text)); };
   for (const EnglishText& text : english.all()) {
     const TableEntry* const entry = table.find(text.key);
     ASSERT_TRUE(entry) << text.key;
