@@ -37,9 +37,9 @@ TEST(Catalogue, RefusesAWrongEntryNamingItsLine) {
       static_cast<void>(Catalogue::parse("[\n" + lines + "\n]\n", "entries.json"));
       ADD_FAILURE() << "accepted: " << lines;
     } catch (const CommandFailed& failed) {
-      EXPECT_EQ(failed.faults.front().line, line) << lines;
-      EXPECT_NE(failed.faults.front().message.find(message), std::string::npos)
-          << failed.faults.front().message;
+      EXPECT_EQ(failed.diagnostics.front().line, line) << lines;
+      EXPECT_NE(failed.diagnostics.front().message.find(message), std::string::npos)
+          << failed.diagnostics.front().message;
     }
   }
 }

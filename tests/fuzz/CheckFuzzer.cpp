@@ -28,29 +28,31 @@ CheckResult checked(const std::string& root, std::size_t bytes) {
   return check(root, options);
 }
 
-void tryFaults(Faults faults) {
+void tryDiagnostics(Diagnostics diagnostics) {
   constexpr std::size_t kMost = 100;  // each is tried alone
-  faults.resize(std::min(faults.size(), kMost));
-  for (const Fault& fault : faults) {
-    const std::string line = formatted(fault, false);
-    require(fault.line > 0 && fault.column > 0 && !fault.message.empty(), "it says nothing: " + line);
+  diagnostics.resize(std::min(diagnostics.size(), kMost));
+  for (const Diagnostic& diagnostic : diagnostics) {
+    const std::string line = formatted(diagnostic, false);
+    require(diagnostic.line > 0 && diagnostic.column > 0 && !diagnostic.message.empty(),
+            "it says nothing: " + line);
     require(line.find_first_of("\n\r\x1B") == std::string::npos, "it is no line: " + line);
   }
-  require(nlohmann::json::accept(toJson(faults)), "this is no JSON: " + toJson(faults));
+  require(nlohmann::json::accept(toJson(diagnostics)), "this is no JSON: " + toJson(diagnostics));
 }
 
-bool isTableAtFault(const Fault& fault, const std::string& file) {
-  return fault.file == file && (fault.rule == Table::kSyntax || fault.rule == Table::kEncoding);
+bool isTableAtFault(const Diagnostic& diagnostic, const std::string& file) {
+  return diagnostic.file == file &&
+         (diagnostic.rule == Table::kSyntax || diagnostic.rule == Table::kEncoding);
 }
 
-/// The module reads a table if and only if the command finds no fault in its form.
-void tryTable(const std::string& root, const std::string& language, const Faults& faults) {
+/// The module reads a table if and only if the command reports nothing about its form.
+void tryTable(const std::string& root, const std::string& language, const Diagnostics& diagnostics) {
   const Table table = Table::read(root, language);
   std::error_code unused;
   const StringTable read = StringTable::inFile(root + "/" + tablePath(language), unused);
-  const bool isFaulty = std::any_of(faults.begin(), faults.end(), [&](const Fault& fault) {
-    return isTableAtFault(fault, tablePath(language));
-  });
+  const bool isFaulty = std::any_of(
+      diagnostics.begin(), diagnostics.end(),
+      [&](const Diagnostic& diagnostic) { return isTableAtFault(diagnostic, tablePath(language)); });
   for (const auto& [key, place] : table.places) {
     require(read.find(key).has_value() != isFaulty, "check and the module disagree about " + key);
     require(isFaulty || read.find(key) == table.entries[place].text, "they read another text of " + key);
@@ -68,8 +70,8 @@ void test(std::string_view input) {
   directory.write("resources/countries.json", files[3]);
   directory.write("resources/glossary.json", files[4]);
   const CheckResult result = checked(directory.path(), input.size());
-  tryFaults(result.faults);
-  for (const char* language : {"Base", "de"}) tryTable(directory.path(), language, result.faults);
+  tryDiagnostics(result.diagnostics);
+  for (const char* language : {"Base", "de"}) tryTable(directory.path(), language, result.diagnostics);
 }
 
 }  // namespace zk::fuzzing

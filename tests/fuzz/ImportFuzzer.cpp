@@ -29,7 +29,7 @@ bool succeeds(std::size_t bytes, Work work) {
   try {
     work();
   } catch (const CommandFailed& failed) {
-    require(!failed.faults.empty() && !failed.faults[0].message.empty(), "refused without a word");
+    require(!failed.diagnostics.empty() && !failed.diagnostics[0].message.empty(), "refused without a word");
     return false;
   }
   return true;
@@ -45,7 +45,7 @@ void importInto(const TemporaryProject& project, const Translations& translation
   Import done;
   if (!import(done)) return require(project.read(table) == before, "refused, and yet the table is changed");
   const std::string after = project.read(table);
-  require(Table::read(project.root(), "de").faults.empty(), "the table is broken:\n" + after);
+  require(Table::read(project.root(), "de").diagnostics.empty(), "the table is broken:\n" + after);
   Import again;
   require(import(again) && again.refused == done.refused, "it cannot be imported again");
   require(project.read(table) == after, "imported again, it changes the table again:\n" + after);

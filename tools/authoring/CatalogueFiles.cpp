@@ -2,7 +2,7 @@
 #include <ZKStrings/tools/authoring/CatalogueFiles.h>
 #include <ZKStrings/tools/project/CatalogueName.h>
 #include <ZKStrings/tools/project/Table.h>
-#include <ZKStrings/tools/support/Fault.h>
+#include <ZKStrings/tools/support/Diagnostic.h>
 #include <ZKStrings/tools/support/Languages.h>
 
 #include <algorithm>
@@ -64,7 +64,8 @@ void generateInto(const std::string& output, const std::string& root) {
   try {
     files = accessorFilesOf(root);
   } catch (CommandFailed& failed) {
-    for (Fault& fault : failed.faults) fault.file = (std::filesystem::path(root) / fault.file).string();
+    for (Diagnostic& diagnostic : failed.diagnostics)
+      diagnostic.file = (std::filesystem::path(root) / diagnostic.file).string();
     throw;
   }
   for (FileChange& file : files) file.path = std::filesystem::path(file.path).filename();

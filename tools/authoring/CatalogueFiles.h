@@ -12,7 +12,7 @@ namespace zk::tools {
 /// the catalogue or the English table is wrong.
 void generate(const std::string& root);
 
-/// The same, in the directory `output`, for a build that keeps them there. The faults that it throws name
+/// The same, in the directory `output`, for a build that keeps them there. The diagnostics that it throws name
 /// their files with `root`, so that they are found from the build's folder.
 void generateInto(const std::string& output, const std::string& root);
 

@@ -53,15 +53,15 @@ std::string readmeFor(const CatalogueName& name) {
 
 /// Throws when one of the files of a new catalogue is there already.
 void refuseToReplace(const std::string& directory, const std::vector<FileChange>& files) {
-  Faults faults;
+  Diagnostics diagnostics;
   for (const FileChange& file : files) {
     const std::filesystem::path path = std::filesystem::path(directory) / file.path;
     std::error_code failure;
     if (std::filesystem::exists(path, failure))
-      faults.push_back({Severity::error, path.string(), 1, 1, "",
-                        "the file is there already; name another folder for a new catalogue"});
+      diagnostics.push_back({Severity::error, path.string(), 1, 1, "",
+                             "the file is there already; name another folder for a new catalogue"});
   }
-  if (!faults.empty()) throw CommandFailed{faults};
+  if (!diagnostics.empty()) throw CommandFailed{diagnostics};
 }
 
 }  // namespace

@@ -41,18 +41,19 @@ class Checker {
       checkTable(language, table, isListable(table), catalogue, base);
     }
     if (options_.languages.empty()) checkCountries();
-    const auto order = [](const Fault& fault) {
-      return std::tie(fault.file, fault.line, fault.column, fault.severity, fault.rule, fault.message);
+    const auto order = [](const Diagnostic& diagnostic) {
+      return std::tie(diagnostic.file, diagnostic.line, diagnostic.column, diagnostic.severity,
+                      diagnostic.rule, diagnostic.message);
     };
-    std::sort(result_.faults.begin(), result_.faults.end(),
-              [&](const Fault& one, const Fault& other) { return order(one) < order(other); });
+    std::sort(result_.diagnostics.begin(), result_.diagnostics.end(),
+              [&](const Diagnostic& one, const Diagnostic& other) { return order(one) < order(other); });
     return std::move(result_);
   }
 
-  Faults faultsIn(const std::string& language, const Table& table, const Catalogue& catalogue,
-                  const Table& base) {
+  Diagnostics faultsIn(const std::string& language, const Table& table, const Catalogue& catalogue,
+                       const Table& base) {
     checkTable(language, table, true, catalogue, base);
-    return std::move(result_.faults);
+    return std::move(result_.diagnostics);
   }
 
  private:
@@ -60,7 +61,7 @@ class Checker {
     try {
       return Catalogue::read(root_);
     } catch (const CommandFailed& failed) {
-      result_.faults = failed.faults;
+      result_.diagnostics = failed.diagnostics;
       return std::nullopt;
     }
   }
@@ -69,7 +70,8 @@ class Checker {
     try {
       glossary_ = Glossary::read(root_);
     } catch (const CommandFailed& failed) {
-      result_.faults.insert(result_.faults.end(), failed.faults.begin(), failed.faults.end());
+      result_.diagnostics.insert(result_.diagnostics.end(), failed.diagnostics.begin(),
+                                 failed.diagnostics.end());
     }
   }
 
@@ -77,7 +79,7 @@ class Checker {
   [[nodiscard]] std::vector<std::string> languagesToCheck(const Table& base) const {
     std::vector<std::string> languages = options_.languages.empty() ? languagesIn(root_) : options_.languages;
     const bool hasBase = std::find(languages.begin(), languages.end(), kBase) != languages.end();
-    const bool isMissing = !base.faults.empty() && base.faults.front().rule == Table::kMissing;
+    const bool isMissing = !base.diagnostics.empty() && base.diagnostics.front().rule == Table::kMissing;
     if (isMissing && !hasBase) languages.emplace_back(kBase);
     return languages;
   }
@@ -126,8 +128,8 @@ class Checker {
         if (finding.entry != last) isOff = finding.entry && isSwitchedOff(*finding.entry, rule.name);
         last = finding.entry;
         if (isOff) continue;
-        result_.faults.push_back({rule.severity, file, finding.at.line, finding.at.column,
-                                  std::string(rule.name), std::move(finding.message)});
+        result_.diagnostics.push_back({rule.severity, file, finding.at.line, finding.at.column,
+                                       std::string(rule.name), std::move(finding.message)});
       }
     }
   }
@@ -162,8 +164,8 @@ CheckResult check(const std::string& root, const CheckOptions& options) {
   return Checker(root, options).run();
 }
 
-Faults checkTable(const std::string& language, const Table& table, const Catalogue& catalogue,
-                  const Table& base) {
+Diagnostics checkTable(const std::string& language, const Table& table, const Catalogue& catalogue,
+                       const Table& base) {
   return Checker("", CheckOptions{}).faultsIn(language, table, catalogue, base);
 }
 

@@ -3,7 +3,7 @@
 #include <ZKStrings/tools/check/Rule.h>
 #include <ZKStrings/tools/project/Catalogue.h>
 #include <ZKStrings/tools/project/Table.h>
-#include <ZKStrings/tools/support/Fault.h>
+#include <ZKStrings/tools/support/Diagnostic.h>
 
 #include <cstddef>
 #include <string>
@@ -18,7 +18,7 @@ struct CheckOptions {
 };
 
 struct CheckResult {
-  Faults faults;              ///< sorted by file and place
+  Diagnostics diagnostics;    ///< sorted by file and place
   std::size_t tables = 0;     ///< how many were checked
   std::size_t countries = 0;  ///< those of the list, if it was checked
 };
@@ -33,7 +33,7 @@ struct CheckResult {
 [[nodiscard]] CheckResult check(const std::string& root, const CheckOptions& options);
 
 /// Finds the same in `table` alone, of `language`, which need not be in a file yet. `base` is the English one.
-[[nodiscard]] Faults checkTable(const std::string& language, const Table& table, const Catalogue& catalogue,
-                                const Table& base);
+[[nodiscard]] Diagnostics checkTable(const std::string& language, const Table& table,
+                                     const Catalogue& catalogue, const Table& base);
 
 }  // namespace zk::tools

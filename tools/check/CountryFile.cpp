@@ -66,7 +66,7 @@ CountryFile CountryFile::read(const std::string& root) {
   try {
     return parse(readFile(root, kFile));
   } catch (const CommandFailed& failed) {
-    return {{}, Finding{{1, 1}, failed.faults.front().message}};
+    return {{}, Finding{{1, 1}, failed.diagnostics.front().message}};
   }
 }
 

@@ -14,7 +14,7 @@ namespace {
 /// order of the catalogue.
 template <class Visit>
 void forEachIn(TranslationState state, const KeyedTable& subject, const Visit& visit) {
-  if (subject.language == kBase || !subject.table.faults.empty()) return;
+  if (subject.language == kBase || !subject.table.diagnostics.empty()) return;
   for (const EnglishText& english : subject.english.all()) {
     const TableEntry* const entry = subject.table.find(english.key);
     if (stateOf(subject.language, entry, english) == state) visit(entry);

@@ -1,6 +1,6 @@
 #include <ZKStrings/tools/check/Glossary.h>
 #include <ZKStrings/tools/check/JsonPlaces.h>
-#include <ZKStrings/tools/support/Fault.h>
+#include <ZKStrings/tools/support/Diagnostic.h>
 #include <ZKStrings/tools/support/Files.h>
 
 #include <algorithm>
@@ -17,10 +17,6 @@ namespace {
 
 using Json = nlohmann::json;
 using Pointer = Json::json_pointer;
-
-[[noreturn]] void fail(Position at, std::string message) {
-  throw CommandFailed{{{Severity::error, Glossary::kFile, at.line, at.column, "", std::move(message)}}};
-}
 
 /// A value of the file and the way to it.
 class Value {
@@ -57,7 +53,7 @@ class Value {
   }
 
   [[noreturn]] void failHere(std::string message) const {
-    fail(placeInJson(text_, pointer_), std::move(message));
+    fail(Glossary::kFile, placeInJson(text_, pointer_), std::move(message));
   }
 
  private:
@@ -149,9 +145,10 @@ Glossary Glossary::parse(const std::string& json) {
     const Json content = Json::parse(json);
     takeMembers(Value(json, content, Pointer()), glossary, kGlossaryMembers);
   } catch (const Json::parse_error& fault) {
-    fail(positionOf(json, std::max<std::size_t>(fault.byte, 1) - 1), "the text is not JSON here; mend it");
+    fail(kFile, positionOf(json, std::max<std::size_t>(fault.byte, 1) - 1),
+         "the text is not JSON here; mend it");
   } catch (const Json::exception&) {
-    fail({1, 1}, "a number in the text is out of range; write texts");
+    fail(kFile, "a number in the text is out of range; write texts");
   }
   return glossary;
 }

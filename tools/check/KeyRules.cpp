@@ -26,7 +26,7 @@ std::vector<std::string_view> missingKeys(const KeyedTable& subject) {
 /// Keys that the English table lacks. What a translation lacks is a gap.
 void findMissing(const KeyedTable& subject, Findings& findings) {
   const Table& table = subject.table;
-  if (subject.language != kBase || !table.faults.empty() || table.entries.empty()) return;
+  if (subject.language != kBase || !table.diagnostics.empty() || table.entries.empty()) return;
   for (const std::string_view key : missingKeys(subject)) {
     findings.add(kFileBegin, fmt::format("the English table lacks \"{}\"; add the entry", key));
   }

@@ -1,5 +1,5 @@
-#include <ZKStrings/platform/text/UnicodeText.h>
 #include <ZKStrings/tools/check/Prose.h>
+#include <ZKStrings/tools/support/Characters.h>
 #include <ZKStrings/tools/texts/Placeholders.h>
 #include <ZKStrings/tools/texts/TextFeatures.h>
 
@@ -49,10 +49,8 @@ void blankOutAddresses(std::string& text) {
 }
 
 bool hasCapitals(std::string_view word) {
-  while (!word.empty()) {
-    const CodePoint letter = firstCodePoint(word);
+  for (const CodePoint letter : CodePoints(word)) {
     if (letter.value && u_isUUppercase(static_cast<UChar32>(*letter.value))) return true;
-    word.remove_prefix(letter.bytes.size());
   }
   return false;
 }

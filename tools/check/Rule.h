@@ -1,7 +1,7 @@
 #pragma once
 
 #include <ZKStrings/tools/project/Table.h>
-#include <ZKStrings/tools/support/Fault.h>
+#include <ZKStrings/tools/support/Diagnostic.h>
 
 #include <string>
 #include <string_view>

@@ -27,14 +27,14 @@ void findDirectory(const LanguageTable& subject, Findings& findings) {
 
 void findMissingTable(const LanguageTable& subject, Findings& findings) {
   const Table& table = subject.table;
-  const bool isMissing = !table.faults.empty() && table.faults.front().rule == Table::kMissing;
-  const bool isEmpty = table.faults.empty() && table.entries.empty();
+  const bool isMissing = !table.diagnostics.empty() && table.diagnostics.front().rule == Table::kMissing;
+  const bool isEmpty = table.diagnostics.empty() && table.entries.empty();
   if (subject.language == kBase && (isMissing || isEmpty)) {
     findings.add(kFileBegin,
                  "the English table is missing, empty or not readable, and without it an app stops at its "
                  "first text; restore it");
   } else if (isMissing) {
-    findings.add(kFileBegin, table.faults.front().message);
+    findings.add(kFileBegin, table.diagnostics.front().message);
   } else if (!subject.isDirectoryListable) {
     findings.add(kFileBegin,
                  "the module skips this language: its directory cannot be listed; allow reading it");
@@ -44,8 +44,8 @@ void findMissingTable(const LanguageTable& subject, Findings& findings) {
 /// What reading the file has found already.
 template <const char* rule>
 void findWhileReading(const LanguageTable& subject, Findings& findings) {
-  for (const Fault& fault : subject.table.faults) {
-    if (fault.rule == rule) findings.add({fault.line, fault.column}, fault.message);
+  for (const Diagnostic& diagnostic : subject.table.diagnostics) {
+    if (diagnostic.rule == rule) findings.add({diagnostic.line, diagnostic.column}, diagnostic.message);
   }
 }
 

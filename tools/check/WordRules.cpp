@@ -1,4 +1,3 @@
-#include <ZKStrings/platform/text/UnicodeText.h>
 #include <ZKStrings/tools/check/TextRules.h>
 #include <ZKStrings/tools/support/Characters.h>
 #include <ZKStrings/tools/texts/TextFeatures.h>
@@ -50,9 +49,7 @@ constexpr UScriptCode kLookAlikes[] = {USCRIPT_LATIN, USCRIPT_CYRILLIC, USCRIPT_
 /// The letter by which `word` begins to be of a second script that looks like its first.
 std::optional<std::string_view> firstStrayLetter(std::string_view word) {
   std::optional<UScriptCode> first;
-  while (!word.empty()) {
-    const CodePoint letter = firstCodePoint(word);
-    word.remove_prefix(letter.bytes.size());
+  for (const CodePoint letter : CodePoints(word)) {
     const UScriptCode script = letter.value ? scriptOf(*letter.value) : USCRIPT_COMMON;
     const bool looksAlike =
         std::find(std::begin(kLookAlikes), std::end(kLookAlikes), script) != std::end(kLookAlikes);

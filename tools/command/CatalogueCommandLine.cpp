@@ -1,7 +1,7 @@
 #include <ZKStrings/platform/text/TextSearch.h>
 #include <ZKStrings/tools/authoring/CatalogueFiles.h>
 #include <ZKStrings/tools/authoring/EntryCommands.h>
-#include <ZKStrings/tools/command/CatalogueCommandLine.h>
+#include <ZKStrings/tools/command/Subcommands.h>
 
 #include <array>
 #include <cstddef>
@@ -14,8 +14,6 @@
 namespace zk::tools {
 
 namespace {
-
-using RootFinder = std::function<std::string()>;
 
 /// What the shell passes as \n inside quotes is meant as a line break.
 std::string withLineBreaks(std::string text) {

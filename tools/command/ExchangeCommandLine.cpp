@@ -1,4 +1,4 @@
-#include <ZKStrings/tools/command/ExchangeCommandLine.h>
+#include <ZKStrings/tools/command/Subcommands.h>
 #include <ZKStrings/tools/exchange/ExchangeFormat.h>
 #include <ZKStrings/tools/exchange/Export.h>
 #include <ZKStrings/tools/exchange/Import.h>
@@ -13,7 +13,6 @@
 
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
-#include <unistd.h>
 
 namespace zk::tools {
 
@@ -73,10 +72,8 @@ std::string summaryOf(const Import& done) {
 Import runImport(const std::string& root, const std::string& file, const std::string& language, bool force) {
   Translations translations = readTranslations(file);
   if (!language.empty()) translations.language = language;
-  if (translations.language.empty()) {
-    throw CommandFailed{
-        {{Severity::error, file, 1, 1, "", "the file does not tell its language; name it with --language"}}};
-  }
+  if (translations.language.empty())
+    fail(file, "the file does not tell its language; name it with --language");
   translations.language = existingLanguage(root, translations.language);
   return importTranslations(root, translations, file, force);
 }
@@ -120,7 +117,7 @@ void addImportCommand(CLI::App& app, const RootFinder& inRoot, int& status) {
   command->footer("Example: zkstrings import de.xlf");
   command->callback([arguments, inRoot, &status] {
     const Import done = runImport(inRoot(), arguments->file, arguments->language, arguments->force);
-    for (const Fault& fault : done.faults) fmt::print("{}\n", formatted(fault, isatty(STDOUT_FILENO) == 1));
+    print(stdout, done.diagnostics);
     fmt::print("{}: {}\n", tablePath(done.language), summaryOf(done));
     status = done.refused > 0 ? 1 : 0;
   });

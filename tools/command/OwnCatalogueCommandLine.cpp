@@ -1,5 +1,5 @@
 #include <ZKStrings/tools/authoring/Initialisation.h>
-#include <ZKStrings/tools/command/OwnCatalogueCommandLine.h>
+#include <ZKStrings/tools/command/Subcommands.h>
 
 #include <memory>
 

@@ -1,4 +1,4 @@
-#include <ZKStrings/tools/command/PageCommandLine.h>
+#include <ZKStrings/tools/command/Subcommands.h>
 #include <ZKStrings/tools/layout/PseudoLanguages.h>
 #include <ZKStrings/tools/page/Page.h>
 #include <ZKStrings/tools/support/Files.h>
@@ -11,8 +11,6 @@
 namespace zk::tools {
 
 namespace {
-
-using RootFinder = std::function<std::string()>;
 
 constexpr const char* kPage = "/build/texts.html";
 constexpr const char* kPseudoResources = "/build/pseudo/share/ZKStrings";

@@ -1,5 +1,5 @@
 #include <ZKStrings/tools/check/Checker.h>
-#include <ZKStrings/tools/command/TranslationCommandLine.h>
+#include <ZKStrings/tools/command/Subcommands.h>
 #include <ZKStrings/tools/project/Table.h>
 #include <ZKStrings/tools/support/Characters.h>
 #include <ZKStrings/tools/support/Languages.h>
@@ -65,8 +65,8 @@ void addCount(std::vector<std::string>& counts, std::size_t count, std::string_v
 std::string summaryOf(const CheckResult& result) {
   const auto count = [&](Severity severity) {
     return static_cast<std::size_t>(
-        std::count_if(result.faults.begin(), result.faults.end(),
-                      [&](const Fault& fault) { return fault.severity == severity; }));
+        std::count_if(result.diagnostics.begin(), result.diagnostics.end(),
+                      [&](const Diagnostic& diagnostic) { return diagnostic.severity == severity; }));
   };
   std::vector<std::string> checked;
   addCount(checked, result.tables, "table", "tables");
@@ -80,17 +80,12 @@ std::string summaryOf(const CheckResult& result) {
   return fmt::format("{}: {}", fmt::join(checked, ", "), fmt::join(found, ", "));
 }
 
-void print(const Faults& faults) {
-  const bool coloured = takesColours(stdout);
-  for (const Fault& fault : faults) fmt::print("{}\n", formatted(fault, coloured));
-}
-
-void print(const CheckResult& result, const std::string& format) {
+void printResult(const CheckResult& result, const std::string& format) {
   if (format == kJson) {
-    fmt::print("{}\n", toJson(result.faults));
+    fmt::print("{}\n", toJson(result.diagnostics));
     return;
   }
-  print(result.faults);
+  print(stdout, result.diagnostics);
   if (isatty(STDOUT_FILENO) == 1) fmt::print("{}\n", summaryOf(result));
 }
 
@@ -142,13 +137,13 @@ void addCheckCommand(CLI::App& app, const RootFinder& inRoot, int& status) {
     const std::string root = inRoot();
     for (std::string& language : arguments->options.languages) language = existingLanguage(root, language);
     const CheckResult result = check(root, arguments->options);
-    print(result, arguments->format);
-    const auto fails = [&](const Fault& fault) {
-      return fault.severity == Severity::error ||
-             (fault.severity == Severity::warning && arguments->isStrict) ||
-             (fault.severity == Severity::gap && arguments->isForRelease);
+    printResult(result, arguments->format);
+    const auto fails = [&](const Diagnostic& diagnostic) {
+      return diagnostic.severity == Severity::error ||
+             (diagnostic.severity == Severity::warning && arguments->isStrict) ||
+             (diagnostic.severity == Severity::gap && arguments->isForRelease);
     };
-    status = std::any_of(result.faults.begin(), result.faults.end(), fails) ? 1 : 0;
+    status = std::any_of(result.diagnostics.begin(), result.diagnostics.end(), fails) ? 1 : 0;
   });
 }
 
@@ -192,7 +187,7 @@ void addUpdateCommand(CLI::App& app, const RootFinder& inRoot) {
     const std::string root = inRoot();
     const std::string language = existingLanguage(root, arguments->language);
     const TableUpdate update = updateTable(root, language, arguments->prunes);
-    print(update.notLookedUp);
+    print(stdout, update.notLookedUp);
     fmt::print("{}: {}\n", tablePath(language),
                update.isChange() ? summaryOf(update) : "up to date, nothing changed");
   });

@@ -1,11 +1,7 @@
-#include <ZKStrings/tools/command/CatalogueCommandLine.h>
-#include <ZKStrings/tools/command/ExchangeCommandLine.h>
 #include <ZKStrings/tools/command/HelpFormatter.h>
-#include <ZKStrings/tools/command/OwnCatalogueCommandLine.h>
-#include <ZKStrings/tools/command/PageCommandLine.h>
-#include <ZKStrings/tools/command/TranslationCommandLine.h>
+#include <ZKStrings/tools/command/Subcommands.h>
 #include <ZKStrings/tools/reference/ReferenceCommand.h>
-#include <ZKStrings/tools/support/Fault.h>
+#include <ZKStrings/tools/support/Diagnostic.h>
 #include <ZKStrings/tools/support/Files.h>
 #include <ZKStrings/tools/support/Nearest.h>
 #include <ZKStrings/tools/support/Undisturbed.h>
@@ -95,7 +91,7 @@ int main(int argc, char** argv) {
     if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0) return status;
     complain("the output cannot be written; see that its place has room");
   } catch (const CommandFailed& failed) {
-    for (const Fault& fault : failed.faults) complain(formatted(fault, takesColours(stderr)));
+    print(stderr, failed.diagnostics);
   } catch (const std::invalid_argument& refused) {
     complain(refused.what());
     return kWrongUse;

@@ -12,7 +12,7 @@ namespace zk::tools {
 [[nodiscard]] std::string toCSV(const Translations& translations);
 
 /// Reads such a table, as a spreadsheet saves it: separated by commas, semicolons or tabs, with the columns
-/// in any order and others besides. Throws `CommandFailed` for what is no such file, which faults call
+/// in any order and others besides. Throws `CommandFailed` for what is no such file, which diagnostics call
 /// `file`.
 [[nodiscard]] Translations fromCSV(std::string bytes, const std::string& file);
 

@@ -2,7 +2,7 @@
 #include <ZKStrings/platform/text/TextSearch.h>
 #include <ZKStrings/tools/exchange/CSV.h>
 #include <ZKStrings/tools/exchange/CSVGuard.h>
-#include <ZKStrings/tools/support/Fault.h>
+#include <ZKStrings/tools/support/Diagnostic.h>
 #include <ZKStrings/tools/support/Languages.h>
 
 #include <algorithm>
@@ -38,7 +38,7 @@ class Reader {
  public:
   Reader(std::string bytes, const std::string& file) : file_(file) {
     std::optional<std::string> text = decodedText(std::move(bytes), UnmarkedText::isUtf8);
-    if (!text) fail({1, 1}, "the bytes are not text in UTF-8; save the file as CSV in UTF-8");
+    if (!text) fail(file_, "the bytes are not text in UTF-8; save the file as CSV in UTF-8");
     text_ = *std::move(text);
     separator_ = separatorOf(text_);
   }
@@ -53,7 +53,7 @@ class Reader {
       return !isOther && !languageCodeOf(title).empty();
     });
     if (language == titles.end())
-      fail({1, 1}, "no column is titled with the code of a language; title that of the translations \"de\"");
+      fail(file_, "no column is titled with the code of a language; title that of the translations \"de\"");
     const auto target = static_cast<std::size_t>(language - titles.begin());
     const auto state =
         static_cast<std::size_t>(std::find(titles.begin(), titles.end(), kStateTitle) - titles.begin());
@@ -73,16 +73,12 @@ class Reader {
   }
 
  private:
-  [[noreturn]] void fail(Position at, std::string message) const {
-    throw CommandFailed{{{Severity::error, file_, at.line, at.column, "", std::move(message)}}};
-  }
-
   [[nodiscard]] std::size_t columnOf(std::string_view title, const Row& titles) const {
     const auto found = std::find(titles.begin(), titles.end(), title);
     if (found == titles.end()) {
-      fail({1, 1}, fmt::format("no column is titled \"{}\"; the first line of a table of translations is "
-                               "key,en,de,state,notes",
-                               title));
+      fail(file_, fmt::format("no column is titled \"{}\"; the first line of a table of translations is "
+                              "key,en,de,state,notes",
+                              title));
     }
     return static_cast<std::size_t>(found - titles.begin());
   }
@@ -121,7 +117,7 @@ class Reader {
     for (;;) {
       const std::size_t quote = text_.find('"', at_);
       if (quote == std::string::npos) {
-        fail(positionOf(text_, begin),
+        fail(file_, positionOf(text_, begin),
              "the closing quote of the cell is missing; the file may be cut off or damaged");
       }
       cell += text_.substr(at_, quote - at_);
@@ -133,7 +129,8 @@ class Reader {
     const bool isEnd =
         at_ == text_.size() || text_[at_] == separator_ || text_[at_] == '\r' || text_[at_] == '\n';
     if (!isEnd)
-      fail(positionOf(text_, at_), "text behind the cell's closing quote; double each quote within a cell");
+      fail(file_, positionOf(text_, at_),
+           "text behind the cell's closing quote; double each quote within a cell");
     return cell;
   }
 

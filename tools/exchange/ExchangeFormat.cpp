@@ -4,7 +4,7 @@
 #include <ZKStrings/tools/exchange/XLIFF.h>
 #include <ZKStrings/tools/project/Table.h>
 #include <ZKStrings/tools/support/Characters.h>
-#include <ZKStrings/tools/support/Fault.h>
+#include <ZKStrings/tools/support/Diagnostic.h>
 #include <ZKStrings/tools/support/Files.h>
 
 #include <cstdint>
@@ -29,10 +29,10 @@ bool beginsAsXML(std::string_view bytes) {
 void refuseWhatNoXMLHolds(const Translations& translations) {
   for (const TranslationUnit& unit : translations.units) {
     if (fitsXML(unit.key) && fitsXML(unit.source) && fitsXML(unit.target)) continue;
-    throw CommandFailed{{{Severity::error, tablePath(translations.language), 1, 1, "",
-                          fmt::format("the text of \"{}\" has a control character, which XLIFF cannot hold; "
-                                      "remove it, or export with --format po",
-                                      escaped(unit.key))}}};
+    fail(tablePath(translations.language),
+         fmt::format("the text of \"{}\" has a control character, which XLIFF cannot hold; "
+                     "remove it, or export with --format po",
+                     escaped(unit.key)));
   }
 }
 
@@ -55,21 +55,17 @@ std::string written(const Translations& translations, ExchangeFormat format) {
 Translations readTranslations(const std::string& path) {
   std::error_code failure;
   if (const std::uintmax_t size = std::filesystem::file_size(path, failure); !failure && size > kLargest) {
-    throw CommandFailed{{{Severity::error, path, 1, 1, "",
-                          "the file is larger than 32 MiB, which no export is; import another"}}};
+    fail(path, "the file is larger than 32 MiB, which no export is; import another");
   }
-  if (path.ends_with(".strings")) {
-    throw CommandFailed{{{Severity::error, path, 1, 1, "",
-                          "string tables are not imported; edit resources/xx.lproj/Localizable.strings in place"}}};
-  }
+  if (path.ends_with(".strings"))
+    fail(path, "string tables are not imported; edit resources/xx.lproj/Localizable.strings in place");
   std::string bytes = readFile("", path);
   const ExchangeFormat format = formatNamedBy(path);
   if (beginsAsXML(bytes)) return fromXLIFF(std::move(bytes), path);
-  if (format == ExchangeFormat::xliff12) {
-    throw CommandFailed{{{Severity::error, path, 1, 1, "",
-                          "the file is not XLIFF, and its name does not end in .po, .csv or .tsv; export it in one "
-                          "of these formats"}}};
-  }
+  if (format == ExchangeFormat::xliff12)
+    fail(path,
+         "the file is not XLIFF, and its name does not end in .po, .csv or .tsv; export it in one "
+         "of these formats");
   return format == ExchangeFormat::po ? fromPO(std::move(bytes), path) : fromCSV(std::move(bytes), path);
 }
 

@@ -11,10 +11,8 @@
 namespace zk::tools {
 
 Translations translationsOf(const std::string& root, const std::string& language, bool onlyLacking) {
-  if (language == kBase) {
-    throw CommandFailed{{{Severity::error, tablePath(language), 1, 1, "",
-                          "the English texts are not translated; name the language to translate into"}}};
-  }
+  if (language == kBase)
+    fail(tablePath(language), "the English texts are not translated; name the language to translate into");
   const Catalogue catalogue = Catalogue::read(root);
   const EnglishTexts english(catalogue, Table::readWellFormed(root, kBase));
   const Table table = Table::readWellFormed(root, language);

@@ -54,7 +54,7 @@ class Importer {
   };
 
   void report(Severity severity, const TranslationUnit& unit, std::string message, std::string rule = "") {
-    result_.faults.push_back(
+    result_.diagnostics.push_back(
         {severity, file_, unit.at.line, unit.at.column, std::move(rule), std::move(message)});
   }
 
@@ -125,30 +125,31 @@ class Importer {
 
   /// Throws the errors in what was taken; other findings there are reported.
   void refuseErrors(const Table& table) {
-    for (const Fault& fault : checkTable(translations_.language, table, catalogue_, base_)) {
-      if (fault.severity > Severity::warning) continue;
-      const TableEntry* const entry = entryAt(table, fault);
+    for (const Diagnostic& diagnostic : checkTable(translations_.language, table, catalogue_, base_)) {
+      if (diagnostic.severity > Severity::warning) continue;
+      const TableEntry* const entry = entryAt(table, diagnostic);
       if (!entry) continue;
       const auto taken = taken_.find(entry->key);
       if (taken == taken_.end()) continue;
-      report(fault.severity, *taken->second.unit,
-             fmt::format("\"{}\": {}", escaped(entry->key), fault.message), fault.rule);
+      report(diagnostic.severity, *taken->second.unit,
+             fmt::format("\"{}\": {}", escaped(entry->key), diagnostic.message), diagnostic.rule);
     }
-    const auto isError = [](const Fault& fault) { return fault.severity == Severity::error; };
-    if (std::none_of(result_.faults.begin(), result_.faults.end(), isError)) return;
-    result_.faults.push_back({Severity::note, file_, 1, 1, "",
-                              "nothing was imported because of the errors; mend them and import again"});
-    throw CommandFailed{std::move(result_.faults)};
+    const auto isError = [](const Diagnostic& diagnostic) { return diagnostic.severity == Severity::error; };
+    if (std::none_of(result_.diagnostics.begin(), result_.diagnostics.end(), isError)) return;
+    result_.diagnostics.push_back({Severity::note, file_, 1, 1, "",
+                                   "nothing was imported because of the errors; mend them and import again"});
+    throw CommandFailed{std::move(result_.diagnostics)};
   }
 
-  /// The entry in which `fault` lies, or before which, in its comments.
-  static const TableEntry* entryAt(const Table& table, const Fault& fault) {
+  /// The entry in which `diagnostic` lies, or before which, in its comments.
+  static const TableEntry* entryAt(const Table& table, const Diagnostic& diagnostic) {
     const std::vector<TableEntry>& entries = table.entries;
-    const auto ending = std::partition_point(
-        entries.begin(), entries.end(), [&](const TableEntry& one) { return one.lastLine < fault.line; });
+    const auto ending = std::partition_point(entries.begin(), entries.end(), [&](const TableEntry& one) {
+      return one.lastLine < diagnostic.line;
+    });
     // Several may stand on one line.
     const auto behind = std::partition_point(ending, entries.end(), [&](const TableEntry& one) {
-      return std::tie(one.keyAt.line, one.keyAt.column) <= std::tie(fault.line, fault.column);
+      return std::tie(one.keyAt.line, one.keyAt.column) <= std::tie(diagnostic.line, diagnostic.column);
     });
     if (ending == entries.end()) return nullptr;
     return behind == ending ? &*ending : &*std::prev(behind);
@@ -170,10 +171,8 @@ class Importer {
 
 Import importTranslations(const std::string& root, const Translations& translations, const std::string& file,
                           bool force) {
-  if (translations.language == kBase) {
-    throw CommandFailed{{{Severity::error, file, 1, 1, "",
-                          "the English texts are not imported; change them in their table"}}};
-  }
+  if (translations.language == kBase)
+    fail(file, "the English texts are not imported; change them in their table");
   return Importer(root, translations, file, force).run();
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <ZKStrings/tools/exchange/Translations.h>
-#include <ZKStrings/tools/support/Fault.h>
+#include <ZKStrings/tools/support/Diagnostic.h>
 
 #include <cstddef>
 #include <string>
@@ -16,7 +16,7 @@ struct Import {
   std::size_t marked = 0;     ///< entries of which only the mark has changed
   std::size_t unchanged = 0;  ///< texts that were so already
   std::size_t refused = 0;    ///< texts that could not be taken
-  Faults faults;              ///< why, and what else is worth a look, at its place in the imported file
+  Diagnostics diagnostics;    ///< why, and what else is worth a look, at its place in the imported file
 };
 
 /// Brings `translations`, which were read from `file`, into the table of their language of the project at

@@ -11,7 +11,7 @@ namespace zk::tools {
 [[nodiscard]] std::string toPO(const Translations& translations);
 
 /// Reads a PO file, also as translate-toolkit and Qt write it, which keep the key in comments. Throws
-/// `CommandFailed` for what is no such file, which faults call `file`.
+/// `CommandFailed` for what is no such file, which diagnostics call `file`.
 [[nodiscard]] Translations fromPO(std::string bytes, const std::string& file);
 
 }  // namespace zk::tools

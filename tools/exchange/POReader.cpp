@@ -2,7 +2,7 @@
 #include <ZKStrings/tools/exchange/PO.h>
 #include <ZKStrings/tools/exchange/POReference.h>
 #include <ZKStrings/tools/exchange/POText.h>
-#include <ZKStrings/tools/support/Fault.h>
+#include <ZKStrings/tools/support/Diagnostic.h>
 #include <ZKStrings/tools/support/Files.h>
 
 #include <algorithm>
@@ -32,7 +32,7 @@ class Reader {
  public:
   Reader(std::string bytes, const std::string& file) : file_(file) {
     std::optional<std::string> text = decodedText(std::move(bytes), UnmarkedText::isUtf8);
-    if (!text) fail("the bytes are not text in UTF-8; save the file as UTF-8");
+    if (!text) fail(file_, "the bytes are not text in UTF-8; save the file as UTF-8");
     text_ = *std::move(text);
   }
 
@@ -42,7 +42,7 @@ class Reader {
       readLine(line);
     }
     endEntry();
-    if (!hasEntries_) fail("the file has no entries; a PO file has lines such as msgid \"...\"");
+    if (!hasEntries_) fail(file_, "the file has no entries; a PO file has lines such as msgid \"...\"");
     return std::move(translations_);
   }
 
@@ -56,18 +56,13 @@ class Reader {
     bool hasTarget = false;
   };
 
-  [[noreturn]] void fail(std::string message) const {
-    throw CommandFailed{
-        {{Severity::error, file_, std::max<std::size_t>(at_.line, 1), at_.column, "", std::move(message)}}};
-  }
-
   void readLine(std::string_view line) {
     const std::string_view content = behindBlanks(line);
     at_.column = line.size() - content.size() + 1;
     if (content.empty() || content.starts_with("#~")) return;
     if (content.starts_with('#')) return readComment(content);
     if (content.starts_with('"')) {
-      if (!quoted_) fail("a text without a keyword before it; write msgctxt, msgid or msgstr");
+      if (!quoted_) fail(file_, at_, "a text without a keyword before it; write msgctxt, msgid or msgstr");
       return readText(content);
     }
     const std::string_view keyword = content.substr(0, content.find_first_of(" \t\""));
@@ -91,18 +86,20 @@ class Reader {
   void beginStatement(std::string_view keyword) {
     const bool isContext = keyword == "msgctxt";
     if (!isContext && keyword != "msgid" && keyword != "msgstr") {
-      fail(keyword == "msgid_plural" || keyword.starts_with("msgstr[")
+      fail(file_, at_,
+           keyword == "msgid_plural" || keyword.starts_with("msgstr[")
                ? "plural entries are not taken; each plural form is an entry of its own, as in the export"
                : "expected msgctxt, msgid or msgstr, a text in quotes, or a comment");
     }
     if (keyword == "msgstr") {
-      if (!entry_.hasSource || entry_.hasTarget) fail("msgstr without a msgid before it");
+      if (!entry_.hasSource || entry_.hasTarget) fail(file_, at_, "msgstr without a msgid before it");
       entry_.hasTarget = true;
       quoted_ = &entry_.unit.target;
       return;
     }
     if (entry_.hasTarget) endEntry();
-    if (entry_.hasSource) fail("msgid without a msgstr behind it; the file may be cut off or damaged");
+    if (entry_.hasSource)
+      fail(file_, at_, "msgid without a msgstr behind it; the file may be cut off or damaged");
     if (!isContext) entry_.hasSource = true;
     if (isContext || entry_.context.empty()) entry_.unit.at = at_;
     quoted_ = isContext ? &entry_.context : &entry_.unit.source;
@@ -110,7 +107,7 @@ class Reader {
 
   /// A text in quotes, up to the end of the line.
   void readText(std::string_view quoted) {
-    if (const char* const fault = appendUnquoted(quoted, *quoted_)) fail(fault);
+    if (const char* const fault = appendUnquoted(quoted, *quoted_)) fail(file_, at_, fault);
   }
 
   void endEntry() {
@@ -118,7 +115,7 @@ class Reader {
     quoted_ = nullptr;
     if (!entry.hasTarget) {
       if (entry.hasSource || !entry.context.empty())
-        fail("the last entry has no msgstr; the file may be cut off or damaged");
+        fail(file_, at_, "the last entry has no msgstr; the file may be cut off or damaged");
       return;
     }
     hasEntries_ = true;

@@ -18,7 +18,7 @@ namespace zk::tools {
 [[nodiscard]] std::string toXLIFF20(const Translations& translations);
 
 /// Reads XLIFF 1.1, 1.2 or 2.x, also as translate-toolkit and Qt write it, which keep a unit's key elsewhere.
-/// Throws `CommandFailed` for what is no such file, which faults call `file`.
+/// Throws `CommandFailed` for what is no such file, which diagnostics call `file`.
 [[nodiscard]] Translations fromXLIFF(std::string bytes, const std::string& file);
 
 }  // namespace zk::tools

@@ -1,7 +1,7 @@
 #include <ZKStrings/platform/formats/TextEncoding.h>
 #include <ZKStrings/tools/exchange/XMLFile.h>
 #include <ZKStrings/tools/support/Characters.h>
-#include <ZKStrings/tools/support/Fault.h>
+#include <ZKStrings/tools/support/Diagnostic.h>
 
 #include <algorithm>
 #include <cstddef>
@@ -19,8 +19,7 @@ constexpr std::string_view kPredefinedEntities[] = {"amp", "lt", "gt", "quot", "
 std::string decoded(std::string bytes, const std::string& file) {
   std::optional<std::string> text = decodedText(std::move(bytes), UnmarkedText::isUtf8);
   if (text) return *std::move(text);
-  throw CommandFailed{
-      {{Severity::error, file, 1, 1, "", "the bytes are not text in UTF-8; save the file as UTF-8"}}};
+  fail(file, "the bytes are not text in UTF-8; save the file as UTF-8");
 }
 
 /// Where a reference begins in `xml` to an entity that XML does not define itself; `npos` for none. The
@@ -82,8 +81,7 @@ void XMLFile::refuse(pugi::xml_node element, std::string message) const {
 }
 
 void XMLFile::fail(std::size_t offset, std::string message) const {
-  const auto [line, column] = positionOf(text_, offset);
-  throw CommandFailed{{{Severity::error, file_, line, column, "", std::move(message)}}};
+  tools::fail(file_, positionOf(text_, offset), std::move(message));
 }
 
 std::string_view localName(std::string_view name) {

@@ -1,7 +1,7 @@
 #include <ZKStrings/platform/text/UnicodeText.h>
 #include <ZKStrings/tools/layout/PseudoLanguages.h>
 #include <ZKStrings/tools/project/Table.h>
-#include <ZKStrings/tools/support/Fault.h>
+#include <ZKStrings/tools/support/Diagnostic.h>
 #include <ZKStrings/tools/support/Files.h>
 #include <ZKStrings/tools/support/Languages.h>
 #include <ZKStrings/tools/texts/Placeholders.h>
@@ -154,10 +154,6 @@ std::string tableOf(const EnglishTexts& english, std::string (*make)(const Engli
   std::string table;
   for (const EnglishText& text : english.all()) table += tableLine(text.key, make(text));
   return table;
-}
-
-[[noreturn]] void fail(const std::string& directory, std::string message) {
-  throw CommandFailed{{{Severity::error, directory, 1, 1, "", std::move(message)}}};
 }
 
 /// `directory`, once it is known not to lie in the project's own resources, by whatever links.

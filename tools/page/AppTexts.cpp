@@ -3,7 +3,7 @@
 #include <ZKStrings/engine/PlaceholderSubstitution.h>
 #include <ZKStrings/engine/PluralSuffix.h>
 #include <ZKStrings/tools/page/AppTexts.h>
-#include <ZKStrings/tools/support/Fault.h>
+#include <ZKStrings/tools/support/Diagnostic.h>
 #include <ZKStrings/tools/support/Languages.h>
 
 namespace zk::tools {
@@ -11,8 +11,7 @@ namespace zk::tools {
 AppTexts::AppTexts(const std::string& root) : resources_(Bundle::initWithPath(root + "/resources")) {
   const ResourcePath* const base = resources_ ? resources_->pathForResource(kBase, "lproj") : nullptr;
   if (base && Bundle::initWithPath(*base)) return;
-  throw CommandFailed{{{Severity::error, "resources/Base.lproj", 1, 1, "",
-                        "the folder of the English texts cannot be read; see that it exists"}}};
+  fail("resources/Base.lproj", "the folder of the English texts cannot be read; see that it exists");
 }
 
 std::string AppTexts::text(std::string_view language, const Entry& entry,

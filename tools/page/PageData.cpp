@@ -43,13 +43,13 @@ char letterOf(TranslationState state) {
   return 't';
 }
 
-/// The entry of `table` in whose lines and behind whose key `fault` lies; null when it is in none.
-const TableEntry* entryAt(const Table& table, const Fault& fault) {
+/// The entry of `table` in whose lines and behind whose key `diagnostic` lies; null when it is in none.
+const TableEntry* entryAt(const Table& table, const Diagnostic& diagnostic) {
   const TableEntry* found = nullptr;
   for (const TableEntry& entry : table.entries) {
     const bool isBehindKey =
-        std::tie(entry.keyAt.line, entry.keyAt.column) <= std::tie(fault.line, fault.column);
-    if (isBehindKey && fault.line <= entry.lastLine) found = &entry;
+        std::tie(entry.keyAt.line, entry.keyAt.column) <= std::tie(diagnostic.line, diagnostic.column);
+    if (isBehindKey && diagnostic.line <= entry.lastLine) found = &entry;
   }
   return found;
 }
@@ -63,7 +63,7 @@ class PageDataMaker {
         english_(catalogue_, Table::read(root, kBase)),
         texts_(root),
         languages_(languagesIn(root)),
-        faults_(check(root, {.languages = {}, .off = {}, .notes = true}).faults) {
+        diagnostics_(check(root, {.languages = {}, .off = {}, .notes = true}).diagnostics) {
     std::erase_if(languages_, [](const std::string& language) { return !whyNeverChosen(language).empty(); });
     std::stable_partition(languages_.begin(), languages_.end(),
                           [](const std::string& language) { return language == kBase; });
@@ -121,7 +121,7 @@ class PageDataMaker {
                  {"native", name.native},
                  {"isRightToLeft", name.isRightToLeft},
                  {"file", table.file},
-                 {"isWellFormed", table.faults.empty()},
+                 {"isWellFormed", table.diagnostics.empty()},
                  {"texts", Json::array()},
                  {"finished", Json::array()},
                  {"characters", Json::array()},
@@ -145,7 +145,7 @@ class PageDataMaker {
   [[nodiscard]] std::string statesOf(const std::string& language, const Table& table) const {
     std::string states;
     for (const EnglishText& english : english_.all()) {
-      const TableEntry* const entry = table.faults.empty() ? table.find(english.key) : nullptr;
+      const TableEntry* const entry = table.diagnostics.empty() ? table.find(english.key) : nullptr;
       states += letterOf(stateOf(language, entry, english));
     }
     return states;
@@ -153,12 +153,12 @@ class PageDataMaker {
 
   [[nodiscard]] Json findingsOf(const Table& table) const {
     Json findings = Json::array();
-    for (const Fault& fault : faults_) {
-      if (fault.file != table.file || fault.severity == Severity::gap) continue;
-      const TableEntry* const entry = entryAt(table, fault);
+    for (const Diagnostic& diagnostic : diagnostics_) {
+      if (diagnostic.file != table.file || diagnostic.severity == Severity::gap) continue;
+      const TableEntry* const entry = entryAt(table, diagnostic);
       const auto place = entry ? places_.find(entry->key) : places_.end();
-      findings.push_back({place == places_.end() ? Json() : Json(place->second), nameOf(fault.severity),
-                          fault.rule, fault.message, fault.line, fault.column});
+      findings.push_back({place == places_.end() ? Json() : Json(place->second), nameOf(diagnostic.severity),
+                          diagnostic.rule, diagnostic.message, diagnostic.line, diagnostic.column});
     }
     return findings;
   }
@@ -169,7 +169,7 @@ class PageDataMaker {
   const EnglishTexts english_;
   const AppTexts texts_;
   std::vector<std::string> languages_;
-  const Faults faults_;
+  const Diagnostics diagnostics_;
   std::unordered_map<std::string, std::size_t> places_;
 };
 

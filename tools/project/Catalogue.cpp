@@ -26,7 +26,7 @@ constexpr const char* kNoObject = R"(the line is no JSON object; write {"key": "
 /// Reads the lines of entries.json into entries and collects what is wrong with each by itself.
 class Reader {
  public:
-  Reader(std::string file, Faults& faults) : file_(std::move(file)), faults_(faults) {}
+  Reader(std::string file, Diagnostics& diagnostics) : file_(std::move(file)), diagnostics_(diagnostics) {}
 
   std::vector<Entry> read(std::string_view json) {
     const std::vector<std::string_view> lines = linesOf(json);
@@ -45,7 +45,7 @@ class Reader {
 
  private:
   void fail(std::size_t line, std::size_t column, std::string message) {
-    faults_.push_back({Severity::error, file_, line, column, "", std::move(message)});
+    diagnostics_.push_back({Severity::error, file_, line, column, "", std::move(message)});
   }
 
   std::optional<Entry> readLine(std::string_view line, bool isLast) {
@@ -68,7 +68,7 @@ class Reader {
   std::optional<Entry> entryFrom(const nlohmann::json& object) {
     Entry entry;
     entry.line = line_;
-    const std::size_t before = faults_.size();
+    const std::size_t before = diagnostics_.size();
     if (!object.is_object()) {
       fail(line_, 1, kNoObject);
       return std::nullopt;
@@ -84,7 +84,7 @@ class Reader {
     }
     if (entry.key.empty() || entry.text.empty())
       fail(line_, 1, "the entry has no key or no text; give it both");
-    return faults_.size() == before ? std::optional(std::move(entry)) : std::nullopt;
+    return diagnostics_.size() == before ? std::optional(std::move(entry)) : std::nullopt;
   }
 
   static bool readMember(Entry& entry, const std::string& name, const nlohmann::json& value) {
@@ -102,14 +102,14 @@ class Reader {
   }
 
   std::string file_;
-  Faults& faults_;
+  Diagnostics& diagnostics_;
   std::size_t line_ = 0;
 };
 
 /// Says what is wrong with an entry by the rules of the catalogue, each with the mend.
-void checkEntry(const Entry& entry, const std::string& file, Faults& faults) {
+void checkEntry(const Entry& entry, const std::string& file, Diagnostics& diagnostics) {
   const auto fail = [&](std::string message) {
-    faults.push_back({Severity::error, file, entry.line, 1, "", std::move(message)});
+    diagnostics.push_back({Severity::error, file, entry.line, 1, "", std::move(message)});
   };
   const std::string ruled = keyForText(entry.text);
   if (entry.kept == Entry::Kept::nothing && entry.key != ruled) {
@@ -147,13 +147,13 @@ std::string signatureOf(const Entry& entry) {
                      entry.plural ? ", count" : "");
 }
 
-void checkTogether(const std::vector<Entry>& entries, const std::string& file, Faults& faults) {
+void checkTogether(const std::vector<Entry>& entries, const std::string& file, Diagnostics& diagnostics) {
   std::map<std::string, const Entry*> accessors;
   std::map<std::string_view, const Entry*> texts;
   const Entry* previous = nullptr;
   for (const Entry& entry : entries) {
     const auto fail = [&](std::string message) {
-      faults.push_back({Severity::error, file, entry.line, 1, "", std::move(message)});
+      diagnostics.push_back({Severity::error, file, entry.line, 1, "", std::move(message)});
     };
     const auto [same, isNew] = accessors.try_emplace(signatureOf(entry), &entry);
     if (!isNew)
@@ -185,19 +185,19 @@ Catalogue Catalogue::read(const std::string& root) {
 }
 
 Catalogue Catalogue::parse(std::string_view json, const std::string& file) {
-  Faults faults;
+  Diagnostics diagnostics;
   Catalogue catalogue;
-  catalogue.entries_ = Reader(file, faults).read(json);
-  for (const Entry& entry : catalogue.entries_) checkEntry(entry, file, faults);
-  checkTogether(catalogue.entries_, file, faults);
-  if (!faults.empty()) throw CommandFailed{std::move(faults)};
+  catalogue.entries_ = Reader(file, diagnostics).read(json);
+  for (const Entry& entry : catalogue.entries_) checkEntry(entry, file, diagnostics);
+  checkTogether(catalogue.entries_, file, diagnostics);
+  if (!diagnostics.empty()) throw CommandFailed{std::move(diagnostics)};
   return catalogue;
 }
 
 std::string Catalogue::faultIn(const Entry& entry) {
-  Faults faults;
-  checkEntry(entry, kFile, faults);
-  return faults.empty() ? "" : faults.front().message;
+  Diagnostics diagnostics;
+  checkEntry(entry, kFile, diagnostics);
+  return diagnostics.empty() ? "" : diagnostics.front().message;
 }
 
 std::vector<Catalogue::LookedUpKey> Catalogue::lookedUpKeys() const {

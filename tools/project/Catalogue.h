@@ -1,6 +1,6 @@
 #pragma once
 
-#include <ZKStrings/tools/support/Fault.h>
+#include <ZKStrings/tools/support/Diagnostic.h>
 #include <ZKStrings/tools/texts/Placeholders.h>
 #include <ZKStrings/tools/texts/PluralForms.h>
 
@@ -30,7 +30,7 @@ class Catalogue {
   /// Reads and checks entries.json in the project at `root`. Throws `CommandFailed` with all that is wrong in
   /// it.
   [[nodiscard]] static Catalogue read(const std::string& root);
-  /// The same of the text of such a file, which faults call `file`.
+  /// The same of the text of such a file, which diagnostics call `file`.
   [[nodiscard]] static Catalogue parse(std::string_view json, const std::string& file);
 
   /// What is wrong with `entry` by itself, and what to do; empty when nothing is.

@@ -1,6 +1,6 @@
 #include <ZKStrings/tools/project/CatalogueName.h>
 #include <ZKStrings/tools/project/Identifiers.h>
-#include <ZKStrings/tools/support/Fault.h>
+#include <ZKStrings/tools/support/Diagnostic.h>
 #include <ZKStrings/tools/support/Files.h>
 #include <ZKStrings/tools/support/Position.h>
 
@@ -17,10 +17,6 @@ namespace zk::tools {
 namespace {
 
 constexpr const char* kForm = R"(write {"name": "Texts", "namespace": "myapp"})";
-
-[[noreturn]] void fail(Position at, std::string message) {
-  throw CommandFailed{{{Severity::error, CatalogueName::kFile, at.line, at.column, "", std::move(message)}}};
-}
 
 bool isNamespace(std::string_view name) {
   for (std::size_t end = 0; end != name.npos;) {
@@ -45,16 +41,16 @@ CatalogueName CatalogueName::parse(std::string_view json) {
     CatalogueName read{"", ""};
     for (const auto& [member, value] : object.items()) {
       if (!object.is_object() || !value.is_string() || (member != "name" && member != "namespace"))
-        fail({1, 1}, fmt::format("the file is no object with two texts; {}", kForm));
+        fail(kFile, fmt::format("the file is no object with two texts; {}", kForm));
       (member == "name" ? read.name : read.nameSpace) = value.get<std::string>();
     }
-    if (const std::string fault = read.fault(); !fault.empty()) fail({1, 1}, fault);
+    if (const std::string fault = read.fault(); !fault.empty()) fail(kFile, fault);
     return read;
   } catch (const nlohmann::json::parse_error& fault) {
     const std::size_t at = std::min(std::max<std::size_t>(fault.byte, 1) - 1, json.size());
-    fail(positionOf(json, at), fmt::format("the text is not JSON here; {}", kForm));
+    fail(kFile, positionOf(json, at), fmt::format("the text is not JSON here; {}", kForm));
   } catch (const nlohmann::json::out_of_range&) {
-    fail({1, 1}, fmt::format("the file is no object with two texts; {}", kForm));
+    fail(kFile, fmt::format("the file is no object with two texts; {}", kForm));
   }
 }
 

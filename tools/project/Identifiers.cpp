@@ -1,6 +1,6 @@
 #include <ZKStrings/catalogue/KeyRule.h>
-#include <ZKStrings/platform/text/UnicodeText.h>
 #include <ZKStrings/tools/project/Identifiers.h>
+#include <ZKStrings/tools/support/Characters.h>
 
 #include <algorithm>
 #include <iterator>
@@ -35,10 +35,8 @@ bool isDigit(char character) {
 /// Whether `name` has letters, marks, digits and "_" alone, and no digit at its beginning.
 bool hasSignsOfNames(std::string_view name) {
   if (name.empty() || isDigit(name.front())) return false;
-  while (!name.empty()) {
-    const CodePoint next = firstCodePoint(name);
+  for (const CodePoint next : CodePoints(name)) {
     if (next.bytes != "_" && !(next.value && isLetterMarkOrDigit(*next.value))) return false;
-    name.remove_prefix(next.bytes.size());
   }
   return true;
 }

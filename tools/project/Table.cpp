@@ -2,6 +2,7 @@
 #include <ZKStrings/platform/formats/TextEncoding.h>
 #include <ZKStrings/platform/text/UnicodeText.h>
 #include <ZKStrings/tools/project/Table.h>
+#include <ZKStrings/tools/support/Characters.h>
 #include <ZKStrings/tools/support/Files.h>
 
 #include <algorithm>
@@ -74,10 +75,14 @@ std::vector<Position> illFormedPlaces(std::string_view bytes) {
   std::vector<Position> places;
   const std::vector<std::string_view> lines = linesOf(bytes);
   for (std::size_t line = 0; line < lines.size(); ++line) {
-    std::string_view rest = lines[line];
-    while (!rest.empty() && firstCodePoint(rest).value) rest.remove_prefix(firstCodePoint(rest).bytes.size());
-    if (!rest.empty())
-      places.push_back({line + 1, positionOf(lines[line], lines[line].size() - rest.size()).column});
+    std::size_t column = 1;
+    for (const CodePoint next : CodePoints(lines[line])) {
+      if (!next.value) {
+        places.push_back({line + 1, column});
+        break;
+      }
+      ++column;
+    }
   }
   return places;
 }
@@ -127,14 +132,14 @@ Table Table::read(const std::string& root, std::string_view language) {
 
 Table Table::readWellFormed(const std::string& root, std::string_view language) {
   Table table = read(root, language);
-  if (!table.faults.empty()) throw CommandFailed{std::move(table.faults)};
+  if (!table.diagnostics.empty()) throw CommandFailed{std::move(table.diagnostics)};
   return table;
 }
 
 Table Table::parse(std::string bytes, std::string file) {
   Table table{std::move(file), {}, {}, {}};
   const auto fail = [&](Position at, const char* rule, std::string message) {
-    table.faults.push_back({Severity::error, table.file, at.line, at.column, rule, std::move(message)});
+    table.diagnostics.push_back({Severity::error, table.file, at.line, at.column, rule, std::move(message)});
   };
   std::optional<std::string> text = decodedText(bytes, UnmarkedText::isUtf8);
   if (!text && isMarkedUtf16Or32(bytes)) {

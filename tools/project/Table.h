@@ -1,6 +1,6 @@
 #pragma once
 
-#include <ZKStrings/tools/support/Fault.h>
+#include <ZKStrings/tools/support/Diagnostic.h>
 #include <ZKStrings/tools/support/Position.h>
 
 #include <cstddef>
@@ -12,7 +12,7 @@
 
 namespace zk::tools {
 
-/// One entry of a string table, with the places in its file that faults are reported for.
+/// One entry of a string table, with the places in its file that diagnostics are reported for.
 struct TableEntry {
   /// The bytes [begin, end) of the table's text in UTF-8, without a byte-order mark.
   struct Span {
@@ -69,13 +69,13 @@ struct Table {
 
   std::string file;  ///< relative to the project's root
   std::vector<TableEntry> entries;
-  Faults faults;
+  Diagnostics diagnostics;
   std::map<std::string, std::size_t, std::less<>> places;  ///< by key, of the entry that counts
 
   /// Reads the table of `language` ("Base", "de") of the project at `root`. A file that cannot be read is a
   /// fault too.
   [[nodiscard]] static Table read(const std::string& root, std::string_view language);
-  /// The same for those who cannot go on with a faulty table: throws its faults as `CommandFailed`.
+  /// The same for those who cannot go on with a faulty table: throws its diagnostics as `CommandFailed`.
   [[nodiscard]] static Table readWellFormed(const std::string& root, std::string_view language);
   /// The same of the bytes of such a file.
   [[nodiscard]] static Table parse(std::string bytes, std::string file);

@@ -3,7 +3,7 @@
 #include <ZKStrings/tools/reference/Completion.h>
 #include <ZKStrings/tools/reference/ManPage.h>
 #include <ZKStrings/tools/reference/ReferenceCommand.h>
-#include <ZKStrings/tools/support/Fault.h>
+#include <ZKStrings/tools/support/Diagnostic.h>
 #include <ZKStrings/tools/support/Files.h>
 #include <ZKStrings/tools/support/Languages.h>
 

@@ -1,4 +1,3 @@
-#include <ZKStrings/platform/text/UnicodeText.h>
 #include <ZKStrings/tools/support/Characters.h>
 
 #include <algorithm>
@@ -7,7 +6,7 @@ namespace zk::tools {
 
 std::size_t lengthOf(std::string_view text) {
   std::size_t length = 0;
-  for (; !text.empty(); ++length) text.remove_prefix(firstCodePoint(text).bytes.size());
+  for (CodePoints left(text); left != left.end(); ++left) ++length;
   return length;
 }
 

@@ -1,5 +1,5 @@
 #include <ZKStrings/platform/system/File.h>
-#include <ZKStrings/tools/support/Fault.h>
+#include <ZKStrings/tools/support/Diagnostic.h>
 #include <ZKStrings/tools/support/Files.h>
 #include <ZKStrings/tools/support/Undisturbed.h>
 
@@ -24,10 +24,6 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr const char* kMark = "catalogue/entries.json";
-
-[[noreturn]] void fail(const std::string& path, std::string message) {
-  throw CommandFailed{{{Severity::error, path, 1, 1, "", std::move(message)}}};
-}
 
 [[noreturn]] void failToWrite(const std::string& path) {
   fail(path, "the file cannot be written; see that it and its directory may be written and have room");

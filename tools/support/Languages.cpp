@@ -1,5 +1,5 @@
 #include <ZKStrings/tools/support/Characters.h>
-#include <ZKStrings/tools/support/Fault.h>
+#include <ZKStrings/tools/support/Diagnostic.h>
 #include <ZKStrings/tools/support/Languages.h>
 #include <ZKStrings/tools/support/Nearest.h>
 
@@ -95,10 +95,7 @@ std::vector<std::string> languagesIn(const std::string& root) {
        entry.increment(failure)) {
     if (entry->path().extension() == kExtension) languages.push_back(entry->path().stem().string());
   }
-  if (failure) {
-    throw CommandFailed{{{Severity::error, kResources, 1, 1, "",
-                          "the directory cannot be listed; see that it exists and may be read"}}};
-  }
+  if (failure) fail(kResources, "the directory cannot be listed; see that it exists and may be read");
   std::sort(languages.begin(), languages.end());
   return languages;
 }
@@ -128,8 +125,7 @@ std::string existingLanguage(const std::string& root, std::string_view word) {
 
   const std::string advice = code.empty() ? adviceFor(lowerCased(name), languages)
                                           : fmt::format("zkstrings template {} begins one", code);
-  throw CommandFailed{
-      {{Severity::error, kResources, 1, 1, "", fmt::format("no table for \"{}\"; {}", word, advice)}}};
+  fail(kResources, fmt::format("no table for \"{}\"; {}", word, advice));
 }
 
 std::string whyNeverChosen(std::string_view language) {

@@ -1,4 +1,4 @@
-#include <ZKStrings/platform/text/UnicodeText.h>
+#include <ZKStrings/tools/support/Characters.h>
 #include <ZKStrings/tools/texts/Placeholders.h>
 #include <ZKStrings/tools/texts/TextFeatures.h>
 
@@ -22,16 +22,6 @@ bool isSpace(const CodePoint& character) {
   return character.value && u_charType(static_cast<UChar32>(*character.value)) == U_SPACE_SEPARATOR;
 }
 
-/// Calls `visit` with each character of `text`.
-template <class Visit>
-void forEachCharacter(std::string_view text, const Visit& visit) {
-  while (!text.empty()) {
-    const CodePoint character = firstCodePoint(text);
-    text.remove_prefix(character.bytes.size());
-    visit(character);
-  }
-}
-
 }  // namespace
 
 std::size_t findControlCharacter(std::string_view text) {
@@ -43,15 +33,16 @@ std::size_t findControlCharacter(std::string_view text) {
 }
 
 bool isBlank(std::string_view text) {
-  bool result = true;
-  forEachCharacter(text, [&](const CodePoint& character) { result = result && isWhiteSpace(character); });
-  return result;
+  for (const CodePoint character : CodePoints(text)) {
+    if (!isWhiteSpace(character)) return false;
+  }
+  return true;
 }
 
 OuterSpace outerSpace(std::string_view text) {
   OuterSpace space;
   bool isLeading = true;
-  forEachCharacter(text, [&](const CodePoint& character) {
+  for (const CodePoint character : CodePoints(text)) {
     std::string& run = isLeading ? space.leading : space.trailing;
     if (isWhiteSpace(character)) {
       run += isSpace(character) ? " " : character.bytes;
@@ -59,7 +50,7 @@ OuterSpace outerSpace(std::string_view text) {
       isLeading = false;
       space.trailing.clear();
     }
-  });
+  }
   return space;
 }
 
@@ -88,12 +79,12 @@ std::vector<std::string_view> wordsOf(std::string_view text) {
   const auto finish = [&] {
     if (end > begin) words.push_back(text.substr(begin, end - begin));
   };
-  forEachCharacter(text, [&](const CodePoint& character) {
+  for (const CodePoint character : CodePoints(text)) {
     const bool isInWord = character.value && isLetterMarkOrDigit(*character.value);
     if (!isInWord) finish();
     end += character.bytes.size();
     if (!isInWord) begin = end;
-  });
+  }
   finish();
   return words;
 }
@@ -101,13 +92,13 @@ std::vector<std::string_view> wordsOf(std::string_view text) {
 std::vector<std::string> numbersIn(std::string_view text) {
   std::vector<std::string> numbers;
   bool isInNumber = false;
-  forEachCharacter(text, [&](const CodePoint& character) {
+  for (const CodePoint character : CodePoints(text)) {
     const bool isDigit = character.value && isDecimalDigit(*character.value);
     if (isDigit && !isInNumber) numbers.emplace_back();
     if (isDigit)
       numbers.back() += static_cast<char>('0' + u_charDigitValue(static_cast<UChar32>(*character.value)));
     isInNumber = isDigit;
-  });
+  }
   std::sort(numbers.begin(), numbers.end());
   return numbers;
 }
@@ -117,10 +108,10 @@ Brackets bracketsIn(std::string_view text) {
     return std::find(std::begin(forms), std::end(forms), spelled) != std::end(forms);
   };
   Brackets brackets;
-  forEachCharacter(text, [&](const CodePoint& character) {
+  for (const CodePoint character : CodePoints(text)) {
     if (isOneOf(kOpening, character.bytes)) ++brackets.opening;
     if (isOneOf(kClosing, character.bytes)) ++brackets.closing;
-  });
+  }
   return brackets;
 }
 

@@ -33,7 +33,7 @@ std::size_t& countOf(TranslationState state, Coverage& coverage) {
 
 Coverage coverageOf(const std::string& language, const Table& table, const EnglishTexts& english) {
   Coverage coverage{language};
-  coverage.isWellFormed = table.faults.empty();
+  coverage.isWellFormed = table.diagnostics.empty();
   for (const EnglishText& text : english.all()) {
     const TableEntry* const entry = coverage.isWellFormed ? table.find(text.key) : nullptr;
     ++countOf(stateOf(language, entry, text), coverage);

@@ -12,10 +12,6 @@ namespace zk::tools {
 
 namespace {
 
-void refuse(const std::string& language, std::string reason) {
-  throw CommandFailed{{{Severity::error, tablePath(language), 1, 1, "", std::move(reason)}}};
-}
-
 /// Marks an entry that is empty or still in English, and removes the mark from one that is not.
 void updateMark(const TableEntry& entry, const EnglishText& english, std::string_view language,
                 TableEditor& editor, TableUpdate& update) {
@@ -41,8 +37,9 @@ void updateUnknown(const TableEntry& entry, bool prunes, TableEditor& editor, Ta
 
 TableUpdate updateTable(const std::string& root, const std::string& language, bool prunes) {
   if (language == kBase)
-    refuse(language, "the English table is not translated; zkstrings add adds a text to it");
-  if (std::string reason = whyNeverChosen(language); !reason.empty()) refuse(language, std::move(reason));
+    fail(tablePath(language), "the English table is not translated; zkstrings add adds a text to it");
+  if (std::string reason = whyNeverChosen(language); !reason.empty())
+    fail(tablePath(language), std::move(reason));
   const Catalogue catalogue = Catalogue::read(root);
   const EnglishTexts english(catalogue, Table::readWellFormed(root, kBase));
   TableEditor editor = TableEditor::open(root, language);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <ZKStrings/tools/support/Fault.h>
+#include <ZKStrings/tools/support/Diagnostic.h>
 
 #include <cstddef>
 #include <string>
@@ -13,7 +13,7 @@ struct TableUpdate {
   std::size_t marked = 0;    ///< entries, as untranslated
   std::size_t unmarked = 0;  ///< entries that are no longer
   std::size_t removed = 0;   ///< entries that nothing looks up
-  Faults notLookedUp;        ///< the entries that nothing looks up and that are still there
+  Diagnostics notLookedUp;   ///< the entries that nothing looks up and that are still there
 
   [[nodiscard]] bool isChange() const { return added + marked + unmarked + removed > 0; }
 };

@@ -22,10 +22,6 @@ std::string comment(std::string text) {
   return fmt::format("/* {} */", text);
 }
 
-[[noreturn]] void refuse(const std::string& path, std::string message) {
-  throw CommandFailed{{{Severity::error, path, 1, 1, "", std::move(message)}}};
-}
-
 }  // namespace
 
 std::string explanationOf(const EnglishText& english) {
@@ -53,10 +49,10 @@ std::size_t writeTemplate(const std::string& root, const std::string& language) 
   if (language.empty()) throw std::invalid_argument("the language is empty; give its ISO 639-1 code");
   const std::string path = tablePath(language);
   std::string reason = whyNeverChosen(language);
-  if (!reason.empty()) refuse(path, std::move(reason));
+  if (!reason.empty()) fail(path, std::move(reason));
   std::error_code failure;
   if (std::filesystem::exists(std::filesystem::path(root) / path, failure)) {
-    refuse(path, "the table is there already, and its texts would be lost; remove it first to begin anew");
+    fail(path, "the table is there already, and its texts would be lost; remove it first to begin anew");
   }
   const Catalogue catalogue = Catalogue::read(root);
   const EnglishTexts english(catalogue, Table::readWellFormed(root, kBase));

@@ -1,7 +1,7 @@
 #include <ZKStrings/tests/TemporaryDirectory.h>
 #include <ZKStrings/tools/check/Checker.h>
 #include <ZKStrings/tools/layout/PseudoLanguages.h>
-#include <ZKStrings/tools/support/Fault.h>
+#include <ZKStrings/tools/support/Diagnostic.h>
 #include <ZKStrings/tools/support/Languages.h>
 #include <ZKStrings/tools/texts/TextFeatures.h>
 #include <ZKStrings/tools/texts/TextSize.h>
@@ -74,8 +74,8 @@ TEST_F(PseudoTables, KeepAllThatTranslationsMustKeep) {
       .languages = {"xa", "xb"},
       .off = {"language-directory", "end-punctuation", "ellipsis", "apostrophe", "english-words"},
       .notes = false};
-  for (const Fault& fault : check(directory_.path(), options).faults)
-    ADD_FAILURE() << formatted(fault, false);
+  for (const Diagnostic& diagnostic : check(directory_.path(), options).diagnostics)
+    ADD_FAILURE() << formatted(diagnostic, false);
 }
 
 TEST_F(PseudoTables, AreAThirdLongerInReadersEyes) {

@@ -3,7 +3,7 @@
 #include <ZKStrings/tools/page/LanguageName.h>
 #include <ZKStrings/tools/page/Page.h>
 #include <ZKStrings/tools/page/PageData.h>
-#include <ZKStrings/tools/support/Fault.h>
+#include <ZKStrings/tools/support/Diagnostic.h>
 
 #include <algorithm>
 #include <filesystem>

@@ -1,5 +1,5 @@
 #include <ZKStrings/tests/TemporaryDirectory.h>
-#include <ZKStrings/tools/support/Fault.h>
+#include <ZKStrings/tools/support/Diagnostic.h>
 #include <ZKStrings/tools/support/Files.h>
 
 #include <csignal>

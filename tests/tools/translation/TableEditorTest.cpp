@@ -125,7 +125,7 @@ TEST(TableEditor, RefusesWhatItCouldHarm) {
     EXPECT_THROW(TableEditor(bytes, "table"), CommandFailed) << bytes;
   }
   const std::string utf16 = "\xFF\xFE\"\0A\0\"\0=\0\"\0a\0\"\0;\0"s;
-  ASSERT_TRUE(Table::parse(utf16, "table").faults.empty());
+  ASSERT_TRUE(Table::parse(utf16, "table").diagnostics.empty());
   EXPECT_THROW(TableEditor(utf16, "table"), CommandFailed);
 }
 

@@ -1,9 +1,10 @@
-#include <ZKStrings/platform/text/UnicodeText.h>
-#include <ZKStrings/tools/support/Fault.h>
+#include <ZKStrings/tools/support/Characters.h>
+#include <ZKStrings/tools/support/Diagnostic.h>
 
 #include <cstdint>
 #include <cstdlib>
 #include <string_view>
+#include <utility>
 
 #include <fmt/color.h>
 #include <fmt/format.h>
@@ -37,14 +38,17 @@ Style styleOf(Severity severity) {
 /// steers the terminal.
 std::string withoutControls(std::string_view text) {
   std::string result;
-  while (!text.empty()) {
-    const CodePoint next = firstCodePoint(text);
-    text.remove_prefix(next.bytes.size());
+  for (const CodePoint next : CodePoints(text)) {
     const char32_t value = next.value.value_or(U' ');
     const bool isControl = value < 0x20 || (value >= 0x7F && value < 0xA0);
     result += isControl ? fmt::format("\\U{:04x}", std::uint32_t{value}) : std::string(next.bytes);
   }
   return result;
+}
+
+bool takesColours(std::FILE* stream) {
+  const char* const refusal = std::getenv("NO_COLOR");
+  return isatty(fileno(stream)) == 1 && (refusal == nullptr || *refusal == '\0');
 }
 
 }  // namespace
@@ -53,33 +57,42 @@ const char* nameOf(Severity severity) {
   return styleOf(severity).name;
 }
 
-bool takesColours(std::FILE* stream) {
-  const char* const refusal = std::getenv("NO_COLOR");
-  return isatty(fileno(stream)) == 1 && (refusal == nullptr || *refusal == '\0');
-}
-
-std::string formatted(const Fault& fault, bool coloured) {
-  const auto [name, colour] = styleOf(fault.severity);
+std::string formatted(const Diagnostic& diagnostic, bool coloured) {
+  const auto [name, colour] = styleOf(diagnostic.severity);
   const auto in = [&](fmt::text_style wanted) { return coloured ? wanted : fmt::text_style(); };
-  std::string line = fmt::format(in(fmt::emphasis::bold), "{}:{}:{}: ", withoutControls(fault.file),
-                                 fault.line, fault.column);
+  std::string line = fmt::format(in(fmt::emphasis::bold), "{}:{}:{}: ", withoutControls(diagnostic.file),
+                                 diagnostic.line, diagnostic.column);
   line += fmt::format(in(fmt::emphasis::bold | fmt::fg(colour)), "{}: ", name);
-  line += withoutControls(fault.message);
-  if (!fault.rule.empty()) line += fmt::format(in(fmt::emphasis::faint), " [{}]", fault.rule);
+  line += withoutControls(diagnostic.message);
+  if (!diagnostic.rule.empty()) line += fmt::format(in(fmt::emphasis::faint), " [{}]", diagnostic.rule);
   return line;
 }
 
-std::string toJson(const Faults& faults) {
+void print(std::FILE* stream, const Diagnostics& diagnostics) {
+  const bool coloured = takesColours(stream);
+  for (const Diagnostic& diagnostic : diagnostics)
+    std::fputs((formatted(diagnostic, coloured) + "\n").c_str(), stream);
+}
+
+std::string toJson(const Diagnostics& diagnostics) {
   using Json = nlohmann::ordered_json;
   std::vector<std::string> objects;
-  for (const Fault& fault : faults) {
-    const Json object = {{"file", fault.file},     {"line", fault.line},
-                         {"column", fault.column}, {"severity", nameOf(fault.severity)},
-                         {"rule", fault.rule},     {"message", fault.message}};
+  for (const Diagnostic& diagnostic : diagnostics) {
+    const Json object = {{"file", diagnostic.file},     {"line", diagnostic.line},
+                         {"column", diagnostic.column}, {"severity", nameOf(diagnostic.severity)},
+                         {"rule", diagnostic.rule},     {"message", diagnostic.message}};
     // Messages quote texts, in which there may be bytes that are not UTF-8.
     objects.push_back(object.dump(-1, ' ', false, Json::error_handler_t::replace));
   }
   return objects.empty() ? "[]" : fmt::format("[\n  {}\n]", fmt::join(objects, ",\n  "));
+}
+
+void fail(std::string file, Position at, std::string message) {
+  throw CommandFailed{{{Severity::error, std::move(file), at.line, at.column, "", std::move(message)}}};
+}
+
+void fail(std::string file, std::string message) {
+  fail(std::move(file), {1, 1}, std::move(message));
 }
 
 }  // namespace zk::tools

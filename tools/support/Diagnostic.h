@@ -1,0 +1,50 @@
+#pragma once
+
+#include <ZKStrings/tools/support/Position.h>
+
+#include <cstddef>
+#include <cstdio>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace zk::tools {
+
+/// From the gravest to the mildest. A gap is a text that is not translated yet, which is not an error.
+enum class Severity { error, warning, gap, note };
+
+[[nodiscard]] const char* nameOf(Severity severity);
+
+/// Something wrong in a file of the project, as a compiler would report it.
+struct Diagnostic {
+  Severity severity = Severity::error;
+  std::string file;        ///< relative to the project's root
+  std::size_t line = 1;    ///< from 1
+  std::size_t column = 1;  ///< from 1, in characters
+  std::string rule;        ///< the name under which the rule can be switched off; empty when it cannot
+  std::string message;     ///< what is wrong; what to do
+};
+
+using Diagnostics = std::vector<Diagnostic>;
+
+/// The diagnostic as one line, "file:line:column: error: message [rule]", with colours when `coloured`.
+[[nodiscard]] std::string formatted(const Diagnostic& diagnostic, bool coloured);
+
+/// Prints the diagnostics to `stream`, one a line, in colours if it is a terminal and NO_COLOR is not set.
+void print(std::FILE* stream, const Diagnostics& diagnostics);
+
+/// The diagnostics as a JSON array of objects with the members file, line, column, severity, rule and message, one
+/// object a line.
+[[nodiscard]] std::string toJson(const Diagnostics& diagnostics);
+
+/// Thrown by a command that cannot go on; the program prints the diagnostics and ends with a failure.
+struct CommandFailed {
+  Diagnostics diagnostics;
+};
+
+/// Throws `CommandFailed` with one error.
+[[noreturn]] void fail(std::string file, Position at, std::string message);
+/// Throws `CommandFailed` with one error about the file as a whole, at its first character.
+[[noreturn]] void fail(std::string file, std::string message);
+
+}  // namespace zk::tools
