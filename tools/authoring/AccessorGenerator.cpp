@@ -122,6 +122,7 @@ std::string lookupOf(const Entry& entry, const CatalogueName& catalogue) {
 
 std::string commentOf(const Entry& entry, const Table& base) {
   std::string comment = fmt::format("  /// \"{}\"\n", escaped(entry.text));
+  if (const std::string context = entry.context(); !context.empty()) comment += "  /// " + context + "\n";
   if (!entry.plural) return comment;
   for (const PluralForm& form : kPluralForms) {
     const TableEntry* const text = base.find(std::string(entry.key).append(form.suffix));

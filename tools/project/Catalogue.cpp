@@ -4,6 +4,7 @@
 #include <ZKStrings/tools/support/Characters.h>
 #include <ZKStrings/tools/support/Files.h>
 #include <ZKStrings/tools/support/Position.h>
+#include <ZKStrings/tools/texts/TextFeatures.h>
 
 #include <algorithm>
 #include <array>
@@ -77,8 +78,8 @@ class Reader {
       if (!readMember(entry, name, value)) {
         fail(line_, 1,
              fmt::format(
-                 "the member \"{}\" is unknown or of the wrong type; members are key and text (texts), "
-                 "plural (true) and kept (\"key\" or \"place\")",
+                 "the member \"{}\" is unknown or of the wrong type; members are key, text and comment "
+                 "(texts), plural (true), kept (\"key\" or \"place\") and max (a number from 1)",
                  name));
       }
     }
@@ -92,13 +93,21 @@ class Reader {
       entry.plural = value.is_boolean() && value.get<bool>();
       return entry.plural;
     }
+    if (name == "max") {
+      entry.max = value.is_number_unsigned() ? value.get<std::size_t>() : 0;
+      return entry.max > 0;
+    }
     if (!value.is_string()) return false;
-    if (name == "key") entry.key = value.get<std::string>();
-    if (name == "text") entry.text = value.get<std::string>();
     for (const auto& [kept, keptName] : kKeptNames) {
       if (name == "kept" && value == keptName) entry.kept = kept;
     }
-    return name == "key" || name == "text" || entry.kept != Entry::Kept::nothing;
+    if (name == "kept") return entry.kept != Entry::Kept::nothing;
+    std::string* const member = name == "key"       ? &entry.key
+                                : name == "text"    ? &entry.text
+                                : name == "comment" ? &entry.comment
+                                                    : nullptr;
+    if (member) *member = value.get<std::string>();
+    return member != nullptr;
   }
 
   std::string file_;
@@ -120,6 +129,12 @@ void checkEntry(const Entry& entry, const std::string& file, Diagnostics& diagno
   }
   if (identifierFor(entry.key).empty()) {
     fail(fmt::format("the key \"{}\" cannot name a function; give it a letter or digit", entry.key));
+  }
+  // The comment is copied into comments of C++ and of tables.
+  if (findControlCharacter(entry.comment) != std::string::npos ||
+      entry.comment.find_first_of("\n\t\\") != std::string::npos ||
+      entry.comment.find("*/") != std::string::npos) {
+    fail("the comment has a line break, a tab, a backslash or \"*/\"; write one line without them");
   }
   std::set<std::string_view> seen;
   for (const std::string_view name : placeholderNames(entry.text)) {
@@ -180,6 +195,11 @@ std::string quoted(const std::string& text) {
 
 }  // namespace
 
+std::string Entry::context() const {
+  const std::string limit = max > 0 ? fmt::format("At most {} characters.", max) : "";
+  return comment + (comment.empty() || limit.empty() ? "" : " ") + limit;
+}
+
 Catalogue Catalogue::read(const std::string& root) {
   return parse(readFile(root, kFile), kFile);
 }
@@ -235,6 +255,8 @@ std::string Catalogue::toJson() const {
     for (const auto& [kept, name] : kKeptNames) {
       if (entry.kept == kept) json += fmt::format(", \"kept\": \"{}\"", name);
     }
+    if (!entry.comment.empty()) json += fmt::format(", \"comment\": {}", quoted(entry.comment));
+    if (entry.max > 0) json += fmt::format(", \"max\": {}", entry.max);
     json += &entry == &entries_.back() ? "}\n" : "},\n";
   }
   return json + "]\n";

@@ -21,7 +21,12 @@ struct Entry {
   std::string text;  ///< the English default
   bool plural = false;
   Kept kept = Kept::nothing;
-  std::size_t line = 0;  ///< in entries.json
+  std::string comment = {};  ///< for translators: where the text appears, what it means; may be empty
+  std::size_t max = 0;       ///< the most characters that fit where the text appears; 0 for no limit
+  std::size_t line = 0;      ///< in entries.json
+
+  /// What translators are told about the text: its comment, then its limit. May be empty.
+  [[nodiscard]] std::string context() const;
 };
 
 /// All texts of the app, in catalogue order.

@@ -10,10 +10,12 @@ namespace zk::tools {
 /// What the comments before an entry tell the tools. Such a comment is one word, a colon and what is told:
 ///
 ///     /* English: "%{n} Coins"; placeholders: %{n} */
+///     /* context: A button that opens the settings. At most 14 characters. */
 ///     /* state: needs-review */
 ///     /* check: off end-punctuation, marks */
 
 inline constexpr std::string_view kExplanation = "English:";
+inline constexpr std::string_view kContext = "context:";
 inline constexpr std::string_view kState = "state:";
 inline constexpr std::string_view kCheck = "check:";
 

@@ -16,7 +16,7 @@ constexpr std::string_view kBlanks = " \t";
 
 bool tellsTools(const TableEntry::Comment& comment) {
   const auto tells = [&](std::string_view name) { return !wordsTold(comment, name).empty(); };
-  return tells(kExplanation) || tells(kState) || tells(kCheck);
+  return tells(kExplanation) || tells(kContext) || tells(kState) || tells(kCheck);
 }
 
 }  // namespace

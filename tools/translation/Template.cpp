@@ -34,7 +34,10 @@ std::string explanationOf(const EnglishText& english) {
 std::string untranslatedEntry(const EnglishText& english) {
   const std::string mark =
       isSameEverywhere(english.text) ? "" : markFor(TranslationState::untranslated) + "\n";
-  return explanationOf(english) + "\n" + mark + tableLine(english.key, english.text);
+  const std::string context = english.entry->context();
+  return explanationOf(english) + "\n" +
+         (context.empty() ? "" : comment(fmt::format("{} {}", kContext, context)) + "\n") + mark +
+         tableLine(english.key, english.text);
 }
 
 std::string templateFor(std::string_view language, const EnglishTexts& english) {
