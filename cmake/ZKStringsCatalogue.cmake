@@ -43,10 +43,9 @@ function(zk_add_catalogue)
     file(MAKE_DIRECTORY ${directory}/share)
     file(CREATE_LINK ${arg_ROOT}/resources ${directory}/share/${name} SYMBOLIC)
   endforeach()
-  if(NOT arg_DESTINATION)
-    set(arg_DESTINATION .)
-  endif()
-  install(DIRECTORY ${arg_ROOT}/resources/ DESTINATION ${arg_DESTINATION}/share/${name} PATTERN "*.md" EXCLUDE PATTERN "glossary.json" EXCLUDE)
+  set(installed "${arg_DESTINATION}")
+  cmake_path(APPEND installed share ${name})
+  install(DIRECTORY ${arg_ROOT}/resources/ DESTINATION ${installed} PATTERN "*.md" EXCLUDE PATTERN "glossary.json" EXCLUDE)
 endfunction()
 
 # Sets the variables <name> and <namespace> to what <file> says, and stops with a message when it does not say it.

@@ -18,8 +18,7 @@ function(zkstrings_add_resources target)
     COMMAND ${CMAKE_COMMAND} -E make_directory "$<TARGET_FILE_DIR:${target}>/${above}"
     COMMAND ${CMAKE_COMMAND} -E create_symlink "${resources}" "$<TARGET_FILE_DIR:${target}>/${place}"
     VERBATIM)
-  if(NOT arg_DESTINATION)
-    set(arg_DESTINATION .)
-  endif()
-  install(DIRECTORY "${resources}/" DESTINATION "${arg_DESTINATION}/${place}" PATTERN "*.md" EXCLUDE PATTERN "glossary.json" EXCLUDE)
+  set(installed "${arg_DESTINATION}")
+  cmake_path(APPEND installed "${place}")
+  install(DIRECTORY "${resources}/" DESTINATION "${installed}" PATTERN "*.md" EXCLUDE PATTERN "glossary.json" EXCLUDE)
 endfunction()
