@@ -8,10 +8,8 @@
 #include <ZKStrings/tools/translation/TableEditor.h>
 
 #include <algorithm>
-#include <iterator>
 #include <map>
 #include <string_view>
-#include <tuple>
 #include <utility>
 
 #include <fmt/format.h>
@@ -127,7 +125,7 @@ class Importer {
   void refuseErrors(const Table& table) {
     for (const Diagnostic& diagnostic : checkTable(translations_.language, table, catalogue_, base_)) {
       if (diagnostic.severity > Severity::warning) continue;
-      const TableEntry* const entry = entryAt(table, diagnostic);
+      const TableEntry* const entry = table.entryAt({diagnostic.line, diagnostic.column});
       if (!entry) continue;
       const auto taken = taken_.find(entry->key);
       if (taken == taken_.end()) continue;
@@ -139,20 +137,6 @@ class Importer {
     result_.diagnostics.push_back({Severity::note, file_, 1, 1, "",
                                    "nothing was imported because of the errors; mend them and import again"});
     throw CommandFailed{std::move(result_.diagnostics)};
-  }
-
-  /// The entry in which `diagnostic` lies, or before which, in its comments.
-  static const TableEntry* entryAt(const Table& table, const Diagnostic& diagnostic) {
-    const std::vector<TableEntry>& entries = table.entries;
-    const auto ending = std::partition_point(entries.begin(), entries.end(), [&](const TableEntry& one) {
-      return one.lastLine < diagnostic.line;
-    });
-    // Several may stand on one line.
-    const auto behind = std::partition_point(ending, entries.end(), [&](const TableEntry& one) {
-      return std::tie(one.keyAt.line, one.keyAt.column) <= std::tie(diagnostic.line, diagnostic.column);
-    });
-    if (ending == entries.end()) return nullptr;
-    return behind == ending ? &*ending : &*std::prev(behind);
   }
 
   const std::string& root_;

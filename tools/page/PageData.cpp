@@ -11,7 +11,6 @@
 #include <algorithm>
 #include <cstddef>
 #include <iterator>
-#include <tuple>
 
 #include <nlohmann/json.hpp>
 
@@ -41,17 +40,6 @@ char letterOf(TranslationState state) {
       break;
   }
   return 't';
-}
-
-/// The entry of `table` in whose lines and behind whose key `diagnostic` lies; null when it is in none.
-const TableEntry* entryAt(const Table& table, const Diagnostic& diagnostic) {
-  const TableEntry* found = nullptr;
-  for (const TableEntry& entry : table.entries) {
-    const bool isBehindKey =
-        std::tie(entry.keyAt.line, entry.keyAt.column) <= std::tie(diagnostic.line, diagnostic.column);
-    if (isBehindKey && diagnostic.line <= entry.lastLine) found = &entry;
-  }
-  return found;
 }
 
 class PageDataMaker {
@@ -155,7 +143,7 @@ class PageDataMaker {
     Json findings = Json::array();
     for (const Diagnostic& diagnostic : diagnostics_) {
       if (diagnostic.file != table.file || diagnostic.severity == Severity::gap) continue;
-      const TableEntry* const entry = entryAt(table, diagnostic);
+      const TableEntry* const entry = table.entryAt({diagnostic.line, diagnostic.column});
       const auto place = entry ? places_.find(entry->key) : places_.end();
       findings.push_back({place == places_.end() ? Json() : Json(place->second), nameOf(diagnostic.severity),
                           diagnostic.rule, diagnostic.message, diagnostic.line, diagnostic.column});

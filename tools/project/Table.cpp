@@ -6,7 +6,9 @@
 #include <ZKStrings/tools/support/Files.h>
 
 #include <algorithm>
+#include <iterator>
 #include <optional>
+#include <tuple>
 #include <utility>
 
 #include <fmt/format.h>
@@ -171,6 +173,14 @@ Table Table::parse(std::string bytes, std::string file) {
 const TableEntry* Table::find(std::string_view key) const {
   const auto place = places.find(key);
   return place == places.end() ? nullptr : &entries[place->second];
+}
+
+const TableEntry* Table::entryAt(Position position) const {
+  const auto next = std::partition_point(entries.begin(), entries.end(), [&](const TableEntry& entry) {
+    return std::tie(entry.keyAt.line, entry.keyAt.column) <= std::tie(position.line, position.column);
+  });
+  if (next != entries.begin() && std::prev(next)->lastLine >= position.line) return &*std::prev(next);
+  return next == entries.end() ? nullptr : &*next;
 }
 
 std::size_t endOfLine(std::string_view text, const TableEntry& entry) {

@@ -82,6 +82,9 @@ struct Table {
 
   /// The entry of `key` that counts, the last; null when there is none.
   [[nodiscard]] const TableEntry* find(std::string_view key) const;
+  /// The entry at `position`, or the next one when `position` is between entries, such as in the comments before
+  /// an entry; null after the last entry.
+  [[nodiscard]] const TableEntry* entryAt(Position position) const;
 };
 
 /// Where the line of `text`, a table's, ends on which `entry` ends, with its line break. Comments that follow
