@@ -346,7 +346,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Cancel();
 
   /// "Cashout"
-  /// Where this appears is not recorded; it may be a noun or a verb: the payment of winnings to a PayPal account. If your language needs two words, use the noun.
+  /// Where this appears is not recorded; it may be a noun or a verb: the payment of winnings to the player. Use a word that fits both if your language has one.
   [[nodiscard]] static std::string Cashout();
 
   /// "Cashout %{amount}"
@@ -439,7 +439,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Cold();
 
   /// "Collect"
-  /// Where this appears is not recorded; treat it as a button: a verb. It takes what the player has won or was given; what that is, is not recorded. It does not mean to gather.
+  /// Where this appears is not recorded; treat it as a button: a verb. It takes what the player has won or was given, whatever that is. It does not mean to gather.
   [[nodiscard]] static std::string Collect();
 
   /// "Color Test"
@@ -633,7 +633,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Donation_Request_Submitted();
 
   /// "Done"
-  /// Where this appears is not recorded; treat it as a button: a verb. The player has finished and leaves the screen.
+  /// Where this appears is not recorded; treat it as a button: a verb. The player has finished something.
   [[nodiscard]] static std::string Done();
 
   /// "Download on "
@@ -686,7 +686,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Email_address();
 
   /// "Email Support"
-  /// "Email" is a verb: write an e-mail to the support team.
+  /// "Email" is a verb: write an email to the support team.
   [[nodiscard]] static std::string Email_Support();
 
   /// "Employees are not allowed to cashout"
@@ -1079,7 +1079,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string History();
 
   /// "Hit us up on Twitter @zktrivia"
-  /// An informal invitation to write to ZK..
+  /// An informal invitation to write to ZK.
   [[nodiscard]] static std::string Hit_us_up_on_Twitter_zktrivia();
 
   /// "Hot"
@@ -1223,7 +1223,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Invite_your_friends_to_play_ZK();
 
   /// "Join"
-  /// Where this appears is not recorded; treat it as a button: a verb. What the player joins, a game or a party, is not recorded; use a word that fits both.
+  /// Where this appears is not recorded; treat it as a button: a verb. The player may join a game or a party; use a word that fits both.
   [[nodiscard]] static std::string Join();
 
   /// "Join me on ZK Trivia! Use my code \"%{username}\" to sign up: https://zktrivia.example"
@@ -1244,14 +1244,14 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Keep_tapping();
 
   /// "Kick"
-  /// Where this appears is not recorded; treat it as a button: a verb. A host removes a player from a game or a party.
+  /// Where this appears is not recorded; treat it as a button: a verb. It removes a player from a game or a party.
   [[nodiscard]] static std::string Kick();
 
   /// "Kicking %{username} failed"
   [[nodiscard]] static std::string Kicking_username_failed(Text username);
 
   /// "Later"
-  /// Where this appears is not recorded; it postpones something. It answers a suggestion of the app.
+  /// Where this appears is not recorded; it postpones something that the app suggests.
   [[nodiscard]] static std::string Later();
 
   /// "Leaderboard"
@@ -1263,7 +1263,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Learn_more();
 
   /// "Leave"
-  /// Where this appears is not recorded; treat it as a button: a verb. What the player leaves, a game or a party, is not recorded; use a word that fits both.
+  /// Where this appears is not recorded; treat it as a button: a verb. The player may leave a game or a party; use a word that fits both.
   [[nodiscard]] static std::string Leave();
 
   /// "Legal"
@@ -1691,7 +1691,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Play_warm_up_game();
 
   /// "Play with %{cost} nearby players and you'll each earn an Eraser"
-  /// %{cost} is a number, and there are no plural forms. The text must be right for 1 and for 5. It speaks to one player; "each" is the player and those nearby.
+  /// %{cost} is a number, and there are no plural forms. The text must be right for 1 and for 5. "You" is the player and those nearby.
   [[nodiscard]] static std::string Play_with_cost_nearby_players_and_you_ll_each_earn_an_Eraser(Text cost);
 
   /// "%{players} in VIP Prize"
@@ -2133,7 +2133,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Sign_in_to_play();
 
   /// "Silent Kick"
-  /// A host removes a player without telling anybody.
+  /// It removes a player without telling anybody.
   [[nodiscard]] static std::string Silent_Kick();
 
   /// "six"
@@ -2198,7 +2198,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Sports();
 
   /// "Start"
-  /// Where this appears is not recorded; treat it as a button: a verb. What it starts is not recorded.
+  /// Where this appears is not recorded; treat it as a button: a verb. Use a word that fits whatever it starts.
   [[nodiscard]] static std::string Start();
 
   /// "Start the Next Game"
@@ -2242,7 +2242,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string strikeCount_strikes_left_this_round(Text strikeCount, std::int64_t count);
 
   /// "Submit"
-  /// Where this appears is not recorded; treat it as a button: a verb. What is sent, a question or a form, is not recorded; use a word that fits both.
+  /// Where this appears is not recorded; treat it as a button: a verb. It may send a question or a form; use a word that fits both.
   [[nodiscard]] static std::string Submit();
 
   /// "Submit another"
@@ -2267,7 +2267,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Subscribed();
 
   /// "Success! You bought %{extraLifeCount} Extra Lives to help you win."
-  /// At 0 nothing was bought, so the text cannot speak of success.
+  /// At 0 nothing was bought, so do not speak of success.
   /// - 0: "You bought no Extra Lives this time."
   /// - 1: "Success! You bought %{extraLifeCount} Extra Life to help you win."
   /// - 2: "Success! You bought %{extraLifeCount} Extra Lives to help you win."
@@ -2526,7 +2526,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Unknown_period();
 
   /// "Unlock"
-  /// Where this appears is not recorded; treat it as a button: a verb. What it unlocks is not recorded; use a word that fits a game, a level and a Badge.
+  /// Where this appears is not recorded; treat it as a button: a verb. Use a word that fits a game, a level and a Badge.
   [[nodiscard]] static std::string Unlock();
 
   /// "Unlock badges by getting\nquestions right in\ndifferent topics."
@@ -2603,11 +2603,11 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Use_my_code_code_to_sign_up_url(Text code, Text url);
 
   /// "%{user} was kicked out."
-  /// The placeholder is the name of a player whom a host removed; the gender is unknown.
+  /// The placeholder is the name of a player who was removed; the gender is unknown.
   [[nodiscard]] static std::string user_was_kicked_out(Text user);
 
   /// "%{userCount} others"
-  /// Who the others are is not recorded. The text probably follows one or more names: "Anna and 3 others".
+  /// Who the others are is not recorded. The text may follow names ("Anna and 3 others") or be alone; use a form that fits both.
   /// - 0: "%{userCount} others"
   /// - 1: "%{userCount} other"
   /// - 2: "%{userCount} others"
@@ -2690,11 +2690,11 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string username_was_eliminated(Text username);
 
   /// "%{username} was kicked successfully"
-  /// The placeholder is the name of a player whom a host removed; the gender is unknown.
+  /// The placeholder is the name of a player who was removed; the gender is unknown.
   [[nodiscard]] static std::string username_was_kicked_successfully(Text username);
 
   /// "%{username} was silently kicked"
-  /// The placeholder is the name of a player whom a host removed; the gender is unknown.
+  /// The placeholder is the name of a player who was removed; the gender is unknown.
   [[nodiscard]] static std::string username_was_silently_kicked(Text username);
 
   /// "%{username} won the game!"
