@@ -165,7 +165,7 @@ class PlainNumbers {
 /// Whether the library would pass over characters that are not JSON: a byte-order mark at the beginning, and
 /// all that follows a NUL.
 bool holdsUnseen(std::string_view text) {
-  return text.starts_with("\xEF\xBB\xBF") || text.find('\0') != std::string_view::npos;
+  return text.starts_with(kByteOrderMark) || text.find('\0') != std::string_view::npos;
 }
 
 }  // namespace

@@ -23,8 +23,8 @@ struct Mark {
 
 // The mark of UTF-32 begins with that of UTF-16, and so stands before it.
 constexpr Mark kMarks[] = {
-    {"\xEF\xBB\xBF"sv, {1, false}}, {"\xFF\xFE\0\0"sv, {4, false}}, {"\0\0\xFE\xFF"sv, {4, true}},
-    {"\xFF\xFE"sv, {2, false}},     {"\xFE\xFF"sv, {2, true}},
+    {kByteOrderMark, {1, false}}, {"\xFF\xFE\0\0"sv, {4, false}}, {"\0\0\xFE\xFF"sv, {4, true}},
+    {"\xFF\xFE"sv, {2, false}},   {"\xFE\xFF"sv, {2, true}},
 };
 
 /// The encoding of a text that begins with an ASCII character, from the place of its zero bytes.

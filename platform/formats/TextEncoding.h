@@ -2,8 +2,12 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace zk {
+
+/// The byte-order mark in UTF-8.
+inline constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 /// Whether a text without a byte-order mark may be in another encoding than UTF-8.
 enum class UnmarkedText {

@@ -1,3 +1,4 @@
+#include <ZKStrings/platform/formats/TextEncoding.h>
 #include <ZKStrings/platform/text/TextSearch.h>
 #include <ZKStrings/tools/exchange/CSV.h>
 #include <ZKStrings/tools/exchange/CSVGuard.h>
@@ -9,8 +10,6 @@
 namespace zk::tools {
 
 namespace {
-
-constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 std::string cell(std::string_view text) {
   std::string content = guarded(text);

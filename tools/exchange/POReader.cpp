@@ -3,7 +3,7 @@
 #include <ZKStrings/tools/exchange/POReference.h>
 #include <ZKStrings/tools/exchange/POText.h>
 #include <ZKStrings/tools/support/Diagnostic.h>
-#include <ZKStrings/tools/support/Files.h>
+#include <ZKStrings/tools/support/Position.h>
 
 #include <algorithm>
 #include <cstddef>

@@ -1,7 +1,7 @@
 #include <ZKStrings/tools/exchange/PO.h>
 #include <ZKStrings/tools/exchange/POReference.h>
 #include <ZKStrings/tools/exchange/POText.h>
-#include <ZKStrings/tools/support/Files.h>
+#include <ZKStrings/tools/support/Position.h>
 
 #include <algorithm>
 #include <string_view>

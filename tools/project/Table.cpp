@@ -4,6 +4,7 @@
 #include <ZKStrings/tools/project/Table.h>
 #include <ZKStrings/tools/support/Characters.h>
 #include <ZKStrings/tools/support/Files.h>
+#include <ZKStrings/tools/support/Position.h>
 
 #include <algorithm>
 #include <iterator>
@@ -16,8 +17,6 @@
 namespace zk::tools {
 
 namespace {
-
-constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
 
 /// The escape that begins at the byte `offset` of `spelled`, with the whole of its character.
 std::string escapeAt(std::string_view spelled, std::size_t offset) {
@@ -150,7 +149,7 @@ Table Table::parse(std::string bytes, std::string file) {
     return table;
   }
   if (!text) {
-    if (bytes.starts_with(kUtf8Mark)) bytes.erase(0, kUtf8Mark.size());
+    if (bytes.starts_with(kByteOrderMark)) bytes.erase(0, kByteOrderMark.size());
     for (const Position at : illFormedPlaces(bytes))
       fail(at, kEncoding, "the bytes here are not UTF-8; save the file as UTF-8");
     text = std::move(bytes);  // what else is wrong shows all the same

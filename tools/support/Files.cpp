@@ -174,14 +174,4 @@ void writeFile(const std::string& root, const std::string& path, std::string_vie
   writeFiles(root, {{path, std::string(bytes)}});
 }
 
-std::vector<std::string_view> linesOf(std::string_view text) {
-  std::vector<std::string_view> lines;
-  while (!text.empty()) {
-    const std::string_view line = text.substr(0, text.find('\n'));
-    text.remove_prefix(std::min(line.size() + 1, text.size()));
-    lines.push_back(line);
-  }
-  return lines;
-}
-
 }  // namespace zk::tools

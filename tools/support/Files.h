@@ -30,7 +30,4 @@ void writeFiles(const std::string& root, const std::vector<FileChange>& changes)
 /// The same for one file.
 void writeFile(const std::string& root, const std::string& path, std::string_view bytes);
 
-/// The lines of `text`, without their ends.
-[[nodiscard]] std::vector<std::string_view> linesOf(std::string_view text);
-
 }  // namespace zk::tools

@@ -1,5 +1,7 @@
 #include <ZKStrings/tools/support/Position.h>
 
+#include <algorithm>
+
 namespace zk::tools {
 
 namespace {
@@ -23,6 +25,16 @@ Position PositionTeller::at(std::size_t offset) {
 
 Position positionOf(std::string_view text, std::size_t offset) {
   return PositionTeller(text).at(offset);
+}
+
+std::vector<std::string_view> linesOf(std::string_view text) {
+  std::vector<std::string_view> lines;
+  while (!text.empty()) {
+    const std::string_view line = text.substr(0, text.find('\n'));
+    text.remove_prefix(std::min(line.size() + 1, text.size()));
+    lines.push_back(line);
+  }
+  return lines;
 }
 
 }  // namespace zk::tools

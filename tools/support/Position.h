@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <string_view>
+#include <vector>
 
 namespace zk::tools {
 
@@ -27,5 +28,8 @@ class PositionTeller {
 
 /// The position of the byte `offset` of the UTF-8 text `text`.
 [[nodiscard]] Position positionOf(std::string_view text, std::size_t offset);
+
+/// The lines of `text`, without the line feeds that end them.
+[[nodiscard]] std::vector<std::string_view> linesOf(std::string_view text);
 
 }  // namespace zk::tools

@@ -1,3 +1,4 @@
+#include <ZKStrings/platform/formats/TextEncoding.h>
 #include <ZKStrings/platform/text/TextSearch.h>
 #include <ZKStrings/platform/text/UnicodeText.h>
 #include <ZKStrings/tools/project/EntryComments.h>
@@ -11,7 +12,6 @@ namespace zk::tools {
 
 namespace {
 
-constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 constexpr std::string_view kBlanks = " \t";
 
 bool tellsTools(const TableEntry::Comment& comment) {
