@@ -1,12 +1,13 @@
-#include <ZKStrings/platform/text/TextSearch.h>
 #include <ZKStrings/tools/authoring/CatalogueFiles.h>
 #include <ZKStrings/tools/authoring/EntryCommands.h>
 #include <ZKStrings/tools/command/Subcommands.h>
+#include <ZKStrings/tools/support/Characters.h>
 
 #include <array>
 #include <cstddef>
 #include <memory>
 #include <optional>
+#include <string_view>
 
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
@@ -16,9 +17,8 @@ namespace zk::tools {
 namespace {
 
 /// What the shell passes as \n inside quotes is meant as a line break.
-std::string withLineBreaks(std::string text) {
-  replaceOccurrences(text, "\\n", "\n");
-  return text;
+std::string withLineBreaks(std::string_view text) {
+  return replaceAll(text, "\\n", "\n");
 }
 
 /// Lets the user give the plural forms of a text: --zero to --many.

@@ -1,6 +1,6 @@
-#include <ZKStrings/tools/exchange/InlineCodes.h>
 #include <ZKStrings/tools/exchange/TranslatorNotes.h>
 #include <ZKStrings/tools/support/Characters.h>
+#include <ZKStrings/tools/texts/TextPieces.h>
 
 #include <algorithm>
 #include <iterator>

@@ -1,7 +1,7 @@
 #include <ZKStrings/platform/text/TextSearch.h>
-#include <ZKStrings/tools/exchange/InlineCodes.h>
 #include <ZKStrings/tools/exchange/XLIFF.h>
 #include <ZKStrings/tools/project/Table.h>
+#include <ZKStrings/tools/texts/TextPieces.h>
 
 #include <algorithm>
 #include <cstddef>

@@ -1,11 +1,10 @@
-#include <ZKStrings/platform/text/UnicodeText.h>
 #include <ZKStrings/tools/layout/PseudoLanguages.h>
 #include <ZKStrings/tools/project/Table.h>
+#include <ZKStrings/tools/support/Characters.h>
 #include <ZKStrings/tools/support/Diagnostic.h>
 #include <ZKStrings/tools/support/Files.h>
 #include <ZKStrings/tools/support/Languages.h>
-#include <ZKStrings/tools/texts/Placeholders.h>
-#include <ZKStrings/tools/texts/TextFeatures.h>
+#include <ZKStrings/tools/texts/TextPieces.h>
 
 #include <algorithm>
 #include <cstddef>
@@ -35,45 +34,7 @@ constexpr std::string_view kRightToLeftMark = "\u200F";
 constexpr std::string_view kRightToLeftOverride = "\u202E";
 constexpr std::string_view kEndOfOverride = "\u202C";
 
-/// A part of a text: one that readers see as letters, or a placeholder, mark or line break.
-struct Piece {
-  std::string_view text;
-  bool isPlain;
-};
-
-std::size_t sizeOfMark(std::string_view text) {
-  for (const std::string_view mark : {"<b>", "</b>", "*", "\n"}) {
-    if (text.starts_with(mark)) return mark.size();
-  }
-  return 0;
-}
-
-void addPlain(std::string_view text, std::vector<Piece>& pieces) {
-  std::size_t begin = 0;
-  for (std::size_t at = 0; at < text.size();) {
-    const std::size_t mark = sizeOfMark(text.substr(at));
-    if (mark > 0) {
-      if (at > begin) pieces.push_back({text.substr(begin, at - begin), true});
-      pieces.push_back({text.substr(at, mark), false});
-      begin = at + mark;
-    }
-    at += std::max<std::size_t>(mark, 1);
-  }
-  if (begin < text.size()) pieces.push_back({text.substr(begin), true});
-}
-
-std::vector<Piece> piecesOf(std::string_view text) {
-  std::vector<Piece> pieces;
-  std::size_t begin = 0;
-  for (const PlaceholderUse& use : placeholderUses(text)) {
-    if (!use.isRight) continue;
-    addPlain(text.substr(begin, use.offset - begin), pieces);
-    pieces.push_back({use.spelled, false});
-    begin = use.offset + use.spelled.size();
-  }
-  addPlain(text.substr(begin), pieces);
-  return pieces;
-}
+using Kind = TextPiece::Kind;
 
 /// `text` without the white space at its ends, which `around` then puts around what is made of it.
 template <class Make>
@@ -92,9 +53,9 @@ std::string accented(char letter) {
 }
 
 /// The letters that are repeated to make a text longer: its vowels, or all of them when it has none.
-std::string_view stretchable(const std::vector<Piece>& pieces) {
-  const auto hasVowel = [](const Piece& piece) {
-    return piece.isPlain && piece.text.find_first_of(kVowels) != std::string_view::npos;
+std::string_view stretchable(const std::vector<TextPiece>& pieces) {
+  const auto hasVowel = [](const TextPiece& piece) {
+    return piece.kind == Kind::words && piece.text.find_first_of(kVowels) != std::string_view::npos;
   };
   return std::any_of(pieces.begin(), pieces.end(), hasVowel) ? kVowels : kLetters;
 }
@@ -105,21 +66,23 @@ std::size_t countOfAny(std::string_view text, std::string_view letters) {
 }
 
 std::string accentedAndLonger(std::string_view text) {
-  const std::vector<Piece> pieces = piecesOf(text);
+  const std::vector<TextPiece> pieces = piecesOf(text);
   const std::string_view stretched = stretchable(pieces);
   std::size_t bytes = 0;
   std::size_t places = 0;
-  for (const Piece& piece : pieces) {
-    if (!piece.isPlain) continue;
+  for (const TextPiece& piece : pieces) {
+    if (piece.kind != Kind::words) continue;
     bytes += piece.text.size();
     places += countOfAny(piece.text, stretched);
   }
   const std::size_t extra = (bytes + 2) / 3;
   std::string result;
   std::size_t place = 0;
-  for (const Piece& piece : pieces) {
-    if (!piece.isPlain) result += piece.text;
-    if (!piece.isPlain) continue;
+  for (const TextPiece& piece : pieces) {
+    if (piece.kind != Kind::words) {
+      result += piece.text;
+      continue;
+    }
     for (const char letter : piece.text) {
       result += accented(letter);
       if (stretched.find(letter) == std::string_view::npos) continue;
@@ -131,19 +94,19 @@ std::string accentedAndLonger(std::string_view text) {
   return result;
 }
 
-/// Each word of `text` with marks that turn it around.
+/// Each word of `text` with marks that turn it around, and each line with marks at its ends.
 std::string turnedAround(std::string_view text) {
   std::string result;
   while (!text.empty()) {
-    const std::size_t space = std::min(text.find_first_not_of(' '), text.size());
-    const std::size_t end = std::min(text.find(' ', space), text.size());
+    const std::size_t space = std::min(text.find_first_not_of(" \n"), text.size());
+    const std::size_t end = std::min(text.find_first_of(" \n", space), text.size());
     result += text.substr(0, space);
     if (end > space) {
       result.append(kRightToLeftOverride).append(text.substr(space, end - space)).append(kEndOfOverride);
     }
     text.remove_prefix(end);
   }
-  return result;
+  return replaceAll(result, "\n", fmt::format("{0}\n{0}", kRightToLeftMark));
 }
 
 std::string nameOfForm(const EnglishText& english) {
@@ -183,13 +146,8 @@ std::string mirroredText(const EnglishText& english) {
   const std::string mark(kRightToLeftMark);
   return withinSpaces(english.text, [&](std::string_view text) {
     std::string result = mark;
-    for (const Piece& piece : piecesOf(text)) {
-      if (piece.text == "\n") {
-        result.append(mark).append("\n").append(mark);
-      } else {
-        result += piece.isPlain ? turnedAround(piece.text) : std::string(piece.text);
-      }
-    }
+    for (const TextPiece& piece : piecesOf(text))
+      result += piece.kind == Kind::words ? turnedAround(piece.text) : std::string(piece.text);
     return result + turnedAround(nameOfForm(english)) + mark;
   });
 }

@@ -18,6 +18,16 @@ std::string lowerCased(std::string_view text) {
   return result;
 }
 
+std::string replaceAll(std::string_view text, std::string_view from, std::string_view to) {
+  std::string result;
+  std::size_t at = 0;
+  for (std::size_t found = text.find(from); found != text.npos; found = text.find(from, at)) {
+    result.append(text, at, found - at).append(to);
+    at = found + from.size();
+  }
+  return result.append(text, at);
+}
+
 std::string wrapped(std::string_view text, std::size_t width, std::size_t indent) {
   std::string result;
   std::size_t column = 0;

@@ -34,6 +34,9 @@ class CodePoints {
 /// `text` with its ASCII capitals as small letters, as keys and language codes are compared.
 [[nodiscard]] std::string lowerCased(std::string_view text);
 
+/// `text` with each `from` replaced by `to`. Compares bytes: a combining mark after `from` changes nothing.
+[[nodiscard]] std::string replaceAll(std::string_view text, std::string_view from, std::string_view to);
+
 /// `text` with line breaks instead of blanks, so that no line has more than `width` code points, but for
 /// words that have more. What begins a new line is behind `indent` blanks, but for the first.
 [[nodiscard]] std::string wrapped(std::string_view text, std::size_t width, std::size_t indent = 0);

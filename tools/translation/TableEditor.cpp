@@ -1,7 +1,7 @@
 #include <ZKStrings/platform/formats/TextEncoding.h>
-#include <ZKStrings/platform/text/TextSearch.h>
 #include <ZKStrings/platform/text/UnicodeText.h>
 #include <ZKStrings/tools/project/EntryComments.h>
+#include <ZKStrings/tools/support/Characters.h>
 #include <ZKStrings/tools/support/Files.h>
 #include <ZKStrings/tools/translation/TableEditor.h>
 
@@ -151,9 +151,8 @@ std::string TableEditor::edited() const {
     at = offset;
   };
   const bool hasCarriageReturns = text_.find("\r\n") < text_.find('\n');
-  const auto add = [&](std::string lines) {
-    if (hasCarriageReturns) replaceOccurrences(lines, "\n", "\r\n");
-    result += lines;
+  const auto add = [&](const std::string& lines) {
+    result += hasCarriageReturns ? replaceAll(lines, "\n", "\r\n") : lines;
   };
   auto insertion = insertions_.begin();
   for (const auto& [begin, change] : changes_) {

@@ -1,5 +1,5 @@
-#include <ZKStrings/platform/text/TextSearch.h>
 #include <ZKStrings/tools/project/EntryComments.h>
+#include <ZKStrings/tools/support/Characters.h>
 #include <ZKStrings/tools/support/Files.h>
 #include <ZKStrings/tools/support/Languages.h>
 #include <ZKStrings/tools/translation/Template.h>
@@ -17,9 +17,8 @@ namespace zk::tools {
 namespace {
 
 /// `text` as a comment, which no text ends early.
-std::string comment(std::string text) {
-  replaceOccurrences(text, "*/", "* /");
-  return fmt::format("/* {} */", text);
+std::string comment(std::string_view text) {
+  return fmt::format("/* {} */", replaceAll(text, "*/", "* /"));
 }
 
 }  // namespace
@@ -28,7 +27,7 @@ std::string explanationOf(const EnglishText& english) {
   std::string about = fmt::format("{} \"{}\"", kExplanation, escaped(english.text));
   const std::vector<std::string_view> names = english.placeholders();
   if (!names.empty()) about += fmt::format("; placeholders: %{{{}}}", fmt::join(names, "}, %{"));
-  return comment(std::move(about));
+  return comment(about);
 }
 
 std::string untranslatedEntry(const EnglishText& english) {

@@ -57,8 +57,9 @@ TEST(Page, HoldsWhatTheEngineShowsAndHowFarItIsTranslated) {
 
 TEST(Page, TellsEachFindingAtItsText) {
   const TemporaryProject project;
-  project.write(TemporaryProject::table("de"),
-                "\"Top_10\" = \"Die %{zehn}\"; \"About\" = \"*Info\";\n\"Gone\" = \"Weg\";\n");
+  project.write(
+      TemporaryProject::table("de"),
+      "\"Top_10\" = \"Die %{zehn}\";\n/* state: done */\n\"About\" = \"*Info\"; \"Gone\" = \"Weg\";\n");
   const Json findings = dataOf(project)["languages"][1]["findings"];
   const auto hasFinding = [&](const Json& text, const std::string& rule) {
     for (const Json& finding : findings) {
@@ -67,6 +68,7 @@ TEST(Page, TellsEachFindingAtItsText) {
     return false;
   };
   EXPECT_TRUE(hasFinding(0, "marks")) << findings;
+  EXPECT_TRUE(hasFinding(0, "unknown-state")) << findings;
   EXPECT_TRUE(hasFinding(23, "unknown-placeholder")) << findings;
   EXPECT_TRUE(hasFinding(nullptr, "unknown-key")) << findings;
   EXPECT_FALSE(hasFinding(nullptr, "missing-key")) << findings;

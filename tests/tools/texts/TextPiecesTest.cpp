@@ -1,4 +1,4 @@
-#include <ZKStrings/tools/exchange/InlineCodes.h>
+#include <ZKStrings/tools/texts/TextPieces.h>
 
 #include <string>
 
@@ -19,7 +19,7 @@ std::string shown(std::string_view text) {
   return result;
 }
 
-TEST(InlineCodes, AreWhatTranslatorsMustNotChange) {
+TEST(TextPieces, SeparateWordsFromCodes) {
   struct Case {
     const char* text;
     const char* pieces;
@@ -43,7 +43,7 @@ TEST(InlineCodes, AreWhatTranslatorsMustNotChange) {
   for (const auto& [text, pieces] : kCases) EXPECT_EQ(shown(text), pieces) << text;
 }
 
-TEST(InlineCodes, KeepTheNumbersOfTheEnglishOnes) {
+TEST(TextPieces, NumberCodesAsInTheEnglishText) {
   using Numbers = std::vector<std::size_t>;
   const auto numbers = [](std::string_view target, std::string_view source) {
     return codeNumbers(piecesOf(target), piecesOf(source));

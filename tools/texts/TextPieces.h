@@ -6,7 +6,7 @@
 
 namespace zk::tools {
 
-/// A piece of a text: words, or a code in it that translators move but never change.
+/// A piece of a text: words, or a code that translators may move but must not change.
 struct TextPiece {
   enum class Kind {
     words,
@@ -19,16 +19,15 @@ struct TextPiece {
   std::string_view text;
 };
 
-/// The pieces of `text`, in order; together they are the text. Every opening has its closing behind it, and
-/// pairs lie within each other: where marks cross, miss their partners, or nest too deep, they are all
-/// placeholders.
+/// Splits `text` into its pieces; joined, they are `text` again. Each opening has its closing, and pairs nest
+/// properly: if marks overlap, have no partner or nest too deeply, all marks of the text are placeholders.
 [[nodiscard]] std::vector<TextPiece> piecesOf(std::string_view text);
 
 /// The text of the closing that belongs to the opening `text`.
 [[nodiscard]] std::string_view closingOf(std::string_view text);
 
-/// Numbers for the codes of `target`, the same, from 1, that they have in `source`, where codes count in
-/// order. What `source` does not have gets numbers behind. Words have 0.
+/// The number of each piece of `target`. Codes of `source` are numbered from 1 in order; a code of `target`
+/// has the number of the same code in `source`, or else a number of its own. Words have 0.
 [[nodiscard]] std::vector<std::size_t> codeNumbers(const std::vector<TextPiece>& target,
                                                    const std::vector<TextPiece>& source);
 
