@@ -17,14 +17,14 @@ constexpr char32_t kFirstByteValue = 0x110000;
 
 /// The canonical decompositions and compositions of Unicode.
 const icu::Normalizer2& normalForms() {
-  static const icu::Normalizer2& forms = []() -> const icu::Normalizer2& {
+  static const icu::Normalizer2* const forms = [] {
     requireMemoryForICU();
     UErrorCode status = U_ZERO_ERROR;
     const icu::Normalizer2* const composition = icu::Normalizer2::getNFCInstance(status);
     if (U_FAILURE(status)) throw std::bad_alloc();
-    return *composition;
+    return composition;
   }();
-  return forms;
+  return *forms;
 }
 
 /// Whether no canonical equivalence reaches across the place before `codePoint`.

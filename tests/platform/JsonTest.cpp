@@ -106,8 +106,9 @@ TEST(Json, NumbersHaveAPointWhateverTheLocale) {
   const testing::TemporaryDirectory directory;
   directory.write("source", "LC_NUMERIC\ndecimal_point \",\"\nthousands_sep \"\"\nEND LC_NUMERIC\n");
   setenv("LOCPATH", directory.path().c_str(), 1);
-  // It warns of the categories that are missing, and tells so by its status too.
-  static_cast<void>(std::system("cd \"$LOCPATH\" && localedef --no-archive -ci source ./comma >log 2>&1"));
+  // localedef fails because categories are missing, but writes the locale.
+  const int ignored = std::system("cd \"$LOCPATH\" && localedef --no-archive -ci source ./comma >log 2>&1");
+  static_cast<void>(ignored);
   // Some C libraries take any name and have a point all the same.
   const bool isMade = std::setlocale(LC_NUMERIC, "comma") && std::localeconv()->decimal_point == ","s;
   const std::string numbers = parsed("[1.5e999, 1.25, 7]");

@@ -8,6 +8,7 @@
 #include <map>
 
 #include <fmt/format.h>
+#include <fmt/ranges.h>
 
 namespace zk::tools {
 

@@ -9,6 +9,7 @@
 #include <set>
 
 #include <fmt/format.h>
+#include <fmt/ranges.h>
 
 namespace zk::tools {
 

@@ -4,6 +4,7 @@
 #include <ZKStrings/tools/texts/TextFeatures.h>
 
 #include <algorithm>
+#include <cstdint>
 
 #include <unicode/bytestream.h>
 #include <unicode/casemap.h>

@@ -1,7 +1,7 @@
 #include <ZKStrings/tools/command/HelpFormatter.h>
 #include <ZKStrings/tools/support/Characters.h>
 
-#include <sstream>
+#include <fmt/format.h>
 
 namespace zk::tools {
 
@@ -10,10 +10,8 @@ std::string HelpFormatter::make_description(const CLI::App* command) const {
 }
 
 std::string HelpFormatter::make_subcommand(const CLI::App* command) const {
-  std::ostringstream out;
-  const std::string description = wrapped(command->get_description(), kTerminalWidth - column_width_);
-  CLI::detail::format_help(out, command->get_display_name(true), description, column_width_);
-  return out.str();
+  return fmt::format("  {:<{}}{}\n", command->get_display_name(true), column_width_ - 2,
+                     wrapped(command->get_description(), kTerminalWidth - column_width_, column_width_));
 }
 
 std::string HelpFormatter::make_option_desc(const CLI::Option* option) const {

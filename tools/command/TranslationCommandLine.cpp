@@ -15,6 +15,7 @@
 
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
+#include <fmt/ranges.h>
 #include <unistd.h>
 
 namespace zk::tools {

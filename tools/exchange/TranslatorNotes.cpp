@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include <fmt/format.h>
+#include <fmt/ranges.h>
 
 namespace zk::tools {
 

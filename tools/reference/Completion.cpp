@@ -2,7 +2,11 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <sstream>
+#include <string>
+#include <string_view>
 #include <utility>
+#include <vector>
 
 #include <CLI/CLI.hpp>
 
@@ -116,8 +120,8 @@ class CommandLine {
     if (type == "DIR" || type == "FILE") return {{std::string(kFileNames), ""}};
     std::vector<Candidate> all;
     if (const std::size_t open = type.find('{'); open != std::string::npos) {
-      for (std::string& value : CLI::detail::split(type.substr(open + 1, type.find('}') - open - 1), ','))
-        all.push_back({std::move(value), ""});
+      std::istringstream values(type.substr(open + 1, type.find('}') - open - 1));
+      for (std::string value; std::getline(values, value, ',');) all.push_back({value, ""});
       return all;
     }
     for (std::string& word : wordsOfType(type)) all.push_back({std::move(word), ""});

@@ -65,8 +65,9 @@ std::string argumentOf(const CLI::Option& option) {
 /// "--root DIR".
 std::string headingOf(const CLI::Option& option) {
   std::string heading;
-  for (const std::string& name : CLI::detail::split(option.get_name(false, true), ','))
-    heading += (heading.empty() ? "" : ", ") + bold(name);
+  const auto append = [&](const std::string& name) { heading += (heading.empty() ? "" : ", ") + bold(name); };
+  for (const std::string& name : option.get_snames()) append("-" + name);
+  for (const std::string& name : option.get_lnames()) append("--" + name);
   if (option.get_items_expected_max() == 0) return heading;
   const std::string type = option.get_type_name();
   return heading + " " + italic(type.substr(0, type.find(':')));
