@@ -1,7 +1,7 @@
-// Whatever stands in a text is shown, and never run.
+// Texts are shown, whatever they contain, and never run.
 const assert = require("node:assert");
 const { before, after, test } = require("node:test");
-const { PROJECT, makePage, dataOf, startBrowser, open } = require("./support.js");
+const { PROJECT, makePage, dataOf, unmarked, startBrowser, open } = require("./support.js");
 
 let browser;
 let file;
@@ -25,49 +25,40 @@ test("Hostile texts show as themselves in the list and on their cards", async ()
         (title) => document.getElementById("card-title")?.textContent === title,
         key,
       );
-      for (const { tag, texts, finished } of languages) {
+      for (const { tag, texts } of languages) {
         const shown = await page.locator(`#card .language:has(h3 [lang=${tag}]) p`).textContent();
-        assert.strictEqual(shown, finished[text] || texts[text], `${tag} ${key}`);
+        assert.strictEqual(shown, unmarked(texts[text]), `${tag} ${key}`);
       }
       const row = page.locator("#list li", { has: page.locator(`a[href="#${key}"]`) });
-      assert.ok(
-        (await row.textContent()).includes(languages[german].texts[text].replace("%{STYLE}", "STYLE")),
-        key,
-      );
+      assert.ok((await row.textContent()).includes(unmarked(languages[german].texts[text])), key);
     }
     text += counted ? 5 : 1;
   }
   assert.strictEqual(await page.evaluate("typeof broken"), "undefined");
-  assert.deepStrictEqual(page.wrongs, []);
+  assert.deepStrictEqual(page.problems, []);
 });
 
-test("Texts become no elements, and their direction stays in them", async () => {
+test("Texts never become elements, and their direction never leaks", async () => {
   const page = await open(browser, file, { address: "#Turned_gnp_exe_back" });
   assert.strictEqual(
     await page.locator("img, svg, style:not(head style), iframe, [onerror], [onload]").count(),
     0,
   );
   assert.strictEqual(await page.locator("script").count(), 2);
+  await page.fill("#search", "<img src=x onerror=broken=1>");
+  await page.evaluate(() => (location.hash = "<img src=x onerror=broken=1>"));
+  await page.waitForSelector("#card-title:has-text('No such text')");
+  assert.strictEqual(await page.locator("img").count(), 0);
+  await page.evaluate(() => (location.hash = "Be_quick"));
+  await page.waitForSelector("#card .context");
+  assert.strictEqual(await page.locator("img").count(), 0);
   const isolations = await page
     .locator(".text")
     .evaluateAll((texts) => texts.map((text) => getComputedStyle(text).unicodeBidi));
   assert.ok(isolations.every((isolation) => isolation === "isolate"));
 });
 
-test("What a reader types is shown, and never run", async () => {
-  const page = await open(browser, file, { address: "#Kick_username" });
-  const typed = "<img src=x onerror='broken = 1'></script>";
-  await page.getByLabel("username").fill(typed);
-  assert.strictEqual(await page.locator("#card p[lang=en]").first().textContent(), `Kick ${typed}?`);
-  await page.fill("#search", typed);
-  assert.strictEqual(await page.locator("img").count(), 0);
-  await page.evaluate(() => (location.hash = "<img src=x onerror=broken=1>"));
-  await page.waitForSelector("#card-title:has-text('No such text')");
-  assert.strictEqual(await page.evaluate("typeof broken"), "undefined");
-  assert.deepStrictEqual(page.wrongs, []);
-});
-
-test("The browser refuses what is not the page's own", async () => {
+test("The browser refuses everything that the page does not contain", async () => {
   const page = await open(browser, file);
   const refused = await page.evaluate(async () => {
     const violations = [];
@@ -80,7 +71,7 @@ test("The browser refuses what is not the page's own", async () => {
       try {
         act();
       } catch {
-        // told as a violation
+        // reported as a violation
       }
     };
     attempt(() => add("img", { src: "https://zktrivia.example/a.png" }));

@@ -1,8 +1,8 @@
-# Writes the source file OUTPUT with the page around its data: the file PAGE with the files STYLES and SCRIPTS in
-# it, and the one style and the one script that the browser may use named by their hashes.
+# Writes the source file OUTPUT, which holds the page without its data: the file PAGE with the files STYLES and
+# SCRIPTS inserted, and with the hashes of the only style and script that the browser may use.
 cmake_minimum_required(VERSION 3.25)
 
-# The Base64 form of the SHA-256 hash of `text`.
+# Sets `result` to the SHA-256 hash of `text` in Base64.
 function(hash_of text result)
   set(digits "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/")
   string(SHA256 hash "${text}")
@@ -19,7 +19,7 @@ function(hash_of text result)
   set(${result} "${encoded}" PARENT_SCOPE)
 endfunction()
 
-# The texts of the files named behind `result`, one after the other.
+# Sets `result` to the contents of the files named after it, joined.
 function(read_all result)
   set(all "")
   foreach(file IN LISTS ARGN)
@@ -43,9 +43,9 @@ endforeach()
 string(FIND "${page}" "@DATA@" data)
 string(SUBSTRING "${page}" 0 ${data} before)
 math(EXPR data "${data} + 6")
-string(SUBSTRING "${page}" ${data} -1 behind)
+string(SUBSTRING "${page}" ${data} -1 after)
 file(WRITE ${OUTPUT} "#include <ZKStrings/tools/page/PageParts.h>
 
 const std::string_view zk::tools::kPageBeforeData = R\"page(${before})page\";
-const std::string_view zk::tools::kPageBehindData = R\"page(${behind})page\";
+const std::string_view zk::tools::kPageAfterData = R\"page(${after})page\";
 ")

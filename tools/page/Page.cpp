@@ -1,20 +1,157 @@
+#include <ZKStrings/platform/text/UnicodeText.h>
+#include <ZKStrings/tools/authoring/AccessorGenerator.h>
+#include <ZKStrings/tools/check/Checker.h>
 #include <ZKStrings/tools/page/Page.h>
-#include <ZKStrings/tools/page/PageData.h>
 #include <ZKStrings/tools/page/PageParts.h>
+#include <ZKStrings/tools/page/ShownTexts.h>
+#include <ZKStrings/tools/support/Languages.h>
+#include <ZKStrings/tools/texts/TextSize.h>
+#include <ZKStrings/tools/translation/TranslationState.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include <nlohmann/json.hpp>
+#include <unicode/locid.h>
+#include <unicode/unistr.h>
 
 namespace zk::tools {
+
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+/// The name of `language` in the language of `reader`, with a capital letter, as in a list.
+std::string nameIn(const icu::Locale& reader, const icu::Locale& language) {
+  icu::UnicodeString name;
+  std::string bytes;
+  language.getDisplayLanguage(reader, name).toUTF8String(bytes);
+  if (bytes.empty()) return bytes;
+  const std::string_view first = firstCodePoint(bytes).bytes;
+  return upperCased(first) + bytes.substr(first.size());
+}
+
+Json formsData() {
+  Json forms = Json::array();
+  for (const auto& [suffix, counts, example] : kPluralForms)
+    forms.push_back({{"name", suffix.substr(1)}, {"counts", counts}, {"example", example}});
+  return forms;
+}
+
+char letterOf(TranslationState state) {
+  switch (state) {
+    case TranslationState::missing:
+      return 'm';
+    case TranslationState::untranslated:
+      return 'u';
+    case TranslationState::needsReview:
+      return 'r';
+    case TranslationState::translated:
+      break;
+  }
+  return 't';
+}
+
+class DataMaker {
+ public:
+  explicit DataMaker(const std::string& root)
+      : root_(root),
+        name_(CatalogueName::read(root)),
+        catalogue_(Catalogue::read(root)),
+        english_(catalogue_, Table::read(root, kBase)),
+        shown_(root, english_),
+        diagnostics_(check(root, {.languages = {}, .off = {}, .notes = true}).diagnostics) {}
+
+  [[nodiscard]] Json all() const {
+    Json entries = Json::array();
+    for (const Entry& entry : catalogue_.entries()) entries.push_back(dataOf(entry));
+    Json languages = Json::array({dataOf(kBase)});
+    for (const std::string& language : languagesIn(root_)) {
+      if (language != kBase && whyNeverChosen(language).empty()) languages.push_back(dataOf(language));
+    }
+    return {{"name", name_.name},
+            {"forms", formsData()},
+            {"entries", std::move(entries)},
+            {"languages", std::move(languages)}};
+  }
+
+ private:
+  [[nodiscard]] Json dataOf(const Entry& entry) const {
+    return {{"key", entry.key},
+            {"context", entry.context()},
+            {"counted", entry.plural},
+            {"formatted", !placeholderNames(entry.text).empty()},
+            {"call", accessorCall(entry, name_)}};
+  }
+
+  [[nodiscard]] Json dataOf(std::string_view language) const {
+    const std::string tag(language == kBase ? "en" : language);
+    const icu::Locale locale(tag.c_str());
+    const Table table = Table::read(root_, language);
+    Json texts = Json::array();
+    Json characters = Json::array();
+    std::string states;
+    shown_.choose(language);
+    for (const EnglishText& english : english_.all()) {
+      texts.push_back(shown_.markedText(english));
+      characters.push_back(charactersIn(shown_.text(english)));
+      const TableEntry* const entry = table.diagnostics.empty() ? table.find(english.key) : nullptr;
+      states += letterOf(stateOf(language, entry, english));
+    }
+    return {{"tag", tag},
+            {"english", nameIn(icu::Locale::getEnglish(), locale)},
+            {"native", nameIn(locale, locale)},
+            {"isRightToLeft", locale.isRightToLeft() != 0},
+            {"file", table.file},
+            {"isWellFormed", table.diagnostics.empty()},
+            {"texts", std::move(texts)},
+            {"characters", std::move(characters)},
+            {"states", std::move(states)},
+            {"findings", findingsOf(table)}};
+  }
+
+  /// Findings in a malformed table concern the table as a whole, since the app shows none of its texts.
+  [[nodiscard]] Json findingsOf(const Table& table) const {
+    Json findings = Json::array();
+    for (const Diagnostic& diagnostic : diagnostics_) {
+      if (diagnostic.file != table.file || diagnostic.severity == Severity::gap) continue;
+      const TableEntry* const entry =
+          table.diagnostics.empty() ? table.entryAt({diagnostic.line, diagnostic.column}) : nullptr;
+      const EnglishText* const text = entry ? english_.find(entry->key) : nullptr;
+      findings.push_back({text ? Json(text - english_.all().data()) : Json(), nameOf(diagnostic.severity),
+                          diagnostic.rule, diagnostic.message, diagnostic.line, diagnostic.column});
+    }
+    return findings;
+  }
+
+  const std::string root_;
+  const CatalogueName name_;
+  const Catalogue catalogue_;
+  const EnglishTexts english_;
+  const ShownTexts shown_;
+  const Diagnostics diagnostics_;
+};
+
+}  // namespace
+
+std::string pageData(const std::string& root) {
+  return DataMaker(root).all().dump(-1, ' ', false, Json::error_handler_t::replace);
+}
 
 std::string pageOf(const std::string& root) {
   std::string page(kPageBeforeData);
   for (const char byte : pageData(root)) {
-    // No text may end the data, or begin a comment in it. In JSON the sign stands in strings alone.
+    // Escaped, so that no text can end the data or begin a comment in it. JSON has this sign in strings only.
     if (byte == '<') {
       page += "\\u003c";
     } else {
       page += byte;
     }
   }
-  return page.append(kPageBehindData);
+  return page.append(kPageAfterData);
 }
 
 }  // namespace zk::tools

@@ -4,9 +4,24 @@
 
 namespace zk::tools {
 
-/// One HTML file that shows every text of the project at `root` in every language. It needs nothing else, no
-/// network and no other file, and whatever stands in a text is shown, never run. Throws `CommandFailed` when
-/// the catalogue is wrong, or there is no folder of English texts.
+/// An HTML file that shows every text of the project at `root` in every language, finished by the engine with
+/// example values. The file needs no other file and no network, and shows texts without ever running them.
+/// Throws `CommandFailed` if the catalogue is wrong or the folder of English texts cannot be read.
 [[nodiscard]] std::string pageOf(const std::string& root);
+
+/// The data of that page, as the JSON text that its script reads:
+///
+///     {"name": "ZKStrings",
+///      "forms": [{"name": "few", "counts": "3 to 5", "example": 4}, …],
+///      "entries": [{"key", "context", "counted", "formatted", "call"}, …],
+///      "languages": [{"tag", "english", "native", "isRightToLeft", "file", "isWellFormed",
+///                     "texts", "characters", "states", "findings"}, …]}
+///
+/// English is the first language. "texts", "characters" and "states" have an element for each key that the
+/// engine looks up, in catalogue order: the finished text, whose values are marked as `ShownTexts` marks them; its
+/// length in characters; one letter for missing (m), untranslated (u), needs review (r) or translated (t). A
+/// finding is an array of the index of its key (null for the table as a whole), severity, rule, message, line
+/// and column.
+[[nodiscard]] std::string pageData(const std::string& root);
 
 }  // namespace zk::tools

@@ -4,8 +4,8 @@
 
 namespace zk::tools {
 
-/// The page before and behind its data, made of the files of this folder when the command is built.
+/// The page before and after its data. The build makes both from the files of this folder.
 extern const std::string_view kPageBeforeData;
-extern const std::string_view kPageBehindData;
+extern const std::string_view kPageAfterData;
 
 }  // namespace zk::tools

@@ -1,16 +1,11 @@
-// One text with everything about it.
+// The card of one text: the text in every language, and all that is known about it.
 const card = document.getElementById("card");
-const edits = new Map(); // the values that the reader has put in, by placeholder
-
-function countsIn(typed) {
-  return (typed.match(/-?\d+/g) ?? []).slice(0, 12).map(Number);
-}
 
 function copyButton(source, what) {
   const button = element("button", { type: "button", className: "copy" }, "Copy");
   button.setAttribute("aria-label", `Copy ${what}`);
   button.addEventListener("click", async () => {
-    getSelection().selectAllChildren(source); // so that it can be copied by hand where the browser forbids it
+    getSelection().selectAllChildren(source); // for copying by hand if the browser forbids the next step
     try {
       await navigator.clipboard.writeText(source.textContent);
       button.textContent = "Copied";
@@ -31,57 +26,9 @@ function headOf(entry) {
     back,
     element("h2", { tabIndex: -1, id: "card-title" }, ...breakable(entry.key)),
     element("p", { className: "family" }, entry.family.replace(" ", " and ")),
+    entry.context === "" ? "" : element("p", { className: "context", dir: "auto" }, entry.context),
     element("div", { className: "call-line" }, call, copyButton(call, "the accessor call")),
   );
-}
-
-function valueField(name, value, onInput) {
-  const input = element("input", {
-    type: "text",
-    value,
-    maxLength: 200,
-    autocomplete: "off",
-    spellcheck: false,
-    dir: "auto",
-  });
-  input.addEventListener("input", () => onInput(input.value));
-  return element("label", {}, element("span", {}, name), input);
-}
-
-/** The fields for the example values; `onChange` is called after each edit with the counts to show. */
-function valuesForm(entry, onChange) {
-  let counts = data.counts;
-  const fields = entry.values
-    .filter(([, value]) => value !== null)
-    .map(([name, value]) =>
-      valueField(name, edits.get(name) ?? (Array.isArray(value) ? value[0] : value), (typed) => {
-        edits.set(name, typed);
-        onChange(counts);
-      }),
-    );
-  if (entry.counted) {
-    const onCounts = (typed) => {
-      counts = countsIn(typed);
-      onChange(counts);
-    };
-    fields.push(valueField("count", counts.join(" "), onCounts));
-  }
-  if (fields.length === 0) return "";
-  const reset = element("button", { type: "button" }, "Reset");
-  reset.addEventListener("click", () => {
-    edits.clear();
-    openCard(entry);
-  });
-  const title = element("h3", { id: "values-title" }, "Example values");
-  const form = element(
-    "form",
-    { className: "values", attributes: { "aria-labelledby": "values-title" } },
-    title,
-    ...fields,
-    reset,
-  );
-  form.addEventListener("submit", (event) => event.preventDefault());
-  return form;
 }
 
 function lengthTag(entry, language) {
@@ -93,7 +40,7 @@ function lengthTag(entry, language) {
     { className: most >= 100 ? "tag long" : "tag" },
     `${sign}${Math.abs(most)} %`,
   );
-  length.title = "Length beside English, with the example values";
+  length.title = "Length compared with English, with the example values";
   return length;
 }
 
@@ -120,46 +67,42 @@ function languageHead(entry, language) {
   );
 }
 
-function countRow(entry, language, count) {
+function formRow(entry, language, form) {
+  const { name, counts, example } = data.forms[form];
   const text = element("td");
-  showText(text, entry, language, count, edits);
-  return element(
-    "tr",
-    {},
-    element("th", { scope: "row", title: FORM_NAMES[formOf(count)] }, String(count)),
-    text,
-  );
+  showText(text, language, entry.first + form);
+  const title = `${name}: ${counts}`;
+  return element("tr", {}, element("th", { scope: "row", title }, String(example)), text);
 }
 
-function textsOf(entry, language, counts) {
+function textsOf(entry, language) {
   if (!entry.counted) {
     const text = element("p");
-    showText(text, entry, language, undefined, edits);
+    showText(text, language, entry.first);
     return text;
   }
   const table = element("table", { attributes: { "aria-label": `${language.english}, by count` } });
   table.dir = language.isRightToLeft ? "rtl" : "ltr";
-  table.append(...counts.map((count) => countRow(entry, language, count)));
+  table.append(...data.forms.map((_, form) => formRow(entry, language, form)));
   return table;
 }
 
 function languageBlock(entry, language) {
   const findings = [];
   someText(entry, (text) => void findings.push(...(language.findingsByText.get(text) ?? [])));
-  const place = element("div");
-  const block = element("article", { className: "language" }, languageHead(entry, language), place);
-  if (findings.length > 0)
-    block.append(element("ul", { className: "findings" }, ...findings.map(findingItem)));
-  return { block, show: (counts) => place.replaceChildren(textsOf(entry, language, counts)) };
+  return element(
+    "article",
+    { className: "language" },
+    languageHead(entry, language),
+    textsOf(entry, language),
+    findings.length > 0 ? element("ul", { className: "findings" }, ...findings.map(findingItem)) : "",
+  );
 }
 
 function openCard(entry) {
-  const first = [english, chosenLanguage() ?? english]; // the others follow
-  const blocks = [...new Set([...first, ...languages])].map((language) => languageBlock(entry, language));
-  const show = (counts) => blocks.forEach((block) => block.show(counts));
-  show(data.counts);
-  const grid = element("div", { className: "languages" }, ...blocks.map(({ block }) => block));
-  card.replaceChildren(headOf(entry), valuesForm(entry, show), grid);
+  const shown = new Set([english, chosenLanguage() ?? english, ...languages]); // in this order
+  const blocks = [...shown].map((language) => languageBlock(entry, language));
+  card.replaceChildren(headOf(entry), element("div", { className: "languages" }, ...blocks));
   card.scrollTop = 0;
 }
 
@@ -167,15 +110,15 @@ function showUnknown(address) {
   card.replaceChildren(
     element("a", { className: "back", href: "#" }, "All texts"),
     element("h2", { tabIndex: -1, id: "card-title" }, "No such text"),
-    element("p", {}, `Nothing has the key “${address}”. It may have been removed, or spelled otherwise.`),
+    element("p", {}, `No text has the key “${address}”. It may be misspelled, or the text was removed.`),
   );
 }
 
 function showHelp() {
   const keys = [
     ["/", "search"],
-    ["↑ ↓", "from text to text"],
-    ["Enter", "open one"],
+    ["↑ ↓", "next or previous text"],
+    ["Enter", "open a text"],
     ["Esc", "back"],
   ];
   const rows = keys.flatMap(([key, use]) => [

@@ -1,4 +1,4 @@
-// How far each language has come, as bars at the top.
+// The progress of each language, as bars at the top.
 
 function coverageOf(language) {
   const counts = { t: 0, r: 0, u: 0, m: 0 };
@@ -20,7 +20,7 @@ function coverageBar({ counts, all }) {
 
 function coverageButton(language, choose) {
   const coverage = coverageOf(language);
-  const told = Object.entries(coverage.counts)
+  const summary = Object.entries(coverage.counts)
     .filter(([, count]) => count > 0)
     .map(([state, count]) => `${count} ${STATE_NAMES[state]}`)
     .join(", ");
@@ -28,19 +28,19 @@ function coverageButton(language, choose) {
     "button",
     {
       type: "button",
-      title: `${language.english}: ${told}${language.isWellFormed ? "" : "; the table cannot be read"}`,
+      title: `${language.english}: ${summary}${language.isWellFormed ? "" : "; the table cannot be read"}`,
       attributes: { "aria-pressed": "false" },
     },
     element("span", { className: "name", lang: language.tag, dir: "auto" }, language.native),
     element("span", { className: "for-readers" }, ` (${language.english})`),
-    element("span", { className: "percent" }, language.isWellFormed ? `${coverage.percent} %` : "faulty"),
+    element("span", { className: "percent" }, language.isWellFormed ? `${coverage.percent} %` : "unreadable"),
     coverageBar(coverage),
   );
   button.addEventListener("click", () => choose(language));
   return button;
 }
 
-/** Shows the bars; `choose` is called with the language whose bar was clicked. */
+/** Shows the bars. A click on one calls `choose` with its language. */
 function showCoverage(choose) {
   document.getElementById("summary").textContent = `${entries.length} texts in ${languages.length} languages`;
   const list = document.getElementById("coverage");

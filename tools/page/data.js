@@ -1,10 +1,9 @@
-// What the page shows, as `zkstrings page` found it; PageData.h describes the form.
+// The data that `zkstrings page` put into the page. Page.h describes its form.
 const data = JSON.parse(document.getElementById("data").textContent);
 const languages = data.languages;
 const english = languages[0];
 const translations = languages.slice(1);
 
-const FORM_NAMES = ["zero", "one", "two", "few", "many"];
 const STATE_NAMES = { m: "missing", u: "untranslated", r: "needs review", t: "translated" };
 
 languages.forEach((language, index) => {
@@ -24,32 +23,30 @@ for (const { key } of data.entries) keyCounts.set(key, (keyCounts.get(key) ?? 0)
 let nextText = 0;
 const entries = data.entries.map((entry) => {
   const first = nextText;
-  nextText += entry.counted ? FORM_NAMES.length : 1;
+  nextText += entry.counted ? data.forms.length : 1;
   const isTwin = entry.counted && keyCounts.get(entry.key) > 1;
   return {
     ...entry,
-    first, // its first text, in each language's list
+    first, // the index of its first text in each language's lists
     last: nextText - 1,
     address: isTwin ? `${entry.key}/count` : entry.key,
     family:
-      [entry.counted && "counted", entry.values.length > 0 && "formatted"].filter(Boolean).join(" ") ||
+      [entry.counted && "counted", entry.formatted && "formatted"].filter(Boolean).join(" ") ||
       "plain",
   };
 });
 const entriesByAddress = new Map(entries.map((entry) => [entry.address, entry]));
 
-/** The finished text that the engine made with the example values. */
-function engineText(language, text) {
-  return language.finished[text] || language.texts[text];
-}
+/** A value that the engine has filled in: its placeholder's name, then the value. */
+const VALUE = /\uFDD0(.*?)\uFDD1(.*?)\uFDD2/gs;
 
-/** How much longer than the English text it is, in percent. */
+/** How much longer than the English text the text is, in percent. */
 function excess(language, text) {
   const length = english.characters[text];
   return length === 0 ? 0 : Math.round((language.characters[text] / length - 1) * 100);
 }
 
-/** Calls `visit` with each of the entry's texts; gives whether it said true of one. */
+/** Calls `visit` with the index of each of the entry's texts until one call returns true; returns whether one did. */
 function someText(entry, visit) {
   for (let text = entry.first; text <= entry.last; ++text) {
     if (visit(text)) return true;

@@ -1,4 +1,4 @@
-/** A new element with properties, among them `attributes`, and children; a string is text, never markup. */
+/** Makes an element with properties, `attributes` and children. A string becomes text, never markup. */
 function element(name, properties = {}, ...children) {
   const { attributes = {}, ...others } = properties;
   const made = Object.assign(document.createElement(name), others);
@@ -7,7 +7,7 @@ function element(name, properties = {}, ...children) {
   return made;
 }
 
-/** A key or a call, which may be broken into lines behind its underscores. */
+/** The parts of a key or call, which may wrap after each underscore. */
 function breakable(name) {
   return name.split(/(?<=_)/).flatMap((part) => [part, element("wbr")]);
 }

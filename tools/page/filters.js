@@ -7,7 +7,7 @@ for (const language of translations) {
   controls.language.append(new Option(`${language.native} (${language.english})`, language.index));
 }
 
-/** The language beside English; undefined for all. */
+/** The language chosen to show next to English; undefined for all. */
 function chosenLanguage() {
   return controls.language.value === "" ? undefined : languages[controls.language.value];
 }
@@ -33,7 +33,7 @@ function isInState(language, text, state) {
   }
 }
 
-/** The entries that all filters let through, as they are set now. */
+/** The entries that pass all filters. */
 function filtered() {
   const family = controls.family.value;
   const state = controls.state.value;

@@ -1,17 +1,16 @@
 // The list of texts.
 const list = document.getElementById("list");
-const listedCount = (entry) => (entry.counted ? data.counts[FORM_NAMES.length - 1] : undefined);
 
 let shownEntries = [];
 let listedLanguage;
-let listing = 0; // which update of the list is at work
-let rows = 0; // how many it has added
+let listing = 0; // the number of the update that is adding rows
+let rows = 0; // the number of rows it has added
 let openLink;
 
 function rowOf(entry) {
   if (entry.row) return entry.row;
   const text = element("span");
-  showText(text, entry, english, listedCount(entry));
+  showText(text, english, entry.last);
   entry.translation = element("span", { hidden: true });
   entry.link = element(
     "a",
@@ -34,7 +33,7 @@ function showTranslation(entry) {
   entry.shownLanguage = listedLanguage;
   entry.translation.hidden = !listedLanguage;
   if (!listedLanguage) return;
-  showText(entry.translation, entry, listedLanguage, listedCount(entry));
+  showText(entry.translation, listedLanguage, entry.last);
 }
 
 function findingItem({ severity, rule, message, place }) {
@@ -54,20 +53,20 @@ function showTableFindings() {
   place.replaceChildren(...findings.map(findingItem));
 }
 
-/** Adds the next rows of the update `of`, some at a time, so that typing need not wait for all of them. */
-function addRows(of, atATime = 100) {
+/** Adds the next rows of the update `of`, in batches, so that typing never waits for all rows. */
+function addRows(of, batch = 100) {
   if (of !== listing) return;
-  const added = shownEntries.slice(rows, rows + atATime);
+  const added = shownEntries.slice(rows, rows + batch);
   rows += added.length;
   list.append(...added.map(rowOf));
   added.forEach(showTranslation);
   if (rows < shownEntries.length) setTimeout(addRows, 0, of);
 }
 
-/** Paper has all rows, also when the list is printed right after it has changed. */
+/** Prints all rows, even right after the list has changed. */
 addEventListener("beforeprint", () => addRows(listing, entries.length));
 
-/** Shows the entries that the filters let through. */
+/** Shows the entries that pass the filters. */
 function updateList() {
   listedLanguage = chosenLanguage();
   shownEntries = filtered();
@@ -91,7 +90,7 @@ function markOpenEntry(open) {
   openLink?.setAttribute("aria-current", "true");
 }
 
-/** Moves the focus to the next text, or the one before; from the search to the first. */
+/** Moves the focus to the next or previous text, or from the search to the first text. */
 function moveInList(step) {
   const at = shownEntries.findIndex((entry) => entry.link === document.activeElement);
   const next = at < 0 ? 0 : at + step;

@@ -1,5 +1,5 @@
-// What the reader does: addresses, keys, filters.
-const pageTitle = document.title;
+// Handles addresses, keys and filters.
+const pageTitle = `${data.name} texts`;
 let openEntry;
 
 function openAddress() {
@@ -7,7 +7,7 @@ function openAddress() {
   try {
     address = decodeURIComponent(address);
   } catch {
-    // shown as it is spelled, as no text's address
+    // Not a valid address: shown as it is.
   }
   const before = openEntry;
   openEntry = entriesByAddress.get(address);
@@ -52,6 +52,7 @@ function onEscape(event) {
   }
 }
 
+document.querySelector("h1").textContent = pageTitle;
 showCoverage((language) => {
   const isChosen = chosenLanguage() === language;
   controls.language.value = isChosen ? "" : String(language.index);

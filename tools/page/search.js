@@ -1,7 +1,7 @@
-// Search over keys and texts in all languages, also by what a screen shows: "12/50 players" finds
+// Searches keys and texts in all languages, including by what a screen shows: "12/50 players" finds
 // "%{active}/%{limit} players".
 
-/** `text` without what a searcher need not know: capitals, accents, marks, kinds of quotes and spaces. */
+/** `text` without what a search ignores: capitals, accents, marks, kinds of quotes and spaces. */
 function folded(text) {
   return text
     .replace(/<\/?b>|\*/g, "")
@@ -15,15 +15,17 @@ function folded(text) {
 
 const PLACEHOLDER = /%\{[\p{L}\p{N}]+\}/u;
 
-/** What the search compares with, made when an entry is first asked for. */
+/** The strings that the search compares with, made on first use. */
 function searchable(entry) {
   if (entry.searchable) return entry.searchable;
   const texts = new Set();
   const templates = new Set();
   for (const language of languages) {
     for (let text = entry.first; text <= entry.last; ++text) {
-      texts.add(folded(engineText(language, text)));
-      if (language.finished[text]) templates.add(language.texts[text]);
+      const marked = language.texts[text];
+      const finished = marked.replace(VALUE, "$2");
+      texts.add(folded(finished));
+      if (marked !== finished) templates.add(marked.replace(VALUE, "%{$1}"));
     }
   }
   const patterns = [];
@@ -35,7 +37,7 @@ function searchable(entry) {
   return entry.searchable;
 }
 
-/** The length of the longest end of `text` that `begin` begins with. */
+/** The length of the longest suffix of `text` that is a prefix of `begin`. */
 function overlap(text, begin) {
   for (let length = Math.min(text.length, begin.length); length > 0; --length) {
     if (begin.startsWith(text.slice(text.length - length))) return length;
@@ -44,8 +46,8 @@ function overlap(text, begin) {
 }
 
 /**
- * How many characters of `query` are the text's own, when `query` is a part of what the text shows for some
- * values; 0 when it is not. `pieces` is the text around its placeholders.
+ * The number of characters in `query` that come from the text itself, if `query` is a part of the text with some
+ * values filled in; 0 if not. `pieces` are the parts of the text around its placeholders.
  */
 function ownCharacters(query, pieces) {
   let best = 0;
@@ -68,7 +70,7 @@ function ownCharacters(query, pieces) {
   return best;
 }
 
-/** How well the entry fits: 0 for not at all. */
+/** How well the entry matches; 0 for no match. */
 function score(entry, query, words) {
   const { key, texts, patterns } = searchable(entry);
   if (key === query) return 6;
@@ -82,7 +84,7 @@ function score(entry, query, words) {
   return own >= ENOUGH && own * 3 >= query.length ? 1 + own / query.length : 0;
 }
 
-/** Those of `some` entries that fit what was typed, the best first. */
+/** The entries of `some` that match what was typed, the best first. */
 function found(some, typed) {
   const query = folded(typed).trim();
   if (query === "") return some;
@@ -94,7 +96,7 @@ function found(some, typed) {
     .map((result) => result.entry);
 }
 
-/** Makes ready for the search while the reader does nothing else. */
+/** Prepares the entries for searching, in small steps. */
 function prepareSearch(next = 0) {
   const end = performance.now() + 8;
   while (next < entries.length && performance.now() < end) searchable(entries[next++]);

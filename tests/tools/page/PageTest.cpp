@@ -1,12 +1,14 @@
 #include <ZKStrings/tests/tools/TemporaryProject.h>
-#include <ZKStrings/tools/page/ExampleValues.h>
-#include <ZKStrings/tools/page/LanguageName.h>
 #include <ZKStrings/tools/page/Page.h>
-#include <ZKStrings/tools/page/PageData.h>
+#include <ZKStrings/tools/page/ShownTexts.h>
 #include <ZKStrings/tools/support/Diagnostic.h>
+#include <ZKStrings/tools/support/Languages.h>
 
 #include <algorithm>
+#include <cstddef>
 #include <filesystem>
+#include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
@@ -21,11 +23,16 @@ Json dataOf(const TemporaryProject& project) {
   return Json::parse(pageData(project.root()));
 }
 
+/// A value as the page's data marks it.
+std::string marked(const std::string& name, const std::string& value) {
+  return "\uFDD0" + name + "\uFDD1" + value + "\uFDD2";
+}
+
 TEST(Page, HoldsWhatTheEngineShowsAndHowFarItIsTranslated) {
   const TemporaryProject project;
   project.write(TemporaryProject::table("de"), R"~("About" = "Über";
 "badgeCount_Badges_zero" = "Keine";
-"badgeCount_Badges_two" = "%{badgeCount} Abzeichen";
+"badgeCount_Badges_two" = "%{badgeCount} Abzeichen, %{badgeCount}";
 /* state: needs-review */
 "Kick_username" = "%{username} rauswerfen?";
 "Tap_it_to_use_one" = "Tap it to use one";
@@ -37,13 +44,17 @@ TEST(Page, HoldsWhatTheEngineShowsAndHowFarItIsTranslated) {
   EXPECT_EQ(german["native"], "Deutsch");
 
   // About, b_Rules_b, the five forms of badgeCount_Badges, ...
-  const Json texts = {"Über", "<b>Rules</b>", "Keine", "%{badgeCount} Badges", "%{badgeCount} Abzeichen"};
-  const Json finished = {0, 0, 0, "1 Badges", "2 Abzeichen"};
-  for (std::size_t i = 0; i < texts.size(); ++i) {
-    EXPECT_EQ(german["texts"][i], texts[i]);
-    EXPECT_EQ(german["finished"][i], finished[i]);
-  }
+  const std::string two = marked("badgeCount", "2");
+  const Json texts = {"Über",
+                      "<b>Rules</b>",
+                      "Keine",
+                      marked("badgeCount", "1") + " Badges",
+                      two + " Abzeichen, " + two,
+                      marked("badgeCount", "4") + " Badges",
+                      marked("badgeCount", "11") + " Badges"};
+  for (std::size_t i = 0; i < texts.size(); ++i) EXPECT_EQ(german["texts"][i], texts[i]);
   EXPECT_EQ(german["characters"][0], 4);
+  EXPECT_EQ(german["characters"][4], 14);
   EXPECT_EQ(german["states"],
             "tmtmtmm"
             "mmmmmmm"
@@ -55,7 +66,7 @@ TEST(Page, HoldsWhatTheEngineShowsAndHowFarItIsTranslated) {
             "mm");
 }
 
-TEST(Page, TellsEachFindingAtItsText) {
+TEST(Page, ReportsEachFindingAtItsText) {
   const TemporaryProject project;
   project.write(
       TemporaryProject::table("de"),
@@ -80,7 +91,7 @@ TEST(Page, LeavesOutFoldersThatTheModuleNeverChooses) {
   EXPECT_EQ(dataOf(project)["languages"].size(), 2u);
 }
 
-TEST(Page, IsMadeOfFaultyTablesToo) {
+TEST(Page, ShowsEnglishForTablesThatCannotBeRead) {
   const TemporaryProject project;
   project.write(TemporaryProject::table("Base"), "\"About\" = ");
   project.write(TemporaryProject::table("de"), "\xFF\xFE\x00");
@@ -111,7 +122,21 @@ TEST(Page, HasNoTextOutsideItsData) {
   EXPECT_NE(page.find("\\u003c/script>\\u003c!--\\u003cscript>@DATA@]]>"), std::string::npos);
 }
 
-TEST(ExampleValues, GiveTheCountToThePlaceholderThatSaysIt) {
+TEST(Page, NamesLanguagesInEnglishAndInTheLanguage) {
+  const TemporaryProject project;
+  for (const char* language : {"ar", "fr", "nb"}) project.write(TemporaryProject::table(language), "");
+  const Json data = dataOf(project);
+  std::vector<std::string> names;
+  for (const Json& language : data["languages"]) {
+    names.push_back(language["tag"].get<std::string>() + " " + language["english"].get<std::string>() + " " +
+                    language["native"].get<std::string>());
+    EXPECT_EQ(language["isRightToLeft"], language["tag"] == "ar");
+  }
+  EXPECT_EQ(names, (std::vector<std::string>{"en English English", "ar Arabic العربية", "fr French Français",
+                                             "nb Norwegian Bokmål Norsk bokmål"}));
+}
+
+TEST(ShownTexts, FillTheCountIntoThePlaceholderForIt) {
   struct Case {
     const char* text;
     const char* placeholder;
@@ -130,7 +155,7 @@ TEST(ExampleValues, GiveTheCountToThePlaceholderThatSaysIt) {
   }
 }
 
-TEST(ExampleValues, TakeOtherTextsAsTheyAreTranslated) {
+TEST(ShownTexts, FillInOtherTextsAsTheyAreTranslated) {
   const TemporaryProject project;
   project.write(TemporaryProject::kCatalogue, R"~([
   {"key": "agree_to_terms", "text": "agree to %{terms}"},
@@ -141,35 +166,15 @@ TEST(ExampleValues, TakeOtherTextsAsTheyAreTranslated) {
   project.write(TemporaryProject::table("de"), R"~("Terms_of_Use" = "Nutzungsbedingungen";
 "playersCount_players_many" = "%{playersCount} Spieler von %{players}";)~");
   const Catalogue catalogue = Catalogue::read(project.root());
-  const AppTexts texts(project.root());
-  const auto values = [&](std::size_t entry, std::optional<std::int64_t> count) {
-    return exampleValues(texts, catalogue, "de", catalogue.entries()[entry], count);
-  };
-  EXPECT_EQ(values(0, std::nullopt), (Values{{"terms", "Nutzungsbedingungen"}}));
-  EXPECT_EQ(values(1, std::nullopt), (Values{{"players", "12 Spieler von players"}, {"gifts", "gifts"}}));
-  // A text that would be nested in itself.
-  EXPECT_EQ(values(2, 2), (Values{{"playersCount", "2"}, {"players", "12 Spieler von players"}}));
-}
-
-TEST(LanguageName, IsToldInEnglishAndInTheLanguage) {
-  struct Case {
-    const char* language;
-    LanguageName name;
-  };
-  const Case cases[] = {
-      {"Base", {"en", "English", "English", false}},
-      {"fr", {"fr", "French", "Français", false}},
-      {"ar", {"ar", "Arabic", "العربية", true}},
-      {"pl", {"pl", "Polish", "Polski", false}},
-      {"nb", {"nb", "Norwegian Bokmål", "Norsk bokmål", false}},
-  };
-  for (const auto& [language, expected] : cases) {
-    const LanguageName name = nameOfLanguage(language);
-    EXPECT_EQ(name.tag, expected.tag) << language;
-    EXPECT_EQ(name.english, expected.english) << language;
-    EXPECT_EQ(name.native, expected.native) << language;
-    EXPECT_EQ(name.isRightToLeft, expected.isRightToLeft) << language;
-  }
+  const EnglishTexts english(catalogue, Table::read(project.root(), kBase));
+  const ShownTexts shown(project.root(), english);
+  shown.choose("de");
+  const auto text = [&](const char* key) { return shown.text(*english.find(key)); };
+  EXPECT_EQ(text("agree_to_terms"), "agree to Nutzungsbedingungen");
+  const std::string nested = "11 Spieler von playersCount_players_many";
+  EXPECT_EQ(text("players_remain_gifts_too"), nested + " remain, gifts too");
+  // A text that would contain itself.
+  EXPECT_EQ(text("playersCount_players_many"), "11 Spieler von " + nested);
 }
 
 }  // namespace

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <ZKStrings/platform/Bundle.h>
+#include <ZKStrings/tools/project/EnglishTexts.h>
+
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace zk::tools {
+
+/// The texts of a project as its app shows them: the engine looks them up and fills in example values.
+class ShownTexts {
+ public:
+  /// Opens the resources of the project at `root`. `english`, the project's texts, must outlive this object.
+  /// Throws `CommandFailed` if Base.lproj is missing or cannot be opened: the engine cannot run without it.
+  ShownTexts(const std::string& root, const EnglishTexts& english);
+
+  /// Chooses the language of the texts: "Base" or a code. This is the language of the whole process.
+  void choose(std::string_view language) const;
+
+  /// The text of the key of `english` in the chosen language.
+  [[nodiscard]] std::string text(const EnglishText& english) const;
+  /// The same text with each value as U+FDD0, the placeholder's name, U+FDD1, the value, U+FDD2. These
+  /// noncharacters occur in no text.
+  [[nodiscard]] std::string markedText(const EnglishText& english) const;
+
+ private:
+  using Values = std::vector<std::pair<std::string, std::string>>;
+
+  [[nodiscard]] std::string filledIn(const EnglishText& english, const Values& values) const;
+  [[nodiscard]] Values valuesFor(const EnglishText& english, bool isNested) const;
+
+  const Bundle* resources_;
+  const EnglishTexts& english_;
+};
+
+/// The placeholder of `entry` that is filled with the count; empty if there is none.
+[[nodiscard]] std::string_view countPlaceholder(const Entry& entry);
+
+}  // namespace zk::tools
