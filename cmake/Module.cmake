@@ -32,6 +32,7 @@ add_library(zk_objects OBJECT
   engine/StringLookup.cpp
   engine/Substitutions.cpp
   platform/Bundle.cpp
+  platform/Export.cpp
   platform/system/CodeLocation.cpp
   platform/system/DirectoryListing.cpp
   platform/system/File.cpp

@@ -1,5 +1,12 @@
 #pragma once
 
+#include <version>
+
+#if __cplusplus < 202002L
+#error "ZKStrings needs C++20: compile with -std=c++20 or newer"
+#include "a newer C++ than this"  // no such file: ends the compilation here, before the errors that would follow
+#endif
+
 /// Marks a name that the shared library shows to its users; all other names stay inside it.
 #define ZK_EXPORT [[gnu::visibility("default")]]
 
@@ -10,3 +17,17 @@
 #else
 #define ZK_REFERRED_TO
 #endif
+
+// The layout of public types depends on the standard library and its mode. A program in another mode than the module's
+// must not link: it needs a function that the module does not have, and whose name explains why.
+#if defined(_LIBCPP_VERSION)
+#define ZK_STANDARD_LIBRARY ZKStringsMustBeBuiltWithLibcxxLikeThisProgram
+#elif defined(_GLIBCXX_DEBUG)
+#define ZK_STANDARD_LIBRARY ZKStringsMustBeBuiltWith_GLIBCXX_DEBUG_LikeThisProgram
+#else
+#define ZK_STANDARD_LIBRARY ZKStringsMustBeBuiltWithLibstdcxxLikeThisProgram
+#endif
+namespace zk::internal {
+ZK_EXPORT void ZK_STANDARD_LIBRARY();
+[[gnu::used]] inline void (*const standardLibrary)() = &ZK_STANDARD_LIBRARY;
+}  // namespace zk::internal

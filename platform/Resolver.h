@@ -1,5 +1,9 @@
 #pragma once
 
+#ifndef __cpp_rtti
+#error "Resolver.h needs RTTI: compile without -fno-rtti, or include the other headers by themselves"
+#endif
+
 #include <ZKStrings/platform/Export.h>
 #include <ZKStrings/platform/Registration.h>
 

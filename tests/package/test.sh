@@ -62,6 +62,17 @@ with_pkgconfig() {  # with_pkgconfig NAME PREFIX LIBDIR COMPILER: builds the con
 with_pkgconfig pkg-config "$moved" "$lib" "$compiler"
 [ "$compiler" = clang++ ] || ! command -v clang++ >/dev/null || with_pkgconfig clang "$moved" "$lib" clang++
 
+refused() {  # refused MESSAGE OPTION...: a program compiled with these options must not build
+  local output
+  # shellcheck disable=SC2046  # the flags are several words
+  output=$("$compiler" "${@:2}" "$source/tests/package/consumer.cpp" -o "$work/refused" \
+    $(PKG_CONFIG_PATH="$moved/$lib/pkgconfig" pkg-config --cflags --libs zkstrings) 2>&1) && fail "a program is built with ${*:2}"
+  grep -qF -- "$1" <<<"$output" || fail "with ${*:2}, the compiler says: $output"
+}
+refused ZKStringsMustBeBuiltWith_GLIBCXX_DEBUG_LikeThisProgram -std=c++20 -D_GLIBCXX_DEBUG
+refused "needs C++20: compile with -std=c++20" -std=c++17
+refused "needs RTTI" -std=c++20 -fno-rtti
+
 mkdir -p "$moved/lib/app" "$work/links/lib" "$work/links/share"
 "$compiler" -std=c++20 "$source/tests/package/consumer.cpp" -o "$moved/lib/app/program" -I"$moved/include" -L"$moved/$lib" -lZKStrings \
   -Wl,--enable-new-dtags,-rpath,"\$ORIGIN/../${lib#lib}"

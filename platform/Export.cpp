@@ -1,0 +1,4 @@
+#include <ZKStrings/platform/Export.h>
+
+void zk::internal::ZK_STANDARD_LIBRARY() {
+}
