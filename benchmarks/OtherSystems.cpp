@@ -6,8 +6,8 @@
 #include <filesystem>
 #include <fstream>
 #include <functional>
-#include <iostream>
 #include <map>
+#include <stdexcept>
 
 #include <libintl.h>
 #include <unicode/msgfmt.h>
@@ -20,13 +20,8 @@ namespace zk::benchmarks {
 
 namespace {
 
-[[noreturn]] void stop(const std::string& message) {
-  std::cerr << "benchmarks: " << message << "\n";
-  std::exit(1);
-}
-
 void execute(const std::string& command) {
-  if (std::system(command.c_str()) != 0) stop("this command failed: " + command);
+  if (std::system(command.c_str()) != 0) throw std::runtime_error("this command failed: " + command);
 }
 
 /// `text` with each placeholder replaced by what `spell` gives for its place among the entry's placeholders.
@@ -69,6 +64,19 @@ std::string doubled(std::string text, char character) {
   return text;
 }
 
+/// Sets a locale for messages that is made here. glibc ignores LANGUAGE in the C locale, newer releases in C.UTF-8
+/// too, and a machine need not have another locale.
+void useOwnLocale() {
+  const std::string directory = workDirectory() + "/locales";
+  std::filesystem::create_directories(directory);
+  std::ofstream(directory + "/source") << "LC_MESSAGES\nyesexpr \"y\"\nnoexpr \"n\"\nEND LC_MESSAGES\n";
+  // localedef fails because the other categories are missing, but writes the locale.
+  execute("cd '" + directory + "' && { localedef --no-archive -ci source ./own >log 2>&1 || test -d own; }");
+  setenv("LOCPATH", directory.c_str(), 1);
+  std::setlocale(LC_ALL, "C.UTF-8");
+  if (!std::setlocale(LC_MESSAGES, "own")) throw std::runtime_error("localedef has made no locale");
+}
+
 void makeGettextCatalogue() {
   const std::string directory = workDirectory() + "/gettext/de/LC_MESSAGES";
   std::filesystem::create_directories(directory);
@@ -83,11 +91,13 @@ void makeGettextCatalogue() {
     }
   }
   execute("msgfmt -o '" + directory + "/zk.mo' '" + directory + "/zk.po'");
+  useOwnLocale();
   setenv("LANGUAGE", "de", 1);
-  std::setlocale(LC_ALL, "C.UTF-8");
   bindtextdomain("zk", (workDirectory() + "/gettext").c_str());
+  bind_textdomain_codeset("zk", "UTF-8");
   textdomain("zk");
-  if (std::string(gettext("About")) == "About") stop("gettext does not use its German catalogue");
+  if (std::string(gettext("About")) == "About")
+    throw std::runtime_error("gettext does not use its German catalogue");
 }
 
 UResourceBundle* openedICUBundle() {
@@ -107,7 +117,8 @@ UResourceBundle* openedICUBundle() {
   execute("genrb --quiet --encoding UTF-8 --destdir '" + directory + "' '" + directory + "/de.txt'");
   UErrorCode status = U_ZERO_ERROR;
   UResourceBundle* const bundle = ures_open(directory.c_str(), "de", &status);
-  if (U_FAILURE(status)) stop(std::string("ICU cannot open the resource bundle: ") + u_errorName(status));
+  if (U_FAILURE(status))
+    throw std::runtime_error(std::string("ICU cannot open the resource bundle: ") + u_errorName(status));
   return bundle;
 }
 
@@ -136,7 +147,7 @@ std::string textByICU(const Request& request) {
   UErrorCode status = U_ZERO_ERROR;
   std::int32_t size = 0;
   const UChar* const text = ures_getStringByKey(bundle, request.lookedUpKey.c_str(), &size, &status);
-  if (U_FAILURE(status)) stop("ICU has no text for " + request.lookedUpKey);
+  if (U_FAILURE(status)) throw std::runtime_error("ICU has no text for " + request.lookedUpKey);
   std::string result;
   if (request.names.empty()) {
     char buffer[1024];

@@ -6,11 +6,12 @@
 
 namespace zk::benchmarks {
 
-/// glibc's gettext on the German texts, copied into a `std::string`, with `snprintf` for placeholders. Stops
-/// the program with a message when the catalogue cannot be made or is not used.
+/// Returns a German text by glibc's gettext, copied into a `std::string`, with `snprintf` for placeholders.
+/// Throws `std::runtime_error` if the catalogue cannot be made or is not used.
 [[nodiscard]] std::string textByGettext(const Request& request);
 
-/// The same by an ICU resource bundle, as UTF-8, with MessageFormat for placeholders.
+/// Returns a German text by an ICU resource bundle, as UTF-8, with MessageFormat for placeholders. Throws
+/// `std::runtime_error` if the bundle cannot be made or has no such text.
 [[nodiscard]] std::string textByICU(const Request& request);
 
 }  // namespace zk::benchmarks
