@@ -1,7 +1,7 @@
 #pragma once
 
 #include <ZKStrings/tools/project/Catalogue.h>
-#include <ZKStrings/tools/project/CatalogueName.h>
+#include <ZKStrings/tools/project/CatalogueSettings.h>
 #include <ZKStrings/tools/project/Table.h>
 
 #include <string>

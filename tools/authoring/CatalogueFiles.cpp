@@ -1,6 +1,6 @@
 #include <ZKStrings/tools/authoring/AccessorGenerator.h>
 #include <ZKStrings/tools/authoring/CatalogueFiles.h>
-#include <ZKStrings/tools/project/CatalogueName.h>
+#include <ZKStrings/tools/project/CatalogueSettings.h>
 #include <ZKStrings/tools/project/Table.h>
 #include <ZKStrings/tools/support/Diagnostic.h>
 #include <ZKStrings/tools/support/Languages.h>
@@ -24,7 +24,7 @@ std::vector<FileChange> accessorFiles(const CatalogueName& name, const Catalogue
 
 /// Those of the project at `root`, with the catalogue and the English table that it has.
 std::vector<FileChange> accessorFilesOf(const std::string& root) {
-  return accessorFiles(CatalogueName::read(root), Catalogue::read(root), Table::readWellFormed(root, kBase));
+  return accessorFiles(CatalogueSettings::read(root).name, Catalogue::read(root), Table::readWellFormed(root, kBase));
 }
 
 /// Whether the project at `root` keeps its accessors beside the catalogue: the module does; another may leave
@@ -45,7 +45,7 @@ std::string checkedJson(const Catalogue& catalogue) {
 
 void writeCatalogue(const std::string& root, const Catalogue& catalogue, const std::string& base,
                     std::vector<FileChange> translations) {
-  const CatalogueName name = CatalogueName::read(root);
+  const CatalogueName name = CatalogueSettings::read(root).name;
   std::vector<FileChange> changes;
   if (keepsAccessors(root, name))
     changes = accessorFiles(name, catalogue, Table::parse(base, tablePath(kBase)));

@@ -42,6 +42,10 @@ The texts of the program. `catalogue/entries.json` lists them with their English
 In CMake: `zk_add_catalogue(TARGET {target} ROOT <this folder>)` makes a library of the functions.
 )";
 
+std::string settingsFor(const CatalogueName& name) {
+  return fmt::format("{{\"name\": \"{}\", \"namespace\": \"{}\"}}\n", name.name, name.nameSpace);
+}
+
 std::string readmeFor(const CatalogueName& name) {
   const std::string scope = name.nameSpace.empty() ? "" : name.nameSpace + "::";
   std::string target = name.name;
@@ -67,8 +71,10 @@ void refuseToReplace(const std::string& directory, const std::vector<FileChange>
 }  // namespace
 
 void initCatalogue(const std::string& directory, const CatalogueName& name) {
+  if (name.name == CatalogueName::kModule)
+    throw std::invalid_argument(fmt::format("the name {} is the module's own; choose another", name.name));
   if (const std::string fault = name.fault(); !fault.empty()) throw std::invalid_argument(fault);
-  const std::vector<FileChange> files = {{CatalogueName::kFile, name.toJson()},
+  const std::vector<FileChange> files = {{CatalogueSettings::kFile, settingsFor(name)},
                                          {Catalogue::kFile, kEntries},
                                          {tablePath(kBase), kEnglish},
                                          {"README.md", readmeFor(name)}};

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <ZKStrings/tools/project/CatalogueName.h>
+#include <ZKStrings/tools/project/CatalogueSettings.h>
 
 #include <string>
 

@@ -7,16 +7,21 @@
 #include <ZKStrings/tools/project/EnglishTexts.h>
 #include <ZKStrings/tools/project/EntryComments.h>
 #include <ZKStrings/tools/support/Languages.h>
+#include <ZKStrings/tools/support/Nearest.h>
 #include <ZKStrings/tools/texts/TextFeatures.h>
 
 #include <algorithm>
 #include <array>
 #include <filesystem>
+#include <functional>
 #include <optional>
+#include <set>
 #include <span>
 #include <system_error>
 #include <tuple>
 #include <utility>
+
+#include <fmt/format.h>
 
 namespace zk::tools {
 
@@ -30,17 +35,18 @@ std::array<std::span<const RuleFor<Translation>>, 6> translationRules() {
 
 class Checker {
  public:
-  Checker(const std::string& root, const CheckOptions& options) : root_(root), options_(options) {}
+  Checker(const std::string& root, const CheckOptions& options)
+      : root_(root), options_(options), off_(options.off.begin(), options.off.end()) {}
 
   CheckResult run() {
     const std::optional<Catalogue> catalogue = readCatalogue();
-    readGlossary();
+    tryTo([&] { glossary_ = Glossary::read(root_); });
     const Table base = Table::read(root_, kBase);
     for (const std::string& language : languagesToCheck(base)) {
       const Table table = language == kBase ? base : Table::read(root_, language);
       checkTable(language, table, isListable(table), catalogue, base);
     }
-    if (options_.languages.empty()) checkCountries();
+    if (options_.languages.empty()) checkCountries(catalogue && catalogue->settings().name.isModule());
     const auto order = [](const Diagnostic& diagnostic) {
       return std::tie(diagnostic.file, diagnostic.line, diagnostic.column, diagnostic.severity,
                       diagnostic.rule, diagnostic.message);
@@ -57,22 +63,32 @@ class Checker {
   }
 
  private:
-  std::optional<Catalogue> readCatalogue() {
+  /// Calls `read` and keeps what is wrong with the file that it reads. Returns whether nothing is.
+  template <class Read>
+  bool tryTo(const Read& read) {
     try {
-      return Catalogue::read(root_);
-    } catch (const CommandFailed& failed) {
-      result_.diagnostics = failed.diagnostics;
-      return std::nullopt;
-    }
-  }
-
-  void readGlossary() {
-    try {
-      glossary_ = Glossary::read(root_);
+      read();
+      return true;
     } catch (const CommandFailed& failed) {
       result_.diagnostics.insert(result_.diagnostics.end(), failed.diagnostics.begin(),
                                  failed.diagnostics.end());
+      return false;
     }
+  }
+
+  std::optional<Catalogue> readCatalogue() {
+    std::optional<Catalogue> catalogue;
+    CatalogueSettings settings;
+    if (!tryTo([&] { settings = CatalogueSettings::read(root_); })) return std::nullopt;
+    for (const auto& [name, at] : settings.rulesOff) {
+      off_.insert(name);
+      const std::string error = errorInRuleName(name);
+      if (!error.empty())
+        result_.diagnostics.push_back(
+            {Severity::error, CatalogueSettings::kFile, at.line, at.column, "", error});
+    }
+    tryTo([&] { catalogue = Catalogue::read(root_); });
+    return catalogue;
   }
 
   /// Without the English table, every app stops at its first text, whatever the language.
@@ -91,8 +107,8 @@ class Checker {
     return !failure;
   }
 
-  void checkCountries() {
-    if (!CountryFile::isExpected(root_)) return;
+  void checkCountries(bool isModule) {
+    if (!CountryFile::isExpected(root_, isModule)) return;
     const CountryFile file = CountryFile::read(root_);
     result_.countries = file.elements.size();
     apply(countryRules(), file, CountryFile::kFile);
@@ -105,8 +121,9 @@ class Checker {
     if (!catalogue) return;
     // The English table is no measure of itself.
     const EnglishTexts english(*catalogue, language == kBase ? Table{} : base);
-    apply(keyRules(), KeyedTable{language, table, english}, table.file);
-    apply(gapRules(), KeyedTable{language, table, english}, table.file);
+    const KeyedTable keyed{language, table, english, glossary_.styleOf(language)};
+    apply(keyRules(), keyed, table.file);
+    apply(gapRules(), keyed, table.file);
     for (const TableEntry& entry : table.entries) {
       const EnglishText* const text = english.find(entry.key);
       if (!text || isBlank(entry.text)) continue;
@@ -136,11 +153,12 @@ class Checker {
 
   [[nodiscard]] bool applies(const Rule& rule) const {
     if (rule.severity == Severity::note && !options_.notes) return false;
-    return std::find(options_.off.begin(), options_.off.end(), rule.name) == options_.off.end();
+    return !off_.contains(rule.name);
   }
 
   const std::string& root_;
   const CheckOptions& options_;
+  std::set<std::string, std::less<>> off_;
   Glossary glossary_;
   CheckResult result_;
 };
@@ -158,6 +176,16 @@ std::vector<Rule> checkRules() {
   std::stable_sort(rules.begin(), rules.end(),
                    [](const Rule& one, const Rule& other) { return one.severity < other.severity; });
   return rules;
+}
+
+std::string errorInRuleName(std::string_view name) {
+  std::vector<std::string_view> names;
+  for (const Rule& rule : checkRules()) names.push_back(rule.name);
+  if (std::find(names.begin(), names.end(), name) != names.end()) return "";
+  const std::optional<std::string_view> meant = nearest(name, names);
+  return fmt::format(
+      "unknown rule \"{}\"; {}", name,
+      meant ? fmt::format("did you mean \"{}\"?", *meant) : "zkstrings check --rules lists all");
 }
 
 CheckResult check(const std::string& root, const CheckOptions& options) {

@@ -7,6 +7,7 @@
 
 #include <cstddef>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace zk::tools {
@@ -25,6 +26,8 @@ struct CheckResult {
 
 /// All rules, errors first.
 [[nodiscard]] std::vector<Rule> checkRules();
+/// Returns why `name` is not a rule and what to write instead; empty if it is a rule.
+[[nodiscard]] std::string errorInRuleName(std::string_view name);
 
 /// Finds all that is wrong or missing in the catalogue, the tables and the country list of the project at
 /// `root`. A comment `/* check: off RULE */` before an entry switches a rule off for the entry. A

@@ -23,7 +23,7 @@ struct CountryFile {
   std::optional<Finding> fault;  ///< what keeps the file from being an array
 
   /// Whether the project at `root` has a list or, as the module's own, must have one.
-  [[nodiscard]] static bool isExpected(const std::string& root);
+  [[nodiscard]] static bool isExpected(const std::string& root, bool isModule);
   /// Reads the list of the project at `root`. A file that cannot be read has a fault.
   [[nodiscard]] static CountryFile read(const std::string& root);
   /// The same of the bytes of such a file.

@@ -34,9 +34,6 @@ constexpr Punctuation kPunctuation[] = {
     {"、", Ending::comma},       {"､", Ending::comma},         {"،", Ending::comma},
 };
 
-/// Languages that set no full stop at the end, and mostly no question mark.
-constexpr std::string_view kWithoutStops[] = {"lo", "th"};
-
 std::string_view lastCharacter(std::string_view text) {
   std::size_t begin = text.size() - 1;
   while (begin > 0 && (static_cast<unsigned char>(text[begin]) & 0xC0) == 0x80) --begin;
@@ -99,13 +96,6 @@ Ending endingOf(std::string_view text, std::string_view language) {
   if (last == std::end(kPunctuation) || isOrdinal(text)) return Ending::none;
   const bool isGreekQuestion = language == "el" && last->ending == Ending::semicolon;
   return isGreekQuestion ? Ending::question : last->ending;
-}
-
-bool endsAlike(Ending ending, Ending english, std::string_view language) {
-  if (ending == english) return true;
-  const bool doesWithout =
-      std::find(std::begin(kWithoutStops), std::end(kWithoutStops), language) != std::end(kWithoutStops);
-  return doesWithout && ending == Ending::none && (english == Ending::stop || english == Ending::question);
 }
 
 std::string_view nameOf(Ending ending) {

@@ -12,10 +12,6 @@ enum class Ending { none, stop, question, exclamation, ellipsis, colon, semicolo
 /// full stop.
 [[nodiscard]] Ending endingOf(std::string_view text, std::string_view language);
 
-/// Whether a text of `language` may end in `ending` where the English one ends in `english`: in the same, or
-/// in nothing where its script does without.
-[[nodiscard]] bool endsAlike(Ending ending, Ending english, std::string_view language);
-
 /// "a full stop".
 [[nodiscard]] std::string_view nameOf(Ending ending);
 

@@ -1,133 +1,70 @@
 #include <ZKStrings/tools/check/Glossary.h>
-#include <ZKStrings/tools/check/JsonPlaces.h>
-#include <ZKStrings/tools/support/Diagnostic.h>
 #include <ZKStrings/tools/support/Files.h>
+#include <ZKStrings/tools/support/Json.h>
 
-#include <algorithm>
 #include <filesystem>
+#include <system_error>
 #include <utility>
-
-#include <fmt/format.h>
-#include <fmt/ranges.h>
-#include <nlohmann/json.hpp>
 
 namespace zk::tools {
 
 namespace {
 
-using Json = nlohmann::json;
-using Pointer = Json::json_pointer;
-
-/// A value of the file and the way to it.
-class Value {
- public:
-  Value(const std::string& text, const Json& json, Pointer pointer)
-      : text_(text), json_(json), pointer_(std::move(pointer)) {}
-
-  [[nodiscard]] std::string toText() const {
-    if (!json_.is_string() || json_.get_ref<const std::string&>().empty())
-      failHere("write a text here, \"...\"");
-    return json_.get<std::string>();
-  }
-
-  [[nodiscard]] std::vector<std::string> toTexts() const {
-    std::vector<std::string> texts;
-    forEachElement([&](const Value& element) { texts.push_back(element.toText()); });
-    return texts;
-  }
-
-  [[nodiscard]] Phrases toPhrases() const { return phrasesOf(toTexts()); }
-
-  /// Calls `visit` with each element of the array.
-  template <class Visit>
-  void forEachElement(const Visit& visit) const {
-    if (!json_.is_array()) failHere("write an array here, [...]");
-    for (std::size_t i = 0; i < json_.size(); ++i) visit(Value(text_, json_[i], pointer_ / i));
-  }
-
-  /// Calls `visit` with the name and the value of each member of the object.
-  template <class Visit>
-  void forEachMember(const Visit& visit) const {
-    if (!json_.is_object()) failHere("write an object here, {...}");
-    for (const auto& [name, value] : json_.items()) visit(name, Value(text_, value, pointer_ / name));
-  }
-
-  [[noreturn]] void failHere(std::string message) const {
-    fail(Glossary::kFile, placeInJson(text_, pointer_), std::move(message));
-  }
-
- private:
-  const std::string& text_;
-  const Json& json_;
-  Pointer pointer_;
-};
-
-/// A member that an object may have, and how `Owner` takes it.
-template <class Owner>
-struct Member {
-  const char* name;
-  void (*take)(Owner& owner, const Value& value);
-};
-
-template <class Owner, std::size_t count>
-void takeMembers(const Value& object, Owner& owner, const Member<Owner> (&members)[count]) {
-  object.forEachMember([&](const std::string& name, const Value& value) {
-    const auto* const member = std::find_if(std::begin(members), std::end(members),
-                                            [&](const Member<Owner>& one) { return one.name == name; });
-    if (member != std::end(members)) return member->take(owner, value);
-    std::vector<std::string> names;
-    for (const Member<Owner>& one : members) names.emplace_back(one.name);
-    value.failHere(fmt::format("the member \"{}\" is unknown; there are {}", name, fmt::join(names, ", ")));
-  });
+Phrases phrasesIn(const JsonValue& value) {
+  return phrasesOf(value.texts());
 }
 
-constexpr Member<Term> kTermMembers[] = {
-    {"concept", [](Term& term, const Value& value) { term.name = value.toText(); }},
-    {"english", [](Term& term, const Value& value) { term.english = value.toPhrases(); }},
-    {"except", [](Term& term, const Value& value) { term.exceptions = value.toPhrases(); }},
+constexpr KnownMember<Term> kTermMembers[] = {
+    {"concept", [](Term& term, const JsonValue& value) { term.name = value.nonEmptyText(); }},
+    {"english", [](Term& term, const JsonValue& value) { term.english = phrasesIn(value); }},
+    {"except", [](Term& term, const JsonValue& value) { term.exceptions = phrasesIn(value); }},
     {"stems",
-     [](Term& term, const Value& value) {
-       value.forEachMember([&](const std::string& language, const Value& stems) {
-         for (const std::string& stem : stems.toTexts()) term.stems[language].push_back(caseFolded(stem));
-       });
+     [](Term& term, const JsonValue& value) {
+       for (const auto& [language, nameAt, stems] : value.members()) {
+         for (const std::string& stem : stems.texts()) term.stems[language].push_back(caseFolded(stem));
+       }
      }},
 };
 
-constexpr Member<LanguageStyle> kStyleMembers[] = {
+constexpr KnownMember<LanguageStyle> kStyleMembers[] = {
     {"quotationMarks",
-     [](LanguageStyle& style, const Value& value) { style.quotationMarks = value.toText(); }},
+     [](LanguageStyle& style, const JsonValue& value) { style.quotationMarks = value.nonEmptyText(); }},
     {"wrongAddress",
-     [](LanguageStyle& style, const Value& value) { style.wrongAddress = value.toPhrases(); }},
+     [](LanguageStyle& style, const JsonValue& value) { style.wrongAddress = phrasesIn(value); }},
     {"doubledWords",
-     [](LanguageStyle& style, const Value& value) {
-       const std::vector<std::string> words = value.toTexts();
+     [](LanguageStyle& style, const JsonValue& value) {
+       const std::vector<std::string> words = value.texts();
        style.doublesWords = words == std::vector<std::string>{"*"};
        style.doubledWords = phrasesOf(words);
      }},
-    {"loanWords", [](LanguageStyle& style, const Value& value) { style.loanWords = value.toPhrases(); }},
+    {"loanWords", [](LanguageStyle& style, const JsonValue& value) { style.loanWords = phrasesIn(value); }},
     {"noBreakBefore",
-     [](LanguageStyle& style, const Value& value) { style.noBreakBefore = value.toTexts(); }},
-    {"noBreakBehind",
-     [](LanguageStyle& style, const Value& value) { style.noBreakBehind = value.toTexts(); }},
+     [](LanguageStyle& style, const JsonValue& value) { style.noBreakBefore = value.texts(); }},
+    {"noBreakAfter",
+     [](LanguageStyle& style, const JsonValue& value) { style.noBreakAfter = value.texts(); }},
+    {"nounsInflect",
+     [](LanguageStyle& style, const JsonValue& value) { style.nounsInflect = value.boolean(); }},
+    {"sentenceStops",
+     [](LanguageStyle& style, const JsonValue& value) { style.sentenceStops = value.boolean(); }},
 };
 
-constexpr Member<Glossary> kGlossaryMembers[] = {
+constexpr KnownMember<Glossary> kGlossaryMembers[] = {
     {"terms",
-     [](Glossary& glossary, const Value& value) {
-       value.forEachElement([&](const Value& element) {
+     [](Glossary& glossary, const JsonValue& value) {
+       for (const JsonValue& element : value.elements()) {
          Term term;
-         takeMembers(element, term, kTermMembers);
+         storeMembers(element, term, kTermMembers);
          if (term.name.empty() || term.english.empty()) {
-           element.failHere("the term has no concept or no English words; give it both");
+           element.fail("the term has no concept or no English words; add both");
          }
          glossary.terms.push_back(std::move(term));
-       });
+       }
      }},
     {"languages",
-     [](Glossary& glossary, const Value& value) {
-       value.forEachMember([&](const std::string& language, const Value& style) {
-         takeMembers(style, glossary.styles[language], kStyleMembers);
-       });
+     [](Glossary& glossary, const JsonValue& value) {
+       for (const auto& [language, nameAt, style] : value.members()) {
+         storeMembers(style, glossary.styles[language], kStyleMembers);
+       }
      }},
 };
 
@@ -141,15 +78,7 @@ Glossary Glossary::read(const std::string& root) {
 
 Glossary Glossary::parse(const std::string& json) {
   Glossary glossary;
-  try {
-    const Json content = Json::parse(json);
-    takeMembers(Value(json, content, Pointer()), glossary, kGlossaryMembers);
-  } catch (const Json::parse_error& fault) {
-    fail(kFile, positionOf(json, std::max<std::size_t>(fault.byte, 1) - 1),
-         "the text is not JSON here; mend it");
-  } catch (const Json::exception&) {
-    fail(kFile, "a number in the text is out of range; write texts");
-  }
+  storeMembers(JsonValue::parse(json, kFile), glossary, kGlossaryMembers);
   return glossary;
 }
 

@@ -29,8 +29,10 @@ struct LanguageStyle {
   Phrases doubledWords;                    ///< that may stand twice in a row
   Phrases loanWords;                       ///< English words that it has taken over
   bool doublesWords = false;               ///< whether all words may
-  std::vector<std::string> noBreakBefore;  ///< what has a no-break space before it
-  std::vector<std::string> noBreakBehind;  ///< what has one behind it
+  std::vector<std::string> noBreakBefore;  ///< marks that need a no-break space before them
+  std::vector<std::string> noBreakAfter;   ///< marks that need a no-break space after them
+  bool nounsInflect = true;                ///< whether a noun changes with the number before it
+  bool sentenceStops = true;               ///< whether sentences end with a full stop or a question mark
 };
 
 /// What the translators of all languages have settled on.

@@ -104,7 +104,7 @@ Forms formsOf(const Entry& counted, const KeyedTable& subject) {
 }
 
 void findSamePlurals(const KeyedTable& subject, Findings& findings) {
-  if (!inflectsForNumber(subject.language)) return;
+  if (!subject.style.nounsInflect) return;
   for (const EnglishText& english : subject.english.all()) {
     if (english.suffix != kPluralForms[0].suffix) continue;
     const Forms forms = formsOf(*english.entry, subject);
@@ -112,9 +112,10 @@ void findSamePlurals(const KeyedTable& subject, Findings& findings) {
     if (!areSame || forms.english.size() == 1) continue;
     findings.add(
         *forms.first,
-        fmt::format("the five plural forms of \"{}\" are the same, where the English ones differ; write "
-                    "each as its count asks, or before them /* check: off same-plurals */ if they are right",
-                    english.entry->key));
+        fmt::format(
+            "the five plural forms of \"{}\" are the same, but the English ones differ; translate each "
+            "form, or write /* check: off same-plurals */ before them if they are right",
+            english.entry->key));
   }
 }
 

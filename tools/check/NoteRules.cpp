@@ -15,7 +15,7 @@ constexpr std::size_t kTimesForLong = 2;
 
 void findSameText(const Translation& translation, Findings& findings) {
   const std::string& text = translation.entry.text;
-  if (text != translation.english.text || isSameEverywhere(text)) return;
+  if (text != translation.english.text || translation.english.settings->isSameEverywhere(text)) return;
   const TranslationState state = stateOf(translation.language, &translation.entry, translation.english);
   if (state == TranslationState::untranslated) return;
   findings.add(

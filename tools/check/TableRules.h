@@ -1,5 +1,6 @@
 #pragma once
 
+#include <ZKStrings/tools/check/Glossary.h>
 #include <ZKStrings/tools/check/Rule.h>
 #include <ZKStrings/tools/project/EnglishTexts.h>
 #include <ZKStrings/tools/project/Table.h>
@@ -24,6 +25,7 @@ struct KeyedTable {
   std::string_view language;
   const Table& table;
   const EnglishTexts& english;
+  const LanguageStyle& style;
 };
 
 /// The rules for the keys of a table, which are wrong and which the English one lacks, and for the plural forms of one key.

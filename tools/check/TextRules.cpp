@@ -88,7 +88,9 @@ void findOuterSpace(const Translation& translation, Findings& findings) {
 void findEndPunctuation(const Translation& translation, Findings& findings) {
   const Ending here = endingOf(translation.entry.text, translation.language);
   const Ending english = endingOf(translation.english.text, "en");
-  if (endsAlike(here, english, translation.language)) return;
+  const bool isStop = english == Ending::stop || english == Ending::question;
+  const bool mayBeBare = isStop && !translation.glossary.styleOf(translation.language).sentenceStops;
+  if (here == english || (mayBeBare && here == Ending::none)) return;
   findings.add(translation.entry, fmt::format("the text ends in {}, the English text in {}; end it alike",
                                               nameOf(here), nameOf(english)));
 }

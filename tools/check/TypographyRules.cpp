@@ -115,12 +115,12 @@ void findNoBreakSpaces(const Translation& translation, Findings& findings) {
     };
     findWithoutSpace(mark, text, "before", translation, isMissing, findings);
   }
-  for (const std::string_view mark : style.noBreakBehind) {
+  for (const std::string_view mark : style.noBreakAfter) {
     const auto isMissing = [&](std::size_t at) {
-      const std::string_view behind = characterAt(text, at + mark.size());
-      return !behind.empty() && behind != kNoBreakSpace;
+      const std::string_view after = characterAt(text, at + mark.size());
+      return !after.empty() && after != kNoBreakSpace;
     };
-    findWithoutSpace(mark, text, "behind", translation, isMissing, findings);
+    findWithoutSpace(mark, text, "after", translation, isMissing, findings);
   }
 }
 

@@ -84,10 +84,11 @@ std::size_t tellingCount(std::string_view language) {
 
 /// The runs of `count` words in `text`, names and loan words aside; of single words, those of more than three
 /// letters.
-std::vector<std::string> runsIn(std::string_view text, const Phrases& loanWords, std::size_t count) {
+std::vector<std::string> runsIn(std::string_view text, const CatalogueSettings& settings,
+                                const Phrases& loanWords, std::size_t count) {
   constexpr std::size_t kLongestAbbreviation = 3;
   const std::string prose = proseOf(text);
-  std::vector<std::string_view> words = translatableWords(prose);
+  std::vector<std::string_view> words = settings.wordsToTranslate(prose);
   std::erase_if(words, [&](std::string_view word) { return sizeAt(loanWords, Words(word), 0) > 0; });
   std::vector<std::string> runs;
   for (auto word = words.begin(); words.end() - word >= static_cast<std::ptrdiff_t>(count); ++word) {
@@ -101,9 +102,10 @@ std::vector<std::string> runsIn(std::string_view text, const Phrases& loanWords,
 void findEnglishWords(const Translation& translation, Findings& findings) {
   const std::size_t count = tellingCount(translation.language);
   const Phrases& loanWords = translation.glossary.styleOf(translation.language).loanWords;
-  const std::vector<std::string> english = runsIn(translation.english.text, loanWords, count);
+  const CatalogueSettings& settings = *translation.english.settings;
+  const std::vector<std::string> english = runsIn(translation.english.text, settings, loanWords, count);
   const std::set<std::string_view> known(english.begin(), english.end());
-  for (const std::string& run : runsIn(translation.entry.text, loanWords, count)) {
+  for (const std::string& run : runsIn(translation.entry.text, settings, loanWords, count)) {
     if (!known.contains(run)) continue;
     findings.add(translation.entry, fmt::format("\"{}\" is English; translate it", run));
     return;

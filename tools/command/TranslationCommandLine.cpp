@@ -39,23 +39,6 @@ void printRules() {
   }
 }
 
-/// Refuses what is no rule's name, with the nearest that is.
-CLI::Validator isRule() {
-  const auto refusal = [](const std::string& name) -> std::string {
-    const std::vector<Rule> rules = checkRules();
-    const auto isMeant = [&](const Rule& rule) { return rule.name == name; };
-    if (std::any_of(rules.begin(), rules.end(), isMeant)) return "";
-    std::vector<std::string_view> names;
-    names.reserve(rules.size());
-    for (const Rule& rule : rules) names.push_back(rule.name);
-    const std::optional<std::string_view> meant = nearest(name, names);
-    return fmt::format(
-        "\"{}\" is no rule; {}", name,
-        meant ? fmt::format("write \"{}\" if that is meant", *meant) : "zkstrings check --rules lists them");
-  };
-  return {refusal, ""};
-}
-
 /// "2 warnings"; nothing for none.
 void addCount(std::vector<std::string>& counts, std::size_t count, std::string_view singular,
               std::string_view plural) {
@@ -124,7 +107,7 @@ void addCheckCommand(CLI::App& app, const RootFinder& inRoot, int& status) {
       ->type_name("LANGUAGE");
   command->add_option("--off", arguments->options.off, "A rule to switch off; may be given again")
       ->allow_extra_args(false)
-      ->check(isRule())
+      ->check(CLI::Validator(errorInRuleName, ""))
       ->type_name("RULE");
   command->add_flag("--strict", arguments->isStrict, "Fail on warnings as well");
   command->add_flag("--complete", arguments->isForRelease,

@@ -1,7 +1,7 @@
 #include <ZKStrings/tools/exchange/Export.h>
 #include <ZKStrings/tools/exchange/TranslatorNotes.h>
 #include <ZKStrings/tools/project/Catalogue.h>
-#include <ZKStrings/tools/project/CatalogueName.h>
+#include <ZKStrings/tools/project/CatalogueSettings.h>
 #include <ZKStrings/tools/project/EnglishTexts.h>
 #include <ZKStrings/tools/project/Table.h>
 #include <ZKStrings/tools/support/Languages.h>
@@ -16,7 +16,7 @@ Translations translationsOf(const std::string& root, const std::string& language
   const Catalogue catalogue = Catalogue::read(root);
   const EnglishTexts english(catalogue, Table::readWellFormed(root, kBase));
   const Table table = Table::readWellFormed(root, language);
-  Translations translations{language, {}, CatalogueName::read(root).name};
+  Translations translations{language, {}, CatalogueSettings::read(root).name.name};
   for (const EnglishText& text : english.all()) {
     const TableEntry* const entry = table.find(text.key);
     const TranslationState state = stateOf(language, entry, text);

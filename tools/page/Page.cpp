@@ -59,7 +59,7 @@ class DataMaker {
  public:
   explicit DataMaker(const std::string& root)
       : root_(root),
-        name_(CatalogueName::read(root)),
+        name_(CatalogueSettings::read(root).name),
         catalogue_(Catalogue::read(root)),
         english_(catalogue_, Table::read(root, kBase)),
         shown_(root, english_),

@@ -201,7 +201,9 @@ std::string Entry::context() const {
 }
 
 Catalogue Catalogue::read(const std::string& root) {
-  return parse(readFile(root, kFile), kFile);
+  Catalogue catalogue = parse(readFile(root, kFile), kFile);
+  catalogue.settings_ = CatalogueSettings::read(root);
+  return catalogue;
 }
 
 Catalogue Catalogue::parse(std::string_view json, const std::string& file) {

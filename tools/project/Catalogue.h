@@ -1,6 +1,7 @@
 #pragma once
 
 #include <ZKStrings/tools/support/Diagnostic.h>
+#include <ZKStrings/tools/project/CatalogueSettings.h>
 #include <ZKStrings/tools/texts/Placeholders.h>
 #include <ZKStrings/tools/texts/PluralForms.h>
 
@@ -32,8 +33,8 @@ struct Entry {
 /// All texts of the app, in catalogue order.
 class Catalogue {
  public:
-  /// Reads and checks entries.json in the project at `root`. Throws `CommandFailed` with all that is wrong in
-  /// it.
+  /// Reads and checks entries.json and catalogue.json in the project at `root`. Throws `CommandFailed` with all that
+  /// is wrong in the first, or with the first error in the second.
   [[nodiscard]] static Catalogue read(const std::string& root);
   /// The same of the text of such a file, which diagnostics call `file`.
   [[nodiscard]] static Catalogue parse(std::string_view json, const std::string& file);
@@ -43,6 +44,7 @@ class Catalogue {
 
   [[nodiscard]] const std::vector<Entry>& entries() const { return entries_; }
   [[nodiscard]] std::vector<Entry>& entries() { return entries_; }
+  [[nodiscard]] const CatalogueSettings& settings() const { return settings_; }
 
   /// The keys that the module looks up: those of entries without a count, and the five plural forms of the
   /// others, in catalogue order. `entry` is the one whose English text the form translates.
@@ -64,6 +66,7 @@ class Catalogue {
 
  private:
   std::vector<Entry> entries_;
+  CatalogueSettings settings_;
 };
 
 }  // namespace zk::tools

@@ -6,18 +6,6 @@
 
 namespace zk::tools {
 
-namespace {
-
-/// Names of placeholders that stand for a number, besides those that end in "Count".
-constexpr std::string_view kNumberNames[] = {"cost", "days", "pointsToGo", "remaining"};
-
-bool saysNumber(std::string_view name) {
-  return name.ends_with("Count") ||
-         std::find(std::begin(kNumberNames), std::end(kNumberNames), name) != std::end(kNumberNames);
-}
-
-}  // namespace
-
 std::vector<std::string_view> EnglishText::placeholders() const {
   std::vector<std::string_view> names = placeholderNames(text);
   for (const std::string_view name : placeholderNames(entry->text)) {
@@ -30,7 +18,8 @@ std::string_view EnglishText::dispensable() const {
   if (suffix != "_zero" && suffix != "_one") return "";
   const std::vector<std::string_view> names = placeholderNames(entry->text);
   if (names.size() == 1) return names.front();
-  const auto number = std::find_if(names.begin(), names.end(), saysNumber);
+  const auto number = std::find_if(names.begin(), names.end(),
+                                   [&](std::string_view name) { return settings->isNumber(name); });
   return number == names.end() ? "" : *number;
 }
 
@@ -38,7 +27,7 @@ EnglishTexts::EnglishTexts(const Catalogue& catalogue, const Table& base) {
   for (auto& [key, entry, suffix] : catalogue.lookedUpKeys()) {
     const TableEntry* const form = suffix.empty() ? nullptr : base.find(key);
     if (!places_.emplace(key, texts_.size()).second) continue;
-    texts_.push_back({key, entry, suffix, form ? form->text : entry->text});
+    texts_.push_back({key, entry, suffix, form ? form->text : entry->text, &catalogue.settings()});
   }
 }
 

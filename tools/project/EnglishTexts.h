@@ -17,6 +17,7 @@ struct EnglishText {
   const Entry* entry;
   std::string_view suffix;  ///< of a plural form, or empty
   std::string text;         ///< of the English table for a plural form, of the entry otherwise
+  const CatalogueSettings* settings;
 
   /// The names of the placeholders that a translation may use: those of the text, and of a plural form those
   /// of its entry besides.

@@ -25,11 +25,6 @@ namespace {
 constexpr const char* kResources = "resources";
 constexpr const char* kExtension = ".lproj";
 
-/// Languages whose nouns stay as they are behind a number.
-constexpr std::string_view kUninflected[] = {"az", "ba", "bo", "dz", "fa", "hu", "id", "ja", "jv", "ka",
-                                             "kk", "km", "ko", "ky", "lo", "mn", "ms", "my", "su", "th",
-                                             "tk", "tr", "tt", "ug", "uz", "vi", "za", "zh"};
-
 /// Whether ISO 639-1 has the code.
 bool isLanguageCode(std::string_view code) {
   if (code.size() != 2) return false;
@@ -140,10 +135,6 @@ std::string whyNeverChosen(std::string_view language) {
       code == "en"   ? "write English in Base.lproj"
       : code.empty() ? "only languages with an ISO 639-1 code can have a table"
                      : fmt::format("name it {}.lproj", code));
-}
-
-bool inflectsForNumber(std::string_view language) {
-  return std::find(std::begin(kUninflected), std::end(kUninflected), language) == std::end(kUninflected);
 }
 
 }  // namespace zk::tools

@@ -27,7 +27,4 @@ inline constexpr std::string_view kBase = "Base";
 /// Base.lproj instead of English.
 [[nodiscard]] std::string whyNeverChosen(std::string_view language);
 
-/// Whether words of the language change with the number of things they count.
-[[nodiscard]] bool inflectsForNumber(std::string_view language);
-
 }  // namespace zk::tools

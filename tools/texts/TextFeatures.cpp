@@ -103,6 +103,13 @@ std::vector<std::string> numbersIn(std::string_view text) {
   return numbers;
 }
 
+std::vector<std::string_view> wordsToRead(std::string_view text) {
+  std::vector<std::string_view> words = wordsOf(text);
+  std::erase_if(words,
+                [](std::string_view word) { return lengthOf(word) == 1 || numbersIn(word).size() == 1; });
+  return words;
+}
+
 Brackets bracketsIn(std::string_view text) {
   const auto isOneOf = [](const auto& forms, std::string_view spelled) {
     return std::find(std::begin(forms), std::end(forms), spelled) != std::end(forms);

@@ -33,6 +33,9 @@ struct OuterSpace {
 /// The runs of letters, marks and digits in `text`.
 [[nodiscard]] std::vector<std::string_view> wordsOf(std::string_view text);
 
+/// The words of `text` except numbers and single letters.
+[[nodiscard]] std::vector<std::string_view> wordsToRead(std::string_view text);
+
 /// The runs of decimal digits in `text`, of whatever script, each in ASCII digits, sorted.
 [[nodiscard]] std::vector<std::string> numbersIn(std::string_view text);
 

@@ -33,7 +33,7 @@ std::string explanationOf(const EnglishText& english) {
 
 std::string untranslatedEntry(const EnglishText& english) {
   const std::string mark =
-      isSameEverywhere(english.text) ? "" : markFor(TranslationState::untranslated) + "\n";
+      english.settings->isSameEverywhere(english.text) ? "" : markFor(TranslationState::untranslated) + "\n";
   const std::string context = english.entry->context();
   return explanationOf(english) + "\n" +
          (context.empty() ? "" : comment(fmt::format("{} {}", kContext, context)) + "\n") + mark +

@@ -1,5 +1,4 @@
 #include <ZKStrings/tools/project/EntryComments.h>
-#include <ZKStrings/tools/support/Characters.h>
 #include <ZKStrings/tools/support/Languages.h>
 #include <ZKStrings/tools/texts/TextFeatures.h>
 #include <ZKStrings/tools/translation/TranslationState.h>
@@ -16,32 +15,9 @@ namespace {
 
 using Words = std::vector<std::string_view>;
 
-/// Names and words that are the same in every language, longer ones before those they begin with.
-constexpr std::string_view kSameEverywhere[] = {
-    "ZK Trivia", "ZK Sports", "ZK Words", "ZKX",      "ZK",      "App Store", "Play Store", "Apple",
-    "Beta",      "Bluetooth", "FAQs",     "Facebook", "Google",  "iOS",       "Instagram",  "OK",
-    "PayPal",    "Paypal",    "SMS",      "TV",       "Twitter", "VIP",       "VIPs"};
-
-const std::vector<Words>& namesInWords() {
-  static const std::vector<Words> names = [] {
-    std::vector<Words> result;
-    for (const std::string_view name : kSameEverywhere) result.push_back(wordsOf(name));
-    return result;
-  }();
-  return names;
-}
-
-/// The words of a text that are more than a number or a single letter.
-Words wordsToRead(std::string_view text) {
-  Words words = wordsOf(text);
-  std::erase_if(words,
-                [](std::string_view word) { return lengthOf(word) == 1 || numbersIn(word).size() == 1; });
-  return words;
-}
-
 /// Whether an entry that says what the English text says is likely to be left over.
-bool looksUntranslated(const TableEntry& entry) {
-  return wordsToRead(withoutPlaceholders(entry.text)).size() > 1 && !isSameEverywhere(entry.text) &&
+bool looksUntranslated(const TableEntry& entry, const CatalogueSettings& settings) {
+  return wordsToRead(withoutPlaceholders(entry.text)).size() > 1 && !settings.isSameEverywhere(entry.text) &&
          !isSwitchedOff(entry, kUntranslatedRule);
 }
 
@@ -68,8 +44,8 @@ TranslationState stateOf(std::string_view language, const TableEntry* entry, con
   const bool isEnglish = entry->text == english.text;
   if (isEnglish && isMarked(*entry, TranslationState::untranslated)) return TranslationState::untranslated;
   if (isMarked(*entry, TranslationState::needsReview)) return TranslationState::needsReview;
-  return isEnglish && looksUntranslated(*entry) ? TranslationState::untranslated
-                                                : TranslationState::translated;
+  return isEnglish && looksUntranslated(*entry, *english.settings) ? TranslationState::untranslated
+                                                                   : TranslationState::translated;
 }
 
 bool isMarked(const TableEntry& entry, TranslationState state) {
@@ -80,26 +56,6 @@ bool isMarked(const TableEntry& entry, TranslationState state) {
 
 std::string markFor(TranslationState state) {
   return fmt::format("/* {} {} */", kState, nameOf(state));
-}
-
-bool isSameEverywhere(std::string_view text) {
-  return translatableWords(withoutPlaceholders(text)).empty();
-}
-
-std::vector<std::string_view> translatableWords(std::string_view text) {
-  const Words words = wordsToRead(text);
-  Words translatable;
-  for (auto word = words.begin(); word != words.end();) {
-    const auto isHere = [&](const Words& name) {
-      return static_cast<std::size_t>(words.end() - word) >= name.size() &&
-             std::equal(name.begin(), name.end(), word);
-    };
-    const auto name = std::find_if(namesInWords().begin(), namesInWords().end(), isHere);
-    const bool isName = name != namesInWords().end();
-    if (!isName) translatable.push_back(*word);
-    word += isName ? static_cast<std::ptrdiff_t>(name->size()) : 1;
-  }
-  return translatable;
 }
 
 }  // namespace zk::tools

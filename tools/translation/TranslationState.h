@@ -37,10 +37,4 @@ inline constexpr std::string_view kUntranslatedRule = "untranslated";
 /// That comment, without a line break. Entries are marked as `untranslated` and `needsReview` only.
 [[nodiscard]] std::string markFor(TranslationState state);
 
-/// Whether there is nothing in `text` to translate: names, placeholders, numbers and single letters alone.
-[[nodiscard]] bool isSameEverywhere(std::string_view text);
-
-/// The words of `text` that belong to no name, without numbers and single letters.
-[[nodiscard]] std::vector<std::string_view> translatableWords(std::string_view text);
-
 }  // namespace zk::tools

@@ -54,11 +54,4 @@ TEST(EndPunctuation, IsKnownInAllScriptsAndBehindWhatFollowsIt) {
   }
 }
 
-TEST(EndPunctuation, MayBeMissingWhereALanguageDoesWithout) {
-  EXPECT_TRUE(endsAlike(Ending::none, Ending::stop, "th"));
-  EXPECT_FALSE(endsAlike(Ending::none, Ending::exclamation, "th"));
-  EXPECT_FALSE(endsAlike(Ending::none, Ending::stop, "de"));
-  EXPECT_FALSE(endsAlike(Ending::stop, Ending::none, "th"));
-}
-
 }  // namespace

@@ -20,12 +20,12 @@ namespace fs = std::filesystem;
 
 std::string accented(const std::string& text, std::string_view suffix = "") {
   const Entry entry{"key", text, !suffix.empty()};
-  return accentedText({"key", &entry, suffix, text});
+  return accentedText({"key", &entry, suffix, text, nullptr});
 }
 
 std::string mirrored(const std::string& text, std::string_view suffix = "") {
   const Entry entry{"key", text, !suffix.empty()};
-  return mirroredText({"key", &entry, suffix, text});
+  return mirroredText({"key", &entry, suffix, text, nullptr});
 }
 
 TEST(PseudoLanguages, AccentAndLengthenLettersAlone) {

@@ -14,7 +14,9 @@ TranslationState stateOfEntry(const std::string& comments, const std::string& te
                               const std::string& english, const char* language = "de") {
   const Table table = Table::parse(fmt::format("{}\n{}", comments, tableLine("key", text)), "table");
   const Entry entry{"key", english};
-  return stateOf(language, table.find("key"), {"key", &entry, "", english});
+  CatalogueSettings settings;
+  settings.names = {"App Store", "PayPal", "ZK", "ZK Trivia"};
+  return stateOf(language, table.find("key"), {"key", &entry, "", english, &settings});
 }
 
 TEST(TranslationState, FollowsFromTextAndMark) {

@@ -1,0 +1,128 @@
+#include <ZKStrings/tools/project/CatalogueSettings.h>
+#include <ZKStrings/tools/project/Identifiers.h>
+#include <ZKStrings/tools/support/Files.h>
+#include <ZKStrings/tools/support/Json.h>
+#include <ZKStrings/tools/texts/TextFeatures.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <filesystem>
+#include <system_error>
+
+#include <fmt/format.h>
+
+namespace zk::tools {
+
+namespace {
+
+bool isNamespace(std::string_view name) {
+  for (std::size_t end = 0; end != name.npos;) {
+    end = name.find("::");
+    if (!isIdentifier(name.substr(0, end))) return false;
+    if (end != name.npos) name.remove_prefix(end + 2);
+  }
+  return true;
+}
+
+using Words = std::vector<std::string_view>;
+using Example = CatalogueSettings::Example;
+
+constexpr KnownMember<Example> kExampleMembers[] = {
+    {"key", [](Example& example, const JsonValue& value) { example.key = value.nonEmptyText(); }},
+    {"count", [](Example& example, const JsonValue& value) { example.count = value.integer(); }},
+};
+
+Example exampleFrom(const JsonValue& value) {
+  Example example;
+  if (!value.isObject()) {
+    example.text = value.nonEmptyText();
+    return example;
+  }
+  storeMembers(value, example, kExampleMembers);
+  if (example.key.empty()) value.fail("the example has no key; write {\"key\": \"...\"}");
+  return example;
+}
+
+using Settings = CatalogueSettings;
+
+constexpr KnownMember<Settings> kMembers[] = {
+    {"name", [](Settings& settings, const JsonValue& value) { settings.name.name = value.text(); }},
+    {"namespace", [](Settings& settings, const JsonValue& value) { settings.name.nameSpace = value.text(); }},
+    {"appName", [](Settings& settings, const JsonValue& value) { settings.appName = value.nonEmptyText(); }},
+    {"names", [](Settings& settings, const JsonValue& value) { settings.names = value.texts(); }},
+    {"rulesOff",
+     [](Settings& settings, const JsonValue& value) {
+       for (const JsonValue& rule : value.elements())
+         settings.rulesOff.push_back({rule.nonEmptyText(), rule.at()});
+     }},
+    {"numberPlaceholders",
+     [](Settings& settings, const JsonValue& value) { settings.numberPlaceholders = value.texts(); }},
+    {"examples",
+     [](Settings& settings, const JsonValue& value) {
+       for (const JsonMember& member : value.members()) {
+         settings.examples[member.name] = exampleFrom(member.value);
+       }
+     }},
+};
+
+/// Returns how many of the words from `begin` on are `name`, 0 if they are another word.
+std::size_t sizeOfName(const std::string& name, Words::const_iterator begin, Words::const_iterator end) {
+  if (!name.starts_with(*begin)) return 0;
+  const Words words = wordsOf(name);
+  const bool isHere =
+      static_cast<std::size_t>(end - begin) >= words.size() && std::equal(words.begin(), words.end(), begin);
+  return isHere ? words.size() : 0;
+}
+
+}  // namespace
+
+std::string CatalogueName::fault() const {
+  if (isModule()) return "";
+  if (!isIdentifier(name))
+    return fmt::format("the name \"{}\" cannot name a class; use letters, digits and _, as in Texts", name);
+  if (!nameSpace.empty() && !isNamespace(nameSpace))
+    return fmt::format(
+        "the namespace \"{}\" cannot name one; use letters, digits and _, as in myapp or myapp::texts",
+        nameSpace);
+  if (name == nameSpace)
+    return fmt::format("the namespace is called \"{}\" like the class; change one", name);
+  return "";
+}
+
+CatalogueSettings CatalogueSettings::read(const std::string& root) {
+  std::error_code failure;
+  const bool isMissing = !std::filesystem::exists(std::filesystem::path(root) / kFile, failure) && !failure;
+  return isMissing ? CatalogueSettings{} : parse(readFile(root, kFile));
+}
+
+CatalogueSettings CatalogueSettings::parse(std::string_view json) {
+  CatalogueSettings settings;
+  settings.name = {"", ""};
+  const JsonValue object = JsonValue::parse(json, kFile);
+  storeMembers(object, settings, kMembers);
+  if (const std::string fault = settings.name.fault(); !fault.empty()) object.fail(fault);
+  return settings;
+}
+
+bool CatalogueSettings::isNumber(std::string_view placeholder) const {
+  return placeholder.ends_with("Count") || std::find(numberPlaceholders.begin(), numberPlaceholders.end(),
+                                                     placeholder) != numberPlaceholders.end();
+}
+
+std::vector<std::string_view> CatalogueSettings::wordsToTranslate(std::string_view text) const {
+  const Words words = wordsToRead(text);
+  Words translatable;
+  for (auto word = words.begin(); word != words.end();) {
+    std::size_t longest = 0;
+    for (const std::string& one : names) longest = std::max(longest, sizeOfName(one, word, words.end()));
+    if (longest == 0) translatable.push_back(*word);
+    word += static_cast<std::ptrdiff_t>(std::max<std::size_t>(longest, 1));
+  }
+  return translatable;
+}
+
+bool CatalogueSettings::isSameEverywhere(std::string_view text) const {
+  return wordsToTranslate(withoutPlaceholders(text)).empty();
+}
+
+}  // namespace zk::tools

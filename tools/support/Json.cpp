@@ -1,0 +1,195 @@
+#include <ZKStrings/tools/support/Diagnostic.h>
+#include <ZKStrings/tools/support/Json.h>
+
+#include <algorithm>
+#include <set>
+#include <utility>
+
+#include <fmt/format.h>
+#include <fmt/ranges.h>
+#include <nlohmann/json.hpp>
+
+namespace zk::tools {
+
+namespace {
+
+using Json = nlohmann::json;
+
+constexpr std::size_t kDeepest = 100;
+
+/// Returns the offset after the token of well-formed JSON that begins at `begin`.
+std::size_t endOfToken(std::string_view text, std::size_t begin) {
+  if (text[begin] != '"') {
+    const bool isBracket = std::string_view("[]{}").find(text[begin]) != std::string_view::npos;
+    return isBracket ? begin + 1 : std::min(text.find_first_of(" \t\r\n,:]}", begin), text.size());
+  }
+  std::size_t end = begin + 1;
+  while (text[end] != '"') end += text[end] == '\\' ? std::size_t{2} : 1;
+  return end + 1;
+}
+
+}  // namespace
+
+/// Builds values from the parser's events. The parser does not report where a token begins, so the builder follows it
+/// through the text, token by token.
+class JsonBuilder : public nlohmann::json_sax<Json> {
+ public:
+  JsonBuilder(std::string_view text, std::string_view file, Position begin)
+      : text_(text), file_(file), positions_(text, begin) {
+    constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+    if (text.starts_with(kByteOrderMark)) end_ = kByteOrderMark.size();
+  }
+
+  [[nodiscard]] JsonValue take() { return std::move(root_); }
+
+  bool null() override { return add(nullptr); }
+  bool boolean(bool value) override { return add(value); }
+  bool number_integer(number_integer_t value) override { return add(value); }
+  bool number_unsigned(number_unsigned_t value) override {
+    return std::in_range<std::int64_t>(value) ? add(static_cast<std::int64_t>(value)) : add(nullptr);
+  }
+  bool number_float(number_float_t /*value*/, const string_t& /*spelled*/) override { return add(nullptr); }
+  bool string(string_t& value) override { return add(std::move(value)); }
+  bool binary(binary_t& /*value*/) override { return add(nullptr); }
+  bool start_array(std::size_t /*size*/) override { return open(std::vector<JsonValue>()); }
+  bool start_object(std::size_t /*size*/) override { return open(std::vector<JsonMember>()); }
+  bool end_array() override { return close(); }
+  bool end_object() override { return close(); }
+  bool key(string_t& name) override {
+    const Position at = nextToken();
+    if (dropped_ == 0) std::get<std::vector<JsonMember>>(open_.back().content_).push_back({name, at, {}});
+    return true;
+  }
+  bool parse_error(std::size_t position, const std::string& /*token*/,
+                   const Json::exception& error) override {
+    const bool isTooLarge = dynamic_cast<const Json::out_of_range*>(&error) != nullptr;
+    tools::fail(std::string(file_), positions_.at(std::max<std::size_t>(position, 1) - 1),
+                isTooLarge ? "the number is too large" : "not valid JSON here; correct the syntax");
+  }
+
+ private:
+  Position nextToken() {
+    const std::size_t begin = text_.find_first_not_of(" \t\r\n,:", end_);
+    end_ = endOfToken(text_, begin);
+    return positions_.at(begin);
+  }
+
+  JsonValue valueOf(JsonValue::Content content) {
+    JsonValue value;
+    value.file_ = file_;
+    value.at_ = nextToken();
+    value.content_ = std::move(content);
+    return value;
+  }
+
+  void store(JsonValue value) {
+    if (open_.empty()) {
+      root_ = std::move(value);
+    } else if (auto* const list = std::get_if<std::vector<JsonValue>>(&open_.back().content_)) {
+      list->push_back(std::move(value));
+    } else {
+      std::get<std::vector<JsonMember>>(open_.back().content_).back().value = std::move(value);
+    }
+  }
+
+  bool add(JsonValue::Content content) {
+    JsonValue value = valueOf(std::move(content));
+    if (dropped_ == 0) store(std::move(value));
+    return true;
+  }
+
+  bool open(JsonValue::Content content) {
+    JsonValue value = valueOf(std::move(content));
+    if (open_.size() == kDeepest) {
+      ++dropped_;
+    } else {
+      open_.push_back(std::move(value));
+    }
+    return true;
+  }
+
+  bool close() {
+    nextToken();
+    if (dropped_ > 0) {
+      --dropped_;
+      return true;
+    }
+    JsonValue value = std::move(open_.back());
+    open_.pop_back();
+    store(std::move(value));
+    return true;
+  }
+
+  std::string_view text_;
+  std::string_view file_;
+  PositionTeller positions_;
+  std::size_t end_ = 0;  // of the last token
+  std::vector<JsonValue> open_;
+  std::size_t dropped_ = 0;  // how many containers are open that are nested too deeply
+  JsonValue root_;
+};
+
+JsonValue JsonValue::parse(std::string_view text, std::string_view file, Position begin) {
+  JsonBuilder builder(text, file, begin);
+  Json::sax_parse(text, &builder);
+  return builder.take();
+}
+
+template <class Type>
+const Type& JsonValue::contentAs(const char* example) const {
+  const Type* const content = std::get_if<Type>(&content_);
+  if (!content) fail(fmt::format("wrong type of value; write {}", example));
+  return *content;
+}
+
+bool JsonValue::isObject() const {
+  return std::holds_alternative<std::vector<JsonMember>>(content_);
+}
+
+const std::string& JsonValue::text() const {
+  return contentAs<std::string>(R"(a text, "...")");
+}
+
+const std::string& JsonValue::nonEmptyText() const {
+  if (text().empty()) fail("the text is empty; write one");
+  return text();
+}
+
+std::vector<std::string> JsonValue::texts() const {
+  std::vector<std::string> texts;
+  for (const JsonValue& element : elements()) texts.push_back(element.nonEmptyText());
+  return texts;
+}
+
+bool JsonValue::boolean() const {
+  return contentAs<bool>("true or false");
+}
+
+std::int64_t JsonValue::integer() const {
+  return contentAs<std::int64_t>("an integer");
+}
+
+const std::vector<JsonValue>& JsonValue::elements() const {
+  return contentAs<std::vector<JsonValue>>("an array, [...]");
+}
+
+const std::vector<JsonMember>& JsonValue::members() const {
+  return contentAs<std::vector<JsonMember>>("an object, {...}");
+}
+
+void JsonValue::failAt(Position at, std::string message) const {
+  tools::fail(std::string(file_), at, std::move(message));
+}
+
+void requireMembers(const JsonValue& object, const std::vector<std::string_view>& known) {
+  std::set<std::string_view> seen;
+  for (const auto& [name, nameAt, value] : object.members()) {
+    if (std::find(known.begin(), known.end(), name) == known.end()) {
+      object.failAt(nameAt, fmt::format("unknown member \"{}\"; known are {}", name, fmt::join(known, ", ")));
+    }
+    if (!seen.insert(name).second)
+      object.failAt(nameAt, fmt::format("repeated member \"{}\"; remove one", name));
+  }
+}
+
+}  // namespace zk::tools
