@@ -2840,7 +2840,7 @@ struct ZK_EXPORT ZKStrings {
 
   /// "%{winnerCount} Winners!"
   /// How many players have won. At 0 nobody has won: do not cheer.
-  /// - 0: "No Winners!"
+  /// - 0: "No Winners"
   /// - 1: "%{winnerCount} Winner!"
   /// - 2: "%{winnerCount} Winners!"
   /// - 3 to 5: "%{winnerCount} Winners!"
@@ -3067,7 +3067,7 @@ struct ZK_EXPORT ZKStrings {
 
   /// "You have %{extraLifeCount} Extra Lives!"
   /// How many Extra Lives the player has. At 0 do not cheer.
-  /// - 0: "You have no Extra Lives!"
+  /// - 0: "You have no Extra Lives"
   /// - 1: "You have %{extraLifeCount} Extra Life!"
   /// - 2: "You have %{extraLifeCount} Extra Lives!"
   /// - 3 to 5: "You have %{extraLifeCount} Extra Lives!"
