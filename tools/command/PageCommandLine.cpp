@@ -1,5 +1,5 @@
 #include <ZKStrings/tools/command/Subcommands.h>
-#include <ZKStrings/tools/layout/PseudoLanguages.h>
+#include <ZKStrings/tools/layout/PseudoLocales.h>
 #include <ZKStrings/tools/page/Page.h>
 #include <ZKStrings/tools/support/Files.h>
 
@@ -17,8 +17,8 @@ constexpr const char* kPseudoResources = "/build/pseudo/share/ZKStrings";
 
 void addPageCommand(CLI::App& app, const RootFinder& inRoot) {
   const auto file = std::make_shared<std::string>();
-  auto* const command = app.add_subcommand("page", "Write all texts in all languages as a page to look at");
-  command->add_option("-o,--output", *file, "The HTML file; build/texts.html otherwise")->type_name("FILE");
+  auto* const command = app.add_subcommand("page", "Write an HTML page of all texts in all languages");
+  command->add_option("-o,--output", *file, "The HTML file (default: build/texts.html)")->type_name("FILE");
   command->footer("Example: zkstrings page -o texts.html");
   command->callback([file, inRoot] {
     const std::string root = inRoot();
@@ -32,17 +32,17 @@ void addPageCommand(CLI::App& app, const RootFinder& inRoot) {
 void addPseudoCommand(CLI::App& app, const RootFinder& inRoot) {
   const auto directory = std::make_shared<std::string>();
   auto* const command =
-      app.add_subcommand("pseudo", "Write the pretend languages xa (longer) and xb (right to left)");
+      app.add_subcommand("pseudo", "Write the pseudo-locales xa (longer), xb (right to left) and xk (keys)");
   command
       ->add_option("-o,--output", *directory,
-                   "The resources of the app to look at, share/ZKStrings; of build/pseudo otherwise")
+                   "The app's folder share/ZKStrings (default: the one in build/pseudo)")
       ->type_name("DIR");
   command->footer("Example: zkstrings pseudo -o build/share/ZKStrings");
   command->callback([directory, inRoot] {
     const std::string root = inRoot();
     if (directory->empty()) *directory = root + kPseudoResources;
-    writePseudoLanguages(root, *directory);
-    fmt::print("Wrote xa and xb into {}. An app that prefers one of them shows it.\n", *directory);
+    writePseudoLocales(root, *directory);
+    fmt::print("Wrote xa, xb and xk into {}. An app that prefers one of them shows it.\n", *directory);
   });
 }
 

@@ -1,6 +1,6 @@
 #include <ZKStrings/tests/TemporaryDirectory.h>
 #include <ZKStrings/tools/check/Checker.h>
-#include <ZKStrings/tools/layout/PseudoLanguages.h>
+#include <ZKStrings/tools/layout/PseudoLocales.h>
 #include <ZKStrings/tools/support/Diagnostic.h>
 #include <ZKStrings/tools/support/Languages.h>
 #include <ZKStrings/tools/texts/TextFeatures.h>
@@ -28,40 +28,40 @@ std::string mirrored(const std::string& text, std::string_view suffix = "") {
   return mirroredText({"key", &entry, suffix, text, nullptr});
 }
 
-TEST(PseudoLanguages, AccentAndLengthenLettersAlone) {
+TEST(PseudoLocales, AccentAndLengthenLettersAlone) {
   struct Case {
     const char* english;
     const char* accented;
   };
   constexpr Case kCases[] = {
-      {"About", "⟦Åƀööûûţ⟧"},
-      {"Kick %{username}?", "⟦Ķîîîçķ %{username}?⟧"},
-      {"<b>Rules</b>", "⟦<b>Ŕûûļééš</b>⟧"},
-      {"*Be quick!*\nBuy two.", "⟦*Ɓéé ǫûûîîçķ!*\nƁûûý ţŵööö.⟧"},
-      {"Download on ", "⟦Đööŵñļööååđ ööñ⟧ "},
-      {"TV", "⟦ŢṼṼ⟧"},
+      {"About", "⟦ÅÅƀööûţţ⟧"},
+      {"Kick %{username}?", "⟦ĶĶîççķ %{username}?⟧"},
+      {"<b>Rules</b>", "⟦<b>ŔŔûļļéšš</b>⟧"},
+      {"*Be quick!*\nBuy two.", "⟦*ƁƁé ǫǫûîîçķķ!*\nƁûûý ţţŵöö.⟧"},
+      {"Download on ", "⟦ĐĐöŵŵñļļöååđ ööñ⟧ "},
+      {"TV", "⟦ŢŢṼ⟧"},
       {"1:1", "⟦1:1⟧"},
       {"%{a}/%{b}", "⟦%{a}/%{b}⟧"},
       {" ", " ⟦⟧"},
   };
   for (const auto& [english, expected] : kCases) EXPECT_EQ(accented(english), expected) << english;
-  EXPECT_EQ(accented("%{n} Coins", "_few"), "⟦%{n} Çööîîñš ·few⟧");
+  EXPECT_EQ(accented("%{n} Coins", "_few"), "⟦%{n} ÇÇöîîñšš ·few⟧");
 }
 
-TEST(PseudoLanguages, TurnEachWordAround) {
+TEST(PseudoLocales, ReverseEachWord) {
   EXPECT_EQ(mirrored("Kick %{username}"), "\u200F\u202EKick\u202C %{username}\u200F");
   EXPECT_EQ(mirrored("<b>A</b>  b\nc "),
             "\u200F<b>\u202EA\u202C</b>  \u202Eb\u202C\u200F\n\u200F\u202Ec\u202C\u200F ");
   EXPECT_EQ(mirrored("%{n} Coins", "_one"), "\u200F%{n} \u202ECoins\u202C \u202E·one\u202C\u200F");
 }
 
-/// The project's resources and the pretend languages, as an app sees them.
+/// The project's resources and the pseudo-locales, as an app sees them.
 class PseudoTables : public ::testing::Test {
  protected:
   PseudoTables() : resources_(directory_.path() + "/resources") {
     fs::create_directories(directory_.path() + "/catalogue");
     fs::copy(std::string(ZK_PROJECT_ROOT) + "/catalogue/entries.json", directory_.path() + "/catalogue/");
-    writePseudoLanguages(ZK_PROJECT_ROOT, resources_);
+    writePseudoLocales(ZK_PROJECT_ROOT, resources_);
   }
 
   TemporaryDirectory directory_;
@@ -69,7 +69,7 @@ class PseudoTables : public ::testing::Test {
 };
 
 TEST_F(PseudoTables, KeepAllThatTranslationsMustKeep) {
-  // Their dots are the English ones, and no app of another language chooses them.
+  // They keep English dots, and no other language chooses their directories.
   const CheckOptions options{
       .languages = {"xa", "xb"},
       .off = {"language-directory", "end-punctuation", "ellipsis", "apostrophe", "english-words"},
@@ -78,7 +78,7 @@ TEST_F(PseudoTables, KeepAllThatTranslationsMustKeep) {
     ADD_FAILURE() << formatted(diagnostic, false);
 }
 
-TEST_F(PseudoTables, AreAThirdLongerInReadersEyes) {
+TEST_F(PseudoTables, AreAThirdLonger) {
   const Catalogue catalogue = Catalogue::read(ZK_PROJECT_ROOT);
   const EnglishTexts english(catalogue, Table::read(ZK_PROJECT_ROOT, kBase));
   const Table table = Table::read(directory_.path(), "xa");

@@ -1,4 +1,4 @@
-#include <ZKStrings/tools/layout/PseudoLanguages.h>
+#include <ZKStrings/tools/layout/PseudoLocales.h>
 #include <ZKStrings/tools/project/Table.h>
 #include <ZKStrings/tools/support/Characters.h>
 #include <ZKStrings/tools/support/Diagnostic.h>
@@ -27,16 +27,13 @@ constexpr std::string_view kAccentedCapital[] = {"Å", "Ɓ", "Ç", "Đ", "É", "
                                                  "Ĵ", "Ķ", "Ļ", "Ḿ", "Ñ", "Ö", "Þ", "Ǫ", "Ŕ",
                                                  "Š", "Ţ", "Û", "Ṽ", "Ŵ", "Ẋ", "Ý", "Ž"};
 
-constexpr std::string_view kVowels = "aeiouAEIOU";
-constexpr std::string_view kLetters = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ";
-
 constexpr std::string_view kRightToLeftMark = "\u200F";
 constexpr std::string_view kRightToLeftOverride = "\u202E";
 constexpr std::string_view kEndOfOverride = "\u202C";
 
 using Kind = TextPiece::Kind;
 
-/// `text` without the white space at its ends, which `around` then puts around what is made of it.
+/// Replaces `text` by what `make` returns for it, except for the white space at both ends, which stays.
 template <class Make>
 std::string withinSpaces(std::string_view text, const Make& make) {
   constexpr std::string_view kSpaces = " \t\n";
@@ -52,50 +49,28 @@ std::string accented(char letter) {
   return {letter};
 }
 
-/// The letters that are repeated to make a text longer: its vowels, or all of them when it has none.
-std::string_view stretchable(const std::vector<TextPiece>& pieces) {
-  const auto hasVowel = [](const TextPiece& piece) {
-    return piece.kind == Kind::words && piece.text.find_first_of(kVowels) != std::string_view::npos;
-  };
-  return std::any_of(pieces.begin(), pieces.end(), hasVowel) ? kVowels : kLetters;
+bool isLetter(char byte) {
+  return (byte >= 'a' && byte <= 'z') || (byte >= 'A' && byte <= 'Z');
 }
 
-std::size_t countOfAny(std::string_view text, std::string_view letters) {
-  return static_cast<std::size_t>(std::count_if(
-      text.begin(), text.end(), [&](char letter) { return letters.find(letter) != std::string_view::npos; }));
-}
-
+/// `text` with accents, and with every second letter doubled.
 std::string accentedAndLonger(std::string_view text) {
-  const std::vector<TextPiece> pieces = piecesOf(text);
-  const std::string_view stretched = stretchable(pieces);
-  std::size_t bytes = 0;
-  std::size_t places = 0;
-  for (const TextPiece& piece : pieces) {
-    if (piece.kind != Kind::words) continue;
-    bytes += piece.text.size();
-    places += countOfAny(piece.text, stretched);
-  }
-  const std::size_t extra = (bytes + 2) / 3;
   std::string result;
-  std::size_t place = 0;
-  for (const TextPiece& piece : pieces) {
-    if (piece.kind != Kind::words) {
-      result += piece.text;
-      continue;
-    }
+  bool isDoubled = false;
+  for (const TextPiece& piece : piecesOf(text)) {
+    if (piece.kind != Kind::words) result += piece.text;
+    if (piece.kind != Kind::words) continue;
     for (const char letter : piece.text) {
       result += accented(letter);
-      if (stretched.find(letter) == std::string_view::npos) continue;
-      const std::size_t copies = (place + 1) * extra / places - place * extra / places;
-      for (std::size_t i = 0; i < copies; ++i) result += accented(letter);
-      ++place;
+      if (isLetter(letter)) isDoubled = !isDoubled;
+      if (isLetter(letter) && isDoubled) result += accented(letter);
     }
   }
   return result;
 }
 
-/// Each word of `text` with marks that turn it around, and each line with marks at its ends.
-std::string turnedAround(std::string_view text) {
+/// `text` with marks that reverse each word, and with marks at the ends of each line.
+std::string reversed(std::string_view text) {
   std::string result;
   while (!text.empty()) {
     const std::size_t space = std::min(text.find_first_not_of(" \n"), text.size());
@@ -119,7 +94,7 @@ std::string tableOf(const EnglishTexts& english, std::string (*make)(const Engli
   return table;
 }
 
-/// `directory`, once it is known not to lie in the project's own resources, by whatever links.
+/// Throws if `directory` is in the project's own resources, directly or through links.
 void refuseShipped(const fs::path& resources, const std::string& directory) {
   std::error_code failure;
   const fs::path shipped = fs::canonical(resources, failure);
@@ -127,8 +102,9 @@ void refuseShipped(const fs::path& resources, const std::string& directory) {
        folder = folder.parent_path()) {
     if (folder == shipped) {
       fail(directory,
-           "these resources are shipped, where nobody may find a pretend language; name the folder of "
-           "another build or installation");
+           "these resources are shipped and must not contain pseudo-locales; name the folder of another "
+           "build or "
+           "installation");
     }
     if (folder == folder.parent_path()) return;
   }
@@ -147,12 +123,12 @@ std::string mirroredText(const EnglishText& english) {
   return withinSpaces(english.text, [&](std::string_view text) {
     std::string result = mark;
     for (const TextPiece& piece : piecesOf(text))
-      result += piece.kind == Kind::words ? turnedAround(piece.text) : std::string(piece.text);
-    return result + turnedAround(nameOfForm(english)) + mark;
+      result += piece.kind == Kind::words ? reversed(piece.text) : std::string(piece.text);
+    return result + reversed(nameOfForm(english)) + mark;
   });
 }
 
-void writePseudoLanguages(const std::string& root, const std::string& directory) {
+void writePseudoLocales(const std::string& root, const std::string& directory) {
   const fs::path resources = fs::path(root) / "resources";
   refuseShipped(resources, directory);
   const Catalogue catalogue = Catalogue::read(root);
@@ -166,7 +142,9 @@ void writePseudoLanguages(const std::string& root, const std::string& directory)
   if (failure)
     fail(directory, "the resources cannot be written; see that the folder may be written and has room");
   writeFiles(directory, {{"xa.lproj/Localizable.strings", tableOf(english, accentedText)},
-                         {"xb.lproj/Localizable.strings", tableOf(english, mirroredText)}});
+                         {"xb.lproj/Localizable.strings", tableOf(english, mirroredText)},
+                         {"xk.lproj/Localizable.strings",
+                          tableOf(english, [](const EnglishText& text) { return text.key; })}});
 }
 
 }  // namespace zk::tools
