@@ -162,7 +162,7 @@ test("Everything can be reached from the keyboard", async () => {
   assert.strictEqual(await focused(), "search");
   await page.keyboard.press("Enter");
   await page.waitForSelector("#card p.text");
-  assert.strictEqual(await page.title(), "active_limit_players – Guestbook texts");
+  assert.strictEqual(await page.title(), "active_limit_players – Guest <b>Book</b> texts");
   await page.keyboard.press("Escape"); // closes the card
   await page.waitForSelector("#card .help");
   assert.match(await focused(), /^active_limit_players/);

@@ -59,7 +59,6 @@ class DataMaker {
  public:
   explicit DataMaker(const std::string& root)
       : root_(root),
-        name_(CatalogueSettings::read(root).name),
         catalogue_(Catalogue::read(root)),
         english_(catalogue_, Table::read(root, kBase)),
         shown_(root, english_),
@@ -72,7 +71,8 @@ class DataMaker {
     for (const std::string& language : languagesIn(root_)) {
       if (language != kBase && whyNeverChosen(language).empty()) languages.push_back(dataOf(language));
     }
-    return {{"name", name_.name},
+    const CatalogueSettings& settings = catalogue_.settings();
+    return {{"app", settings.appName.empty() ? settings.name.name : settings.appName},
             {"forms", formsData()},
             {"entries", std::move(entries)},
             {"languages", std::move(languages)}};
@@ -84,7 +84,7 @@ class DataMaker {
             {"context", entry.context()},
             {"counted", entry.plural},
             {"formatted", !placeholderNames(entry.text).empty()},
-            {"call", accessorCall(entry, name_)}};
+            {"call", accessorCall(entry, catalogue_.settings().name)}};
   }
 
   [[nodiscard]] Json dataOf(std::string_view language) const {
@@ -128,7 +128,6 @@ class DataMaker {
   }
 
   const std::string root_;
-  const CatalogueName name_;
   const Catalogue catalogue_;
   const EnglishTexts english_;
   const ShownTexts shown_;

@@ -11,7 +11,7 @@ namespace zk::tools {
 
 /// The data of that page, as the JSON text that its script reads:
 ///
-///     {"name": "ZKStrings",
+///     {"app": "My App",
 ///      "forms": [{"name": "few", "counts": "3 to 5", "example": 4}, …],
 ///      "entries": [{"key", "context", "counted", "formatted", "call"}, …],
 ///      "languages": [{"tag", "english", "native", "isRightToLeft", "file", "isWellFormed",

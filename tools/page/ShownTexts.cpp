@@ -5,118 +5,18 @@
 #include <ZKStrings/tools/support/Languages.h>
 #include <ZKStrings/tools/texts/Placeholders.h>
 
-#include <algorithm>
-#include <cstdint>
-#include <iterator>
-#include <optional>
+#include <fmt/format.h>
 
 namespace zk::tools {
 
 namespace {
 
-/// What an app might fill in for a placeholder: a text, or the key of a text that is then shown in each language.
-constexpr std::pair<std::string_view, std::string_view> kExamples[] = {
-    {"account", "Instagram"},
-    {"active", "12"},
-    {"amount", "$25"},
-    {"appName", "ZK Trivia"},
-    {"badge", "Geography"},
-    {"badgeName", "Geography"},
-    {"category", "Geography"},
-    {"charityName", "Water for All"},
-    {"code", "kim"},
-    {"coinsPurchased", "500"},
-    {"competition", "VIP_Prize_Rules"},
-    {"correctCount", "9"},
-    {"cost", "5"},
-    {"count", "3"},
-    {"date", "05/14/2026"},
-    {"days", "7"},
-    {"downloadUrl", "https://zktrivia.example"},
-    {"earnedPoints", "250"},
-    {"email", "kim@zktrivia.example"},
-    {"fifthLetter", "E"},
-    {"firstLetter", "A"},
-    {"fourthLetter", "D"},
-    {"game", "ZK Sports"},
-    {"gameInfo", "ZK Sports, 8:30 PM"},
-    {"gameName", "ZK Trivia"},
-    {"learnMore", "Learn_more"},
-    {"letter", "A"},
-    {"letters", "A, B, C"},
-    {"level", "4"},
-    {"levelNumber", "4"},
-    {"limit", "50"},
-    {"maxPoints", "100"},
-    {"minBalance", "$10"},
-    {"minPoints", "50"},
-    {"name", "kim"},
-    {"name1", "kim"},
-    {"name2", "alex"},
-    {"number", "8"},
-    {"percent", "87"},
-    {"phoneNumber", "+1 555 0100"},
-    {"player1", "kim"},
-    {"player2", "alex"},
-    {"player3", "robin"},
-    {"players", "playersCount_players_many"},
-    {"playersCount", "12"},
-    {"points", "250"},
-    {"pointsMultiplier", "2"},
-    {"pointsToGo", "40"},
-    {"pp", "Privacy_Policy"},
-    {"privacy", "Privacy_Policy"},
-    {"prize", "$1,000"},
-    {"prizeAmount", "$1,000"},
-    {"product", "Extra_Life"},
-    {"productName", "Extra_Life"},
-    {"products", "Extra_Lives"},
-    {"provider", "Facebook"},
-    {"puzzleCount", "12"},
-    {"puzzleNumber", "2"},
-    {"questionCount", "12"},
-    {"questionNumber", "7"},
-    {"questions", "questionsCount_questions_few"},
-    {"reached", "11"},
-    {"remaining", "3"},
-    {"round", "9"},
-    {"roundCount", "12"},
-    {"roundNumber", "2"},
-    {"rules", "Rules"},
-    {"searchTerm", "kim"},
-    {"secondLetter", "B"},
-    {"seconds", "0:15"},
-    {"sender", "alex"},
-    {"showTitle", "ZK Sports"},
-    {"socialNetwork", "Instagram"},
-    {"terms", "Terms_of_Use"},
-    {"thirdLetter", "C"},
-    {"time", "2:30"},
-    {"timeLeft", "0:45"},
-    {"timer", "2:30"},
-    {"totalAnswers", "12"},
-    {"totalCount", "12"},
-    {"twitterHandle", "@zktrivia"},
-    {"unlocks", "3"},
-    {"url", "https://zktrivia.example"},
-    {"user", "kim"},
-    {"username", "kim"},
-    {"username2", "alex"},
-    {"via", "Facebook"},
-    {"votes", "120"},
-    {"words", "5"},
-    {"zkNameVariant", "ZK Trivia"},
-};
-
-std::optional<std::string_view> exampleFor(std::string_view placeholder) {
-  for (const auto& [name, example] : kExamples) {
-    if (name == placeholder) return example;
-  }
-  return std::nullopt;
-}
-
-bool takesNumber(std::string_view placeholder) {
-  return exampleFor(placeholder).value_or("").find_first_not_of("0123456789") == std::string_view::npos;
+/// Returns the example for `placeholder` in `english`; null if the settings have none.
+const CatalogueSettings::Example* exampleFor(const EnglishText& english, std::string_view placeholder) {
+  const auto& examples = english.settings->examples;
+  auto example = examples.find(fmt::format("{}.{}", english.entry->key, placeholder));
+  if (example == examples.end()) example = examples.find(placeholder);
+  return example == examples.end() ? nullptr : &example->second;
 }
 
 std::optional<std::int64_t> exampleCount(const EnglishText& english) {
@@ -127,15 +27,6 @@ std::optional<std::int64_t> exampleCount(const EnglishText& english) {
 }
 
 }  // namespace
-
-std::string_view countPlaceholder(const Entry& entry) {
-  if (!entry.plural) return "";
-  const std::vector<std::string_view> names = placeholderNames(entry.text);
-  auto found =
-      std::find_if(names.begin(), names.end(), [](std::string_view name) { return name.ends_with("Count"); });
-  if (found == names.end()) found = std::find_if(names.begin(), names.end(), takesNumber);
-  return found == names.end() ? "" : *found;
-}
 
 ShownTexts::ShownTexts(const std::string& root, const EnglishTexts& english)
     : resources_(Bundle::initWithPath(root + "/resources")), english_(english) {
@@ -151,35 +42,46 @@ void ShownTexts::choose(std::string_view language) const {
 }
 
 std::string ShownTexts::text(const EnglishText& english) const {
-  return filledIn(english, valuesFor(english, false));
+  const std::optional<std::int64_t> count = exampleCount(english);
+  return filledIn(english, count, valuesFor(english, count, false));
 }
 
 std::string ShownTexts::markedText(const EnglishText& english) const {
-  Values values = valuesFor(english, false);
+  const std::optional<std::int64_t> count = exampleCount(english);
+  Values values = valuesFor(english, count, false);
   for (auto& [name, value] : values) value = "\uFDD0" + name + "\uFDD1" + value + "\uFDD2";
-  return filledIn(english, values);
+  return filledIn(english, count, values);
 }
 
-std::string ShownTexts::filledIn(const EnglishText& english, const Values& values) const {
+std::string ShownTexts::filledIn(const EnglishText& english, std::optional<std::int64_t> count,
+                                 const Values& values) const {
   const Entry& entry = *english.entry;
-  return localizedString(resources_, entry.key, entry.text, exampleCount(english), values);
+  return localizedString(resources_, entry.key, entry.text, count, values);
 }
 
-/// Examples within an example are not looked up, so that no text contains itself.
-ShownTexts::Values ShownTexts::valuesFor(const EnglishText& english, bool isNested) const {
-  const std::string_view counted = countPlaceholder(*english.entry);
+/// An example within an example does not show another text, so that no text contains itself.
+ShownTexts::Values ShownTexts::valuesFor(const EnglishText& english, std::optional<std::int64_t> count,
+                                         bool isNested) const {
   Values values;
   for (const std::string_view name : placeholderNames(english.entry->text)) {
-    std::string value(exampleFor(name).value_or(name));
-    const EnglishText* const inner = isNested ? nullptr : english_.find(value);
-    if (name == counted) {
-      value = std::to_string(exampleCount(english).value_or(0));
-    } else if (inner) {
-      value = filledIn(*inner, valuesFor(*inner, true));
+    const CatalogueSettings::Example* const example = exampleFor(english, name);
+    std::string value(name);
+    if (count && name == english.countPlaceholder()) {
+      value = std::to_string(*count);
+    } else if (example && !isNested) {
+      value = textOf(*example);
+    } else if (example && !example->text.empty()) {
+      value = example->text;
     }
     values.emplace_back(name, std::move(value));
   }
   return values;
+}
+
+std::string ShownTexts::textOf(const CatalogueSettings::Example& example) const {
+  const EnglishText* const english = english_.find(example.key + (example.count ? "_many" : ""));
+  if (!english) return example.key.empty() ? example.text : example.key;
+  return filledIn(*english, example.count, valuesFor(*english, example.count, true));
 }
 
 }  // namespace zk::tools

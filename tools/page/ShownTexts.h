@@ -1,8 +1,11 @@
 #pragma once
 
 #include <ZKStrings/platform/Bundle.h>
+#include <ZKStrings/tools/project/CatalogueSettings.h>
 #include <ZKStrings/tools/project/EnglishTexts.h>
 
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -29,14 +32,14 @@ class ShownTexts {
  private:
   using Values = std::vector<std::pair<std::string, std::string>>;
 
-  [[nodiscard]] std::string filledIn(const EnglishText& english, const Values& values) const;
-  [[nodiscard]] Values valuesFor(const EnglishText& english, bool isNested) const;
+  [[nodiscard]] std::string filledIn(const EnglishText& english, std::optional<std::int64_t> count,
+                                     const Values& values) const;
+  [[nodiscard]] Values valuesFor(const EnglishText& english, std::optional<std::int64_t> count,
+                                 bool isNested) const;
+  [[nodiscard]] std::string textOf(const CatalogueSettings::Example& example) const;
 
   const Bundle* resources_;
   const EnglishTexts& english_;
 };
-
-/// The placeholder of `entry` that is filled with the count; empty if there is none.
-[[nodiscard]] std::string_view countPlaceholder(const Entry& entry);
 
 }  // namespace zk::tools

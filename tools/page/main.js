@@ -1,5 +1,5 @@
 // Handles addresses, keys and filters.
-const pageTitle = `${data.name} texts`;
+const pageTitle = `${data.app} texts`;
 let openEntry;
 
 function openAddress() {

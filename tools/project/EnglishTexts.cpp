@@ -14,13 +14,19 @@ std::vector<std::string_view> EnglishText::placeholders() const {
   return names;
 }
 
+std::string_view EnglishText::countPlaceholder() const {
+  if (suffix.empty()) return "";
+  const std::vector<std::string_view> names = placeholderNames(entry->text);
+  const auto number = std::find_if(names.begin(), names.end(),
+                                   [&](std::string_view name) { return settings->isNumber(name); });
+  if (number != names.end()) return *number;
+  return names.size() == 1 && !settings->examples.contains(names.front()) ? names.front() : "";
+}
+
 std::string_view EnglishText::dispensable() const {
   if (suffix != "_zero" && suffix != "_one") return "";
   const std::vector<std::string_view> names = placeholderNames(entry->text);
-  if (names.size() == 1) return names.front();
-  const auto number = std::find_if(names.begin(), names.end(),
-                                   [&](std::string_view name) { return settings->isNumber(name); });
-  return number == names.end() ? "" : *number;
+  return names.size() == 1 ? names.front() : countPlaceholder();
 }
 
 EnglishTexts::EnglishTexts(const Catalogue& catalogue, const Table& base) {

@@ -22,8 +22,11 @@ struct EnglishText {
   /// The names of the placeholders that a translation may use: those of the text, and of a plural form those
   /// of its entry besides.
   [[nodiscard]] std::vector<std::string_view> placeholders() const;
-  /// The placeholder that `_zero` and `_one` may do without, since they say the number in words: the entry's
-  /// only one, or else the one that says the number by its name. Empty when there is none, or in other texts.
+  /// The placeholder for the count: the first one for a number, or else the entry's only one if it has no example
+  /// value. Empty if there is none, or if the text is not a plural form.
+  [[nodiscard]] std::string_view countPlaceholder() const;
+  /// The placeholder that a translation may leave out in `_zero` and `_one`, which may spell the number: the
+  /// entry's only one, or that for the count. Empty in all other texts.
   [[nodiscard]] std::string_view dispensable() const;
 };
 

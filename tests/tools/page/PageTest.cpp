@@ -139,42 +139,54 @@ TEST(Page, NamesLanguagesInEnglishAndInTheLanguage) {
 TEST(ShownTexts, FillTheCountIntoThePlaceholderForIt) {
   struct Case {
     const char* text;
-    const char* placeholder;
+    const char* shown;
   };
   constexpr Case kCases[] = {
-      {"Coins", ""},
-      {"%{badgeCount} Badges", "badgeCount"},
-      {"%{level} left of %{gameCount}", "gameCount"},
-      {"Found %{username}, looking for %{remaining}", "remaining"},
-      {"%{gifts} gifts", "gifts"},
-      {"You got the letters %{letters}!", ""},
+      {"Coins", "Coins"},
+      {"%{badgeCount} Badges", "11 Badges"},
+      {"%{level} left of %{gameCount}", "level left of 11"},
+      {"Found %{user}, looking for %{remaining}", "Found kim, looking for 11"},
+      {"%{gifts} gifts", "11 gifts"},
+      {"You got the letters %{letters}!", "You got the letters A, B!"},
   };
-  for (const auto& [text, placeholder] : kCases) {
-    EXPECT_EQ(countPlaceholder({"key", text, true}), placeholder) << text;
-    EXPECT_EQ(countPlaceholder({"key", text, false}), "") << text;
+  const TemporaryProject project;
+  project.write(CatalogueSettings::kFile, R"~({"name": "Texts", "numberPlaceholders": ["remaining"],
+      "examples": {"letters": "A, B", "user": "kim"}})~");
+  for (const auto& [text, shown] : kCases) {
+    const Json entry = {{"key", "kept"}, {"text", text}, {"plural", true}, {"kept", "key"}};
+    project.write(TemporaryProject::kCatalogue, "[\n" + entry.dump() + "\n]\n");
+    const Catalogue catalogue = Catalogue::read(project.root());
+    const EnglishTexts english(catalogue, {});
+    const ShownTexts texts(project.root(), english);
+    texts.choose(kBase);
+    EXPECT_EQ(texts.text(english.all().back()), shown) << text;
   }
 }
 
 TEST(ShownTexts, FillInOtherTextsAsTheyAreTranslated) {
   const TemporaryProject project;
+  project.write(CatalogueSettings::kFile, R"~({"name": "Texts", "examples": {
+      "players": {"key": "playersCount_players", "count": 3}, "terms": {"key": "Terms_of_Use"},
+      "Read_terms.terms": {"key": "Gone"}}})~");
   project.write(TemporaryProject::kCatalogue, R"~([
   {"key": "agree_to_terms", "text": "agree to %{terms}"},
-  {"key": "players_remain_gifts_too", "text": "%{players} remain, %{gifts} too"},
+  {"key": "players_remain", "text": "%{players} remain"},
   {"key": "playersCount_players", "text": "%{playersCount} of %{players}", "plural": true, "kept": "key"},
+  {"key": "Read_terms", "text": "Read %{terms}"},
   {"key": "Terms_of_Use", "text": "Terms of Use"}
 ])~");
   project.write(TemporaryProject::table("de"), R"~("Terms_of_Use" = "Nutzungsbedingungen";
-"playersCount_players_many" = "%{playersCount} Spieler von %{players}";)~");
+"playersCount_players_few" = "%{playersCount} Spieler von %{players}";)~");
   const Catalogue catalogue = Catalogue::read(project.root());
   const EnglishTexts english(catalogue, Table::read(project.root(), kBase));
   const ShownTexts shown(project.root(), english);
   shown.choose("de");
   const auto text = [&](const char* key) { return shown.text(*english.find(key)); };
   EXPECT_EQ(text("agree_to_terms"), "agree to Nutzungsbedingungen");
-  const std::string nested = "11 Spieler von playersCount_players_many";
-  EXPECT_EQ(text("players_remain_gifts_too"), nested + " remain, gifts too");
+  EXPECT_EQ(text("Read_terms"), "Read Gone");
+  EXPECT_EQ(text("players_remain"), "3 Spieler von players remain");
   // A text that would contain itself.
-  EXPECT_EQ(text("playersCount_players_many"), "11 Spieler von " + nested);
+  EXPECT_EQ(text("playersCount_players_few"), "4 Spieler von 3 Spieler von players");
 }
 
 }  // namespace
