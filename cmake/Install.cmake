@@ -8,7 +8,7 @@ install(TARGETS ZKStrings EXPORT ZKStringsTargets
   ARCHIVE COMPONENT development
   FILE_SET HEADERS COMPONENT development)
 install(DIRECTORY resources/ DESTINATION ${CMAKE_INSTALL_DATADIR}/ZKStrings COMPONENT runtime PATTERN "*.md" EXCLUDE
-  PATTERN "glossary.json" EXCLUDE)
+  PATTERN "glossary.json" EXCLUDE PATTERN "*.zkstrings-*" EXCLUDE)
 install(EXPORT ZKStringsTargets NAMESPACE ZKStrings:: DESTINATION ${package_directory} COMPONENT development)
 
 set(resources ${CMAKE_INSTALL_DATADIR}/ZKStrings)

@@ -45,7 +45,8 @@ function(zk_add_catalogue)
   endforeach()
   set(installed "${arg_DESTINATION}")
   cmake_path(APPEND installed share ${name})
-  install(DIRECTORY ${arg_ROOT}/resources/ DESTINATION ${installed} PATTERN "*.md" EXCLUDE PATTERN "glossary.json" EXCLUDE)
+  install(DIRECTORY ${arg_ROOT}/resources/ DESTINATION ${installed} PATTERN "*.md" EXCLUDE PATTERN "glossary.json" EXCLUDE
+    PATTERN "*.zkstrings-*" EXCLUDE)
 endfunction()
 
 # Sets the variables <name> and <namespace> to what <file> says, and stops with a message when it does not say it.

@@ -20,5 +20,6 @@ function(zkstrings_add_resources target)
     VERBATIM)
   set(installed "${arg_DESTINATION}")
   cmake_path(APPEND installed "${place}")
-  install(DIRECTORY "${resources}/" DESTINATION "${installed}" PATTERN "*.md" EXCLUDE PATTERN "glossary.json" EXCLUDE)
+  install(DIRECTORY "${resources}/" DESTINATION "${installed}" PATTERN "*.md" EXCLUDE PATTERN "glossary.json" EXCLUDE
+    PATTERN "*.zkstrings-*" EXCLUDE)
 endfunction()

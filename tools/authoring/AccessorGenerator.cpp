@@ -86,6 +86,16 @@ std::string end(const CatalogueName& catalogue) {
   return catalogue.nameSpace.empty() ? "" : fmt::format("\n}}  // namespace {}\n", catalogue.nameSpace);
 }
 
+/// `text` as the contents of a C++ string literal. It also fits in a comment, since no control character ends the line.
+std::string literal(std::string_view text) {
+  std::string result;
+  for (const char character : escaped(text)) {
+    const auto byte = static_cast<unsigned char>(character);
+    result += byte < 0x20 || byte == 0x7F ? fmt::format("\\{:03o}", byte) : std::string(1, character);
+  }
+  return result;
+}
+
 /// The name of the accessor; that of the class would be its constructor's.
 std::string accessorOf(const Entry& entry, const CatalogueName& catalogue) {
   const std::string name = identifierFor(entry.key);
@@ -111,7 +121,7 @@ std::string substitutionsOf(const Entry& entry) {
 
 /// The call that gives the entry's text: the module's own is the shorter one, since it is made so often.
 std::string lookupOf(const Entry& entry, const CatalogueName& catalogue) {
-  const std::string texts = fmt::format("\"{}\", \"{}\"", escaped(entry.key), escaped(entry.text));
+  const std::string texts = fmt::format("\"{}\", \"{}\"", literal(entry.key), literal(entry.text));
   const std::string substitutions = substitutionsOf(entry);
   if (!catalogue.isModule()) {
     return fmt::format("::zk::localizedString({}Resources::bundle(), {}, {}, {})", catalogue.name, texts,
@@ -122,12 +132,12 @@ std::string lookupOf(const Entry& entry, const CatalogueName& catalogue) {
 }
 
 std::string commentOf(const Entry& entry, const Table& base) {
-  std::string comment = fmt::format("  /// \"{}\"\n", escaped(entry.text));
+  std::string comment = fmt::format("  /// \"{}\"\n", literal(entry.text));
   if (const std::string context = entry.context(); !context.empty()) comment += "  /// " + context + "\n";
   if (!entry.plural) return comment;
   for (const PluralForm& form : kPluralForms) {
     const TableEntry* const text = base.find(std::string(entry.key).append(form.suffix));
-    if (text) comment += fmt::format("  /// - {}: \"{}\"\n", form.counts, escaped(text->text));
+    if (text) comment += fmt::format("  /// - {}: \"{}\"\n", form.counts, literal(text->text));
   }
   return comment;
 }

@@ -4,6 +4,7 @@
 #include <ZKStrings/tools/project/Table.h>
 #include <ZKStrings/tools/support/Diagnostic.h>
 #include <ZKStrings/tools/support/Languages.h>
+#include <ZKStrings/tools/texts/TextFeatures.h>
 
 #include <algorithm>
 #include <filesystem>
@@ -18,13 +19,17 @@ namespace {
 /// The accessors' files that belong to the catalogue and its English table.
 std::vector<FileChange> accessorFiles(const CatalogueName& name, const Catalogue& catalogue,
                                       const Table& base) {
+  for (const TableEntry& entry : base.entries) {
+    if (hasCarriageReturnOrNul(entry.text)) fail(base.file, entry.textAt, kNoCarriageReturn);
+  }
   Accessors accessors = generateAccessors(catalogue, base, name);
   return {{name.headerFile(), std::move(accessors.header)}, {name.sourceFile(), std::move(accessors.source)}};
 }
 
 /// Those of the project at `root`, with the catalogue and the English table that it has.
 std::vector<FileChange> accessorFilesOf(const std::string& root) {
-  return accessorFiles(CatalogueSettings::read(root).name, Catalogue::read(root), Table::readWellFormed(root, kBase));
+  return accessorFiles(CatalogueSettings::read(root).name, Catalogue::read(root),
+                       Table::readWellFormed(root, kBase));
 }
 
 /// Whether the project at `root` keeps its accessors beside the catalogue: the module does; another may leave
@@ -46,12 +51,12 @@ std::string checkedJson(const Catalogue& catalogue) {
 void writeCatalogue(const std::string& root, const Catalogue& catalogue, const std::string& base,
                     std::vector<FileChange> translations) {
   const CatalogueName name = CatalogueSettings::read(root).name;
-  std::vector<FileChange> changes;
-  if (keepsAccessors(root, name))
-    changes = accessorFiles(name, catalogue, Table::parse(base, tablePath(kBase)));
-  changes.push_back({Catalogue::kFile, checkedJson(catalogue)});
+  std::vector<FileChange> changes = std::move(translations);
   changes.push_back({tablePath(kBase), base});
-  std::move(translations.begin(), translations.end(), std::back_inserter(changes));
+  if (keepsAccessors(root, name))
+    std::ranges::move(accessorFiles(name, catalogue, Table::parse(base, tablePath(kBase))),
+                      std::back_inserter(changes));
+  changes.push_back({Catalogue::kFile, checkedJson(catalogue)});  // last, so a killed command can be repeated
   writeFiles(root, changes);
 }
 

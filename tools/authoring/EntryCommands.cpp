@@ -8,6 +8,7 @@
 #include <ZKStrings/tools/support/Languages.h>
 #include <ZKStrings/tools/support/Nearest.h>
 #include <ZKStrings/tools/texts/Placeholders.h>
+#include <ZKStrings/tools/texts/TextFeatures.h>
 #include <ZKStrings/tools/translation/TableEditor.h>
 #include <ZKStrings/tools/translation/Template.h>
 #include <ZKStrings/tools/translation/TranslationState.h>
@@ -46,15 +47,16 @@ void refuseUnknownPlaceholders(const std::string& form, const std::string& text)
   }
 }
 
-void refuseOtherThanUtf8(const std::string& text) {
+void refuseWrongBytes(const std::string& text) {
   if (!isUtf8(text)) refuse("the text is not UTF-8; see that your terminal writes UTF-8");
+  if (hasCarriageReturnOrNul(text)) refuse(kNoCarriageReturn);
 }
 
 void refuseWrongTexts(const PluralForms& forms, const std::string& text, bool isCounted) {
-  refuseOtherThanUtf8(text);
+  refuseWrongBytes(text);
   for (const std::optional<std::string>& form : forms) {
     if (!form) continue;
-    refuseOtherThanUtf8(*form);
+    refuseWrongBytes(*form);
     if (!isCounted)
       refuse("a text without count has no plural forms; leave them out, or add it with --count");
     refuseUnknownPlaceholders(*form, text);
@@ -86,18 +88,26 @@ Entry entryFor(const NewEntry& added, const Catalogue& catalogue) {
   return entry;
 }
 
-/// Puts the lines of the new `entry` into the English table, behind those of the looked-up key before it.
+/// Inserts the lines of the new `entry` into the English table, after those of the looked-up key before it. A line that
+/// is there already, from a command that was killed, gets the new text.
 void insertLines(const Catalogue& catalogue, const Entry& entry, const PluralForms& forms,
                  TableEditor& base) {
   const TableEntry* before = nullptr;
   std::string lines;
   const auto* form = forms.begin();
   for (const auto& key : catalogue.lookedUpKeys()) {
-    if (key.entry == &entry) lines += tableLine(key.key, entry.plural ? **form++ : entry.text);
-    const TableEntry* const present = lines.empty() ? base.table().find(key.key) : nullptr;
-    if (present) before = present;
+    const TableEntry* const present = base.table().find(key.key);
+    if (key.entry == &entry) {
+      const std::string& text = entry.plural ? **form++ : entry.text;
+      if (present) {
+        base.replaceText(*present, text);
+      } else {
+        lines += tableLine(key.key, text);
+      }
+    }
+    if (present && lines.empty()) before = present;
   }
-  base.insertBehind(before, lines);
+  if (!lines.empty()) base.insertBehind(before, lines);
 }
 
 /// The entries of `key`, counted or not. Throws with the nearest key when there are none.
@@ -111,8 +121,7 @@ std::vector<Entry*> entriesOf(Catalogue& catalogue, const std::string& key) {
   if (!found.empty()) return found;
   const std::optional<std::string_view> meant = nearest(key, keys);
   refuse(fmt::format("the catalogue has no key \"{}\"; {}", key,
-                     meant ? fmt::format("write \"{}\" if that is meant", *meant)
-                           : fmt::format("see {} for those it has", Catalogue::kFile)));
+                     didYouMean(meant, fmt::format("see {} for those it has", Catalogue::kFile))));
 }
 
 /// A key that the tables have for an entry, with the place of its plural form (none for a bare key).
@@ -150,7 +159,7 @@ std::string changedText(const TableKey& key, const std::string& present, const s
                         const std::string& newText, const PluralForms& forms) {
   if (!key.form) return newText;
   if (forms[*key.form]) return *forms[*key.form];
-  if (present == oldText) return newText;
+  if (present == oldText || present == newText) return newText;
   const std::string_view name = kPluralForms[*key.form].suffix.substr(1);
   refuse(fmt::format("the form for {} is \"{}\"; say what it is now with --{} 'TEXT'",
                      kPluralForms[*key.form].counts, escaped(present), name));
@@ -159,7 +168,7 @@ std::string changedText(const TableKey& key, const std::string& present, const s
 }  // namespace
 
 std::string keyOf(const std::string& text) {
-  refuseOtherThanUtf8(text);
+  refuseWrongBytes(text);
   std::string key = keyForText(text);
   if (key.empty()) refuse("the text has no letter or digit to make a key of");
   return key;

@@ -67,7 +67,7 @@ std::string mendFor(std::string_view key, const KeyedTable& subject, MeantKeys& 
     return fmt::format("\"{}\" is not counted and has no plural forms, so remove this one", bare);
   }
   const std::optional<std::string_view> meant = meantKeys.find(key);
-  return meant ? fmt::format("write \"{}\" if that is meant", *meant) : "remove the entry";
+  return didYouMean(meant, "remove the entry");
 }
 
 void findUnknown(const KeyedTable& subject, Findings& findings) {

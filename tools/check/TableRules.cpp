@@ -113,9 +113,8 @@ void findUnknownStates(const LanguageTable& subject, Findings& findings) {
       const std::optional<std::string_view> meant = nearest(state, states);
       findings.add(entry, comment.at,
                    fmt::format("no entry is marked as \"{}\"; {}", state,
-                               meant ? fmt::format("write \"{}\" if that is meant", *meant)
-                                     : fmt::format("write \"{}\", or remove the comment",
-                                                   fmt::join(states, "\" or \""))));
+                               didYouMean(meant, fmt::format("write \"{}\", or remove the comment",
+                                                             fmt::join(states, "\" or \"")))));
     }
   }
 }

@@ -2,6 +2,7 @@
 #include <ZKStrings/tools/authoring/EntryCommands.h>
 #include <ZKStrings/tools/command/Subcommands.h>
 #include <ZKStrings/tools/support/Characters.h>
+#include <ZKStrings/tools/support/Terminal.h>
 
 #include <array>
 #include <cstddef>
@@ -35,8 +36,8 @@ void addForms(CLI::App& command, PluralForms& forms) {
 
 void addGenerateCommand(CLI::App& app, const RootFinder& inRoot) {
   const auto output = std::make_shared<std::string>();
-  auto* const command = app.add_subcommand("generate", "Make the accessors of catalogue/entries.json anew");
-  command->add_option("--output", *output, "Where to, instead of catalogue/")->type_name("DIR");
+  auto* const command = app.add_subcommand("generate", "Regenerate the accessors");
+  command->add_option("--output", *output, "The folder to write to (default: catalogue/)")->type_name("DIR");
   command->footer("Example: zkstrings generate");
   command->callback([inRoot, output] {
     if (output->empty()) {
@@ -49,23 +50,23 @@ void addGenerateCommand(CLI::App& app, const RootFinder& inRoot) {
 
 void addKeyCommand(CLI::App& app) {
   const auto text = std::make_shared<std::string>();
-  auto* const command = app.add_subcommand("key", "Print the key that a text gets");
+  auto* const command = app.add_subcommand("key", "Print the key derived from a text");
   command->add_option("text", *text, "The English text; \\n is a line break")->required();
   command->footer("Example: zkstrings key 'Kick %{username}?'");
-  command->callback([text] { fmt::print("{}\n", keyOf(withLineBreaks(*text))); });
+  command->callback([text] { say("{}\n", keyOf(withLineBreaks(*text))); });
 }
 
 void addAddCommand(CLI::App& app, const RootFinder& inRoot) {
   const auto entry = std::make_shared<NewEntry>();
-  auto* const command = app.add_subcommand("add", "Add a text, with its accessor");
+  auto* const command = app.add_subcommand("add", "Add a text and its accessor");
   command->add_option("text", entry->text, "The English text; %{name}, \\n for a line break")->required();
   command->add_flag("--count", entry->plural, "The text has plural forms; give at least --one");
   addForms(*command, entry->forms);
-  command->add_option("--key", entry->key, "The key, if not the one that the text gets");
+  command->add_option("--key", entry->key, "The key (default: derived from the text)");
   command->footer("Example: zkstrings add --count '%{gifts} gifts' --one '%{gifts} gift'");
   command->callback([entry, inRoot] {
     entry->text = withLineBreaks(entry->text);
-    fmt::print("Added {}.\n", addEntry(inRoot(), *entry));
+    say("Added {}.\n", addEntry(inRoot(), *entry));
   });
 }
 
@@ -76,7 +77,7 @@ void addChangeCommand(CLI::App& app, const RootFinder& inRoot) {
     PluralForms forms;
   };
   const auto arguments = std::make_shared<Arguments>();
-  auto* const command = app.add_subcommand("change", "Change the English of a text; its key stays");
+  auto* const command = app.add_subcommand("change", "Change the English of a text, but not its key");
   command->add_option("key", arguments->key, "The text's key")->required()->type_name("KEY");
   command->add_option("text", arguments->text, "The new English text; \\n is a line break")->required();
   addForms(*command, arguments->forms);
@@ -84,19 +85,18 @@ void addChangeCommand(CLI::App& app, const RootFinder& inRoot) {
   command->callback([arguments, inRoot] {
     const std::size_t marked =
         changeEntry(inRoot(), arguments->key, withLineBreaks(arguments->text), arguments->forms);
-    fmt::print("Changed {}; {} translation{} to be looked at again.\n", arguments->key, marked,
-               marked == 1 ? "" : "s");
+    say("Changed {}; {} translation{} to review.\n", arguments->key, marked, marked == 1 ? "" : "s");
   });
 }
 
 void addRemoveCommand(CLI::App& app, const RootFinder& inRoot) {
   const auto key = std::make_shared<std::string>();
-  auto* const command = app.add_subcommand("remove", "Remove a text, with its translations");
+  auto* const command = app.add_subcommand("remove", "Remove a text and its translations");
   command->add_option("key", *key, "The text's key")->required()->type_name("KEY");
   command->footer("Example: zkstrings remove Out_of_date");
   command->callback([key, inRoot] {
     removeEntry(inRoot(), *key);
-    fmt::print("Removed {}.\n", *key);
+    say("Removed {}.\n", *key);
   });
 }
 

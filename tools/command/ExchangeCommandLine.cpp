@@ -5,6 +5,7 @@
 #include <ZKStrings/tools/project/Table.h>
 #include <ZKStrings/tools/support/Files.h>
 #include <ZKStrings/tools/support/Languages.h>
+#include <ZKStrings/tools/support/Terminal.h>
 
 #include <cstdio>
 #include <memory>
@@ -53,7 +54,7 @@ void runExport(const std::string& root, const ExportArguments& arguments) {
   }
   writeFile("", arguments.file, bytes);
   const std::size_t count = translations.units.size();
-  fmt::print("Wrote {} with {} text{}.\n", arguments.file, count, count == 1 ? "" : "s");
+  say("Wrote {} with {} text{}.\n", arguments.file, count, count == 1 ? "" : "s");
 }
 
 /// "2 texts added, 1 changed, 1065 as before; 3 refused".
@@ -64,7 +65,7 @@ std::string summaryOf(const Import& done) {
   };
   add(done.added, "added");
   add(done.changed, "changed");
-  add(done.marked, "marked anew");
+  add(done.marked, "marked again");
   add(done.unchanged, "as before");
   add(done.refused, "refused");
   return counts.empty() ? "nothing to import" : fmt::format("{}", fmt::join(counts, ", "));
@@ -74,7 +75,7 @@ Import runImport(const std::string& root, const std::string& file, const std::st
   Translations translations = readTranslations(file);
   if (!language.empty()) translations.language = language;
   if (translations.language.empty())
-    fail(file, "the file does not tell its language; name it with --language");
+    fail(file, "the file does not name its language; name it with --language");
   translations.language = existingLanguage(root, translations.language);
   return importTranslations(root, translations, file, force);
 }
@@ -83,18 +84,19 @@ Import runImport(const std::string& root, const std::string& file, const std::st
 
 void addExportCommand(CLI::App& app, const RootFinder& inRoot) {
   const auto arguments = std::make_shared<ExportArguments>();
-  auto* const command = app.add_subcommand("export", "Write a language's texts for a translators' program");
+  auto* const command = app.add_subcommand("export", "Write a language's texts for a translation program");
   command->add_option("language", arguments->language, "The language: its code, name or table")
       ->required()
       ->type_name("LANGUAGE");
-  command->add_option("-o,--output", arguments->file, "Where to write, instead of the terminal")
+  command->add_option("-o,--output", arguments->file, "The file to write (default: the terminal)")
       ->type_name("FILE");
   command
-      ->add_option("--format", arguments->format, "xliff, po or csv; without it, by FILE's ending, or xliff")
+      ->add_option("--format", arguments->format, "xliff, po or csv (default: from the file name, or xliff)")
       ->check(CLI::IsMember({kXLIFF, kPO, kCSV}))
       ->type_name("FORMAT");
   command
-      ->add_option("--xliff", arguments->xliff, "The version of XLIFF: 1.2, which all programs read, or 2.0")
+      ->add_option("--xliff", arguments->xliff,
+                   "The XLIFF version: 1.2, which all programs read, or 2.0 (default: 1.2)")
       ->check(CLI::IsMember({kXLIFF12, kXLIFF20}))
       ->type_name("VERSION");
   command->add_flag("--missing", arguments->onlyLacking, "Only the texts that are not translated yet");
@@ -111,7 +113,7 @@ void addImportCommand(CLI::App& app, const RootFinder& inRoot, int& status) {
   const auto arguments = std::make_shared<Arguments>();
   auto* const command = app.add_subcommand("import", "Import a translated XLIFF, PO or CSV file");
   command->add_option("file", arguments->file, "The file, as the translation program saved it")->required();
-  command->add_option("--language", arguments->language, "The language, if the file does not tell it")
+  command->add_option("--language", arguments->language, "The language (default: from the file)")
       ->type_name("LANGUAGE");
   command->add_flag("--force", arguments->force,
                     "Take translations of an English text that has changed, and mark them for review");
@@ -119,7 +121,7 @@ void addImportCommand(CLI::App& app, const RootFinder& inRoot, int& status) {
   command->callback([arguments, inRoot, &status] {
     const Import done = runImport(inRoot(), arguments->file, arguments->language, arguments->force);
     print(stdout, done.diagnostics);
-    fmt::print("{}: {}\n", tablePath(done.language), summaryOf(done));
+    say("{}: {}\n", tablePath(done.language), summaryOf(done));
     status = done.refused > 0 ? 1 : 0;
   });
 }

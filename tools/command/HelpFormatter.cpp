@@ -1,5 +1,5 @@
 #include <ZKStrings/tools/command/HelpFormatter.h>
-#include <ZKStrings/tools/support/Characters.h>
+#include <ZKStrings/tools/support/Terminal.h>
 
 #include <fmt/format.h>
 

@@ -1,5 +1,6 @@
 #include <ZKStrings/tools/authoring/Initialisation.h>
 #include <ZKStrings/tools/command/Subcommands.h>
+#include <ZKStrings/tools/support/Terminal.h>
 
 #include <memory>
 
@@ -14,16 +15,17 @@ void addInitCommand(CLI::App& app) {
     CatalogueName name{"", ""};
   };
   const auto arguments = std::make_shared<Arguments>();
-  auto* const command = app.add_subcommand("init", "Begin a catalogue of one's own");
-  command->add_option("directory", arguments->directory, "Its folder; made if need be")->required();
+  auto* const command = app.add_subcommand("init", "Create a new catalogue");
+  command->add_option("directory", arguments->directory, "The catalogue's folder; created if needed")
+      ->required();
   command->add_option("--name", arguments->name.name, "The class of its accessors, such as Texts")
       ->required();
   command->add_option("--namespace", arguments->name.nameSpace,
-                      "The namespace of that class; none otherwise");
+                      "The namespace of that class (default: none)");
   command->footer("Example: zkstrings init texts --name Texts --namespace myapp");
   command->callback([arguments] {
     initCatalogue(arguments->directory, arguments->name);
-    fmt::print("Wrote {0}; {0}/README.md says how to go on.\n", arguments->directory);
+    say("Wrote {0}; {0}/README.md explains the next steps.\n", arguments->directory);
   });
 }
 

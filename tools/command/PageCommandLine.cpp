@@ -2,6 +2,7 @@
 #include <ZKStrings/tools/layout/PseudoLocales.h>
 #include <ZKStrings/tools/page/Page.h>
 #include <ZKStrings/tools/support/Files.h>
+#include <ZKStrings/tools/support/Terminal.h>
 
 #include <memory>
 
@@ -12,7 +13,7 @@ namespace zk::tools {
 
 namespace {
 
-constexpr const char* kPage = "/build/texts.html";
+constexpr const char* kPage = "build/texts.html";
 constexpr const char* kPseudoResources = "/build/pseudo/share/ZKStrings";
 
 void addPageCommand(CLI::App& app, const RootFinder& inRoot) {
@@ -23,9 +24,9 @@ void addPageCommand(CLI::App& app, const RootFinder& inRoot) {
   command->callback([file, inRoot] {
     const std::string root = inRoot();
     const std::string page = pageOf(root);
-    if (file->empty()) *file = root + kPage;
-    writeFile(".", *file, page);
-    fmt::print("Wrote {}. Open it in a browser.\n", *file);
+    const bool isNamed = !file->empty();
+    writeFile(isNamed ? "" : root, isNamed ? *file : kPage, page);
+    say("Wrote {}. Open it in a browser.\n", isNamed ? *file : root + "/" + kPage);
   });
 }
 
@@ -42,7 +43,7 @@ void addPseudoCommand(CLI::App& app, const RootFinder& inRoot) {
     const std::string root = inRoot();
     if (directory->empty()) *directory = root + kPseudoResources;
     writePseudoLocales(root, *directory);
-    fmt::print("Wrote xa, xb and xk into {}. An app that prefers one of them shows it.\n", *directory);
+    say("Wrote xa, xb and xk into {}. An app that prefers one of them shows it.\n", *directory);
   });
 }
 

@@ -4,6 +4,7 @@
 #include <ZKStrings/tools/support/Characters.h>
 #include <ZKStrings/tools/support/Languages.h>
 #include <ZKStrings/tools/support/Nearest.h>
+#include <ZKStrings/tools/support/Terminal.h>
 #include <ZKStrings/tools/translation/Coverage.h>
 #include <ZKStrings/tools/translation/TableUpdate.h>
 #include <ZKStrings/tools/translation/Template.h>
@@ -26,7 +27,7 @@ constexpr const char* kText = "text";
 constexpr const char* kJson = "json";
 
 void addFormat(CLI::App& command, std::string& format) {
-  command.add_option("--format", format, "How to print: text or json")
+  command.add_option("--format", format, "The output format: text or json")
       ->check(CLI::IsMember({kText, kJson}))
       ->default_val(kText);
 }
@@ -34,8 +35,7 @@ void addFormat(CLI::App& command, std::string& format) {
 void printRules() {
   for (const auto& [name, severity, summary] : checkRules()) {
     constexpr std::size_t kIndent = 32;
-    fmt::print("{:<22} {:<8} {}\n", name, nameOf(severity),
-               wrapped(summary, kTerminalWidth - kIndent, kIndent));
+    say("{:<22} {:<8} {}\n", name, nameOf(severity), wrapped(summary, kTerminalWidth - kIndent, kIndent));
   }
 }
 
@@ -58,7 +58,7 @@ std::string summaryOf(const CheckResult& result) {
   std::vector<std::string> found;
   addCount(found, count(Severity::error), "error", "errors");
   addCount(found, count(Severity::warning), "warning", "warnings");
-  if (found.empty()) found.emplace_back("nothing to mend");
+  if (found.empty()) found.emplace_back("nothing to fix");
   addCount(found, count(Severity::gap), "gap", "gaps");
   addCount(found, count(Severity::note), "note", "notes");
   return fmt::format("{}: {}", fmt::join(checked, ", "), fmt::join(found, ", "));
@@ -70,7 +70,7 @@ void printResult(const CheckResult& result, const std::string& format) {
     return;
   }
   print(stdout, result.diagnostics);
-  if (isatty(STDOUT_FILENO) == 1) fmt::print("{}\n", summaryOf(result));
+  if (isatty(STDOUT_FILENO) == 1) say("{}\n", summaryOf(result));
 }
 
 /// "added 3 texts to translate, removed 1 entry".
@@ -99,21 +99,21 @@ void addCheckCommand(CLI::App& app, const RootFinder& inRoot, int& status) {
     bool showsRules = false;
   };
   const auto arguments = std::make_shared<Arguments>();
-  auto* const command =
-      app.add_subcommand("check", "Say all that is wrong with the tables and the country list");
+  auto* const command = app.add_subcommand("check", "Check the tables and the country list");
   command
       ->add_option("languages", arguments->options.languages,
-                   "The languages to check (codes, names or tables); without any, everything")
+                   "The languages to check: codes, names or tables (default: everything)")
       ->type_name("LANGUAGE");
-  command->add_option("--off", arguments->options.off, "A rule to switch off; may be given again")
+  command->add_option("--off", arguments->options.off, "A rule to turn off; can be repeated")
       ->allow_extra_args(false)
       ->check(CLI::Validator(errorInRuleName, ""))
       ->type_name("RULE");
-  command->add_flag("--strict", arguments->isStrict, "Fail on warnings as well");
+  command->add_flag("--strict", arguments->isStrict, "Fail on warnings too");
   command->add_flag("--complete", arguments->isForRelease,
-                    "Fail on gaps as well, texts that are not translated yet: for a release");
-  command->add_flag("--notes", arguments->options.notes, "Show also what may be right, but is worth a look");
-  command->add_flag("--rules", arguments->showsRules, "List the rules instead");
+                    "Fail on gaps too, texts that are not translated yet: for a release");
+  command->add_flag("--notes", arguments->options.notes,
+                    "Also print notes, about texts that may be right but are worth a look");
+  command->add_flag("--rules", arguments->showsRules, "List the rules, and check nothing");
   addFormat(*command, arguments->format);
   command->footer("Example: zkstrings check de --strict");
   command->callback([arguments, inRoot, &status] {
@@ -133,24 +133,27 @@ void addCheckCommand(CLI::App& app, const RootFinder& inRoot, int& status) {
 
 void addCoverageCommand(CLI::App& app, const RootFinder& inRoot) {
   const auto format = std::make_shared<std::string>();
-  auto* const command =
-      app.add_subcommand("coverage", "Show how far the translations of each language have come");
+  auto* const command = app.add_subcommand("coverage", "Show translation progress per language");
   addFormat(*command, *format);
   command->footer("Example: zkstrings coverage");
   command->callback([format, inRoot] {
     const std::vector<Coverage> languages = coverageOf(inRoot());
-    fmt::print("{}", *format == kJson ? toJson(languages) + "\n" : formatted(languages));
+    if (*format == kJson) {
+      fmt::print("{}\n", toJson(languages));
+    } else {
+      print(stdout, formatted(languages));
+    }
   });
 }
 
 void addTemplateCommand(CLI::App& app, const RootFinder& inRoot) {
   const auto language = std::make_shared<std::string>();
-  auto* const command = app.add_subcommand("template", "Write the table from which a new language begins");
+  auto* const command = app.add_subcommand("template", "Create the table for a new language");
   command->add_option("language", *language, "The language's ISO 639-1 code")->required()->type_name("CODE");
   command->footer("Example: zkstrings template fi");
   command->callback([language, inRoot] {
     const std::size_t texts = writeTemplate(inRoot(), *language);
-    fmt::print("Wrote {} with {} texts to translate.\n", tablePath(*language), texts);
+    say("Wrote {} with {} texts to translate.\n", tablePath(*language), texts);
   });
 }
 
@@ -161,19 +164,19 @@ void addUpdateCommand(CLI::App& app, const RootFinder& inRoot) {
   };
   const auto arguments = std::make_shared<Arguments>();
   auto* const command = app.add_subcommand(
-      "update", "Add what a language's table lacks, in English, and mark what is still in English");
+      "update", "Add the missing texts to a language's table, in English, and mark the texts to translate");
   command->add_option("language", arguments->language, "The language: its code, name or table")
       ->required()
       ->type_name("LANGUAGE");
-  command->add_flag("--prune", arguments->prunes, "Remove the entries that nothing looks up");
+  command->add_flag("--prune", arguments->prunes, "Remove entries that nothing looks up");
   command->footer("Example: zkstrings update de");
   command->callback([arguments, inRoot] {
     const std::string root = inRoot();
     const std::string language = existingLanguage(root, arguments->language);
     const TableUpdate update = updateTable(root, language, arguments->prunes);
     print(stdout, update.notLookedUp);
-    fmt::print("{}: {}\n", tablePath(language),
-               update.isChange() ? summaryOf(update) : "up to date, nothing changed");
+    say("{}: {}\n", tablePath(language),
+        update.isChange() ? summaryOf(update) : "up to date, nothing changed");
   });
 }
 

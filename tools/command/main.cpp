@@ -4,13 +4,13 @@
 #include <ZKStrings/tools/support/Diagnostic.h>
 #include <ZKStrings/tools/support/Files.h>
 #include <ZKStrings/tools/support/Nearest.h>
-#include <ZKStrings/tools/support/Undisturbed.h>
+#include <ZKStrings/tools/support/Terminal.h>
 
 #include <csignal>
 #include <cstdio>
 #include <exception>
 #include <memory>
-#include <optional>
+#include <sstream>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -23,37 +23,46 @@ namespace {
 
 using namespace zk::tools;
 
-constexpr int kFailure = 1;
-constexpr int kWrongUse = 2;
+/// The exit statuses, the same in each subcommand. The manual page lists them.
+constexpr int kWrongFiles = 1;
+constexpr int kWrongUsage = 2;
 
-/// Prints a line on standard error. That it cannot be printed keeps the command from nothing.
-void complain(const std::string& line) {
-  std::fputs((line + "\n").c_str(), stderr);
+void complain(std::string_view message) {
+  print(stderr, fmt::format("{}\n", message));
 }
 
-/// What is wrong with a command line that names no subcommand; empty when that is not what is wrong.
+/// What is wrong with a command line that names an unknown subcommand, or an empty string.
 std::string unknownCommand(const CLI::App& app) {
   const std::vector<std::string> words = app.remaining();
   if (!app.get_subcommands().empty() || words.empty()) return "";
   std::vector<std::string_view> names;
   for (const CLI::App* const command : app.get_subcommands({})) names.push_back(command->get_name());
-  const std::optional<std::string_view> meant = nearest(words.front(), names);
-  return fmt::format(
-      "\"{}\" is no command; {}", words.front(),
-      meant ? fmt::format("write \"{}\" if that is meant", *meant) : "zkstrings --help lists them");
+  return fmt::format("\"{}\" is not a command; {}", words.front(),
+                     didYouMean(nearest(words.front(), names), "zkstrings --help lists the commands"));
+}
+
+/// Prints the help that was asked for, or what is wrong with the command line. Returns the exit status.
+int exit(const CLI::App& app, const CLI::ParseError& reason) {
+  std::ostringstream out;
+  std::ostringstream err;
+  const bool isWrong = app.exit(reason, out, err) != 0;
+  const std::string message = unknownCommand(app);
+  print(stdout, out.str());
+  print(stderr, message.empty() ? err.str() : message + "\n");
+  return isWrong ? kWrongUsage : 0;
 }
 
 int run(int argc, char** argv) {
-  CLI::App app{"Keeps the catalogue of texts and its translations right.", "zkstrings"};
+  CLI::App app{"Manage the text catalogue and its translations", "zkstrings"};
   app.formatter(std::make_shared<HelpFormatter>());
   app.set_version_flag("--version", "zkstrings " ZK_VERSION);
   app.require_subcommand(1);
   std::string root;
-  app.add_option("--root", root, "The project's folder; found from here upward otherwise")->type_name("DIR");
+  app.add_option("--root", root, "The project's folder (default: the nearest one upward)")->type_name("DIR");
   const auto inRoot = [&] { return root.empty() ? findRoot() : rootAt(root); };
   const auto aloneInRoot = [&] {
     const std::string found = inRoot();
-    keepOthersOut(found);
+    lockProject(found);
     return found;
   };
 
@@ -73,11 +82,8 @@ int run(int argc, char** argv) {
     return printReference(app, {argv + 2, argv + argc});
   try {
     app.parse(argc, argv);
-  } catch (const CLI::ParseError& wrongUse) {
-    const std::string message = unknownCommand(app);
-    if (message.empty()) return app.exit(wrongUse) == 0 ? 0 : kWrongUse;
-    complain(message);
-    return kWrongUse;
+  } catch (const CLI::ParseError& reason) {
+    return exit(app, reason);
   }
   return status;
 }
@@ -85,18 +91,18 @@ int run(int argc, char** argv) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  std::signal(SIGXFSZ, SIG_IGN);  // what may not be written is told of
+  std::signal(SIGXFSZ, SIG_IGN);  // so writing beyond a limit fails, with a message
   try {
     const int status = run(argc, argv);
     if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0) return status;
-    complain("the output cannot be written; see that its place has room");
+    complain("the output cannot be written; is the disk full?");
   } catch (const CommandFailed& failed) {
     print(stderr, failed.diagnostics);
   } catch (const std::invalid_argument& refused) {
     complain(refused.what());
-    return kWrongUse;
+    return kWrongUsage;
   } catch (const std::exception& failure) {
     complain(std::string("zkstrings: ") + failure.what());
   }
-  return kFailure;
+  return kWrongFiles;
 }

@@ -6,13 +6,14 @@
 #include <ZKStrings/tools/project/Table.h>
 #include <ZKStrings/tools/support/Languages.h>
 
+#include <stdexcept>
 #include <utility>
 
 namespace zk::tools {
 
 Translations translationsOf(const std::string& root, const std::string& language, bool onlyLacking) {
   if (language == kBase)
-    fail(tablePath(language), "the English texts are not translated; name the language to translate into");
+    throw std::invalid_argument("the English texts are not translated; name the language to translate into");
   const Catalogue catalogue = Catalogue::read(root);
   const EnglishTexts english(catalogue, Table::readWellFormed(root, kBase));
   const Table table = Table::readWellFormed(root, language);

@@ -130,6 +130,7 @@ void checkEntry(const Entry& entry, const std::string& file, Diagnostics& diagno
   if (identifierFor(entry.key).empty()) {
     fail(fmt::format("the key \"{}\" cannot name a function; give it a letter or digit", entry.key));
   }
+  if (hasCarriageReturnOrNul(entry.key) || hasCarriageReturnOrNul(entry.text)) fail(kNoCarriageReturn);
   // The comment is copied into comments of C++ and of tables.
   if (findControlCharacter(entry.comment) != std::string::npos ||
       entry.comment.find_first_of("\n\t\\") != std::string::npos ||

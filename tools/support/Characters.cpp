@@ -1,6 +1,8 @@
 #include <ZKStrings/tools/support/Characters.h>
 
-#include <algorithm>
+#include <cstdint>
+
+#include <fmt/format.h>
 
 namespace zk::tools {
 
@@ -28,18 +30,16 @@ std::string replaceAll(std::string_view text, std::string_view from, std::string
   return result.append(text, at);
 }
 
-std::string wrapped(std::string_view text, std::size_t width, std::size_t indent) {
+std::string withoutControls(std::string_view text, bool keepsLines) {
   std::string result;
-  std::size_t column = 0;
-  while (!text.empty()) {
-    const std::string_view word = text.substr(0, text.find(' '));
-    text.remove_prefix(std::min(word.size() + 1, text.size()));
-    const std::size_t length = lengthOf(word);
-    const bool isFirst = result.empty();
-    const bool fits = column + 1 + length <= width;
-    if (!isFirst) result += fits ? " " : "\n" + std::string(indent, ' ');
-    column = isFirst || !fits ? length : column + 1 + length;
-    result += word;
+  for (const CodePoint next : CodePoints(text)) {
+    const char32_t value = next.value.value_or(U' ');
+    const bool isControl = value < 0x20 || (value >= 0x7F && value < 0xA0);
+    if (isControl && !(keepsLines && value == '\n')) {
+      result += fmt::format("\\U{:04x}", std::uint32_t{value});
+    } else {
+      result += next.bytes;
+    }
   }
   return result;
 }

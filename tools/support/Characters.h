@@ -37,11 +37,7 @@ class CodePoints {
 /// `text` with each `from` replaced by `to`. Compares bytes: a combining mark after `from` changes nothing.
 [[nodiscard]] std::string replaceAll(std::string_view text, std::string_view from, std::string_view to);
 
-/// `text` with line breaks instead of blanks, so that no line has more than `width` code points, but for
-/// words that have more. What begins a new line is behind `indent` blanks, but for the first.
-[[nodiscard]] std::string wrapped(std::string_view text, std::size_t width, std::size_t indent = 0);
-
-/// The columns that what the command prints about itself fits in.
-inline constexpr std::size_t kTerminalWidth = 80;
+/// `text` with its control characters as escapes, \U000d for a carriage return. Line feeds stay if `keepsLines`.
+[[nodiscard]] std::string withoutControls(std::string_view text, bool keepsLines = false);
 
 }  // namespace zk::tools

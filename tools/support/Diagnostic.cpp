@@ -35,23 +35,6 @@ Style styleOf(Severity severity) {
   return {"note", fmt::terminal_color::cyan};
 }
 
-/// `text`, in which a file may be quoted, with its control characters as a table's escapes: none begins a line or
-/// steers the terminal.
-std::string withoutControls(std::string_view text) {
-  std::string result;
-  for (const CodePoint next : CodePoints(text)) {
-    const char32_t value = next.value.value_or(U' ');
-    const bool isControl = value < 0x20 || (value >= 0x7F && value < 0xA0);
-    result += isControl ? fmt::format("\\U{:04x}", std::uint32_t{value}) : std::string(next.bytes);
-  }
-  return result;
-}
-
-bool takesColours(std::FILE* stream) {
-  const char* const refusal = std::getenv("NO_COLOR");
-  return isatty(fileno(stream)) == 1 && (refusal == nullptr || *refusal == '\0');
-}
-
 }  // namespace
 
 const char* nameOf(Severity severity) {
@@ -67,12 +50,6 @@ std::string formatted(const Diagnostic& diagnostic, bool coloured) {
   line += withoutControls(diagnostic.message);
   if (!diagnostic.rule.empty()) line += fmt::format(in(fmt::emphasis::faint), " [{}]", diagnostic.rule);
   return line;
-}
-
-void print(std::FILE* stream, const Diagnostics& diagnostics) {
-  const bool coloured = takesColours(stream);
-  for (const Diagnostic& diagnostic : diagnostics)
-    std::fputs((formatted(diagnostic, coloured) + "\n").c_str(), stream);
 }
 
 std::string toJson(const Diagnostics& diagnostics) {

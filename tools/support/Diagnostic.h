@@ -3,7 +3,6 @@
 #include <ZKStrings/tools/support/Position.h>
 
 #include <cstddef>
-#include <cstdio>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -29,9 +28,6 @@ using Diagnostics = std::vector<Diagnostic>;
 
 /// The diagnostic as one line, "file:line:column: error: message [rule]", with colours when `coloured`.
 [[nodiscard]] std::string formatted(const Diagnostic& diagnostic, bool coloured);
-
-/// Prints the diagnostics to `stream`, one a line, in colours if it is a terminal and NO_COLOR is not set.
-void print(std::FILE* stream, const Diagnostics& diagnostics);
 
 /// The diagnostics as a JSON array of objects with the members file, line, column, severity, rule and message, one
 /// object a line.

@@ -1,9 +1,11 @@
 #include <ZKStrings/platform/system/File.h>
 #include <ZKStrings/tools/support/Diagnostic.h>
 #include <ZKStrings/tools/support/Files.h>
-#include <ZKStrings/tools/support/Undisturbed.h>
 
 #include <algorithm>
+#include <cerrno>
+#include <csignal>
+#include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -14,6 +16,9 @@
 #include <system_error>
 #include <utility>
 
+#include <fcntl.h>
+#include <fmt/format.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -25,34 +30,48 @@ namespace {
 
 constexpr const char* kMark = "catalogue/entries.json";
 
+/// Follows the name of a file in that of its temporary files, before six random characters. .gitignore and the rules
+/// for installations (cmake/) name it too.
+constexpr std::string_view kTemporary = ".zkstrings-";
+constexpr std::string_view kRandom = "XXXXXX";
+
+bool isTemporary(const fs::path& path) {
+  const std::string name = path.filename().string();
+  return name.size() > kTemporary.size() + kRandom.size() &&
+         name.rfind(kTemporary) == name.size() - kTemporary.size() - kRandom.size();
+}
+
+void removeTemporaryFiles(const fs::path& folder) {
+  std::error_code failure;
+  for (fs::recursive_directory_iterator entry(folder, failure), end; !failure && entry != end;
+       entry.increment(failure)) {
+    std::error_code ignored;
+    if (isTemporary(entry->path())) fs::remove(entry->path(), ignored);
+  }
+}
+
 [[noreturn]] void failToWrite(const std::string& path) {
-  fail(path, "the file cannot be written; see that it and its directory may be written and have room");
+  fail(path, "the file cannot be written; check its permissions and its folder's, and the disk space");
 }
 
-bool write(const fs::path& path, std::string_view bytes) {
-  std::ofstream file(path, std::ios::binary);
-  file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-  file.close();
-  return file.good();
-}
+/// While it lives, the signals by which users and systems end a process wait.
+class SignalsHeldBack {
+ public:
+  SignalsHeldBack() {
+    sigset_t ends;
+    sigemptyset(&ends);
+    for (const int signal : {SIGHUP, SIGINT, SIGQUIT, SIGTERM}) sigaddset(&ends, signal);
+    pthread_sigmask(SIG_BLOCK, &ends, &before_);
+  }
+  ~SignalsHeldBack() { pthread_sigmask(SIG_SETMASK, &before_, nullptr); }
+  SignalsHeldBack(const SignalsHeldBack&) = delete;
+  SignalsHeldBack& operator=(const SignalsHeldBack&) = delete;
 
-/// Makes an empty file whose name begins with `target` and is no other's; empty when that fails.
-fs::path madeBeside(const fs::path& target) {
-  std::string path = target.string() + ".XXXXXX";
-  const int file = mkstemp(path.data());
-  if (file < 0) return {};
-  close(file);
-  return path;
-}
+ private:
+  sigset_t before_{};
+};
 
-/// What users want a new file to have.
-fs::perms usualPermissions() {
-  const mode_t mask = umask(0);
-  umask(mask);
-  return static_cast<fs::perms>(0666 & ~mask);
-}
-
-/// The folders that files need. Those that were made are gone with this object unless something is in them.
+/// The folders that files need. Its destructor removes those it has made that are still empty.
 class Folders {
  public:
   Folders() = default;
@@ -72,60 +91,102 @@ class Folders {
   }
 
  private:
-  std::set<fs::path, std::greater<>> made_;  // what is inside comes first
+  std::set<fs::path, std::greater<>> made_;  // inner folders come first
 };
 
-/// The new contents of a file, written beside it; gone with this object unless they took the file's place.
+/// A file next to the one that it may replace. Its destructor removes it unless it did.
+class TemporaryFile {
+ public:
+  /// `path` is the name of the file for messages.
+  TemporaryFile(const fs::path& target, const std::string& path, std::string_view bytes) {
+    std::string name = fmt::format("{}{}{}", target.string(), kTemporary, kRandom);
+    const int file = mkstemp(name.data());
+    if (file < 0) failToWrite(path);
+    close(file);
+    name_ = name;
+    std::ofstream stream(name_, std::ios::binary);
+    stream.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    stream.close();
+    if (stream.good()) return;
+    unlink(name_.c_str());
+    failToWrite(path);
+  }
+  ~TemporaryFile() {
+    if (!name_.empty()) unlink(name_.c_str());
+  }
+  TemporaryFile(const TemporaryFile&) = delete;
+  TemporaryFile& operator=(const TemporaryFile&) = delete;
+
+  /// Takes the owner, group and permissions of `file`, or those of a new file if it is null.
+  void setAttributes(const struct stat* file) const {
+    if (file) {
+      static_cast<void>(!chown(name_.c_str(), file->st_uid, file->st_gid));  // only root may do so always
+      chmod(name_.c_str(), file->st_mode & 07777U);
+    } else {
+      const mode_t mask = umask(0);
+      umask(mask);
+      chmod(name_.c_str(), 0666U & ~mask);
+    }
+  }
+
+  /// Whether the file has taken the place of `target`.
+  bool replace(const fs::path& target) {
+    if (std::rename(name_.c_str(), target.c_str()) != 0) return false;
+    name_.clear();
+    return true;
+  }
+
+ private:
+  std::string name_;
+};
+
+/// The file that `path` leads to, without symbolic links. Throws if a link leads out of `root`.
+fs::path resolved(const std::string& root, const std::string& path) {
+  std::error_code failure;
+  const fs::path target = fs::weakly_canonical(fs::path(root) / path, failure);
+  if (failure) failToWrite(path);
+  if (root.empty()) return target;
+  fs::path folder = fs::weakly_canonical(root, failure);
+  if (!folder.has_filename()) folder = folder.parent_path();  // the name ended in a slash
+  if (std::mismatch(folder.begin(), folder.end(), target.begin(), target.end()).first != folder.end())
+    fail(path, fmt::format("a symbolic link leads out of the project, to {}; replace the link with a file",
+                           target.string()));
+  return target;
+}
+
+/// A file that is to change: its new contents and its old ones, in temporary files.
 class StagedFile {
  public:
-  StagedFile(const std::string& root, const FileChange& change, Folders& folders) : path_(change.path) {
-    std::error_code failure;
-    target_ = fs::weakly_canonical(fs::path(root) / change.path, failure);
-    if (failure) target_ = fs::path(root) / change.path;
+  StagedFile(const std::string& root, const FileChange& change, Folders& folders)
+      : path_(change.path), target_(resolved(root, change.path)) {
     folders.make(target_.parent_path());
-    const fs::file_status before = fs::status(target_, failure);
-    const bool exists = fs::exists(before);
-    if (exists && (!fs::is_regular_file(before) || access(target_.c_str(), W_OK) != 0)) failToWrite(path_);
-    old_ = exists ? contentsOfFile(target_.string()) : std::nullopt;
-    beside_ = madeBeside(target_);
-    if (!write(beside_, change.bytes)) discard();
-    fs::permissions(beside_, exists ? before.permissions() : usualPermissions(), failure);
+    struct stat before {};
+    const bool exists = stat(target_.c_str(), &before) == 0;
+    if (exists && (!S_ISREG(before.st_mode) || access(target_.c_str(), W_OK) != 0)) failToWrite(path_);
+    new_.emplace(target_, path_, change.bytes).setAttributes(exists ? &before : nullptr);
+    if (exists) old_.emplace(target_, path_, readFile("", target_)).setAttributes(&before);
   }
-  ~StagedFile() {
-    std::error_code failure;
-    if (!isInPlace_) fs::remove(beside_, failure);
-  }
-  StagedFile(const StagedFile&) = delete;
-  StagedFile& operator=(const StagedFile&) = delete;
 
   void putInPlace() {
-    std::error_code failure;
-    fs::rename(beside_, target_, failure);
-    if (failure) failToWrite(path_);
+    if (!new_->replace(target_)) failToWrite(path_);
     isInPlace_ = true;
   }
 
-  void takeBack() const {
+  void takeBack() {
     std::error_code failure;
     if (!isInPlace_) return;
-    if (old_) {
-      write(target_, *old_);
-    } else {
+    if (!old_) {
       fs::remove(target_, failure);
+    } else {
+      old_->replace(target_);
     }
   }
 
  private:
-  [[noreturn]] void discard() const {
-    std::error_code failure;
-    fs::remove(beside_, failure);
-    failToWrite(path_);
-  }
-
   const std::string path_;
-  fs::path target_;
-  fs::path beside_;
-  std::optional<std::string> old_;
+  const fs::path target_;
+  std::optional<TemporaryFile> new_;
+  std::optional<TemporaryFile> old_;
   bool isInPlace_ = false;
 };
 
@@ -140,32 +201,41 @@ std::string findRoot() {
     directory = directory.parent_path();
     failure.clear();
   }
-  fail(kMark,
-       "not found from the working directory upward; run the command inside the project, or name it with "
-       "--root");
+  fail(kMark, "not found in the working directory or above it; run the command in a project, or use --root");
 }
 
 std::string rootAt(const std::string& directory) {
   std::error_code failure;
   if (fs::exists(fs::path(directory) / kMark, failure)) return directory;
-  fail((fs::path(directory) / kMark).string(), "no such file; --root names the folder that holds catalogue/");
+  fail((fs::path(directory) / kMark).string(), "no such file; --root needs the folder that has catalogue/");
+}
+
+void lockProject(const std::string& root) {
+  // The folder stays open until the process ends, which releases the lock.
+  const int folder = open(root.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  if (flock(folder, LOCK_EX | LOCK_NB) != 0) {
+    if (errno != EWOULDBLOCK) return;  // a file system without locks
+    std::fputs("Another zkstrings is changing this project; waiting for it.\n", stderr);
+    if (flock(folder, LOCK_EX) != 0) return;
+  }
+  for (const char* const name : {"catalogue", "resources"}) removeTemporaryFiles(fs::path(root) / name);
 }
 
 std::string readFile(const std::string& root, const std::string& path) {
   std::optional<std::string> bytes = contentsOfFile((fs::path(root) / path).string());
-  if (!bytes) fail(path, "the file cannot be read; see that it exists, is a file and may be read");
+  if (!bytes) fail(path, "the file cannot be read; check that it exists, is a file, and is readable");
   return *std::move(bytes);
 }
 
 void writeFiles(const std::string& root, const std::vector<FileChange>& changes) {
-  const SignalsHeldBack undisturbed;
+  const SignalsHeldBack heldBack;
   Folders folders;
   std::list<StagedFile> files;
   for (const FileChange& change : changes) files.emplace_back(root, change, folders);
   try {
     for (StagedFile& file : files) file.putInPlace();
   } catch (const CommandFailed&) {
-    for (const StagedFile& file : files) file.takeBack();
+    for (StagedFile& file : files) file.takeBack();
     throw;
   }
 }

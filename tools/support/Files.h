@@ -6,28 +6,36 @@
 
 namespace zk::tools {
 
-/// The root of the project that the working directory lies in: the nearest directory upward with
-/// catalogue/entries.json. Throws `CommandFailed` when there is none.
+/// The root of the project that the working directory is in: the nearest directory upward with
+/// catalogue/entries.json. Throws `CommandFailed` if there is none.
 [[nodiscard]] std::string findRoot();
 
-/// `directory`, if it is the root of a project. Throws `CommandFailed` when it holds no catalogue.
+/// `directory`, if it is the root of a project. Throws `CommandFailed` if it has no catalogue.
 [[nodiscard]] std::string rootAt(const std::string& directory);
 
-/// All bytes of the file at `path` below `root`. Throws `CommandFailed` when it cannot be read.
+/// Keeps other commands from changing the project at `root` until this process ends, and removes the temporary files
+/// that a killed command has left there. Waits for a command that holds the lock, and says so on standard error.
+void lockProject(const std::string& root);
+
+/// All bytes of the file at `path` below `root`. Throws `CommandFailed` if it cannot be read.
 [[nodiscard]] std::string readFile(const std::string& root, const std::string& path);
 
-/// What a file is to hold.
+/// The new contents of a file.
 struct FileChange {
   std::string path;  ///< below the project's root
   std::string bytes;
 };
 
-/// Replaces all of the files, or none, also when the user interrupts: what is new is written beside them first
-/// and then put in their places. Files keep their permissions, links keep pointing to them. Throws
-/// `CommandFailed`, naming the file, when it fails.
+/// Replaces all of the files or none, even if a signal interrupts the command: the new contents are written to temporary
+/// files, which are then renamed, in the order of `changes`. A process that is killed (SIGKILL) in between leaves
+/// the last files unchanged, so put the file last by which a repeated command sees that it has not finished.
+///
+/// A file keeps its permissions and, as far as the system allows it, its owner and group. A symbolic link
+/// stays, and the file it points to is replaced. If `root` is not empty, that file must be below `root`.
+/// Throws `CommandFailed`, with the file's name, if a file cannot be written.
 void writeFiles(const std::string& root, const std::vector<FileChange>& changes);
 
-/// The same for one file.
+/// Replaces one file in the same way.
 void writeFile(const std::string& root, const std::string& path, std::string_view bytes);
 
 }  // namespace zk::tools

@@ -10,6 +10,7 @@
 #include <functional>
 #include <iterator>
 #include <map>
+#include <stdexcept>
 #include <system_error>
 
 #include <fmt/format.h>
@@ -67,8 +68,7 @@ std::string adviceFor(std::string_view name, const std::vector<std::string>& lan
   std::vector<std::string> names = languages;
   for (const std::string& language : languages) names.push_back(nameOf(language.c_str(), "en"));
   const auto meant = nearest(name, {names.begin(), names.end()});
-  return meant ? fmt::format("write \"{}\" if that is meant", *meant)
-               : "zkstrings coverage lists those that have one";
+  return didYouMean(meant, "zkstrings coverage lists the languages that have one");
 }
 
 /// The name without the folders before it and the extension: "de" for "resources/de.lproj/Localizable.strings".
@@ -119,8 +119,8 @@ std::string existingLanguage(const std::string& root, std::string_view word) {
   if (exists(code)) return code;
 
   const std::string advice = code.empty() ? adviceFor(lowerCased(name), languages)
-                                          : fmt::format("zkstrings template {} begins one", code);
-  fail(kResources, fmt::format("no table for \"{}\"; {}", word, advice));
+                                          : fmt::format("zkstrings template {} creates one", code);
+  throw std::invalid_argument(fmt::format("no language has a table named \"{}\"; {}", word, advice));
 }
 
 std::string whyNeverChosen(std::string_view language) {

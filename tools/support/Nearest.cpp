@@ -1,8 +1,11 @@
+#include <ZKStrings/tools/support/Characters.h>
 #include <ZKStrings/tools/support/Nearest.h>
 
 #include <algorithm>
 #include <cstddef>
 #include <numeric>
+
+#include <fmt/format.h>
 
 namespace zk::tools {
 
@@ -33,16 +36,21 @@ std::size_t distance(std::string_view from, std::string_view to, std::size_t mos
 
 std::optional<std::string_view> nearest(std::string_view word,
                                         const std::vector<std::string_view>& candidates) {
+  const std::string wanted = lowerCased(word);
   std::optional<std::string_view> best;
   std::size_t bound = std::min((word.size() + 2) / 3, kMostChanges);
   for (const std::string_view candidate : candidates) {
     if (best && bound == 0) break;
-    const std::size_t changes = distance(word, candidate, best ? bound - 1 : bound);
+    const std::size_t changes = distance(wanted, lowerCased(candidate), best ? bound - 1 : bound);
     if (changes > (best ? bound - 1 : bound)) continue;
     best = candidate;
     bound = changes;
   }
   return best;
+}
+
+std::string didYouMean(std::optional<std::string_view> nearest, std::string_view otherwise) {
+  return nearest ? fmt::format("did you mean \"{}\"?", *nearest) : std::string(otherwise);
 }
 
 }  // namespace zk::tools

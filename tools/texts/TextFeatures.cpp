@@ -32,6 +32,10 @@ std::size_t findControlCharacter(std::string_view text) {
   return found == text.end() ? text.npos : static_cast<std::size_t>(found - text.begin());
 }
 
+bool hasCarriageReturnOrNul(std::string_view text) {
+  return text.find_first_of(std::string_view("\r\0", 2)) != text.npos;
+}
+
 bool isBlank(std::string_view text) {
   for (const CodePoint character : CodePoints(text)) {
     if (!isWhiteSpace(character)) return false;

@@ -12,6 +12,11 @@ namespace zk::tools {
 /// Where the first control character of `text` stands, line feeds and tabs aside; `npos` for none.
 [[nodiscard]] std::size_t findControlCharacter(std::string_view text);
 
+/// Whether `text` has a carriage return, which ends a line of C++, or a NUL, which ends a text.
+[[nodiscard]] bool hasCarriageReturnOrNul(std::string_view text);
+inline constexpr const char* kNoCarriageReturn =
+    "the text has a carriage return or a NUL; remove it (\\n is a line break)";
+
 /// Whether `text` is empty or white space alone.
 [[nodiscard]] bool isBlank(std::string_view text);
 

@@ -4,6 +4,7 @@
 #include <ZKStrings/tools/translation/TableUpdate.h>
 #include <ZKStrings/tools/translation/Template.h>
 
+#include <stdexcept>
 #include <utility>
 
 #include <fmt/format.h>
@@ -37,7 +38,7 @@ void updateUnknown(const TableEntry& entry, bool prunes, TableEditor& editor, Ta
 
 TableUpdate updateTable(const std::string& root, const std::string& language, bool prunes) {
   if (language == kBase)
-    fail(tablePath(language), "the English table is not translated; zkstrings add adds a text to it");
+    throw std::invalid_argument("the English table is not translated; zkstrings add adds a text to it");
   if (std::string reason = whyNeverChosen(language); !reason.empty())
     fail(tablePath(language), std::move(reason));
   const Catalogue catalogue = Catalogue::read(root);

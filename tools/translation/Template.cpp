@@ -51,8 +51,8 @@ std::string templateFor(std::string_view language, const EnglishTexts& english) 
 std::size_t writeTemplate(const std::string& root, const std::string& language) {
   if (language.empty()) throw std::invalid_argument("the language is empty; give its ISO 639-1 code");
   const std::string path = tablePath(language);
-  std::string reason = whyNeverChosen(language);
-  if (!reason.empty()) fail(path, std::move(reason));
+  if (const std::string reason = whyNeverChosen(language); !reason.empty())
+    throw std::invalid_argument(reason);
   std::error_code failure;
   if (std::filesystem::exists(std::filesystem::path(root) / path, failure)) {
     fail(path, "the table is there already, and its texts would be lost; remove it first to begin anew");
