@@ -1,5 +1,5 @@
 # The module: its objects, once, and the library made of them. Tests link the objects, to reach what the shared library hides.
-find_package(ICU REQUIRED COMPONENTS uc)
+find_package(ICU REQUIRED COMPONENTS uc data)
 find_package(nlohmann_json 3.11 REQUIRED)
 
 set(public_headers
@@ -73,6 +73,9 @@ endforeach()
 target_sources(ZKStrings PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_BINARY_DIR}/include FILES ${public_header_files})
 target_compile_features(ZKStrings PUBLIC cxx_std_20)
 target_link_libraries(ZKStrings PRIVATE $<BUILD_INTERFACE:zk_compile_options> ICU::uc)
+if(NOT BUILD_SHARED_LIBS)
+  target_link_libraries(ZKStrings PRIVATE ICU::data)  # a program without shared libraries has to name it
+endif()
 set_target_properties(ZKStrings PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR} LINKER_LANGUAGE CXX)
 if(BUILD_SHARED_LIBS)
   # Hidden visibility does not reach the instances of the standard library's templates.
