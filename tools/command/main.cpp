@@ -27,6 +27,8 @@ using namespace zk::tools;
 constexpr int kWrongFiles = 1;
 constexpr int kWrongUsage = 2;
 
+constexpr const char* kOutputFailed = "the output cannot be written; is the disk full?";
+
 void complain(std::string_view message) {
   print(stderr, fmt::format("{}\n", message));
 }
@@ -95,14 +97,15 @@ int main(int argc, char** argv) {
   try {
     const int status = run(argc, argv);
     if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0) return status;
-    complain("the output cannot be written; is the disk full?");
+    complain(kOutputFailed);
   } catch (const CommandFailed& failed) {
     print(stderr, failed.diagnostics);
   } catch (const std::invalid_argument& refused) {
     complain(refused.what());
     return kWrongUsage;
   } catch (const std::exception& failure) {
-    complain(std::string("zkstrings: ") + failure.what());
+    // Whether fmt::print throws if it cannot write depends on its release.
+    complain(std::ferror(stdout) == 0 ? std::string("zkstrings: ") + failure.what() : kOutputFailed);
   }
   return kWrongFiles;
 }
