@@ -13,30 +13,43 @@ refuse() {
   exit 2
 }
 
-# Runs a command with its output in a log, which is shown only when it fails. On a terminal one line tells how
-# far it is.
+# Runs a command with its output in a log. If it fails, ends this command with the last lines of the log that match a
+# pattern. On a terminal one line shows the progress.
 #   quietly "Building" build/run.log COMMAND [ARGUMENT...]
+#   quietly_matching PATTERN "Building" build/run.log COMMAND [ARGUMENT...]
 quietly() {
-  local title=$1 log=$2 ticker='' status=0
-  shift 2
+  quietly_matching '' "$@"
+}
+
+quietly_matching() {
+  local pattern=$1 title=$2 log=$3 status=0
+  shift 3
+  need_writable "$log"
   : >"$log"
   if [ -t 2 ]; then
-    tell_progress "$title" "$log" &
+    show_progress "$title" "$log" &
     ticker=$!
+    trap 'stop_progress; exit 130' INT
   fi
   "$@" >"$log" 2>&1 </dev/null || status=$?
-  if [ -n "$ticker" ]; then
-    kill "$ticker" 2>/dev/null
-    wait "$ticker" 2>/dev/null || true
-    printf '\r\033[K' >&2
-  fi
+  stop_progress
+  trap - INT
   [ "$status" -eq 0 ] && return
-  tail -n 60 "$log" >&2
+  grep -- "$pattern" "$log" | tail -n 60 >&2
   echo "$title failed; the whole output is in $log" >&2
   exit "$status"
 }
 
-tell_progress() {
+ticker=
+stop_progress() {
+  [ -n "$ticker" ] || return 0
+  kill "$ticker" 2>/dev/null
+  wait "$ticker" 2>/dev/null || true
+  ticker=
+  printf '\r\033[K' >&2
+}
+
+show_progress() {
   local start=$SECONDS step
   while kill -0 "$$" 2>/dev/null; do
     step=$(tail -c 4096 "$2" | grep -o '^\[[0-9]*/[0-9]*\]' | tail -n 1) || step=
@@ -45,10 +58,37 @@ tell_progress() {
   done
 }
 
-# Waits until no other command of this checkout is at work, and keeps others out until the command ends or calls
+# Installs what the command needs, and keeps other commands out.
+#   begin PACKAGE...
+begin() {
+  mkdir -p build 2>/dev/null || true
+  need_writable build/.lock
+  need_packages "$@"
+  need_cmake
+  keep_others_out
+}
+
+# Ends the command with an explanation if it cannot write the file.
+need_writable() {
+  { : >>"$1"; } 2>/dev/null && return
+  echo "Cannot write $PWD/$1. If another user has built here, remove the folder build; otherwise copy the project to a" \
+    "folder that you can write." >&2
+  exit 1
+}
+
+# Ends the command if CMake, installed or about to be, is too old.
+need_cmake() {
+  local needed version
+  needed=$(sed -n 's/^cmake_minimum_required(VERSION \(.*\))$/\1/p' CMakeLists.txt)
+  version=$({ cmake --version || apt-cache policy cmake; } 2>/dev/null | sed -nE 's/^(cmake version|  Candidate:) ([0-9.]+).*/\2/p')
+  [ "$(printf '%s\n' "$needed" "${version:-$needed}" | sort -V | head -n 1)" = "$needed" ] && return
+  echo "ZKStrings needs CMake $needed or newer; this is $version" >&2
+  exit 1
+}
+
+# Waits until no other command of this checkout is running, and keeps others out until the command ends or calls
 # let_others_in.
 keep_others_out() {
-  mkdir -p build
   exec {lock}>build/.lock
   flock --nonblock "$lock" && return
   echo "Another command is at work in this folder; waiting for it." >&2
@@ -80,10 +120,11 @@ need_packages() {
     as_root=(sudo)
   fi
   echo "Installing ${missing[*]}" >&2
-  mkdir -p build
-  quietly "Reading the list of packages" build/packages.log "${as_root[@]}" apt-get update -q
-  quietly "Installing" build/packages.log "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
-    apt-get install -q -y --no-install-recommends "${missing[@]}"
+  local apt=("${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -q -o Acquire::Retries=0
+    -o Acquire::http::Timeout=10 -o Acquire::https::Timeout=10)
+  quietly_matching '^E: ' "Reading the list of packages" build/packages.log "${apt[@]}" update
+  need_cmake
+  quietly_matching '^E: ' "Installing packages" build/packages.log "${apt[@]}" install -y --no-install-recommends "${missing[@]}"
 }
 
 # Fetches the npm packages that a package.json names into a folder, unless they are there.

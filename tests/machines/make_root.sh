@@ -11,9 +11,8 @@ wanted=$(sort -u <<<"$*")
 [ "$(cat "$root/.packages" 2>/dev/null)" != "$wanted" ] || exit 0
 
 release=$(. /etc/os-release && echo "$VERSION_CODENAME")
-mirror=$(apt-get indextargets --format '$(RELEASE) $(SITE)' 'Created-By: Packages' |
-  awk -v release="$release" '$1 == release {print $2; exit}')
 [ "$arch" != riscv64 ] || [ "$release" != bookworm ] || release=trixie
+mirror=$("$(dirname "${BASH_SOURCE[0]}")/../systems/mirror.sh" "$release")
 
 rm -rf "$root"
 work=$root/.apt

@@ -27,7 +27,7 @@ function dataOf(file) {
 const unmarked = (text) => text.replace(/\uFDD0.*?\uFDD1(.*?)\uFDD2/gs, "$1");
 
 async function startBrowser() {
-  return chromium.launch({ executablePath: process.env.ZK_CHROMIUM ?? "/usr/bin/chromium" });
+  return chromium.launch({ executablePath: process.env.ZK_CHROMIUM });
 }
 
 /** Opens `file` at `address`. The page's `problems` lists its errors, its messages and what it tries to load. */
