@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Sends the texts of each language through translate-toolkit and Qt's lconvert, and imports what they write: nothing
-# may be lost on the way, neither into a table that has the texts nor into one in which they are empty.
+# Converts the texts of each language with translate-toolkit and Qt's lconvert, and imports the results: nothing may be
+# lost, neither in a table that has the texts nor in one with empty texts.
 #   foreign_programs.sh ZKSTRINGS PROJECT [LANGUAGE...]
 set -euo pipefail
 
@@ -30,15 +30,15 @@ fail() {
 }
 
 import() {
-  "$zkstrings" import --language "$language" "$1" >import.log 2>&1 || { cat import.log; fail "$1 is refused"; }
+  "$zkstrings" import --language "$language" "$@" >import.log 2>&1 || { cat import.log; fail "$1 is refused"; }
 }
 
-# Imports a file, named by the way that it took, and compares the texts with those that were exported.
+# Imports a file, which is named after its conversions, and compares the texts with the exported ones.
 compare() {
   import "$1"
   cmp --silent "$table" sent.strings || fail "$1 changes the table: $(diff "$table" sent.strings | head -n 3)"
   sed 's/ = ".*";$/ = "";/; /^\/\* state:/d' sent.strings >"$table"
-  import "$1"
+  import "$1" --force
   "$zkstrings" export "$language" -o back.xlf >/dev/null
   cmp --silent back.xlf sent.xlf || fail "$1 has lost something: $(diff back.xlf sent.xlf | head -n 3)"
   cp sent.strings "$table"
@@ -71,7 +71,7 @@ for language in "${languages[@]}"; do
     lconvert.xlf lconvert-xliff.po lconvert.po lconvert-po.xlf; do
     compare "$file"
   done
-  # pofilter keeps only the texts that it finds fault with.
+  # pofilter keeps only the texts in which it finds an error.
   translate_toolkit pofilter sent.po pofilter.po
   if [ -e pofilter.po ]; then
     import pofilter.po

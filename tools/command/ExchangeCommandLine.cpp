@@ -7,9 +7,11 @@
 #include <ZKStrings/tools/support/Languages.h>
 #include <ZKStrings/tools/support/Terminal.h>
 
+#include <cstddef>
 #include <cstdio>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <CLI/CLI.hpp>
@@ -20,33 +22,26 @@ namespace zk::tools {
 
 namespace {
 
-constexpr const char* kXLIFF = "xliff";
-constexpr const char* kPO = "po";
-constexpr const char* kCSV = "csv";
-constexpr const char* kXLIFF12 = "1.2";
-constexpr const char* kXLIFF20 = "2.0";
-
 struct ExportArguments {
   std::string language;
   std::string file;
   std::string format;
   std::string xliff;
-  bool onlyLacking = false;
+  bool onlyOpen = false;
 
   [[nodiscard]] ExchangeFormat chosenFormat() const {
-    if (format == kPO) return ExchangeFormat::po;
-    if (format == kCSV) return ExchangeFormat::csv;
-    if (xliff == kXLIFF20) return ExchangeFormat::xliff20;
-    const bool isNamed = !format.empty() || !xliff.empty();
-    return isNamed ? ExchangeFormat::xliff12 : formatNamedBy(file);
+    if (format == "po") return ExchangeFormat::po;
+    if (format == "csv") return ExchangeFormat::csv;
+    if (xliff == "2.0") return ExchangeFormat::xliff20;
+    return format.empty() && xliff.empty() ? formatNamedBy(file) : ExchangeFormat::xliff12;
   }
 };
 
 void runExport(const std::string& root, const ExportArguments& arguments) {
-  if (!arguments.xliff.empty() && !arguments.format.empty() && arguments.format != kXLIFF)
+  if (!arguments.xliff.empty() && !arguments.format.empty() && arguments.format != "xliff")
     throw CLI::ValidationError("--xliff", fmt::format("not with --format {}", arguments.format));
   const std::string language = existingLanguage(root, arguments.language);
-  const Translations translations = translationsOf(root, language, arguments.onlyLacking);
+  const Translations translations = translationsOf(root, language, arguments.onlyOpen);
   const std::string bytes = written(translations, arguments.chosenFormat());
   if (arguments.file.empty()) {
     fmt::print("{}", bytes);
@@ -57,27 +52,45 @@ void runExport(const std::string& root, const ExportArguments& arguments) {
   say("Wrote {} with {} text{}.\n", arguments.file, count, count == 1 ? "" : "s");
 }
 
-/// "2 texts added, 1 changed, 1065 as before; 3 refused".
-std::string summaryOf(const Import& done) {
-  std::vector<std::string> counts;
-  const auto add = [&](std::size_t count, const char* what) {
-    if (count > 0) counts.push_back(fmt::format("{} {}", count, what));
-  };
-  add(done.added, "added");
-  add(done.changed, "changed");
-  add(done.marked, "marked again");
-  add(done.unchanged, "as before");
-  add(done.refused, "refused");
-  return counts.empty() ? "nothing to import" : fmt::format("{}", fmt::join(counts, ", "));
+struct ImportArguments {
+  std::string file;
+  std::string language;
+  bool force = false;
+  bool quiet = false;
+};
+
+Translations readFor(const std::string& root, const ImportArguments& arguments) {
+  Translations translations = readTranslations(arguments.file);
+  const std::string named = languageCodeOf(translations.language);
+  if (!arguments.language.empty() && !named.empty() && named != languageCodeOf(arguments.language))
+    fail(arguments.file,
+         fmt::format("the file is a translation into \"{}\", not \"{}\"; import it without --language",
+                     translations.language, arguments.language));
+  if (!arguments.language.empty()) translations.language = arguments.language;
+  if (translations.language.empty())
+    fail(arguments.file, "the file does not name its language; name it with --language");
+  translations.language = existingLanguage(root, translations.language);
+  return translations;
 }
 
-Import runImport(const std::string& root, const std::string& file, const std::string& language, bool force) {
-  Translations translations = readTranslations(file);
-  if (!language.empty()) translations.language = language;
-  if (translations.language.empty())
-    fail(file, "the file does not name its language; name it with --language");
-  translations.language = existingLanguage(root, translations.language);
-  return importTranslations(root, translations, file, force);
+/// Returns whether no text is refused.
+bool runImport(const std::string& root, const ImportArguments& arguments) {
+  const Translations translations = readFor(root, arguments);
+  Import done = importTranslations(root, translations, arguments.file, arguments.force);
+  if (arguments.quiet)
+    std::erase_if(done.diagnostics, [](const Diagnostic& one) { return one.severity == Severity::note; });
+  print(stdout, done.diagnostics);
+  std::vector<std::string> counts;
+  for (const auto& [count, what] : {std::pair(done.added, "added"),
+                                    {done.changed, "changed"},
+                                    {done.stateChanged, "changed in state"},
+                                    {done.unchanged, "unchanged"},
+                                    {done.refused, "refused"}}) {
+    if (count > 0) counts.push_back(fmt::format("{} {}", count, what));
+  }
+  if (counts.empty()) counts.emplace_back("nothing to import");
+  say("{}: {}\n", tablePath(translations.language), fmt::join(counts, ", "));
+  return done.refused == 0;
 }
 
 }  // namespace
@@ -92,38 +105,31 @@ void addExportCommand(CLI::App& app, const RootFinder& inRoot) {
       ->type_name("FILE");
   command
       ->add_option("--format", arguments->format, "xliff, po or csv (default: from the file name, or xliff)")
-      ->check(CLI::IsMember({kXLIFF, kPO, kCSV}))
+      ->check(CLI::IsMember({"xliff", "po", "csv"}))
       ->type_name("FORMAT");
   command
       ->add_option("--xliff", arguments->xliff,
                    "The XLIFF version: 1.2, which all programs read, or 2.0 (default: 1.2)")
-      ->check(CLI::IsMember({kXLIFF12, kXLIFF20}))
+      ->check(CLI::IsMember({"1.2", "2.0"}))
       ->type_name("VERSION");
-  command->add_flag("--missing", arguments->onlyLacking, "Only the texts that are not translated yet");
+  command->add_flag("--missing", arguments->onlyOpen, "Only texts that are not translated or need review");
   command->footer("Example: zkstrings export de --missing -o de.xlf");
   command->callback([arguments, inRoot] { runExport(inRoot(), *arguments); });
 }
 
 void addImportCommand(CLI::App& app, const RootFinder& inRoot, int& status) {
-  struct Arguments {
-    std::string file;
-    std::string language;
-    bool force = false;
-  };
-  const auto arguments = std::make_shared<Arguments>();
+  const auto arguments = std::make_shared<ImportArguments>();
   auto* const command = app.add_subcommand("import", "Import a translated XLIFF, PO or CSV file");
   command->add_option("file", arguments->file, "The file, as the translation program saved it")->required();
   command->add_option("--language", arguments->language, "The language (default: from the file)")
       ->type_name("LANGUAGE");
-  command->add_flag("--force", arguments->force,
-                    "Take translations of an English text that has changed, and mark them for review");
+  command->add_flag(
+      "--force", arguments->force,
+      "Import even if the English text, whose translation is then marked for review, or the table's "
+      "translation has changed since the export");
+  command->add_flag("--quiet", arguments->quiet, "Print only warnings and counts");
   command->footer("Example: zkstrings import de.xlf");
-  command->callback([arguments, inRoot, &status] {
-    const Import done = runImport(inRoot(), arguments->file, arguments->language, arguments->force);
-    print(stdout, done.diagnostics);
-    say("{}: {}\n", tablePath(done.language), summaryOf(done));
-    status = done.refused > 0 ? 1 : 0;
-  });
+  command->callback([arguments, inRoot, &status] { status = runImport(inRoot(), *arguments) ? 0 : 1; });
 }
 
 }  // namespace zk::tools

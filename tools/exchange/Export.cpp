@@ -1,17 +1,63 @@
 #include <ZKStrings/tools/exchange/Export.h>
-#include <ZKStrings/tools/exchange/TranslatorNotes.h>
 #include <ZKStrings/tools/project/Catalogue.h>
 #include <ZKStrings/tools/project/CatalogueSettings.h>
 #include <ZKStrings/tools/project/EnglishTexts.h>
 #include <ZKStrings/tools/project/Table.h>
+#include <ZKStrings/tools/support/Characters.h>
 #include <ZKStrings/tools/support/Languages.h>
+#include <ZKStrings/tools/texts/TextPieces.h>
 
+#include <algorithm>
+#include <cstdint>
+#include <iterator>
 #include <stdexcept>
 #include <utility>
+#include <vector>
+
+#include <fmt/format.h>
+#include <fmt/ranges.h>
 
 namespace zk::tools {
 
-Translations translationsOf(const std::string& root, const std::string& language, bool onlyLacking) {
+namespace {
+
+std::string pluralNote(const EnglishText& english) {
+  const auto* const form = std::find_if(std::begin(kPluralForms), std::end(kPluralForms),
+                                        [&](const PluralForm& one) { return one.suffix == english.suffix; });
+  return fmt::format("The plural form {} is used for {}. It must be right for every such number.",
+                     form->suffix, form->counts);
+}
+
+std::string placeholderNote(const EnglishText& english) {
+  const std::vector<std::string_view> names = english.placeholders();
+  std::string note =
+      fmt::format("The app fills in %{{{}}}. Copy placeholders letter by letter.", fmt::join(names, "}, %{"));
+  if (!english.dispensable().empty())
+    note += fmt::format(" %{{{}}} may be left out if the text says the number.", english.dispensable());
+  return note;
+}
+
+bool hasMarks(const EnglishText& english) {
+  const std::vector<TextPiece> pieces = piecesOf(english.text);
+  return std::any_of(pieces.begin(), pieces.end(),
+                     [](const TextPiece& piece) { return piece.kind == TextPiece::Kind::opening; });
+}
+
+/// What a translator who sees only `english` must know.
+std::vector<std::string> notesOn(const EnglishText& english) {
+  std::vector<std::string> notes;
+  if (std::string context = english.entry->context(); !context.empty()) notes.push_back(std::move(context));
+  if (!english.suffix.empty()) notes.push_back(pluralNote(english));
+  if (!english.placeholders().empty()) notes.push_back(placeholderNote(english));
+  if (hasMarks(english))
+    notes.emplace_back("Words between <b> and </b> are bold, words between * and * are emphasised.");
+  notes.push_back(fmt::format("The English text has {} characters.", lengthOf(english.text)));
+  return notes;
+}
+
+}  // namespace
+
+Translations translationsOf(const std::string& root, const std::string& language, bool onlyOpen) {
   if (language == kBase)
     throw std::invalid_argument("the English texts are not translated; name the language to translate into");
   const Catalogue catalogue = Catalogue::read(root);
@@ -21,12 +67,27 @@ Translations translationsOf(const std::string& root, const std::string& language
   for (const EnglishText& text : english.all()) {
     const TableEntry* const entry = table.find(text.key);
     const TranslationState state = stateOf(language, entry, text);
-    const bool isLacking = state == TranslationState::missing || state == TranslationState::untranslated;
-    if (onlyLacking && !isLacking) continue;
+    if (onlyOpen && state == TranslationState::translated) continue;
+    const std::string translation(translationIn(entry, state));
+    std::vector<std::string> notes = notesOn(text);
+    notes.push_back(versionNote(translation, state));
     translations.units.push_back(
-        {text.key, text.text, isLacking ? "" : entry->text, state, translatorNotes(text)});
+        {text.key, text.text, translation, state, fmt::format("{}", fmt::join(notes, "\n"))});
   }
   return translations;
+}
+
+std::string_view translationIn(const TableEntry* entry, TranslationState state) {
+  const bool isTranslated = state == TranslationState::needsReview || state == TranslationState::translated;
+  return isTranslated ? std::string_view(entry->text) : "";
+}
+
+std::string versionNote(std::string_view translation, TranslationState state) {
+  const std::string version = translation.empty() ? "" : fmt::format("{}\n{}", translation, nameOf(state));
+  std::uint32_t fingerprint = 2166136261U;  // by FNV-1a
+  for (const char character : version)
+    fingerprint = (fingerprint ^ static_cast<unsigned char>(character)) * 16777619U;
+  return fmt::format("{}{:08x}", kVersionNote, fingerprint);
 }
 
 }  // namespace zk::tools

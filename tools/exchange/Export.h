@@ -1,16 +1,28 @@
 #pragma once
 
 #include <ZKStrings/tools/exchange/Translations.h>
+#include <ZKStrings/tools/project/Table.h>
 
 #include <string>
+#include <string_view>
 
 namespace zk::tools {
 
-/// The texts of the module, each with its English, its translation in the table of `language` ("de") of the
-/// project at `root`, and notes for translators, in catalogue order. Texts that are not translated yet have
-/// no target; with `onlyLacking`, only those are given. Throws `CommandFailed` for the English table and for
-/// a language without a table, and when the table, the English one or the catalogue is wrong.
+/// The texts that the app looks up, each with its English text, its translation in the table of `language` ("de") of
+/// the project at `root`, and notes for translators, in catalogue order. A text that is not translated has no target.
+/// With `onlyOpen`, texts that are translated and need no review are left out. Throws `CommandFailed` for the English
+/// table, for a language without a table, and if the table, the English table or the catalogue is not well-formed.
 [[nodiscard]] Translations translationsOf(const std::string& root, const std::string& language,
-                                          bool onlyLacking);
+                                          bool onlyOpen);
+
+/// The translation in `entry` (null if the table has none), which has that state; empty if it is not translated.
+[[nodiscard]] std::string_view translationIn(const TableEntry* entry, TranslationState state);
+
+/// How the note starts that `versionNote` returns.
+inline constexpr std::string_view kVersionNote = "Version in the table: ";
+
+/// The note with a fingerprint of a translation and its state in the table. Exports have it, so that `import` finds
+/// the texts that have changed in the table since.
+[[nodiscard]] std::string versionNote(std::string_view translation, TranslationState state);
 
 }  // namespace zk::tools

@@ -1,4 +1,5 @@
 #include <ZKStrings/tools/check/Checker.h>
+#include <ZKStrings/tools/exchange/Export.h>
 #include <ZKStrings/tools/exchange/Import.h>
 #include <ZKStrings/tools/project/Catalogue.h>
 #include <ZKStrings/tools/project/EnglishTexts.h>
@@ -18,26 +19,39 @@ namespace zk::tools {
 
 namespace {
 
+/// A text and its state, for messages.
+std::string shown(std::string_view text, TranslationState state) {
+  if (text.empty()) return "no translation";
+  const bool isTranslated = state == TranslationState::translated;
+  return fmt::format("\"{}\"{}", escaped(text), isTranslated ? "" : fmt::format(" ({})", nameOf(state)));
+}
+
+/// Whether the unit's notes have another version of the text than `version`. Programs may drop the notes.
+bool hasOtherVersion(const TranslationUnit& unit, std::string_view version) {
+  const std::size_t at = unit.notes.find(kVersionNote);
+  return at != std::string::npos && !std::string_view(unit.notes).substr(at).starts_with(version);
+}
+
 class Importer {
  public:
   Importer(const std::string& root, const Translations& translations, const std::string& file, bool force)
       : root_(root),
-        translations_(translations),
+        language_(translations.language),
         file_(file),
         force_(force),
         catalogue_(Catalogue::read(root)),
         base_(Table::readWellFormed(root, kBase)),
         english_(catalogue_, base_),
-        editor_(TableEditor::open(root, translations.language)) {}
+        editor_(TableEditor::open(root, language_)) {
+    for (const TranslationUnit& unit : translations.units) accept(unit);
+  }
 
   Import run() && {
-    result_.language = translations_.language;
-    for (const TranslationUnit& unit : translations_.units) accept(unit);
     const TableEntry* before = nullptr;
     for (const EnglishText& text : english_.all()) {
       const TableEntry* const entry = editor_.table().find(text.key);
-      if (const auto taken = taken_.find(text.key); taken != taken_.end())
-        bringIn(taken->second, text, entry, before);
+      if (const auto unit = units_.find(text.key); unit != units_.end())
+        importUnit(*unit->second, text, entry, before);
       if (entry) before = entry;
     }
     write();
@@ -45,12 +59,6 @@ class Importer {
   }
 
  private:
-  /// A unit that goes into the table.
-  struct Taken {
-    const TranslationUnit* unit;
-    TranslationState state;
-  };
-
   void report(Severity severity, const TranslationUnit& unit, std::string message, std::string rule = "") {
     result_.diagnostics.push_back(
         {severity, file_, unit.at.line, unit.at.column, std::move(rule), std::move(message)});
@@ -62,56 +70,59 @@ class Importer {
   }
 
   void accept(const TranslationUnit& unit) {
-    const EnglishText* const english = english_.find(unit.key);
-    if (!english) {
+    if (!english_.find(unit.key)) {
+      refuse(unit, fmt::format("nothing looks up the key \"{}\"; the text is left out", escaped(unit.key)));
+    } else if (!units_.emplace(unit.key, &unit).second) {
+      refuse(unit, fmt::format("duplicate key \"{}\"; the first text counts", escaped(unit.key)));
+    }
+  }
+
+  void importUnit(const TranslationUnit& unit, const EnglishText& english, const TableEntry* entry,
+                  const TableEntry* before) {
+    const std::string key = escaped(unit.key);
+    const TranslationState present = stateOf(language_, entry, english);
+    const std::string_view translation = translationIn(entry, present);
+    if (isBlank(unit.target)) {
+      if (present == TranslationState::translated && !isBlank(translation))
+        report(Severity::note, unit,
+               fmt::format("\"{}\" has no translation here; the table's translation is kept", key));
+      return;
+    }
+    const bool isOutdated = unit.source != english.text;
+    if (isOutdated && !force_)
       return refuse(unit,
-                    fmt::format("nothing looks up the key \"{}\"; the text was left out", escaped(unit.key)));
-    }
-    if (isBlank(unit.target)) return noteMissing(unit);
-    const bool isOutdated = unit.source != english->text;
-    if (isOutdated && !force_) {
-      return refuse(unit, fmt::format("the English of \"{}\" is now \"{}\", no longer \"{}\"; see that the "
-                                      "translation still fits, then import with --force",
-                                      escaped(unit.key), escaped(english->text), escaped(unit.source)));
-    }
+                    fmt::format("the English text of \"{}\" is now \"{}\", no longer \"{}\"; check that the "
+                                "translation still fits, then import with --force",
+                                key, escaped(english.text), escaped(unit.source)));
     const TranslationState state = isOutdated ? TranslationState::needsReview : unit.state;
-    if (!taken_.emplace(english->key, Taken{&unit, state}).second)
-      refuse(unit, fmt::format("the key \"{}\" stands twice in the file; the first text counts",
-                               escaped(unit.key)));
-  }
-
-  /// What a file does not translate stays; where the table does, somebody may have meant to remove it.
-  void noteMissing(const TranslationUnit& unit) {
-    const TableEntry* const entry = editor_.table().find(unit.key);
-    const TranslationState state = stateOf(translations_.language, entry, *english_.find(unit.key));
-    if (state != TranslationState::translated || isBlank(entry->text)) return;
-    report(Severity::note, unit,
-           fmt::format("\"{}\" has no translation here; the table's was kept", escaped(unit.key)));
-  }
-
-  void bringIn(const Taken& taken, const EnglishText& english, const TableEntry* entry,
-               const TableEntry* before) {
-    const std::string& text = taken.unit->target;
-    const bool isReview = taken.state == TranslationState::needsReview;
-    if (!entry) {
-      const std::string mark = isReview ? markFor(taken.state) + "\n" : "";
-      editor_.insertBehind(before, mark + tableLine(english.key, text));
-      ++result_.added;
-      return;
-    }
-    const bool isSameText = entry->text == text;
-    const bool hasMark =
-        isMarked(*entry, TranslationState::untranslated) || isMarked(*entry, TranslationState::needsReview);
-    const bool isSameState =
-        stateOf(translations_.language, entry, english) == taken.state || !(isReview || hasMark);
-    if (isSameText && isSameState) {
+    const bool isSameText = entry && entry->text == unit.target;
+    const bool hasMark = entry && (isMarked(*entry, TranslationState::untranslated) ||
+                                   isMarked(*entry, TranslationState::needsReview));
+    const bool setsState = hasMark || state == TranslationState::needsReview;
+    if (isSameText && (present == state || !setsState)) {
       ++result_.unchanged;
-      taken_.erase(english.key);
       return;
     }
-    if (!isSameText) editor_.replaceText(*entry, text);
-    if (isReview || hasMark) editor_.setState(*entry, taken.state);
-    ++(isSameText ? result_.marked : result_.changed);
+    if (!force_ && hasOtherVersion(unit, versionNote(translation, present)))
+      return refuse(
+          unit, fmt::format("\"{}\" has changed in the table since the export: the table has {}, this file "
+                            "{}; --force takes the file's",
+                            key, shown(translation, present), shown(unit.target, state)));
+    imported_.emplace(unit.key, &unit);
+    const auto log = [&](std::size_t& count, std::string change) {
+      ++count;
+      changes_.push_back({Severity::note, file_, unit.at.line, unit.at.column, "", std::move(change)});
+    };
+    if (!entry) {
+      const std::string mark = setsState ? markFor(state) + "\n" : "";
+      editor_.insertBehind(before, mark + tableLine(english.key, unit.target));
+      return log(result_.added, fmt::format("\"{}\" is added: {}", key, shown(unit.target, state)));
+    }
+    if (!isSameText) editor_.replaceText(*entry, unit.target);
+    if (setsState) editor_.setState(*entry, state);
+    log(isSameText ? result_.stateChanged : result_.changed,
+        fmt::format("\"{}\" is changed from {} to {}", key, shown(entry->text, present),
+                    shown(unit.target, state)));
   }
 
   void write() {
@@ -119,35 +130,37 @@ class Importer {
     const std::string bytes = editor_.edited();
     refuseErrors(Table::parse(bytes, editor_.table().file));
     writeFile(root_, editor_.table().file, bytes);
+    result_.diagnostics.insert(result_.diagnostics.end(), changes_.begin(), changes_.end());
   }
 
-  /// Throws the errors in what was taken; other findings there are reported.
+  /// Throws the errors that `check` finds in imported texts, and reports its warnings.
   void refuseErrors(const Table& table) {
-    for (const Diagnostic& diagnostic : checkTable(translations_.language, table, catalogue_, base_)) {
+    for (const Diagnostic& diagnostic : checkTable(language_, table, catalogue_, base_)) {
       if (diagnostic.severity > Severity::warning) continue;
       const TableEntry* const entry = table.entryAt({diagnostic.line, diagnostic.column});
-      if (!entry) continue;
-      const auto taken = taken_.find(entry->key);
-      if (taken == taken_.end()) continue;
-      report(diagnostic.severity, *taken->second.unit,
+      const auto unit = entry ? imported_.find(entry->key) : imported_.end();
+      if (unit == imported_.end()) continue;
+      report(diagnostic.severity, *unit->second,
              fmt::format("\"{}\": {}", escaped(entry->key), diagnostic.message), diagnostic.rule);
     }
     const auto isError = [](const Diagnostic& diagnostic) { return diagnostic.severity == Severity::error; };
     if (std::none_of(result_.diagnostics.begin(), result_.diagnostics.end(), isError)) return;
     result_.diagnostics.push_back({Severity::note, file_, 1, 1, "",
-                                   "nothing was imported because of the errors; mend them and import again"});
+                                   "nothing is imported because of the errors; fix them and import again"});
     throw CommandFailed{std::move(result_.diagnostics)};
   }
 
   const std::string& root_;
-  const Translations& translations_;
+  const std::string& language_;
   const std::string& file_;
   const bool force_;
   const Catalogue catalogue_;
   const Table base_;
   const EnglishTexts english_;
   TableEditor editor_;
-  std::map<std::string, Taken, std::less<>> taken_;  // by key
+  std::map<std::string, const TranslationUnit*, std::less<>> units_;     // by key
+  std::map<std::string, const TranslationUnit*, std::less<>> imported_;  // those that change the table
+  Diagnostics changes_;
   Import result_;
 };
 
@@ -155,8 +168,7 @@ class Importer {
 
 Import importTranslations(const std::string& root, const Translations& translations, const std::string& file,
                           bool force) {
-  if (translations.language == kBase)
-    fail(file, "the English texts are not imported; change them in their table");
+  if (translations.language == kBase) fail(file, "the English texts are not imported; use zkstrings change");
   return Importer(root, translations, file, force).run();
 }
 

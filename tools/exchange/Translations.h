@@ -8,22 +8,22 @@
 
 namespace zk::tools {
 
-/// A text on its way to translators or back, in whatever format.
+/// A text on its way to translators or back, in any format.
 struct TranslationUnit {
   std::string key;
   std::string source;  ///< the English text
-  std::string target;  ///< the translation; empty for none
-  /// Of a unit that was read: `translated` or `needsReview`, and of no meaning without a target.
+  std::string target;  ///< the translation; empty if there is none
+  /// In a unit that was read, `translated` or `needsReview`; meaningless without a target.
   TranslationState state = TranslationState::translated;
-  std::vector<std::string> notes = {};  ///< for translators; not read back
-  Position at = {1, 1};                 ///< in the file that it was read from
+  std::string notes = {};  ///< for translators, one a line
+  Position at = {1, 1};    ///< in the file that it was read from
 };
 
 /// Texts with their translations into one language.
 struct Translations {
-  std::string language;  ///< empty in a file that does not tell it
+  std::string language;  ///< empty if a file does not name it
   std::vector<TranslationUnit> units;
-  std::string catalogue{};  ///< what the catalogue is called; empty in what was read from a file
+  std::string catalogue{};  ///< the name of the catalogue; empty if read from a file
 };
 
 }  // namespace zk::tools

@@ -1,42 +1,55 @@
-#include <ZKStrings/platform/text/TextSearch.h>
-#include <ZKStrings/tools/exchange/XLIFF.h>
-#include <ZKStrings/tools/exchange/XMLFile.h>
+#include <ZKStrings/tools/exchange/Formats.h>
+#include <ZKStrings/tools/support/Characters.h>
+#include <ZKStrings/tools/support/Diagnostic.h>
 
 #include <algorithm>
 #include <cstddef>
 #include <functional>
+#include <iterator>
 #include <map>
-#include <string_view>
 #include <utility>
 
 #include <fmt/format.h>
+#include <pugixml.hpp>
 
 namespace zk::tools {
 
 namespace {
 
 constexpr std::size_t kDeepestCode = 32;
-constexpr const char* kGettextHeader = "x-gettext-domain-header";
+/// How much longer than the file all texts of its inline codes may be together.
+constexpr std::size_t kMostExpansion = 1U << 16U;
 
-/// Elements around words, or within them, that stand for no text themselves.
-constexpr std::string_view kAnnotations[] = {"g", "mrk", "sm", "em", "sub"};
-
-bool isAnnotation(std::string_view name) {
-  return std::find(std::begin(kAnnotations), std::end(kAnnotations), name) != std::end(kAnnotations);
+/// `name`, of an element or attribute, without its namespace prefix.
+std::string_view localName(std::string_view name) {
+  return name.substr(name.find(':') + 1);
 }
 
-/// The texts that codes stand for, by what refers to them.
-struct Codes {
-  std::map<std::string, std::string, std::less<>> data;  ///< of XLIFF 2.0's original data
-  std::map<std::string, std::string, std::less<>> byId;  ///< of those that were read
+/// The first child element with that local name; a null node if there is none.
+pugi::xml_node childNamed(pugi::xml_node element, std::string_view name) {
+  return element.find_child([&](pugi::xml_node child) { return localName(child.name()) == name; });
+}
 
-  [[nodiscard]] std::string dataFor(pugi::xml_attribute reference) const {
-    const auto found = data.find(std::string_view(reference.value()));
-    return found == data.end() ? "" : found->second;
+/// The offset of the first reference in `xml` to an entity that XML does not define; `npos` if there is none.
+std::size_t unknownEntity(std::string_view xml) {
+  constexpr std::string_view kKnown[] = {"amp", "lt", "gt", "quot", "apos"};
+  constexpr std::pair<std::string_view, std::string_view> kVerbatim[] = {{"<!--", "-->"},
+                                                                         {"<![CDATA[", "]]>"}};
+  for (std::size_t at = xml.find_first_of("<&"); at < xml.size(); at = xml.find_first_of("<&", at + 1)) {
+    const std::string_view rest = xml.substr(at);
+    for (const auto& [begin, end] : kVerbatim) {
+      if (rest.starts_with(begin)) at = std::min(xml.find(end, at + begin.size()), xml.size());
+    }
+    if (rest[0] == '<') continue;
+    const std::string_view name = rest.substr(1, rest.substr(0, 12).find(';') - 1);
+    const bool isCharacter = name.starts_with('#') &&
+                             name.find_first_not_of("0123456789abcdefABCDEFx", 1) == std::string_view::npos;
+    if (!isCharacter && std::find(std::begin(kKnown), std::end(kKnown), name) == std::end(kKnown)) return at;
   }
-};
+  return std::string_view::npos;
+}
 
-/// The text of the <context> of that type below `unit`; empty for none.
+/// The text of the <context> with that type in `unit`; empty if there is none.
 std::string contextOf(pugi::xml_node unit, std::string_view type) {
   for (const pugi::xml_node group : unit.children()) {
     for (const pugi::xml_node context : group.children()) {
@@ -46,8 +59,8 @@ std::string contextOf(pugi::xml_node unit, std::string_view type) {
   return "";
 }
 
-/// The key of a unit of XLIFF 1.2; empty when only its text tells it. Programs keep the name and the id;
-/// those that come by way of PO keep the msgctxt or the reference instead, and number the units.
+/// The key of a unit of XLIFF 1.2; empty if only the unit's text identifies it. Programs keep the name and the id.
+/// After a conversion from PO, units have numbers, and the msgctxt or the reference is the key.
 std::string keyOf(pugi::xml_node unit) {
   const std::string id = unit.attribute("id").value();
   if (const std::string name = unit.attribute("resname").value(); !name.empty()) return name;
@@ -56,58 +69,142 @@ std::string keyOf(pugi::xml_node unit) {
   return contextOf(unit, "sourcefile");
 }
 
-/// Whether the translation is no more than a beginning. A program that tells nothing means that it is done.
+/// Whether a translation in XLIFF 1.2 is unfinished. Without a state it is finished.
 bool needsReview12(pugi::xml_node unit, pugi::xml_node target) {
   const std::string_view state = target.attribute("state").value();
   if (state.empty()) return std::string_view(unit.attribute("approved").value()) == "no";
   return state == "new" || state.starts_with("needs-");
 }
 
-class Reader {
- public:
-  Reader(std::string bytes, const std::string& file) : document_(std::move(bytes), file) {}
+/// The notes of a unit: its children in XLIFF 1.2, the children of its <notes> in 2.x.
+std::string notesOf(pugi::xml_node unit) {
+  std::string notes;
+  for (const pugi::xml_node parent : {unit, childNamed(unit, "notes")}) {
+    for (const pugi::xml_node child : parent.children()) {
+      if (localName(child.name()) == "note") notes.append(child.child_value()) += '\n';
+    }
+  }
+  return notes;
+}
 
-  Translations read() && {
-    const pugi::xml_node root = document_.root();
+/// Qt's programs write control characters as escapes.
+std::string unescapedByQt(std::string text) {
+  for (const auto& [escape, character] :
+       {std::pair("\\t", "\t"), std::pair("\\n", "\n"), std::pair("\\r", "\r")})
+    text = replaceAll(text, escape, character);
+  return text;
+}
+
+/// Reads a document such as
+///
+///     <xliff version="1.2"><file target-language="de"><body>
+///       <trans-unit id="Kick_name" resname="Kick_name" approved="yes">
+///         <source>Kick <ph id="1">%{name}</ph>?</source>
+///         <target state="translated"><ph id="1"/> rauswerfen?</target>
+///       </trans-unit>
+///     </body></file></xliff>
+///
+/// or such as
+///
+///     <xliff version="2.0" trgLang="de"><file id="f1">
+///       <unit id="u1" name="Kick_name">
+///         <originalData><data id="d1">%{name}</data></originalData>
+///         <segment state="translated">
+///           <source>Kick <ph id="1" dataRef="d1"/>?</source>
+///           <target><ph id="1" dataRef="d1"/> rauswerfen?</target>
+///         </segment>
+///       </unit>
+///     </file></xliff>
+///
+/// An inline code has the text of its content, its original data, or the earlier code with its id.
+class XLIFFReader {
+ public:
+  XLIFFReader(const std::string& text, const std::string& file)
+      : file_(file), text_(text), positions_(text), expansionLeft_(text.size() + kMostExpansion) {
+    const pugi::xml_parse_result result = document_.load_buffer(
+        text.data(), text.size(), pugi::parse_default | pugi::parse_ws_pcdata | pugi::parse_doctype,
+        pugi::encoding_utf8);
+    const auto isDoctype = [](pugi::xml_node node) { return node.type() == pugi::node_doctype; };
+    // Entities can make a small file grow without end, and translations do not need them.
+    if (document_.find_child(isDoctype))
+      refuse(text.find("<!DOCTYPE"),
+             "document types and entities are not supported; remove the DOCTYPE, or save the file as XLIFF "
+             "again");
+    if (!result)
+      refuse(static_cast<std::size_t>(result.offset),
+             fmt::format("the document is not well-formed XML ({}); the file may be damaged, save it again",
+                         lowerCased(result.description())));
+    if (const std::size_t entity = unknownEntity(text); entity != std::string::npos)
+      refuse(entity,
+             "\"&\" does not start an entity that XML defines; write \"&amp;\" for the character itself");
+  }
+
+  Translations read() {
+    pugi::xml_node root = document_.document_element();
     const std::string_view version = root.attribute("version").value();
     if (localName(root.name()) != "xliff" || !(version.starts_with("1.") || version.starts_with("2.")))
-      document_.refuse(root, "the document is no XLIFF 1.2 or 2.0; export it as one of them");
-    setLanguage(root, root.attribute("trgLang").value());
+      refuse(root, "the document is not XLIFF 1.2 or 2.0; export it as one of them");
+    setLanguage(root, "trgLang");
     Walker walker(*this);
-    pugi::xml_node(root).traverse(walker);
+    root.traverse(walker);
     return std::move(translations_);
   }
 
  private:
-  /// Calls the reader for every element, without a call within another.
+  /// The texts of a unit's codes, by id.
+  using Texts = std::map<std::string, std::string, std::less<>>;
+  struct Codes {
+    Texts data;  ///< the original data, by id
+    Texts byId;  ///< the codes that were read
+  };
+
+  /// Visits all elements without recursion.
   struct Walker : pugi::xml_tree_walker {
-    explicit Walker(Reader& taker) : reader(taker) {}
+    explicit Walker(XLIFFReader& owner) : reader(owner) {}
     bool for_each(pugi::xml_node& node) override {
       const std::string_view name = localName(node.name());
-      if (name == "file") reader.setLanguage(node, node.attribute("target-language").value());
+      if (name == "file") reader.setLanguage(node, "target-language");
       if (name == "trans-unit") reader.readUnit12(node);
       if (name == "unit") reader.readUnit20(node);
       return true;
     }
-    Reader& reader;
+    XLIFFReader& reader;
   };
 
-  void setLanguage(pugi::xml_node element, std::string_view language) {
+  [[noreturn]] void refuse(std::size_t offset, std::string message) const {
+    fail(file_, positionOf(text_, offset), std::move(message));
+  }
+  [[noreturn]] void refuse(pugi::xml_node element, std::string message) const {
+    refuse(offsetOf(element), std::move(message));
+  }
+
+  static std::size_t offsetOf(pugi::xml_node element) {
+    // The parser reports where the name starts, after the "<".
+    return static_cast<std::size_t>(element.offset_debug()) - 1;
+  }
+
+  void setLanguage(pugi::xml_node element, const char* attribute) {
+    const std::string language = element.attribute(attribute).value();
     std::string& known = translations_.language;
     if (language.empty() || known == language) return;
-    if (!known.empty()) {
-      document_.refuse(element, fmt::format("the file holds translations into \"{}\" and into \"{}\"; import "
-                                            "a file for each language",
-                                            known, language));
-    }
+    if (!known.empty())
+      refuse(element,
+             fmt::format("the file has translations into \"{}\" and \"{}\"; import a file for each language",
+                         known, language));
     known = language;
   }
 
+  TranslationUnit unitAt(pugi::xml_node element, std::string key) {
+    TranslationUnit unit{std::move(key), "", ""};
+    unit.notes = notesOf(element);
+    unit.at = positions_.at(offsetOf(element));
+    return unit;
+  }
+
   void readUnit12(pugi::xml_node element) {
-    if (std::string_view(element.attribute("restype").value()) == kGettextHeader) return;
-    TranslationUnit unit;
-    unit.at = document_.at(element);
-    unit.key = keyOf(element);
+    // Made from the header of a PO file.
+    if (std::string_view(element.attribute("restype").value()) == "x-gettext-domain-header") return;
+    TranslationUnit unit = unitAt(element, keyOf(element));
     Codes codes;
     unit.source = textOf(childNamed(element, "source"), codes, 0);
     if (unit.key.empty()) unit.key = unit.source;
@@ -118,10 +215,8 @@ class Reader {
   }
 
   void readUnit20(pugi::xml_node element) {
-    TranslationUnit unit;
-    unit.at = document_.at(element);
     const pugi::xml_attribute name = element.attribute("name");
-    unit.key = (name ? name : element.attribute("id")).value();
+    TranslationUnit unit = unitAt(element, (name ? name : element.attribute("id")).value());
     Codes codes;
     for (const pugi::xml_node data : childNamed(element, "originalData").children())
       codes.data.emplace(data.attribute("id").value(), textOf(data, codes, 0));
@@ -141,57 +236,72 @@ class Reader {
     add(std::move(unit));
   }
 
-  /// Programs write the English text as a target where nobody has translated it yet.
   void add(TranslationUnit unit) {
+    // Programs write the English text as the target of a text that is not translated yet.
     if (unit.state == TranslationState::needsReview && unit.target == unit.source) unit.target.clear();
     translations_.units.push_back(std::move(unit));
   }
 
-  // NOLINTNEXTLINE(misc-no-recursion): codes lie in each other, up to a depth
+  // NOLINTNEXTLINE(misc-no-recursion): codes may contain codes, up to a depth
   std::string textOf(pugi::xml_node element, Codes& codes, std::size_t depth) {
-    if (depth > kDeepestCode) document_.refuse(element, "too many elements lie in each other");
+    if (depth > kDeepestCode) refuse(element, "elements are nested too deeply");
     std::string text;
-    for (const pugi::xml_node child : element.children()) {
+    for (const pugi::xml_node child : element.children())
       text += child.type() == pugi::node_element ? textOfCode(child, codes, depth + 1) : child.value();
-    }
     return text;
   }
 
   // NOLINTNEXTLINE(misc-no-recursion)
   std::string textOfCode(pugi::xml_node code, Codes& codes, std::size_t depth) {
-    std::string text = codes.dataFor(code.attribute("dataRef")) +
-                       codes.dataFor(code.attribute("dataRefStart")) + textOf(code, codes, depth) +
-                       codes.dataFor(code.attribute("dataRefEnd"));
-    if (isAnnotation(localName(code.name()))) return text;
+    // Elements around or within words that have no text of their own.
+    constexpr std::string_view kAnnotations[] = {"g", "mrk", "sm", "em", "sub"};
+    const auto dataFor = [&](const char* reference) {
+      return repeated(codes.data, code.attribute(reference).value(), code);
+    };
+    std::string text =
+        dataFor("dataRef") + dataFor("dataRefStart") + textOf(code, codes, depth) + dataFor("dataRefEnd");
+    const std::string_view name = localName(code.name());
+    if (std::find(std::begin(kAnnotations), std::end(kAnnotations), name) != std::end(kAnnotations))
+      return text;
     if (std::string_view(code.attribute("ctype").value()).starts_with("x-ch-")) return unescapedByQt(text);
     const std::string id = code.attribute("id").value();
-    if (text.empty()) text = codes.byId[id];
+    if (text.empty()) text = repeated(codes.byId, id, code);
     if (text.empty()) text = code.attribute("equiv-text").value();
-    if (text.empty()) {
-      document_.refuse(code, fmt::format("the element <{} id=\"{}\"> stands for nothing that the English "
-                                         "text has; copy the element from there",
-                                         code.name(), id));
-    }
-    codes.byId[id] = text;
+    if (text.empty())
+      refuse(
+          code,
+          fmt::format("the element <{} id=\"{}\"> does not match one in the English text; copy it from there",
+                      code.name(), id));
+    codes.byId[id] = limited(text, code);
     return text;
   }
 
-  /// What Qt's programs write for a control character.
-  static std::string unescapedByQt(std::string text) {
-    for (const auto& [escape, character] :
-         {std::pair("\\t", "\t"), std::pair("\\n", "\n"), std::pair("\\r", "\r")})
-      replaceOccurrences(text, escape, character);
+  /// The text that `texts` has for `id`; empty if it has none.
+  std::string repeated(const Texts& texts, std::string_view id, pugi::xml_node code) {
+    const auto found = texts.find(id);
+    return found == texts.end() ? "" : limited(found->second, code);
+  }
+
+  /// Returns `text`. Codes that repeat each other can make a small file's texts very long, so the sum is limited.
+  const std::string& limited(const std::string& text, pugi::xml_node code) {
+    if (text.size() > expansionLeft_)
+      refuse(code, "the inline codes make the texts too long; export the texts again");
+    expansionLeft_ -= text.size();
     return text;
   }
 
-  XMLFile document_;
+  const std::string& file_;
+  const std::string& text_;
+  pugi::xml_document document_;
+  PositionTeller positions_;
+  std::size_t expansionLeft_;
   Translations translations_;
 };
 
 }  // namespace
 
-Translations fromXLIFF(std::string bytes, const std::string& file) {
-  return Reader(std::move(bytes), file).read();
+Translations fromXLIFF(const std::string& text, const std::string& file) {
+  return XLIFFReader(text, file).read();
 }
 
 }  // namespace zk::tools

@@ -1,14 +1,18 @@
-#include <ZKStrings/platform/text/TextSearch.h>
-#include <ZKStrings/tools/exchange/XLIFF.h>
+#include <ZKStrings/tools/exchange/Formats.h>
 #include <ZKStrings/tools/project/Table.h>
 #include <ZKStrings/tools/texts/TextPieces.h>
 
 #include <algorithm>
 #include <cstddef>
+#include <functional>
+#include <initializer_list>
 #include <map>
-#include <string_view>
+#include <sstream>
+#include <utility>
+#include <vector>
 
 #include <fmt/format.h>
+#include <pugixml.hpp>
 
 namespace zk::tools {
 
@@ -16,182 +20,134 @@ namespace {
 
 using Kind = TextPiece::Kind;
 using Pieces = std::vector<TextPiece>;
+using Attribute = std::pair<const char*, std::string>;
 
-std::string inText(std::string_view text) {
-  std::string result;
-  for (const char character : text) {
-    switch (character) {
-      case '&':
-        result += "&amp;";
-        break;
-      case '<':
-        result += "&lt;";
-        break;
-      case '>':
-        result += "&gt;";
-        break;
-      case '\r':
-        result += "&#13;";
-        break;
-      default:
-        result += character;
-    }
-  }
-  return result;
+pugi::xml_node addElement(pugi::xml_node parent, const char* name,
+                          std::initializer_list<Attribute> attributes) {
+  pugi::xml_node element = parent.append_child(name);
+  for (const auto& [attribute, value] : attributes) element.append_attribute(attribute) = value.c_str();
+  return element;
 }
 
-std::string inAttribute(std::string_view text) {
-  std::string result = inText(text);
-  replaceOccurrences(result, "\"", "&quot;");
-  replaceOccurrences(result, "\n", "&#10;");
-  replaceOccurrences(result, "\t", "&#9;");
-  return result;
+/// Adds a text node, which may be empty. An element whose neighbours are text nodes is written without line breaks
+/// around it.
+void addText(pugi::xml_node element, std::string_view text) {
+  element.append_child(pugi::node_pcdata).set_value(std::string(text).c_str());
 }
 
 bool isReviewed(const TranslationUnit& unit) {
-  return unit.state == TranslationState::translated;
+  return !unit.target.empty() && unit.state == TranslationState::translated;
 }
 
-/// The content of a <source> or <target> of XLIFF 1.2.
-std::string content12(const Pieces& pieces, const Pieces& source) {
+/// Adds a <source> or <target> of XLIFF 1.2.
+void addContent12(pugi::xml_node element, const Pieces& pieces, const Pieces& source) {
   const std::vector<std::size_t> numbers = codeNumbers(pieces, source);
-  std::string content;
+  addText(element, "");
   for (std::size_t i = 0; i < pieces.size(); ++i) {
-    const std::string text = inText(pieces[i].text);
-    content += numbers[i] == 0 ? text : fmt::format("<ph id=\"{}\">{}</ph>", numbers[i], text);
+    const bool isCode = pieces[i].kind != Kind::words;
+    addText(isCode ? addElement(element, "ph", {{"id", std::to_string(numbers[i])}}) : element,
+            pieces[i].text);
+    addText(element, "");
   }
-  return content;
 }
 
-std::string unit12(const TranslationUnit& unit) {
+void addUnit12(pugi::xml_node body, const TranslationUnit& unit) {
+  pugi::xml_node element = addElement(body, "trans-unit", {{"id", unit.key}, {"resname", unit.key}});
+  if (isReviewed(unit)) element.append_attribute("approved") = "yes";
+  element.append_attribute("xml:space") = "preserve";
   const Pieces source = piecesOf(unit.source);
-  const std::string key = inAttribute(unit.key);
-  const bool isApproved = !unit.target.empty() && isReviewed(unit);
-  std::string lines = fmt::format("      <trans-unit id=\"{}\" resname=\"{}\"{} xml:space=\"preserve\">\n",
-                                  key, key, isApproved ? " approved=\"yes\"" : "");
-  lines += fmt::format("        <source>{}</source>\n", content12(source, source));
+  addContent12(element.append_child("source"), source, source);
   if (!unit.target.empty()) {
-    lines += fmt::format("        <target state=\"{}\">{}</target>\n",
-                         isReviewed(unit) ? "translated" : "needs-review-translation",
-                         content12(piecesOf(unit.target), source));
+    const char* const state = isReviewed(unit) ? "translated" : "needs-review-translation";
+    addContent12(addElement(element, "target", {{"state", state}}), piecesOf(unit.target), source);
   }
-  for (const std::string& note : unit.notes) {
-    lines += fmt::format("        <note from=\"developer\" annotates=\"source\">{}</note>\n", inText(note));
-  }
-  return lines + "      </trans-unit>\n";
+  addText(addElement(element, "note", {{"from", "developer"}, {"annotates", "source"}}), unit.notes);
 }
 
-/// The codes of one unit of XLIFF 2.0, each with the place of its text in the original data.
-class OriginalData {
- public:
-  explicit OriginalData(const TranslationUnit& unit)
-      : source_(piecesOf(unit.source)), target_(piecesOf(unit.target)) {
-    for (const Pieces* const pieces : {&source_, &target_}) {
-      for (const TextPiece& piece : *pieces) {
-        if (piece.kind != Kind::words && places_.try_emplace(piece.text, texts_.size()).second)
-          texts_.push_back(piece.text);
-      }
-    }
+/// Adds a <source> or <target> of XLIFF 2.0. `dataFor` returns the id of a code's text in the original data.
+void addContent20(pugi::xml_node element, const Pieces& pieces, const Pieces& source,
+                  const std::function<std::string(std::string_view)>& dataFor) {
+  const std::vector<std::size_t> numbers = codeNumbers(pieces, source);
+  addText(element, "");
+  for (std::size_t i = 0; i < pieces.size(); ++i) {
+    const auto& [kind, text] = pieces[i];
+    const std::string id = std::to_string(numbers[i]);
+    if (kind == Kind::words) addText(element, text);
+    if (kind == Kind::placeholder)
+      addElement(element, "ph", {{"id", id}, {"dataRef", dataFor(text)}, {"disp", std::string(text)}});
+    if (kind == Kind::opening)
+      element =
+          addElement(element, "pc",
+                     {{"id", id}, {"dataRefStart", dataFor(text)}, {"dataRefEnd", dataFor(closingOf(text))}});
+    if (kind == Kind::closing) element = element.parent();
+    addText(element, "");
   }
+}
 
-  [[nodiscard]] std::string element() const {
-    if (texts_.empty()) return "";
-    std::string lines = "      <originalData>\n";
-    for (std::size_t i = 0; i < texts_.size(); ++i)
-      lines += fmt::format("        <data id=\"d{}\">{}</data>\n", i + 1, inText(texts_[i]));
-    return lines + "      </originalData>\n";
-  }
-  [[nodiscard]] std::string source() const { return content(source_); }
-  [[nodiscard]] std::string target() const { return content(target_); }
+void addUnit20(pugi::xml_node file, const TranslationUnit& unit, std::size_t number) {
+  pugi::xml_node element = addElement(
+      file, "unit", {{"id", fmt::format("u{}", number)}, {"name", unit.key}, {"xml:space", "preserve"}});
+  addText(addElement(element.append_child("notes"), "note", {{"category", "developer"}}), unit.notes);
+  pugi::xml_node data = element.append_child("originalData");
+  std::map<std::string_view, std::size_t> dataNumbers;
+  const auto dataFor = [&](std::string_view text) {
+    const auto [place, isNew] = dataNumbers.try_emplace(text, dataNumbers.size() + 1);
+    const std::string id = fmt::format("d{}", place->second);
+    if (isNew) addText(addElement(data, "data", {{"id", id}}), text);
+    return id;
+  };
+  const Pieces source = piecesOf(unit.source);
+  pugi::xml_node segment =
+      addElement(element, "segment", {{"state", isReviewed(unit) ? "translated" : "initial"}});
+  addContent20(segment.append_child("source"), source, source, dataFor);
+  if (!unit.target.empty())
+    addContent20(segment.append_child("target"), piecesOf(unit.target), source, dataFor);
+  if (!data.first_child()) element.remove_child(data);
+}
 
- private:
-  /// From 1; 0 for words, which have no place.
-  [[nodiscard]] std::size_t placeOf(std::string_view text) const {
-    const auto place = places_.find(text);
-    return place == places_.end() ? 0 : place->second + 1;
-  }
-
-  [[nodiscard]] std::string content(const Pieces& pieces) const {
-    const std::vector<std::size_t> numbers = codeNumbers(pieces, source_);
-    std::string result;
-    for (std::size_t i = 0; i < pieces.size(); ++i) {
-      const std::string text = inText(pieces[i].text);
-      const std::size_t data = placeOf(pieces[i].text);
-      switch (pieces[i].kind) {
-        case Kind::words:
-          result += text;
-          break;
-        case Kind::placeholder:
-          result += fmt::format("<ph id=\"{}\" dataRef=\"d{}\" disp=\"{}\"/>", numbers[i], data, text);
-          break;
-        case Kind::opening:
-          result += fmt::format("<pc id=\"{}\" dataRefStart=\"d{}\" dataRefEnd=\"d{}\">", numbers[i], data,
-                                placeOf(closingOf(pieces[i].text)));
-          break;
-        case Kind::closing:
-          result += "</pc>";
-      }
-    }
-    return result;
-  }
-
-  const Pieces source_;
-  const Pieces target_;
-  std::vector<std::string_view> texts_;
-  std::map<std::string_view, std::size_t> places_;  // of the texts
-};
-
-std::string unit20(const TranslationUnit& unit, std::size_t number) {
-  const OriginalData codes(unit);
-  std::string lines = fmt::format("    <unit id=\"u{}\" name=\"{}\" xml:space=\"preserve\">\n", number,
-                                  inAttribute(unit.key));
-  if (!unit.notes.empty()) {
-    lines += "      <notes>\n";
-    for (const std::string& note : unit.notes)
-      lines += fmt::format("        <note category=\"developer\">{}</note>\n", inText(note));
-    lines += "      </notes>\n";
-  }
-  lines += codes.element();
-  const bool isTranslated = !unit.target.empty() && isReviewed(unit);
-  lines += fmt::format("      <segment state=\"{}\">\n", isTranslated ? "translated" : "initial");
-  lines += fmt::format("        <source>{}</source>\n", codes.source());
-  if (!unit.target.empty()) lines += fmt::format("        <target>{}</target>\n", codes.target());
-  return lines + "      </segment>\n    </unit>\n";
+std::string saved(const pugi::xml_document& document) {
+  std::ostringstream stream;
+  document.save(stream, "  ", pugi::format_default, pugi::encoding_utf8);
+  return stream.str();
 }
 
 }  // namespace
 
-bool fitsXML(std::string_view text) {
+bool fitsXLIFF(std::string_view text) {
   const bool hasNoncharacter =
       text.find("\uFFFE") != std::string_view::npos || text.find("\uFFFF") != std::string_view::npos;
   return !hasNoncharacter && std::none_of(text.begin(), text.end(), [](char character) {
     const auto byte = static_cast<unsigned char>(character);
-    return byte < 0x20 && character != '\t' && character != '\n' && character != '\r';
+    return byte < 0x20 && character != '\t' && character != '\n';
   });
 }
 
 std::string toXLIFF12(const Translations& translations) {
-  std::string document =
-      fmt::format(R"(<?xml version="1.0" encoding="UTF-8"?>
-<xliff version="1.2" xmlns="urn:oasis:names:tc:xliff:document:1.2">
-  <file original="{}" source-language="en" target-language="{}" datatype="plaintext">
-    <body>
-)",
-                  inAttribute(tablePath(translations.language)), inAttribute(translations.language));
-  for (const TranslationUnit& unit : translations.units) document += unit12(unit);
-  return document + "    </body>\n  </file>\n</xliff>\n";
+  pugi::xml_document document;
+  const pugi::xml_node root =
+      addElement(document, "xliff", {{"version", "1.2"}, {"xmlns", "urn:oasis:names:tc:xliff:document:1.2"}});
+  pugi::xml_node file = addElement(root, "file",
+                                   {{"original", tablePath(translations.language)},
+                                    {"source-language", "en"},
+                                    {"target-language", translations.language},
+                                    {"datatype", "plaintext"}});
+  const pugi::xml_node body = file.append_child("body");
+  for (const TranslationUnit& unit : translations.units) addUnit12(body, unit);
+  return saved(document);
 }
 
 std::string toXLIFF20(const Translations& translations) {
-  std::string document =
-      fmt::format(R"(<?xml version="1.0" encoding="UTF-8"?>
-<xliff version="2.0" xmlns="urn:oasis:names:tc:xliff:document:2.0" srcLang="en" trgLang="{}">
-  <file id="f1" original="{}">
-)",
-                  inAttribute(translations.language), inAttribute(tablePath(translations.language)));
+  pugi::xml_document document;
+  const pugi::xml_node root = addElement(document, "xliff",
+                                         {{"version", "2.0"},
+                                          {"xmlns", "urn:oasis:names:tc:xliff:document:2.0"},
+                                          {"srcLang", "en"},
+                                          {"trgLang", translations.language}});
+  const pugi::xml_node file =
+      addElement(root, "file", {{"id", "f1"}, {"original", tablePath(translations.language)}});
   std::size_t number = 0;
-  for (const TranslationUnit& unit : translations.units) document += unit20(unit, ++number);
-  return document + "  </file>\n</xliff>\n";
+  for (const TranslationUnit& unit : translations.units) addUnit20(file, unit, ++number);
+  return saved(document);
 }
 
 }  // namespace zk::tools

@@ -62,21 +62,24 @@ TEST(ExchangeFormat, ReadsWhatItWrites) {
       "msgid \"x\"",
       "ü 日本語 עברית 🎉 e\u0301 \u200E+1",
       "]]> <!-- -->",
+      "\"\u0301 &\u0301 <\u0301 \\\u0301",
+      "one\n=1+1\n'-2;+3;\t@4",
+      "'\n=1",
   };
   Translations sent{"de", {}};
   for (const char* const text : kTexts) {
     const std::string key = fmt::format("key {}, \"x\" & <ü>", sent.units.size());
     const std::string english = fmt::format("English of {}", text);
-    sent.units.push_back({key, english, text, TranslationState::translated, {"A \"note\"\nand -- a line."}});
+    sent.units.push_back({key, english, text, TranslationState::translated, "A \"note\"\nand -- a line."});
     sent.units.push_back({key + "b", english, text, TranslationState::needsReview, {}});
     sent.units.push_back({key + "c", text, "", TranslationState::missing, {}});
   }
   for (const auto& [format, name] : kForms) expectSame(sent, readBack(written(sent, format), name), name);
-  // What is between quotes in CSV has the line ends of the program that wrote it.
-  sent.units = {{"k", "a\rb", "b\r\na", TranslationState::translated, {}}};
-  for (const auto& [format, name] : kForms) {
-    if (format != ExchangeFormat::csv) expectSame(sent, readBack(written(sent, format), name), name);
-  }
+  sent.units = {{"k", "a\rb", "\r\na\r\n", TranslationState::translated, {}}};
+  expectSame(sent, readBack(written(sent, ExchangeFormat::po), "a.po"), "a.po");
+  // Programs that save CSV choose the line ends within cells.
+  const Translations csv = readBack(written(sent, ExchangeFormat::csv), "a.csv");
+  EXPECT_EQ(csv.units[0].target, "\na\n");
 }
 
 TEST(ExchangeFormat, KeepsAllShippedTexts) {
@@ -90,19 +93,20 @@ TEST(ExchangeFormat, KeepsAllShippedTexts) {
   }
 }
 
-TEST(ExchangeFormat, WritesNothingThatASpreadsheetTakesForAFormula) {
+TEST(ExchangeFormat, WritesNoFormulasForSpreadsheets) {
   Translations sent{"de", {}};
-  for (const char* const text : {"=1+1", "+1", "-1", "@SUM(A1)", "\t=1", "\r=1", "'=1", "＝1"})
-    sent.units.push_back({text, text, text, TranslationState::translated, {text}});
+  for (const char* const text : {"=1+1", "+1", "-1", "@SUM(A1)", "\t=1", "\r=1", "'=1", "＝1", "a\n=1",
+                                 "a;=1", "\"\u0301,=1", "a\n;\t=1"})
+    sent.units.push_back({text, text, text, TranslationState::translated, text});
   const std::string table = written(sent, ExchangeFormat::csv);
-  constexpr const char* kFormulas[] = {"\"=",  "\"+", "\"-", "\"@", "\"\t", ",\"\r",
-                                       "\"＝", ",=",  ",+",  ",-",  ",@"};
+  constexpr const char* kFormulas[] = {",\"=", ",\"+", ",\"-", ",\"@", ",\"\t",  ",\"\r", ",\"＝",
+                                       "\n=",  "\t=",  "\n\t", ";=",   ",\"\"=", "\n;=",  ";\t"};
   for (const char* const begin : kFormulas)
     EXPECT_EQ(table.find(begin), std::string::npos) << begin << "\n" << table;
 }
 
-// It would take minutes if each row were as much work as the line of titles is long, or if languages were looked up
-// anew for each title.
+// This takes minutes if the work for each row grows with the number of titles, or if all languages are read again for
+// each title.
 TEST(ExchangeFormat, ReadsShortRowsUnderManyTitles) {
   std::string table = "key,en";
   for (int title = 0; title < 100'000; ++title) table += ",c" + std::to_string(title);
