@@ -1,4 +1,4 @@
-// How the page looks, on any screen and to anyone.
+// The layout, the colours and the accessibility of the page.
 const assert = require("node:assert");
 const { before, after, test } = require("node:test");
 const axe = require("axe-core");
@@ -22,7 +22,7 @@ test("The page of all languages stays below 3 MB", () => {
   assert.ok(statSync(shipped).size < 3_000_000);
 });
 
-test("axe finds nothing serious", async () => {
+test("The accessibility checker reports nothing serious", async () => {
   for (const colorScheme of ["light", "dark"]) {
     for (const width of WIDTHS) {
       for (const address of ADDRESSES) {
@@ -30,16 +30,16 @@ test("axe finds nothing serious", async () => {
         await page.selectOption("#language", "2", { force: true });
         await page.evaluate(axe.source);
         const { violations } = await page.evaluate(() => window.axe.run());
-        const grave = violations.filter(({ impact }) => ["serious", "critical"].includes(impact));
-        const told = grave.map(({ id, nodes }) => `${id}: ${nodes[0].html}\n${nodes[0].failureSummary}`);
-        assert.deepStrictEqual(told, [], `${colorScheme} ${width} ${address}`);
+        const serious = violations.filter(({ impact }) => ["serious", "critical"].includes(impact));
+        const reports = serious.map(({ id, nodes }) => `${id}: ${nodes[0].html}\n${nodes[0].failureSummary}`);
+        assert.deepStrictEqual(reports, [], `${colorScheme} ${width} ${address}`);
         await page.context().close();
       }
     }
   }
 });
 
-test("Nothing is wider than the screen", async () => {
+test("No part of the page is wider than the screen", async () => {
   for (const width of WIDTHS) {
     for (const file of [shipped, small]) {
       for (const address of [
@@ -57,7 +57,7 @@ test("Nothing is wider than the screen", async () => {
   }
 });
 
-test("On a narrow screen a card takes the list's place, and gives it back", async () => {
+test("On a narrow screen a card replaces the list until it is closed", async () => {
   const page = await open(browser, small, { viewport: { width: 320, height: 700 } });
   assert.ok(await page.isHidden("#card"));
   await page.click("#list a >> nth=0");
@@ -78,7 +78,7 @@ test("Each text has its language and direction", async () => {
   assert.strictEqual(await German.evaluate((text) => getComputedStyle(text).direction), "ltr");
   const name = page.locator("#card h3 [lang=ar]");
   assert.strictEqual(await name.textContent(), "العربية");
-  // On the screen too, the question mark is on the left of the name, and the name on the left of the verb.
+  // On the screen, from the left: the question mark, the name, the verb.
   const [verb, mark] = await Arabic.evaluate((text) => {
     const leftOf = (node, offset) => {
       const range = document.createRange();
@@ -91,14 +91,14 @@ test("Each text has its language and direction", async () => {
   const values = (of) => of.locator(".value").evaluateAll((all) => all.map((one) => one.getBoundingClientRect().left));
   const [value] = await values(Arabic);
   assert.ok(mark < value && value < verb, `${mark} ${value} ${verb}`);
-  // Two numbers that an app shows as "12/50" among Arabic words stand so here as well.
+  // "12/50" in Arabic text is shown with the 12 on the left, as apps show it.
   await page.evaluate(() => (location.hash = "active_limit_players"));
   await page.waitForSelector("#card-title:has-text('active')");
   const [active, limit] = await values(Arabic);
   assert.ok(active < limit, `${active} ${limit}`);
 });
 
-test("Values, marks and what nobody fills in have colours of their own", async () => {
+test("Values, marks and unfilled placeholders have different colours", async () => {
   const page = await open(browser, small, { address: "#Kick_username" });
   const color = (place) =>
     page
@@ -132,7 +132,7 @@ test("The page follows the system's dark mode", async () => {
   assert.ok((await lightness("dark")) < 50);
 });
 
-test("In print there are the texts alone, all of them", async () => {
+test("Print shows all texts and nothing else", async () => {
   const page = await open(browser, small);
   await page.emulateMedia({ media: "print" });
   assert.ok(await page.isHidden("#filters"));
@@ -141,7 +141,7 @@ test("In print there are the texts alone, all of them", async () => {
   assert.ok(!isCut);
   const full = await open(browser, shipped);
   const [first, all, texts] = await full.evaluate(() => {
-    document.getElementById("filters").dispatchEvent(new Event("input")); // makes the list anew, in steps
+    document.getElementById("filters").dispatchEvent(new Event("input")); // makes the list again, in batches
     const first = list.children.length;
     dispatchEvent(new Event("beforeprint"));
     return [first, list.children.length, document.getElementById("count").textContent];

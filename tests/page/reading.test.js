@@ -13,15 +13,15 @@ before(async () => {
 });
 after(() => browser.close());
 
-test("The search finds a text by what one knows of it, the best first", async () => {
+test("The search finds a text by any part of it, the best match first", async () => {
   const page = await open(browser, shipped);
   const searches = {
     active_limit_players: "active_limit_players", // the key
     "12/50 players": "active_limit_players", // what a screen shows
     "7/9 PLAYERS": "active_limit_players",
     "Are you sure you want to kick robin?": "Are_you_sure_you_want_to_kick_username",
-    "want to kick robin": "Are_you_sure_you_want_to_kick_username", // a part of it
-    "Möchtest du robin wirklich rausw": "Are_you_sure_you_want_to_kick_username", // another language, still typed
+    "want to kick robin": "Are_you_sure_you_want_to_kick_username", // a part
+    "Möchtest du robin wirklich rausw": "Are_you_sure_you_want_to_kick_username", // another language, still being typed
     "mochtest du robin wirklich raus": "Are_you_sure_you_want_to_kick_username", // without accents
     "warm up and win coins": "In_the_meantime_warm_up_nand_win_coins", // over a line break
     "%{active}/%{limit}": "active_limit_players",
@@ -39,7 +39,7 @@ test("The search finds a text by what one knows of it, the best first", async ()
   assert.deepStrictEqual(page.problems, []);
 });
 
-test("Filters leave the texts that are so", async () => {
+test("Filters leave the matching texts", async () => {
   const page = await open(browser, small);
   const German = "2";
   const Arabic = "1";
@@ -70,7 +70,7 @@ test("Filters leave the texts that are so", async () => {
   }
 });
 
-test("A bar shows how far a language has come, and chooses it", async () => {
+test("A bar shows the progress of a language and selects it", async () => {
   const page = await open(browser, small);
   const bars = page.locator("#coverage button");
   assert.deepStrictEqual(
@@ -90,7 +90,7 @@ test("A bar shows how far a language has come, and chooses it", async () => {
   assert.match(await page.textContent("#table-findings"), /expected ";".*fr\.lproj\/Localizable\.strings:2:/);
 });
 
-test("A card shows one text in every language, for each count", async () => {
+test("A card shows one text in every language and plural form", async () => {
   const page = await open(browser, small, { address: "#badgeCount_Badges" });
   const rows = (language) => page.locator(`#card table[aria-label^="${language}"] tr`).allInnerTexts();
   assert.deepStrictEqual(await rows("English"), [
@@ -119,14 +119,14 @@ test("A card shows one text in every language, for each count", async () => {
   assert.strictEqual(await page.locator("#card th[title='few: 3 to 5']").count(), 4);
 });
 
-test("A card shows what translators are told about the text", async () => {
+test("A card shows the text's comment and limit", async () => {
   const page = await open(browser, small, { address: "#Be_quick" });
   const context = await page.textContent("#card .context");
   assert.strictEqual(context, 'A shout at the end. <img src=x onerror="broken = 9"> At most 12 characters.');
   assert.match(await page.innerText(".language:has([lang=de]) header"), /needs review/);
 });
 
-test("A text's address opens its card, and any other says so", async () => {
+test("An address opens the card of its text or reports that there is none", async () => {
   const page = await open(browser, small, { address: "#Coins/count" });
   assert.strictEqual(await page.locator("#card table").count(), 4);
   await page.evaluate(() => (location.hash = "Coins"));
@@ -137,7 +137,7 @@ test("A text's address opens its card, and any other says so", async () => {
   assert.deepStrictEqual(page.problems, []);
 });
 
-test("The accessor call is copied", async () => {
+test("The button copies the accessor call", async () => {
   const page = await open(browser, small, {
     address: "#active_limit_players",
     permissions: ["clipboard-read", "clipboard-write"],
@@ -167,7 +167,7 @@ test("Everything can be reached from the keyboard", async () => {
   await page.waitForSelector("#card .help");
   assert.match(await focused(), /^active_limit_players/);
   await page.keyboard.press("/");
-  await page.keyboard.press("Escape"); // empties the search
+  await page.keyboard.press("Escape"); // clears the search
   assert.strictEqual(await page.inputValue("#search"), "");
   for (let i = 0; i < 3; ++i) await page.keyboard.press("ArrowDown");
   assert.match(await focused(), /^b_Terms_b_Rules/);

@@ -33,7 +33,7 @@ constexpr std::string_view kEndOfOverride = "\u202C";
 
 using Kind = TextPiece::Kind;
 
-/// Replaces `text` by what `make` returns for it, except for the white space at both ends, which stays.
+/// Applies `make` to `text` without the white space at its ends, and puts the white space back.
 template <class Make>
 std::string withinSpaces(std::string_view text, const Make& make) {
   constexpr std::string_view kSpaces = " \t\n";
@@ -69,7 +69,7 @@ std::string accentedAndLonger(std::string_view text) {
   return result;
 }
 
-/// `text` with marks that reverse each word, and with marks at the ends of each line.
+/// `text` with each word reversed by direction marks, and with right-to-left marks at line breaks.
 std::string reversed(std::string_view text) {
   std::string result;
   while (!text.empty()) {

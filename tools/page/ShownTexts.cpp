@@ -59,7 +59,7 @@ std::string ShownTexts::filledIn(const EnglishText& english, std::optional<std::
   return localizedString(resources_, entry.key, entry.text, count, values);
 }
 
-/// An example within an example does not show another text, so that no text contains itself.
+/// A nested example does not refer to another text, so no text can contain itself.
 ShownTexts::Values ShownTexts::valuesFor(const EnglishText& english, std::optional<std::int64_t> count,
                                          bool isNested) const {
   Values values;

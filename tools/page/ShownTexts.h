@@ -20,13 +20,13 @@ class ShownTexts {
   /// Throws `CommandFailed` if Base.lproj is missing or cannot be opened: the engine cannot run without it.
   ShownTexts(const std::string& root, const EnglishTexts& english);
 
-  /// Chooses the language of the texts: "Base" or a code. This is the language of the whole process.
+  /// Sets the language of the texts, "Base" or a code, for the whole process.
   void choose(std::string_view language) const;
 
   /// The text of the key of `english` in the chosen language.
   [[nodiscard]] std::string text(const EnglishText& english) const;
-  /// The same text with each value as U+FDD0, the placeholder's name, U+FDD1, the value, U+FDD2. These
-  /// noncharacters occur in no text.
+  /// The same text with each value as U+FDD0, the placeholder's name, U+FDD1, the value, U+FDD2. Unicode reserves
+  /// these noncharacters for internal use.
   [[nodiscard]] std::string markedText(const EnglishText& english) const;
 
  private:

@@ -1,11 +1,11 @@
-// The card of one text: the text in every language, and all that is known about it.
+// The card of one text: the text in every language, with its state and findings.
 const card = document.getElementById("card");
 
 function copyButton(source, what) {
   const button = element("button", { type: "button", className: "copy" }, "Copy");
   button.setAttribute("aria-label", `Copy ${what}`);
   button.addEventListener("click", async () => {
-    getSelection().selectAllChildren(source); // for copying by hand if the browser forbids the next step
+    getSelection().selectAllChildren(source); // to copy by hand if the browser refuses below
     try {
       await navigator.clipboard.writeText(source.textContent);
       button.textContent = "Copied";

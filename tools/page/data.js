@@ -37,16 +37,16 @@ const entries = data.entries.map((entry) => {
 });
 const entriesByAddress = new Map(entries.map((entry) => [entry.address, entry]));
 
-/** A value that the engine has filled in: its placeholder's name, then the value. */
+/** Matches a value that the engine has filled in, with the name of its placeholder. */
 const VALUE = /\uFDD0(.*?)\uFDD1(.*?)\uFDD2/gs;
 
-/** How much longer than the English text the text is, in percent. */
+/** The percentage by which the text is longer than the English text. */
 function excess(language, text) {
   const length = english.characters[text];
   return length === 0 ? 0 : Math.round((language.characters[text] / length - 1) * 100);
 }
 
-/** Calls `visit` with the index of each of the entry's texts until one call returns true; returns whether one did. */
+/** Whether `visit` returns true for the index of one of the entry's texts. */
 function someText(entry, visit) {
   for (let text = entry.first; text <= entry.last; ++text) {
     if (visit(text)) return true;

@@ -7,7 +7,7 @@ for (const language of translations) {
   controls.language.append(new Option(`${language.native} (${language.english})`, language.index));
 }
 
-/** The language chosen to show next to English; undefined for all. */
+/** The language to show next to English; undefined for all languages. */
 function chosenLanguage() {
   return controls.language.value === "" ? undefined : languages[controls.language.value];
 }

@@ -63,7 +63,7 @@ function addRows(of, batch = 100) {
   if (rows < shownEntries.length) setTimeout(addRows, 0, of);
 }
 
-/** Prints all rows, even right after the list has changed. */
+// Paper shows all rows, even right after the list has changed.
 addEventListener("beforeprint", () => addRows(listing, entries.length));
 
 /** Shows the entries that pass the filters. */

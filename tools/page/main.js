@@ -7,7 +7,7 @@ function openAddress() {
   try {
     address = decodeURIComponent(address);
   } catch {
-    // Not a valid address: shown as it is.
+    // The card shows the address as it is.
   }
   const before = openEntry;
   openEntry = entriesByAddress.get(address);

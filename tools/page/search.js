@@ -15,7 +15,7 @@ function folded(text) {
 
 const PLACEHOLDER = /%\{[\p{L}\p{N}]+\}/u;
 
-/** The strings that the search compares with, made on first use. */
+/** The key, texts and patterns that the search compares with, made on first use. */
 function searchable(entry) {
   if (entry.searchable) return entry.searchable;
   const texts = new Set();
@@ -46,8 +46,8 @@ function overlap(text, begin) {
 }
 
 /**
- * The number of characters in `query` that come from the text itself, if `query` is a part of the text with some
- * values filled in; 0 if not. `pieces` are the parts of the text around its placeholders.
+ * The number of characters of `query` that are not values, if `query` is a part of the text with any values; 0 if
+ * it is not. `pieces` are the parts of the text around its placeholders.
  */
 function ownCharacters(query, pieces) {
   let best = 0;

@@ -28,7 +28,7 @@ std::string mirrored(const std::string& text, std::string_view suffix = "") {
   return mirroredText({"key", &entry, suffix, text, nullptr});
 }
 
-TEST(PseudoLocales, AccentAndLengthenLettersAlone) {
+TEST(PseudoLocales, AccentAndLengthenLettersOnly) {
   struct Case {
     const char* english;
     const char* accented;
@@ -68,7 +68,7 @@ class PseudoTables : public ::testing::Test {
   const std::string resources_;
 };
 
-TEST_F(PseudoTables, KeepAllThatTranslationsMustKeep) {
+TEST_F(PseudoTables, PassTheChecksOfTranslations) {
   // They keep English dots, and no other language chooses their directories.
   const CheckOptions options{
       .languages = {"xa", "xb"},

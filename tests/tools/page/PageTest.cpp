@@ -28,7 +28,7 @@ std::string marked(const std::string& name, const std::string& value) {
   return "\uFDD0" + name + "\uFDD1" + value + "\uFDD2";
 }
 
-TEST(Page, HoldsWhatTheEngineShowsAndHowFarItIsTranslated) {
+TEST(Page, HasTheTextsOfTheEngineAndTheirStates) {
   const TemporaryProject project;
   project.write(TemporaryProject::table("de"), R"~("About" = "Über";
 "badgeCount_Badges_zero" = "Keine";
@@ -85,7 +85,7 @@ TEST(Page, ReportsEachFindingAtItsText) {
   EXPECT_FALSE(hasFinding(nullptr, "missing-key")) << findings;
 }
 
-TEST(Page, LeavesOutFoldersThatTheModuleNeverChooses) {
+TEST(Page, OmitsFoldersThatTheEngineNeverChooses) {
   const TemporaryProject project;
   for (const char* language : {"en", "pt-BR", "de"}) project.write(TemporaryProject::table(language), "");
   EXPECT_EQ(dataOf(project)["languages"].size(), 2u);
@@ -109,7 +109,7 @@ TEST(Page, NeedsACatalogueAndTheEnglishFolder) {
   EXPECT_THROW(static_cast<void>(pageOf(withoutCatalogue.root())), CommandFailed);
 }
 
-TEST(Page, HasNoTextOutsideItsData) {
+TEST(Page, HasTextsInItsDataOnly) {
   const TemporaryProject peaceful;
   const TemporaryProject hostile;
   hostile.write(TemporaryProject::table("Base"), "\"About\" = \"</script><!--<script>@DATA@]]>\";");
@@ -185,7 +185,7 @@ TEST(ShownTexts, FillInOtherTextsAsTheyAreTranslated) {
   EXPECT_EQ(text("agree_to_terms"), "agree to Nutzungsbedingungen");
   EXPECT_EQ(text("Read_terms"), "Read Gone");
   EXPECT_EQ(text("players_remain"), "3 Spieler von players remain");
-  // A text that would contain itself.
+  // A text that refers to itself.
   EXPECT_EQ(text("playersCount_players_few"), "4 Spieler von 3 Spieler von players");
 }
 
