@@ -1,3 +1,4 @@
+#include <ZKStrings/platform/system/File.h>
 #include <ZKStrings/tools/authoring/Initialisation.h>
 #include <ZKStrings/tools/project/Catalogue.h>
 #include <ZKStrings/tools/project/Table.h>
@@ -55,15 +56,15 @@ std::string readmeFor(const CatalogueName& name) {
                      fmt::arg("call", scope + name.name + "::"));
 }
 
-/// Throws when one of the files of a new catalogue is there already.
+/// Throws if one of the files of a new catalogue exists with other contents. A killed command leaves the same ones.
 void refuseToReplace(const std::string& directory, const std::vector<FileChange>& files) {
   Diagnostics diagnostics;
   for (const FileChange& file : files) {
     const std::filesystem::path path = std::filesystem::path(directory) / file.path;
     std::error_code failure;
-    if (std::filesystem::exists(path, failure))
+    if (std::filesystem::exists(path, failure) && contentsOfFile(path) != file.bytes)
       diagnostics.push_back({Severity::error, path.string(), 1, 1, "",
-                             "the file is there already; name another folder for a new catalogue"});
+                             "the file exists already; use another folder for a new catalogue"});
   }
   if (!diagnostics.empty()) throw CommandFailed{diagnostics};
 }
@@ -75,9 +76,10 @@ void initCatalogue(const std::string& directory, const CatalogueName& name) {
     throw std::invalid_argument(fmt::format("the name {} is the module's own; choose another", name.name));
   if (const std::string fault = name.fault(); !fault.empty()) throw std::invalid_argument(fault);
   const std::vector<FileChange> files = {{CatalogueSettings::kFile, settingsFor(name)},
-                                         {Catalogue::kFile, kEntries},
                                          {tablePath(kBase), kEnglish},
-                                         {"README.md", readmeFor(name)}};
+                                         {"README.md", readmeFor(name)},
+                                         {Catalogue::kFile, kEntries}};
+  lockProject(directory);
   refuseToReplace(directory, files);
   writeFiles(directory, files);
 }

@@ -41,10 +41,10 @@ bool isTemporary(const fs::path& path) {
          name.rfind(kTemporary) == name.size() - kTemporary.size() - kRandom.size();
 }
 
+template <class Iterator>
 void removeTemporaryFiles(const fs::path& folder) {
   std::error_code failure;
-  for (fs::recursive_directory_iterator entry(folder, failure), end; !failure && entry != end;
-       entry.increment(failure)) {
+  for (Iterator entry(folder, failure), end; !failure && entry != end; entry.increment(failure)) {
     std::error_code ignored;
     if (isTemporary(entry->path())) fs::remove(entry->path(), ignored);
   }
@@ -214,11 +214,13 @@ void lockProject(const std::string& root) {
   // The folder stays open until the process ends, which releases the lock.
   const int folder = open(root.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
   if (flock(folder, LOCK_EX | LOCK_NB) != 0) {
-    if (errno != EWOULDBLOCK) return;  // a file system without locks
+    if (errno != EWOULDBLOCK) return;  // a file system without locks, or no such folder yet
     std::fputs("Another zkstrings is changing this project; waiting for it.\n", stderr);
     if (flock(folder, LOCK_EX) != 0) return;
   }
-  for (const char* const name : {"catalogue", "resources"}) removeTemporaryFiles(fs::path(root) / name);
+  removeTemporaryFiles<fs::directory_iterator>(root);
+  for (const char* const name : {"catalogue", "resources"})
+    removeTemporaryFiles<fs::recursive_directory_iterator>(fs::path(root) / name);
 }
 
 std::string readFile(const std::string& root, const std::string& path) {

@@ -5,6 +5,7 @@
 #include <csignal>
 #include <filesystem>
 #include <string>
+#include <utility>
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -47,25 +48,54 @@ TEST(Files, AreAllChangedOrNone) {
   EXPECT_EQ(filesIn(project.path()), 3u);
 }
 
-TEST(Files, KeepTheirPermissionsAndLinks) {
+TEST(Files, KeepTheirPermissionsOwnersAndLinks) {
   const zk::testing::TemporaryDirectory project;
   project.write("real", "old");
   const auto permissions = fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_write;
   fs::permissions(project.path() + "/real", permissions);
+  const bool isRoot = chown((project.path() + "/real").c_str(), 1234, 5678) == 0;
   fs::create_symlink("real", project.path() + "/link");
   writeFile(project.path(), "link", "new");
   EXPECT_TRUE(fs::is_symlink(project.path() + "/link"));
   EXPECT_EQ(readFile(project.path(), "real"), "new");
   EXPECT_EQ(fs::status(project.path() + "/real").permissions(), permissions);
+  struct stat real {};
+  ASSERT_EQ(stat((project.path() + "/real").c_str(), &real), 0);
+  EXPECT_EQ(real.st_uid == 1234U && real.st_gid == 5678U, isRoot);
+}
+
+TEST(Files, AreNotWrittenThroughLinksOutOfTheProject) {
+  const zk::testing::TemporaryDirectory outside;
+  outside.write("project/inside/a", "old");
+  outside.write("project-2/a", "old");
+  const std::string project = outside.path() + "/project";
+  fs::create_symlink(outside.path() + "/project-2/a", project + "/file");
+  fs::create_directory_symlink("../project-2", project + "/folder");
+  fs::create_directory_symlink("inside", project + "/within");
+  for (const std::string path :
+       {"file", "folder/a", "folder/new", "folder/deep/new", "within/../../project-2/a"}) {
+    for (const std::string& root : {project, project + "/"})
+      EXPECT_THROW(writeFile(root, path, "new"), CommandFailed) << path;
+    EXPECT_EQ(filesIn(outside.path()), 3u) << path;
+  }
+  EXPECT_EQ(readFile(outside.path(), "project-2/a"), "old");
+  writeFile(project + "/", "within/a", "new");
+  EXPECT_EQ(readFile(project, "inside/a"), "new");
+  writeFile("", project + "/file", "named by the user");
+  EXPECT_EQ(readFile(outside.path(), "project-2/a"), "named by the user");
 }
 
 TEST(Files, LeaveOthersBesideThemAlone) {
   const zk::testing::TemporaryDirectory project;
-  project.write("a", "old");
-  project.write("a.new", "the user's own");
-  writeFile(project.path(), "a", "new");
-  EXPECT_EQ(readFile(project.path(), "a") + ", " + readFile(project.path(), "a.new"), "new, the user's own");
-  EXPECT_EQ(filesIn(project.path()), 2u);
+  project.write("catalogue/a", "old");
+  for (const char* own : {"a.zkstrings-", "a.zkstrings-1234567", ".zkstrings-123456"})
+    project.write(std::string("catalogue/") + own, "the user's own");
+  for (const char* left : {"README.md.zkstrings-123456", "resources/de.lproj/b.zkstrings-abcXYZ"})
+    project.write(left, "left by a killed command");
+  lockProject(project.path());
+  writeFile(project.path(), "catalogue/a", "new");
+  EXPECT_EQ(readFile(project.path(), "catalogue/a"), "new");
+  EXPECT_EQ(filesIn(project.path()), 4u);
 }
 
 TEST(Files, AreMadeWithTheUsersMask) {
