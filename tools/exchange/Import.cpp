@@ -79,50 +79,62 @@ class Importer {
 
   void importUnit(const TranslationUnit& unit, const EnglishText& english, const TableEntry* entry,
                   const TableEntry* before) {
-    const std::string key = escaped(unit.key);
     const TranslationState present = stateOf(language_, entry, english);
-    const std::string_view translation = translationIn(entry, present);
     if (isBlank(unit.target)) {
-      if (present == TranslationState::translated && !isBlank(translation))
+      if (present == TranslationState::translated && !isBlank(entry->text))
         report(Severity::note, unit,
-               fmt::format("\"{}\" has no translation here; the table's translation is kept", key));
+               fmt::format("\"{}\" has no translation here; the table's is kept", escaped(unit.key)));
       return;
     }
     const bool isOutdated = unit.source != english.text;
-    if (isOutdated && !force_)
-      return refuse(unit,
-                    fmt::format("the English text of \"{}\" is now \"{}\", no longer \"{}\"; check that the "
-                                "translation still fits, then import with --force",
-                                key, escaped(english.text), escaped(unit.source)));
-    const TranslationState state = isOutdated ? TranslationState::needsReview : unit.state;
-    const bool isSameText = entry && entry->text == unit.target;
+    const TranslationState state = isOutdated && force_ ? TranslationState::needsReview : unit.state;
     const bool hasMark = entry && (isMarked(*entry, TranslationState::untranslated) ||
                                    isMarked(*entry, TranslationState::needsReview));
     const bool setsState = hasMark || state == TranslationState::needsReview;
-    if (isSameText && (present == state || !setsState)) {
+    if (entry && entry->text == unit.target && (present == state || !setsState)) {
       ++result_.unchanged;
-      return;
+    } else if (std::string reason = whyStale(unit, english, entry, present); !reason.empty() && !force_) {
+      refuse(unit, std::move(reason));
+    } else if (entry) {
+      change(unit, *entry, present, state, setsState);
+    } else {
+      editor_.insertBehind(before,
+                           (setsState ? markFor(state) + "\n" : "") + tableLine(unit.key, unit.target));
+      log(unit, result_.added, fmt::format("is added: {}", shown(unit.target, state)));
     }
-    if (!force_ && hasOtherVersion(unit, versionNote(translation, present)))
-      return refuse(
-          unit, fmt::format("\"{}\" has changed in the table since the export: the table has {}, this file "
-                            "{}; --force takes the file's",
-                            key, shown(translation, present), shown(unit.target, state)));
+  }
+
+  /// What has changed since `unit` was exported; empty if nothing has.
+  static std::string whyStale(const TranslationUnit& unit, const EnglishText& english,
+                              const TableEntry* entry, TranslationState present) {
+    if (unit.source != english.text)
+      return fmt::format(
+          "the English text of \"{}\" is now \"{}\", no longer \"{}\"; check that the translation still "
+          "fits, then "
+          "import with --force",
+          escaped(unit.key), escaped(english.text), escaped(unit.source));
+    const std::string_view translation = translationIn(entry, present);
+    if (!hasOtherVersion(unit, versionNote(translation, present))) return "";
+    return fmt::format(
+        "\"{}\" has changed in the table since the export: the table has {}, this file {}; --force takes the "
+        "file's",
+        escaped(unit.key), shown(translation, present), shown(unit.target, unit.state));
+  }
+
+  void change(const TranslationUnit& unit, const TableEntry& entry, TranslationState present,
+              TranslationState state, bool setsState) {
+    const bool isSameText = entry.text == unit.target;
+    if (!isSameText) editor_.replaceText(entry, unit.target);
+    if (setsState) editor_.setState(entry, state);
+    log(unit, isSameText ? result_.stateChanged : result_.changed,
+        fmt::format("is changed from {} to {}", shown(entry.text, present), shown(unit.target, state)));
+  }
+
+  void log(const TranslationUnit& unit, std::size_t& count, const std::string& change) {
+    ++count;
     imported_.emplace(unit.key, &unit);
-    const auto log = [&](std::size_t& count, std::string change) {
-      ++count;
-      changes_.push_back({Severity::note, file_, unit.at.line, unit.at.column, "", std::move(change)});
-    };
-    if (!entry) {
-      const std::string mark = setsState ? markFor(state) + "\n" : "";
-      editor_.insertBehind(before, mark + tableLine(english.key, unit.target));
-      return log(result_.added, fmt::format("\"{}\" is added: {}", key, shown(unit.target, state)));
-    }
-    if (!isSameText) editor_.replaceText(*entry, unit.target);
-    if (setsState) editor_.setState(*entry, state);
-    log(isSameText ? result_.stateChanged : result_.changed,
-        fmt::format("\"{}\" is changed from {} to {}", key, shown(entry->text, present),
-                    shown(unit.target, state)));
+    changes_.push_back({Severity::note, file_, unit.at.line, unit.at.column, "",
+                        fmt::format("\"{}\" {}", escaped(unit.key), change)});
   }
 
   void write() {
