@@ -1,6 +1,7 @@
 #include <ZKStrings/tools/check/Checker.h>
 #include <ZKStrings/tools/check/CountryRules.h>
 #include <ZKStrings/tools/check/Glossary.h>
+#include <ZKStrings/tools/check/LanguageRules.h>
 #include <ZKStrings/tools/check/TableRules.h>
 #include <ZKStrings/tools/check/TextRules.h>
 #include <ZKStrings/tools/project/Catalogue.h>
@@ -11,7 +12,6 @@
 #include <ZKStrings/tools/texts/TextFeatures.h>
 
 #include <algorithm>
-#include <array>
 #include <filesystem>
 #include <functional>
 #include <optional>
@@ -28,10 +28,6 @@ namespace zk::tools {
 namespace fs = std::filesystem;
 
 namespace {
-
-std::array<std::span<const RuleFor<Translation>>, 6> translationRules() {
-  return {placeholderRules(), textRules(), glossaryRules(), wordRules(), typographyRules(), noteRules()};
-}
 
 class Checker {
  public:
@@ -63,7 +59,7 @@ class Checker {
   }
 
  private:
-  /// Calls `read` and keeps what is wrong with the file that it reads. Returns whether nothing is.
+  /// Calls `read` and keeps the errors of the file that it reads. Returns whether there were none.
   template <class Read>
   bool tryTo(const Read& read) {
     try {
@@ -117,19 +113,20 @@ class Checker {
   void checkTable(const std::string& language, const Table& table, bool isListable,
                   const std::optional<Catalogue>& catalogue, const Table& base) {
     ++result_.tables;
-    apply(tableRules(), LanguageTable{language, table, isListable}, table.file);
-    if (!catalogue) return;
-    // The English table is no measure of itself.
-    const EnglishTexts english(*catalogue, language == kBase ? Table{} : base);
-    const KeyedTable keyed{language, table, english, glossary_.styleOf(language)};
-    apply(keyRules(), keyed, table.file);
-    apply(gapRules(), keyed, table.file);
+    std::optional<EnglishTexts> english;
+    // The English table is compared with the catalogue, not with itself.
+    if (catalogue) english.emplace(*catalogue, language == kBase ? Table{} : base);
+    const CheckedTable checked{language, table, english ? &*english : nullptr, glossary_.styleOf(language),
+                               isListable};
+    apply(tableRules(), checked, table.file);
+    if (!english) return;
+    apply(pluralRules(), checked, table.file);
     for (const TableEntry& entry : table.entries) {
-      const EnglishText* const text = english.find(entry.key);
+      const EnglishText* const text = english->find(entry.key);
       if (!text || isBlank(entry.text)) continue;
-      for (const auto rules : translationRules()) {
-        apply(rules, Translation{language, entry, *text, glossary_}, table.file);
-      }
+      const Translation translation{language, entry, *text, glossary_};
+      apply(textRules(), translation, table.file);
+      apply(languageRules(), translation, table.file);
     }
   }
 
@@ -139,7 +136,7 @@ class Checker {
       if (!applies(rule)) continue;
       Findings findings;
       rule.find(subject, findings);
-      const TableEntry* last = nullptr;  // a rule may find much in one entry, which has many comments
+      const TableEntry* last = nullptr;  // one entry may have many findings and many comments
       bool isOff = false;
       for (Finding& finding : findings.all()) {
         if (finding.entry != last) isOff = finding.entry && isSwitchedOff(*finding.entry, rule.name);
@@ -169,9 +166,9 @@ std::vector<Rule> checkRules() {
   std::vector<Rule> rules;
   const auto add = [&](const auto& some) { rules.insert(rules.end(), some.begin(), some.end()); };
   add(tableRules());
-  add(keyRules());
-  add(gapRules());
-  for (const auto some : translationRules()) add(some);
+  add(pluralRules());
+  add(textRules());
+  add(languageRules());
   add(countryRules());
   std::stable_sort(rules.begin(), rules.end(),
                    [](const Rule& one, const Rule& other) { return one.severity < other.severity; });

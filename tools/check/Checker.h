@@ -13,15 +13,15 @@
 namespace zk::tools {
 
 struct CheckOptions {
-  std::vector<std::string> languages;  ///< the tables to check; without any, all of them and the country list
-  std::vector<std::string> off;        ///< names of rules to leave out
-  bool notes = false;                  ///< whether rules apply that only note
+  std::vector<std::string> languages;  ///< the tables to check (default: all tables and the country list)
+  std::vector<std::string> off;        ///< names of rules that do not apply
+  bool notes = false;                  ///< whether rules that only note apply
 };
 
 struct CheckResult {
   Diagnostics diagnostics;    ///< sorted by file and place
   std::size_t tables = 0;     ///< how many were checked
-  std::size_t countries = 0;  ///< those of the list, if it was checked
+  std::size_t countries = 0;  ///< how many the list has, if it was checked
 };
 
 /// All rules, errors first.
@@ -29,13 +29,12 @@ struct CheckResult {
 /// Returns why `name` is not a rule and what to write instead; empty if it is a rule.
 [[nodiscard]] std::string errorInRuleName(std::string_view name);
 
-/// Finds all that is wrong or missing in the catalogue, the tables and the country list of the project at
-/// `root`. A comment `/* check: off RULE */` before an entry switches a rule off for the entry. A
-/// file that cannot be read is a fault like others; without a catalogue, texts are compared with nothing.
-/// Throws `CommandFailed` when resources/ cannot be listed.
+/// Checks the catalogue, the tables and the country list of the project at `root`. A comment `/* check: off RULE */`
+/// before an entry switches a rule off for that entry. If the catalogue cannot be read, the rules that compare texts
+/// with it do not apply. Throws `CommandFailed` if resources/ cannot be listed.
 [[nodiscard]] CheckResult check(const std::string& root, const CheckOptions& options);
 
-/// Finds the same in `table` alone, of `language`, which need not be in a file yet. `base` is the English one.
+/// Checks `table`, of `language`, which need not be in a file yet. `base` is the English table.
 [[nodiscard]] Diagnostics checkTable(const std::string& language, const Table& table,
                                      const Catalogue& catalogue, const Table& base);
 

@@ -1,11 +1,17 @@
+#include <ZKStrings/platform/formats/Json.h>
+#include <ZKStrings/platform/formats/TextEncoding.h>
 #include <ZKStrings/region/Country.h>
 #include <ZKStrings/tools/check/CountryRules.h>
 #include <ZKStrings/tools/project/Table.h>
+#include <ZKStrings/tools/support/Files.h>
+#include <ZKStrings/tools/support/Json.h>
 #include <ZKStrings/tools/texts/TextFeatures.h>
 
 #include <algorithm>
 #include <cstdint>
+#include <filesystem>
 #include <map>
+#include <system_error>
 
 #include <fmt/format.h>
 #include <fmt/ranges.h>
@@ -23,12 +29,12 @@ void forEachCountry(const CountryFile& file, const Visit& visit) {
 }
 
 void findNoList(const CountryFile& file, Findings& findings) {
-  if (file.fault) findings.add(file.fault->at, file.fault->message);
+  if (file.error) findings.add(file.error->at, file.error->message);
   for (const auto& [at, value] : file.elements) {
     if (value.as<Dictionary>()) continue;
     findings.add(
         at,
-        "the element is no object, and the module offers no country at all; write {\"name\": \"...\", "
+        "the element is not an object, so the module offers no country at all; write {\"name\": \"...\", "
         "\"phoneCode\": 0, \"iso\": \"...\"}");
   }
 }
@@ -41,8 +47,8 @@ void findDropped(const CountryFile& file, Findings& findings) {
     if (!country.find<std::int64_t>("phoneCode"))
       wrong.push_back("\"phoneCode\" (an integer without quotes)");
     if (!country.find<std::string>("iso")) wrong.push_back("\"iso\" (a text)");
-    findings.add(
-        at, fmt::format("the module drops this country, for want of {}; write it", fmt::join(wrong, ", ")));
+    findings.add(at, fmt::format("the module drops this country because {} is missing; add it",
+                                 fmt::join(wrong, ", ")));
   });
 }
 
@@ -53,7 +59,7 @@ void findDuplicates(const CountryFile& file, Findings& findings) {
     if (!code) return;
     const auto [first, isNew] = lines.try_emplace(*code, at.line);
     if (isNew) return;
-    findings.add(at, fmt::format("the code \"{}\" stands already in line {}; remove one of the two",
+    findings.add(at, fmt::format("the code \"{}\" is already in line {}; remove one of the two",
                                  escaped(*code), first->second));
   });
 }
@@ -82,13 +88,14 @@ void findPhoneCodes(const CountryFile& file, Findings& findings) {
     const auto* const code = country.find<std::int64_t>("phoneCode");
     if (!code || *code > 0) return;
     findings.add(
-        at,
-        fmt::format("the phone code {} is no calling code; write it as dialled, without plus sign", *code));
+        at, fmt::format("the phone code {} is not a calling code; write it as dialled, without a plus sign",
+                        *code));
   });
 }
 
 constexpr RuleFor<CountryFile> kRules[] = {
-    {{"country-list", Severity::error, "a country list that is no array of objects"}, findNoList},
+    {{"country-list", Severity::error, "a country list that is not an array of objects, or is empty"},
+     findNoList},
     {{"dropped-country", Severity::error, "a country that the module leaves out"}, findDropped},
     {{"duplicate-country", Severity::error, "two countries with one ISO code"}, findDuplicates},
     {{"country-code", Severity::error, "an ISO code that is not two capital letters"}, findCodes},
@@ -97,6 +104,42 @@ constexpr RuleFor<CountryFile> kRules[] = {
 };
 
 }  // namespace
+
+bool CountryFile::isExpected(const std::string& root, bool isModule) {
+  std::error_code failure;
+  return isModule || std::filesystem::exists(std::filesystem::path(root) / kFile, failure);
+}
+
+CountryFile CountryFile::read(const std::string& root) {
+  try {
+    return parse(readFile(root, kFile));
+  } catch (const CommandFailed& failed) {
+    return {{}, Finding{{1, 1}, failed.diagnostics.front().message}};
+  }
+}
+
+CountryFile CountryFile::parse(const std::string& bytes) {
+  const auto failed = [](Position at, const std::string& message) {
+    return CountryFile{{}, Finding{at, "the module offers no country: " + message}};
+  };
+  const std::optional<std::string> text = decodedText(bytes, UnmarkedText::mayBeUtf16Or32);
+  if (!text) return failed({1, 1}, "the file is not text; save it as UTF-8");
+  CountryFile file;
+  std::vector<JsonValue> elements;
+  try {
+    elements = JsonValue::parse(*text, kFile).elements();
+  } catch (const CommandFailed& failure) {
+    const Diagnostic& error = failure.diagnostics.front();
+    return failed({error.line, error.column}, error.message);
+  }
+  const std::optional<Value> content = parseJson(bytes);
+  const auto* const list = content ? content->as<Value::List>() : nullptr;
+  if (!list || list->size() != elements.size())
+    return failed({1, 1}, "it cannot read the file; save it as UTF-8");
+  if (list->empty()) return failed({1, 1}, "the list is empty; add the countries");
+  for (std::size_t i = 0; i < list->size(); ++i) file.elements.push_back({elements[i].at(), (*list)[i]});
+  return file;
+}
 
 std::span<const RuleFor<CountryFile>> countryRules() {
   return kRules;

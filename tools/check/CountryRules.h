@@ -11,7 +11,7 @@
 
 namespace zk::tools {
 
-/// The country list, as far as it can be read.
+/// The readable part of the country list.
 struct CountryFile {
   static constexpr const char* kFile = "resources/countries.json";
 
@@ -20,13 +20,13 @@ struct CountryFile {
     Value value;
   };
   std::vector<Element> elements;
-  std::optional<Finding> fault;  ///< what keeps the file from being an array
+  std::optional<Finding> error;  ///< why the file is not an array of countries
 
-  /// Whether the project at `root` has a list or, as the module's own, must have one.
+  /// Returns whether the project at `root` must have a list: the module's own catalogue must, others may.
   [[nodiscard]] static bool isExpected(const std::string& root, bool isModule);
-  /// Reads the list of the project at `root`. A file that cannot be read has a fault.
+  /// Reads the list of the project at `root`.
   [[nodiscard]] static CountryFile read(const std::string& root);
-  /// The same of the bytes of such a file.
+  /// Reads the list from the content of such a file.
   [[nodiscard]] static CountryFile parse(const std::string& bytes);
 };
 

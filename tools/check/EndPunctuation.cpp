@@ -16,7 +16,7 @@ struct Punctuation {
   Ending ending;
 };
 
-/// The punctuation of all scripts. What ends in another stands before it.
+/// The punctuation of all scripts. A mark that ends with another is before it.
 constexpr Punctuation kPunctuation[] = {
     {"...", Ending::ellipsis},   {"。。。", Ending::ellipsis}, {"…", Ending::ellipsis},
     {"⋯", Ending::ellipsis},     {"‥", Ending::ellipsis},      {".", Ending::stop},
@@ -40,8 +40,8 @@ std::string_view lastCharacter(std::string_view text) {
   return text.substr(begin);
 }
 
-/// Closing quotes, brackets and marks. German and Polish close with quotes that open elsewhere; a brace
-/// closes a placeholder.
+/// Closing quotes, brackets and marks. German and Polish close with quotes that open in other languages. A brace closes
+/// a placeholder.
 bool isClosingMark(UChar32 character) {
   constexpr std::string_view kAscii = "\"'*";
   if (character < 0x80 && kAscii.find(static_cast<char>(character)) != std::string_view::npos) return true;
@@ -59,7 +59,7 @@ bool isPartOfEmoji(UChar32 character) {
                      [&](UProperty property) { return u_hasBinaryProperty(character, property) != 0; });
 }
 
-/// Whether the character says nothing of how the text before it ends.
+/// Whether the character may follow the final punctuation.
 bool isPassedOver(std::string_view character) {
   const CodePoint codePoint = firstCodePoint(character);
   if (!codePoint.value) return false;

@@ -4,12 +4,11 @@
 
 namespace zk::tools {
 
-/// What a text ends in, whatever the form that its script gives to it.
+/// The final punctuation of a text, in any script.
 enum class Ending { none, stop, question, exclamation, ellipsis, colon, semicolon, comma };
 
-/// How `text`, in `language`, ends. What may follow the punctuation is passed over: white space, closing
-/// quotes and brackets, `</b>` and `*`, emoji, and marks of direction. The number of an ordinal, "3.", has no
-/// full stop.
+/// Returns the final punctuation of `text`, in `language`. White space, closing quotes and brackets, `</b>`, `*`, emoji
+/// and direction marks may follow it. An ordinal, "3.", has no full stop.
 [[nodiscard]] Ending endingOf(std::string_view text, std::string_view language);
 
 /// "a full stop".

@@ -86,9 +86,9 @@ std::size_t Words::offsetOf(std::size_t at) const {
 
 bool Phrase::Pattern::matches(const Word& word) const {
   const std::string_view here = hasCapitals ? word.spelled : std::string_view(word.folded);
-  if (isOpenBefore && isOpenBehind) return here.find(text) != std::string_view::npos;
+  if (isOpenBefore && isOpenAfter) return here.find(text) != std::string_view::npos;
   if (isOpenBefore) return here.ends_with(text);
-  return isOpenBehind ? here.starts_with(text) : here == text;
+  return isOpenAfter ? here.starts_with(text) : here == text;
 }
 
 Phrase::Phrase(std::string_view spelled) {

@@ -10,11 +10,11 @@ namespace zk::tools {
 /// `text` with Unicode's full case folding.
 [[nodiscard]] std::string caseFolded(std::string_view text);
 
-/// What of a text is language: each placeholder, `<b>` tag, handle and address in it is replaced by as many
-/// blanks as it has bytes, so that offsets stay.
+/// Returns `text` with each placeholder, `<b>` tag, handle and address replaced by blanks of the same size, so offsets
+/// stay the same.
 [[nodiscard]] std::string proseOf(std::string_view text);
 
-/// A word as it stands in a text, and case-folded.
+/// A word of a text as it is written and case-folded.
 struct Word {
   std::string_view spelled;
   std::string folded;
@@ -37,14 +37,13 @@ class Words {
   std::vector<Word> words_;
 };
 
-/// One word or several in a row that are looked for in texts. A star at the end of a word stands for any
-/// ending, one at its beginning for any beginning. A word with capitals is found so spelled only, others
-/// whatever their case.
+/// One or several words in a row to find in texts. A star at the beginning or end of a word matches any letters. A word
+/// with capitals matches only the same capitals, other words match any case.
 class Phrase {
  public:
   explicit Phrase(std::string_view spelled);
 
-  /// The number of words of `words` from `at` on that are the phrase; 0 when it does not stand there.
+  /// Returns the number of words of the phrase if `words` has it at `at`, else 0.
   [[nodiscard]] std::size_t sizeAt(const Words& words, std::size_t at) const;
 
  private:
@@ -52,7 +51,7 @@ class Phrase {
     std::string text;
     bool hasCapitals;
     bool isOpenBefore;
-    bool isOpenBehind;
+    bool isOpenAfter;
     [[nodiscard]] bool matches(const Word& word) const;
   };
   std::vector<Pattern> patterns_;
@@ -61,8 +60,7 @@ class Phrase {
 using Phrases = std::vector<Phrase>;
 [[nodiscard]] Phrases phrasesOf(const std::vector<std::string>& spelled);
 
-/// The number of words from `at` on that are one of the phrases, the first that is found; 0 when there is
-/// none.
+/// Returns the number of words of the first of `phrases` that `words` has at `at`, 0 if it has none.
 [[nodiscard]] std::size_t sizeAt(const Phrases& phrases, const Words& words, std::size_t at);
 
 }  // namespace zk::tools

@@ -10,26 +10,25 @@
 
 namespace zk::tools {
 
-/// A rule as users see it.
+/// A rule of `check`.
 struct Rule {
-  std::string_view name;  ///< under which it can be switched off
+  std::string_view name;  ///< the name that switches it off
   Severity severity;
   std::string_view summary;  ///< what it finds
 };
 
-/// A place where a rule is broken. Rules say no more than that; who applies them knows file, name and
-/// severity.
+/// A place where a rule is broken. The checker adds file, rule and severity.
 struct Finding {
   Position at;
   std::string message;                ///< what is wrong; what to do
-  const TableEntry* entry = nullptr;  ///< the entry whose comment can switch the rule off
+  const TableEntry* entry = nullptr;  ///< the entry whose comments can switch the rule off
 };
 
 class Findings {
  public:
-  /// For what is no entry's fault.
+  /// Adds a finding that does not belong to an entry.
   void add(Position at, std::string message) { all_.push_back({at, std::move(message)}); }
-  /// For the text of `entry`, or the place `at` in it.
+  /// Adds a finding for the text of `entry`, or for the place `at` in it.
   void add(const TableEntry& entry, std::string message) { add(entry, entry.textAt, std::move(message)); }
   void add(const TableEntry& entry, Position at, std::string message) {
     all_.push_back({at, std::move(message), &entry});
@@ -41,7 +40,7 @@ class Findings {
   std::vector<Finding> all_;
 };
 
-/// A rule and how to find where `Subject` breaks it.
+/// A rule and the function that finds where a `Subject` breaks it.
 template <class Subject>
 struct RuleFor : Rule {
   void (*find)(const Subject& subject, Findings& findings);

@@ -1,3 +1,4 @@
+#include <ZKStrings/tools/check/Checker.h>
 #include <ZKStrings/tools/check/TableRules.h>
 #include <ZKStrings/tools/project/EntryComments.h>
 #include <ZKStrings/tools/support/Languages.h>
@@ -6,9 +7,13 @@
 #include <ZKStrings/tools/translation/TranslationState.h>
 
 #include <algorithm>
+#include <array>
+#include <cstddef>
 #include <map>
 #include <optional>
+#include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <fmt/format.h>
@@ -19,17 +24,22 @@ namespace zk::tools {
 namespace {
 
 constexpr Position kFileBegin = {1, 1};
-constexpr std::string_view kReplacementCharacter = "\uFFFD";
 
-void findDirectory(const LanguageTable& subject, Findings& findings) {
+bool isWellFormed(const CheckedTable& subject) {
+  return subject.table.diagnostics.empty();
+}
+
+// The directory and the file
+
+void findDirectory(const CheckedTable& subject, Findings& findings) {
   std::string reason = whyNeverChosen(subject.language);
   if (!reason.empty()) findings.add(kFileBegin, std::move(reason));
 }
 
-void findMissingTable(const LanguageTable& subject, Findings& findings) {
+void findMissingTable(const CheckedTable& subject, Findings& findings) {
   const Table& table = subject.table;
-  const bool isMissing = !table.diagnostics.empty() && table.diagnostics.front().rule == Table::kMissing;
-  const bool isEmpty = table.diagnostics.empty() && table.entries.empty();
+  const bool isMissing = !isWellFormed(subject) && table.diagnostics.front().rule == Table::kMissing;
+  const bool isEmpty = isWellFormed(subject) && table.entries.empty();
   if (subject.language == kBase && (isMissing || isEmpty)) {
     findings.add(kFileBegin,
                  "the English table is missing, empty or not readable, and without it an app stops at its "
@@ -42,106 +52,249 @@ void findMissingTable(const LanguageTable& subject, Findings& findings) {
   }
 }
 
-/// What reading the file has found already.
+/// Reports the errors that reading the file has found under the same rule.
 template <const char* rule>
-void findWhileReading(const LanguageTable& subject, Findings& findings) {
+void findWhileReading(const CheckedTable& subject, Findings& findings) {
   for (const Diagnostic& diagnostic : subject.table.diagnostics) {
     if (diagnostic.rule == rule) findings.add({diagnostic.line, diagnostic.column}, diagnostic.message);
   }
 }
 
-void findDuplicates(const LanguageTable& subject, Findings& findings) {
-  std::map<std::string_view, std::size_t> lines;
+// The entries
+
+/// A rule for each entry by itself.
+template <void (*find)(const TableEntry&, Findings&)>
+void inEntries(const CheckedTable& subject, Findings& findings) {
+  for (const TableEntry& entry : subject.table.entries) find(entry, findings);
+}
+
+void findDuplicates(const CheckedTable& subject, Findings& findings) {
+  std::map<std::string_view, const TableEntry*> firsts;
   for (const TableEntry& entry : subject.table.entries) {
-    const auto [first, isNew] = lines.try_emplace(entry.key, entry.keyAt.line);
+    const auto [first, isNew] = firsts.try_emplace(entry.key, &entry);
     if (isNew) continue;
-    findings.add(entry, entry.keyAt,
-                 fmt::format("the key \"{}\" stands already in line {}; remove one of the two",
-                             escaped(entry.key), first->second));
-  }
-}
-
-void findReplacementCharacters(const LanguageTable& subject, Findings& findings) {
-  for (const TableEntry& entry : subject.table.entries) {
-    const std::size_t offset = entry.text.find(kReplacementCharacter);
-    if (offset == std::string::npos) continue;
-    findings.add(entry, TextPlaces(entry).at(offset),
-                 "U+FFFD stands in the text, where a conversion has lost a character; write the character");
-  }
-}
-
-void findControlCharacters(const LanguageTable& subject, Findings& findings) {
-  for (const TableEntry& entry : subject.table.entries) {
-    const std::size_t offset = findControlCharacter(entry.text);
-    if (offset == std::string::npos) continue;
+    const bool isSame = first->second->text == entry.text;
     findings.add(
-        entry, TextPlaces(entry).at(offset),
-        fmt::format("the control character U+{:04X} stands in the text, which shows as nothing or as a "
-                    "box; remove it",
-                    static_cast<unsigned>(entry.text[offset])));
+        entry, entry.keyAt,
+        fmt::format("the key \"{}\" is already in line {}{}", escaped(entry.key), first->second->keyAt.line,
+                    isSame ? "; remove one of the two" : " with another text; keep the right one"));
   }
 }
 
-void findEmptyTexts(const LanguageTable& subject, Findings& findings) {
-  for (const TableEntry& entry : subject.table.entries) {
-    if (isBlank(entry.text)) {
-      findings.add(entry, fmt::format("the text of \"{}\" is empty, and so is what users see; write a text",
-                                      escaped(entry.key)));
-    }
+void findReplacementCharacter(const TableEntry& entry, Findings& findings) {
+  const std::size_t offset = entry.text.find("\uFFFD");
+  if (offset == std::string::npos) return;
+  findings.add(entry, TextPlaces(entry).at(offset),
+               "the text has U+FFFD, which replaces a character that a conversion lost; write the character");
+}
+
+void findControlCharacterIn(const TableEntry& entry, Findings& findings) {
+  const std::size_t offset = findControlCharacter(entry.text);
+  if (offset == std::string::npos) return;
+  findings.add(entry, TextPlaces(entry).at(offset),
+               fmt::format("the text has the control character U+{:04X}, which is invisible or shown as a "
+                           "box; remove it",
+                           static_cast<unsigned>(entry.text[offset])));
+}
+
+void findEmptyText(const TableEntry& entry, Findings& findings) {
+  if (!isBlank(entry.text)) return;
+  findings.add(entry, fmt::format("the text of \"{}\" is empty, so users see nothing; write a text",
+                                  escaped(entry.key)));
+}
+
+void findUnknownEscapes(const TableEntry& entry, Findings& findings) {
+  for (const auto& [at, spelled] : entry.unknownEscapes) {
+    findings.add(
+        entry, at,
+        fmt::format("unknown escape \"{}\", of which users do not see the backslash; remove it, or write "
+                    "\"\\\\\" to show one",
+                    spelled));
   }
 }
 
-void findUnknownEscapes(const LanguageTable& subject, Findings& findings) {
-  for (const TableEntry& entry : subject.table.entries) {
-    for (const auto& [at, spelled] : entry.unknownEscapes) {
-      findings.add(
-          entry, at,
-          fmt::format("the escape \"{}\" is unknown, and its backslash lost; remove the backslash, or "
-                      "write \"\\\\\" when it is meant to show",
-                      spelled));
-    }
-  }
-}
-
-void findUnknownStates(const LanguageTable& subject, Findings& findings) {
+/// Returns why the tools do not understand a comment `state: ...`; empty if they do.
+std::string errorInState(const std::vector<std::string_view>& words) {
   const std::vector<std::string_view> states = {nameOf(TranslationState::untranslated),
                                                 nameOf(TranslationState::needsReview)};
-  for (const TableEntry& entry : subject.table.entries) {
-    for (const TableEntry::Comment& comment : entry.comments) {
-      const std::string state = fmt::format("{}", fmt::join(wordsTold(comment, kState), " "));
-      if (state.empty() || std::find(states.begin(), states.end(), state) != states.end()) continue;
-      const std::optional<std::string_view> meant = nearest(state, states);
-      findings.add(entry, comment.at,
-                   fmt::format("no entry is marked as \"{}\"; {}", state,
-                               didYouMean(meant, fmt::format("write \"{}\", or remove the comment",
-                                                             fmt::join(states, "\" or \"")))));
-    }
+  const std::string state = fmt::format("{}", fmt::join(words, " "));
+  if (std::find(states.begin(), states.end(), state) != states.end()) return "";
+  const std::optional<std::string_view> meant = nearest(state, states);
+  return fmt::format(
+      "unknown state \"{}\"; {}", state,
+      didYouMean(meant, fmt::format("write \"{}\", or remove the comment", fmt::join(states, "\" or \""))));
+}
+
+/// Returns why the tools do not understand a comment `check: ...`; empty if they do.
+std::string errorInSwitch(const std::vector<std::string_view>& words) {
+  if (words.size() < 2 || words[0] != "off") return "the comment has no effect; write \"check: off RULE\"";
+  for (auto rule = words.begin() + 1; rule != words.end(); ++rule) {
+    if (std::string error = errorInRuleName(*rule); !error.empty()) return error;
+  }
+  return "";
+}
+
+void findUnknownComments(const TableEntry& entry, Findings& findings) {
+  for (const TableEntry::Comment& comment : entry.comments) {
+    const auto state = wordsTold(comment, kState);
+    const auto off = wordsTold(comment, kCheck);
+    std::string error = state ? errorInState(*state) : off ? errorInSwitch(*off) : "";
+    if (!error.empty()) findings.add(entry, comment.at, std::move(error));
   }
 }
 
-constexpr RuleFor<LanguageTable> kRules[] = {
-    {{"language-directory", Severity::error, "a directory that the module never chooses, by its name"},
+// The keys
+
+/// Returns the keys that the module looks up and the table lacks.
+std::vector<std::string_view> missingKeys(const CheckedTable& subject) {
+  std::vector<std::string_view> missing;
+  for (const EnglishText& english : subject.english->all()) {
+    if (!subject.table.find(english.key)) missing.push_back(english.key);
+  }
+  return missing;
+}
+
+void findMissingEnglish(const CheckedTable& subject, Findings& findings) {
+  if (subject.language != kBase || !isWellFormed(subject) || subject.table.entries.empty()) return;
+  for (const std::string_view key : missingKeys(subject)) {
+    findings.add(kFileBegin, fmt::format("the English table lacks \"{}\"; add the entry", key));
+  }
+}
+
+/// Returns the key whose plural form `key` would be if it were a plural form.
+std::string_view withoutSuffix(std::string_view key) {
+  for (const PluralForm& form : kPluralForms) {
+    if (key.ends_with(form.suffix)) return key.substr(0, key.size() - form.suffix.size());
+  }
+  return key;
+}
+
+/// Finds the keys that misspelt ones may mean.
+struct MeantKeys {
+  std::vector<std::string_view> missing;  ///< those that the table lacks, the likeliest
+  std::vector<std::string_view> all;
+  std::size_t searches = 100;  ///< the remaining ones, because each is slow
+
+  explicit MeantKeys(const CheckedTable& subject) : missing(missingKeys(subject)) {
+    for (const EnglishText& english : subject.english->all()) all.push_back(english.key);
+  }
+  std::optional<std::string_view> find(std::string_view key) {
+    if (searches == 0) return std::nullopt;
+    --searches;
+    const std::optional<std::string_view> meant = nearest(key, missing);
+    return meant ? meant : nearest(key, all);
+  }
+};
+
+/// Returns what to do about a key that nothing looks up.
+std::string fixFor(std::string_view key, const CheckedTable& subject, MeantKeys& meantKeys) {
+  if (subject.english->find(std::string(key) + "_many")) {
+    return fmt::format("its entry has plural forms; write \"{0}_zero\" to \"{0}_many\" instead", key);
+  }
+  const std::string_view bare = withoutSuffix(key);
+  if (bare != key && subject.english->find(bare)) {
+    return fmt::format("\"{}\" has no plural forms; remove this one", bare);
+  }
+  const std::optional<std::string_view> meant = meantKeys.find(key);
+  return didYouMean(meant, "remove the entry");
+}
+
+void findUnknownKeys(const CheckedTable& subject, Findings& findings) {
+  MeantKeys meantKeys(subject);
+  for (const TableEntry& entry : subject.table.entries) {
+    if (subject.english->find(entry.key)) continue;
+    const std::string key = escaped(entry.key);
+    findings.add(entry, entry.keyAt,
+                 fmt::format("nothing looks up the key \"{}\"; {}", key, fixFor(key, subject, meantKeys)));
+  }
+}
+
+// What is not translated yet
+
+/// Calls `visit` with each entry of a well-formed translation in `state`, null for a missing one, in the order of the
+/// catalogue.
+template <class Visit>
+void forEachIn(TranslationState state, const CheckedTable& subject, const Visit& visit) {
+  if (subject.language == kBase || !isWellFormed(subject)) return;
+  for (const EnglishText& english : subject.english->all()) {
+    const TableEntry* const entry = subject.table.find(english.key);
+    if (stateOf(subject.language, entry, english) == state) visit(entry);
+  }
+}
+
+/// "1 text", "12 texts".
+std::string texts(std::size_t count) {
+  return fmt::format("{} text{}", count, count == 1 ? "" : "s");
+}
+
+void findMissing(const CheckedTable& subject, Findings& findings) {
+  std::size_t missing = 0;
+  forEachIn(TranslationState::missing, subject, [&](const TableEntry*) { ++missing; });
+  if (missing == 0) return;
+  findings.add(kFileBegin, fmt::format("{} missing; zkstrings update {} adds {} in English", texts(missing),
+                                       subject.language, missing == 1 ? "it" : "them"));
+}
+
+void findUntranslated(const CheckedTable& subject, Findings& findings) {
+  std::size_t untranslated = 0;
+  const TableEntry* first = nullptr;
+  forEachIn(TranslationState::untranslated, subject, [&](const TableEntry* entry) {
+    if (!first || entry->span.begin < first->span.begin) first = entry;
+    ++untranslated;
+  });
+  if (untranslated == 0) return;
+  findings.add(first->textAt,
+               fmt::format("{} untranslated, starting here; zkstrings update {} marks {}",
+                           texts(untranslated), subject.language, untranslated == 1 ? "it" : "them"));
+}
+
+void findNeedsReview(const CheckedTable& subject, Findings& findings) {
+  forEachIn(TranslationState::needsReview, subject, [&](const TableEntry* entry) {
+    findings.add(
+        *entry, fmt::format("the English text of \"{}\" has changed; correct the translation, then remove {}",
+                            escaped(entry->key), markFor(TranslationState::needsReview)));
+  });
+}
+
+/// A rule that compares the table with the catalogue.
+template <void (*find)(const CheckedTable&, Findings&)>
+void withCatalogue(const CheckedTable& subject, Findings& findings) {
+  if (subject.english) find(subject, findings);
+}
+
+constexpr RuleFor<CheckedTable> kRules[] = {
+    {{"language-directory", Severity::error,
+      "a directory that the module never chooses, because of its name"},
      findDirectory},
     {{Table::kMissing, Severity::error, "a language's directory without a table that can be read"},
      findMissingTable},
-    {{Table::kEncoding, Severity::error, "bytes that are no text in the file's encoding"},
+    {{Table::kEncoding, Severity::error, "bytes that are not text in the file's encoding"},
      findWhileReading<Table::kEncoding>},
     {{Table::kSyntax, Severity::error, "a table that is not well formed: the module reads nothing of it"},
      findWhileReading<Table::kSyntax>},
-    {{"duplicate-key", Severity::error, "a key that stands twice in a table"}, findDuplicates},
-    {{"replacement-character", Severity::error, "U+FFFD in a text"}, findReplacementCharacters},
-    {{"control-character", Severity::error, "a control character in a text, line breaks and tabs aside"},
-     findControlCharacters},
-    {{"empty-text", Severity::warning, "a text of nothing or white space"}, findEmptyTexts},
-    {{"unknown-escape", Severity::warning, "a backslash before a character that it gives no meaning"},
-     findUnknownEscapes},
-    {{"unknown-state", Severity::warning, "a comment \"state:\" with another word than those it may have"},
-     findUnknownStates},
+    {{"duplicate-key", Severity::error, "a key that is in the table twice"}, findDuplicates},
+    {{"replacement-character", Severity::error, "U+FFFD in a text"}, inEntries<findReplacementCharacter>},
+    {{"control-character", Severity::error, "a control character in a text, except line breaks and tabs"},
+     inEntries<findControlCharacterIn>},
+    {{"empty-text", Severity::warning, "an empty text, or only white space"}, inEntries<findEmptyText>},
+    {{"unknown-escape", Severity::warning, "a backslash before a character for which it has no meaning"},
+     inEntries<findUnknownEscapes>},
+    {{"unknown-comment", Severity::warning,
+      "a comment \"state:\" or \"check:\" that the tools do not understand"},
+     inEntries<findUnknownComments>},
+    {{"missing-english", Severity::warning, "a key that the module looks up and the English table lacks"},
+     withCatalogue<findMissingEnglish>},
+    {{"unknown-key", Severity::warning, "a key that nothing looks up"}, withCatalogue<findUnknownKeys>},
+    {{"missing-key", Severity::gap, "texts that the table of a translation lacks"},
+     withCatalogue<findMissing>},
+    {{kUntranslatedRule, Severity::gap, "texts that are still in English"}, withCatalogue<findUntranslated>},
+    {{"needs-review", Severity::gap, "a translation whose English text has changed"},
+     withCatalogue<findNeedsReview>},
 };
 
 }  // namespace
 
-std::span<const RuleFor<LanguageTable>> tableRules() {
+std::span<const RuleFor<CheckedTable>> tableRules() {
   return kRules;
 }
 

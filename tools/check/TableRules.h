@@ -10,29 +10,20 @@
 
 namespace zk::tools {
 
-/// The table of one language.
-struct LanguageTable {
+/// The table of one language, and what it is compared with.
+struct CheckedTable {
   std::string_view language;
   const Table& table;
+  const EnglishTexts* english;  ///< null if the catalogue cannot be read
+  const LanguageStyle& style;
   bool isDirectoryListable;  ///< the module skips a directory that it cannot list
 };
 
-/// The rules for a table by itself: its directory, its file, each entry without regard to its meaning.
-[[nodiscard]] std::span<const RuleFor<LanguageTable>> tableRules();
+/// The rules for a table as a whole: its directory, its file, its keys and what is not translated yet.
+[[nodiscard]] std::span<const RuleFor<CheckedTable>> tableRules();
 
-/// The table of one language, beside the keys that the module looks up.
-struct KeyedTable {
-  std::string_view language;
-  const Table& table;
-  const EnglishTexts& english;
-  const LanguageStyle& style;
-};
-
-/// The rules for the keys of a table, which are wrong and which the English one lacks, and for the plural forms of one key.
-[[nodiscard]] std::span<const RuleFor<KeyedTable>> keyRules();
-
-/// The rules for what is not translated yet, which is no fault. Of a table that is not well formed they say
-/// nothing.
-[[nodiscard]] std::span<const RuleFor<KeyedTable>> gapRules();
+/// The rules for nouns after numbers. They take from the table itself which nouns fit which numbers, and need the
+/// catalogue.
+[[nodiscard]] std::span<const RuleFor<CheckedTable>> pluralRules();
 
 }  // namespace zk::tools

@@ -1,9 +1,19 @@
 #include <ZKStrings/tools/check/EndPunctuation.h>
 #include <ZKStrings/tools/check/TextRules.h>
+#include <ZKStrings/tools/support/Characters.h>
 #include <ZKStrings/tools/support/Languages.h>
+#include <ZKStrings/tools/support/Nearest.h>
+#include <ZKStrings/tools/texts/Placeholders.h>
 #include <ZKStrings/tools/texts/TextFeatures.h>
+#include <ZKStrings/tools/translation/TranslationState.h>
 
 #include <algorithm>
+#include <cstddef>
+#include <map>
+#include <optional>
+#include <set>
+#include <string>
+#include <vector>
 
 #include <fmt/format.h>
 #include <fmt/ranges.h>
@@ -12,16 +22,130 @@ namespace zk::tools {
 
 namespace {
 
-/// The English table says what the catalogue says. Its plural forms have no other source.
+// Placeholders
+
+using Names = std::vector<std::string_view>;
+
+/// The placeholder names that a translation may use.
+struct AllowedNames {
+  /// With more names than accessors have, misspellings are not looked up, because that is slow.
+  static constexpr std::size_t kMostNearest = 10;
+
+  Names inOrder;
+  std::set<std::string_view> sorted;
+
+  explicit AllowedNames(const EnglishText& english)
+      : inOrder(english.placeholders()), sorted(inOrder.begin(), inOrder.end()) {}
+
+  [[nodiscard]] bool contains(std::string_view name) const { return sorted.contains(name); }
+  /// Returns the allowed name that equals `name` or is nearest to it.
+  [[nodiscard]] std::optional<std::string_view> meantBy(std::string_view name) const {
+    if (const auto same = sorted.find(name); same != sorted.end()) return *same;
+    return inOrder.size() > kMostNearest ? std::nullopt : nearest(name, inOrder);
+  }
+};
+
+/// Returns what to do about a wrong placeholder.
+std::string fixFor(std::string_view name, const AllowedNames& allowed) {
+  if (const auto meant = allowed.meantBy(name)) return fmt::format("write \"%{{{}}}\"", *meant);
+  const Names& names = allowed.inOrder;
+  if (names.empty()) return "remove it, because the English text has no placeholders";
+  if (names.size() > AllowedNames::kMostNearest) return "write one of those that the English text has";
+  return fmt::format("write {}\"%{{{}}}\"", names.size() == 1 ? "" : "one of ",
+                     fmt::join(names, "}\", \"%{"));
+}
+
+void findUnknown(const Translation& translation, Findings& findings) {
+  const AllowedNames allowed(translation.english);
+  TextPlaces places(translation.entry);
+  for (const PlaceholderUse& use : placeholderUses(translation.entry.text)) {
+    if (!use.isRight || allowed.contains(use.name)) continue;
+    findings.add(translation.entry, places.at(use.offset),
+                 fmt::format("the English text has no placeholder \"{}\"; {}", use.spelled,
+                             fixFor(use.name, allowed)));
+  }
+}
+
+/// Whether `use` is a misspelt placeholder. Braces have no other use. After a percent sign, only a word like a name
+/// counts.
+bool isMisspelt(const PlaceholderUse& use, const AllowedNames& allowed) {
+  if (use.isRight) return false;
+  return use.hasBrace || allowed.meantBy(use.name);
+}
+
+void findMisspelt(const Translation& translation, Findings& findings) {
+  const AllowedNames allowed(translation.english);
+  std::set<std::string_view> inEnglish;
+  for (const PlaceholderUse& use : placeholderUses(translation.english.text)) inEnglish.insert(use.spelled);
+  TextPlaces places(translation.entry);
+  for (const PlaceholderUse& use : placeholderUses(translation.entry.text)) {
+    if (inEnglish.contains(use.spelled) || !isMisspelt(use, allowed)) continue;
+    findings.add(translation.entry, places.at(use.offset),
+                 fmt::format("\"{}\" is not a placeholder, so users see it as it is; {}",
+                             escaped(use.spelled), fixFor(use.name, allowed)));
+  }
+}
+
+/// Returns the names of placeholders in `text`, including misspelt ones, which another rule reports.
+std::set<std::string_view> usedNames(std::string_view text, const AllowedNames& allowed) {
+  std::set<std::string_view> used;
+  for (const PlaceholderUse& use : placeholderUses(text)) {
+    if (const auto meant = allowed.meantBy(use.name)) used.insert(*meant);
+  }
+  return used;
+}
+
+void findUnused(const Translation& translation, Findings& findings) {
+  const EnglishText& english = translation.english;
+  const std::set<std::string_view> used = usedNames(translation.entry.text, AllowedNames(english));
+  const std::string_view dispensable = english.dispensable();
+  for (const std::string_view name : placeholderNames(english.text)) {
+    if (used.contains(name) || name == dispensable) continue;
+    findings.add(translation.entry,
+                 fmt::format("the placeholder \"%{{{}}}\" of the English text is missing; write it where its "
+                             "value belongs",
+                             name));
+  }
+}
+
+using Counts = std::map<std::string_view, std::size_t>;
+
+Counts countsIn(std::string_view text) {
+  Counts counts;
+  for (const std::string_view name : placeholderNames(text)) ++counts[name];
+  return counts;
+}
+
+/// A plural form may use a placeholder as often as its entry does, even if the English form does not.
+void findRepeated(const Translation& translation, Findings& findings) {
+  Counts allowed = countsIn(translation.english.text);
+  for (const auto& [name, count] : countsIn(translation.english.entry->text)) {
+    allowed[name] = std::max(allowed[name], count);
+  }
+  for (const auto& [name, count] : countsIn(translation.entry.text)) {
+    const auto most = allowed.find(name);
+    if (most == allowed.end() || count <= most->second) continue;
+    findings.add(
+        translation.entry,
+        fmt::format("the placeholder \"%{{{}}}\" is in the text {} times and in the English one {}; write "
+                    "it as often",
+                    name, count, most->second == 1 ? "once" : fmt::format("{} times", most->second)));
+  }
+}
+
+// Marks, white space, punctuation and numbers
+
+/// The English table must equal the catalogue, except for plural forms, which only the table has.
 void findOtherEnglish(const Translation& translation, Findings& findings) {
   const EnglishText& english = translation.english;
   if (translation.language != kBase || !english.suffix.empty()) return;
   if (translation.entry.text == english.text) return;
-  findings.add(translation.entry, fmt::format("the catalogue has \"{}\" for \"{}\"; write the same in both",
-                                              escaped(english.text), english.key));
+  findings.add(translation.entry, fmt::format("the catalogue has \"{}\" here; run zkstrings generate, or "
+                                              "zkstrings change {} to change the English text",
+                                              escaped(english.text), english.entry->key));
 }
 
-/// Whether each "<b>" is closed before the next one opens.
+/// Whether each "<b>" is closed before the next one.
 bool areTagsBalanced(std::string_view text) {
   bool isOpen = false;
   for (std::size_t at = text.find('<'); at != std::string_view::npos; at = text.find('<', at + 1)) {
@@ -38,7 +162,7 @@ bool areStarsBalanced(std::string_view text) {
   return countOf(text, "*") % 2 == 0;
 }
 
-/// A kind of marks by which an app shows a part of a text otherwise.
+/// A kind of marks with which an app highlights a part of a text.
 struct MarkKind {
   std::string_view name;
   std::string_view opening;
@@ -52,14 +176,14 @@ void findMarks(const Translation& translation, Findings& findings) {
     const std::size_t here = countOf(translation.entry.text, opening);
     const std::size_t english = countOf(translation.english.text, opening);
     if (!areBalanced(translation.entry.text)) {
-      findings.add(translation.entry, fmt::format("the {} do not pair up; open and close each part", name));
+      findings.add(translation.entry, fmt::format("the {} are not in pairs; open and close each part", name));
     } else if (here < english) {
       findings.add(translation.entry,
                    fmt::format("there are fewer {} than in the English text; mark the same parts", name));
     } else if (here > 0 && english == 0) {
       findings.add(
           translation.entry,
-          fmt::format("the English text has no {}, and they may show as they stand; remove them", name));
+          fmt::format("the English text has no {}, and users may see them as they are; remove them", name));
     }
   }
 }
@@ -79,8 +203,8 @@ void findOuterSpace(const Translation& translation, Findings& findings) {
   if (here == english) return;
   const bool isLeading = here.leading != english.leading;
   findings.add(translation.entry,
-               fmt::format("the white space {} is \"{}\", in the English text \"{}\"; write the same",
-                           isLeading ? "before the text" : "behind the text",
+               fmt::format("the white space {} is \"{}\" but \"{}\" in the English text; write the same",
+                           isLeading ? "before the text" : "after the text",
                            escaped(isLeading ? here.leading : here.trailing),
                            escaped(isLeading ? english.leading : english.trailing)));
 }
@@ -91,11 +215,12 @@ void findEndPunctuation(const Translation& translation, Findings& findings) {
   const bool isStop = english == Ending::stop || english == Ending::question;
   const bool mayBeBare = isStop && !translation.glossary.styleOf(translation.language).sentenceStops;
   if (here == english || (mayBeBare && here == Ending::none)) return;
-  findings.add(translation.entry, fmt::format("the text ends in {}, the English text in {}; end it alike",
-                                              nameOf(here), nameOf(english)));
+  findings.add(translation.entry,
+               fmt::format("the text ends with {}, the English text with {}; write the same", nameOf(here),
+                           nameOf(english)));
 }
 
-/// Whether the words of a plural form may say its number.
+/// Whether a plural form may write its number as a word.
 bool maySpellNumbers(const EnglishText& english) {
   return english.suffix == "_zero" || english.suffix == "_one" || english.suffix == "_two";
 }
@@ -108,23 +233,78 @@ void findDigits(const Translation& translation, Findings& findings) {
                             : here == english;
   if (areRight) return;
   findings.add(translation.entry,
-               fmt::format("the numbers in the text are \"{}\", in the English one \"{}\"; write the same",
+               fmt::format("the numbers in the text are \"{}\" but \"{}\" in the English one; write the same",
                            fmt::join(here, " "), fmt::join(english, " ")));
 }
 
+// Length
+
+constexpr std::size_t kLongestShort = 20;
+constexpr std::size_t kTimesForShort = 3;
+constexpr std::size_t kTimesForLong = 2;
+
+void findSameText(const Translation& translation, Findings& findings) {
+  const std::string& text = translation.entry.text;
+  if (text != translation.english.text || translation.english.settings->isSameEverywhere(text)) return;
+  const TranslationState state = stateOf(translation.language, &translation.entry, translation.english);
+  if (state == TranslationState::untranslated) return;
+  findings.add(
+      translation.entry,
+      fmt::format("\"{}\" is the English text; translate it unless the word is the same", escaped(text)));
+}
+
+void findLongText(const Translation& translation, Findings& findings) {
+  const std::size_t here = lengthOf(withoutPlaceholders(translation.entry.text));
+  const std::size_t english = lengthOf(withoutPlaceholders(translation.english.text));
+  const std::size_t times = english <= kLongestShort ? kTimesForShort : kTimesForLong;
+  if (here <= english * times) return;
+  findings.add(
+      translation.entry,
+      fmt::format("the text has {} characters, the English one {}; shorten it, or make sure that it fits",
+                  here, english));
+}
+
+void findTooLong(const Translation& translation, Findings& findings) {
+  const std::size_t max = translation.english.entry->max;
+  const std::size_t here = charactersIn(withoutPlaceholders(translation.entry.text));
+  if (max == 0 || here <= max) return;
+  findings.add(translation.entry,
+               fmt::format("the text has {} characters, but only {} fit; shorten it", here, max));
+}
+
+/// `find` for translations, not for the English table.
+template <void (*find)(const Translation&, Findings&)>
+void exceptInEnglish(const Translation& translation, Findings& findings) {
+  if (translation.language != kBase) find(translation, findings);
+}
+
 constexpr RuleFor<Translation> kRules[] = {
-    {{"base-text", Severity::warning, "a text of the English table that is not the catalogue's"},
+    {{"unknown-placeholder", Severity::error, "a placeholder that the English text does not have"},
+     findUnknown},
+    {{"placeholder-spelling", Severity::error, "a placeholder that is not written as %{name}"}, findMisspelt},
+    {{"unused-placeholder", Severity::warning,
+      "a missing placeholder of the English text; _zero and _one may leave the number's out"},
+     findUnused},
+    {{"repeated-placeholder", Severity::warning, "a placeholder more often than in the English text"},
+     findRepeated},
+    {{"base-text", Severity::warning, "a text of the English table that differs from the catalogue"},
      findOtherEnglish},
-    {{"marks", Severity::warning, "<b> tags or * marks that are unbalanced, lost or added"}, findMarks},
+    {{"marks", Severity::warning, "<b> tags or * marks that are unbalanced, missing or added"}, findMarks},
     {{"line-breaks", Severity::warning, "more or fewer line breaks than the English text"}, findLineBreaks},
-    {{"outer-space", Severity::warning, "other leading or trailing white space than the English text"},
+    {{"outer-space", Severity::warning, "leading or trailing white space unlike the English text"},
      findOuterSpace},
     {{"end-punctuation", Severity::warning,
-      "other punctuation at the end than the English text, in the forms of all scripts"},
+      "final punctuation unlike the English text, in the forms of all scripts"},
      findEndPunctuation},
     {{"digits", Severity::warning,
-      "other numbers than in the English text; _zero, _one and _two may spell them"},
-     inTranslations<findDigits>},
+      "numbers unlike the English text; _zero, _one and _two may write them as words"},
+     exceptInEnglish<findDigits>},
+    {{"max-length", Severity::warning, "a text that is longer than the \"max\" of its entry"}, findTooLong},
+    {{"same-text", Severity::note, "a word that equals the English one and is not a name"},
+     exceptInEnglish<findSameText>},
+    {{"long-text", Severity::note,
+      "a text much longer than the English one: three times if it is short, else twice"},
+     exceptInEnglish<findLongText>},
 };
 
 }  // namespace

@@ -5,7 +5,7 @@
 #include <ZKStrings/tools/page/PageParts.h>
 #include <ZKStrings/tools/page/ShownTexts.h>
 #include <ZKStrings/tools/support/Languages.h>
-#include <ZKStrings/tools/texts/TextSize.h>
+#include <ZKStrings/tools/texts/TextFeatures.h>
 #include <ZKStrings/tools/translation/TranslationState.h>
 
 #include <algorithm>

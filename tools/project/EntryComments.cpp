@@ -4,7 +4,8 @@
 
 namespace zk::tools {
 
-std::vector<std::string_view> wordsTold(const TableEntry::Comment& comment, std::string_view name) {
+std::optional<std::vector<std::string_view>> wordsTold(const TableEntry::Comment& comment,
+                                                       std::string_view name) {
   constexpr std::string_view kSeparators = " ,\t\r\n";
   std::string_view rest = comment.text;
   const auto skipSeparators = [&] {
@@ -12,7 +13,7 @@ std::vector<std::string_view> wordsTold(const TableEntry::Comment& comment, std:
   };
   std::vector<std::string_view> words;
   skipSeparators();
-  if (!rest.starts_with(name)) return words;
+  if (!rest.starts_with(name)) return std::nullopt;
   rest.remove_prefix(name.size());
   for (skipSeparators(); !rest.empty(); skipSeparators()) {
     words.push_back(rest.substr(0, rest.find_first_of(kSeparators)));
@@ -23,9 +24,9 @@ std::vector<std::string_view> wordsTold(const TableEntry::Comment& comment, std:
 
 bool isSwitchedOff(const TableEntry& entry, std::string_view rule) {
   return std::any_of(entry.comments.begin(), entry.comments.end(), [&](const TableEntry::Comment& comment) {
-    const std::vector<std::string_view> words = wordsTold(comment, kCheck);
-    return !words.empty() && words[0] == "off" &&
-           std::find(words.begin() + 1, words.end(), rule) != words.end();
+    const auto words = wordsTold(comment, kCheck);
+    return words && !words->empty() && words->front() == "off" &&
+           std::find(words->begin() + 1, words->end(), rule) != words->end();
   });
 }
 

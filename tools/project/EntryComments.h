@@ -2,6 +2,7 @@
 
 #include <ZKStrings/tools/project/Table.h>
 
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -19,10 +20,10 @@ inline constexpr std::string_view kContext = "context:";
 inline constexpr std::string_view kState = "state:";
 inline constexpr std::string_view kCheck = "check:";
 
-/// The words of `comment` behind `name`, one of those above, between spaces and commas; none when the comment
-/// is another.
-[[nodiscard]] std::vector<std::string_view> wordsTold(const TableEntry::Comment& comment,
-                                                      std::string_view name);
+/// Returns the words of `comment` after `name`, one of those above, without spaces and commas; nothing if it is another
+/// comment.
+[[nodiscard]] std::optional<std::vector<std::string_view>> wordsTold(const TableEntry::Comment& comment,
+                                                                     std::string_view name);
 
 /// Whether the comments before `entry` switch `rule` off.
 [[nodiscard]] bool isSwitchedOff(const TableEntry& entry, std::string_view rule);

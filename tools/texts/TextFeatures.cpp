@@ -3,16 +3,16 @@
 #include <ZKStrings/tools/texts/TextFeatures.h>
 
 #include <algorithm>
-#include <iterator>
+#include <cstdint>
+#include <memory>
 
+#include <unicode/brkiter.h>
 #include <unicode/uchar.h>
+#include <unicode/utext.h>
 
 namespace zk::tools {
 
 namespace {
-
-constexpr std::string_view kOpening[] = {"(", "[", "（", "［", "【", "〔"};
-constexpr std::string_view kClosing[] = {")", "]", "）", "］", "】", "〕"};
 
 bool isWhiteSpace(const CodePoint& character) {
   return character.value && u_isUWhiteSpace(static_cast<UChar32>(*character.value)) != 0;
@@ -20,6 +20,15 @@ bool isWhiteSpace(const CodePoint& character) {
 
 bool isSpace(const CodePoint& character) {
   return character.value && u_charType(static_cast<UChar32>(*character.value)) == U_SPACE_SEPARATOR;
+}
+
+icu::BreakIterator& characterBorders() {
+  static thread_local const std::unique_ptr<icu::BreakIterator> borders = [] {
+    UErrorCode status = U_ZERO_ERROR;
+    return std::unique_ptr<icu::BreakIterator>(
+        icu::BreakIterator::createCharacterInstance(icu::Locale::getRoot(), status));
+  }();
+  return *borders;
 }
 
 }  // namespace
@@ -114,16 +123,16 @@ std::vector<std::string_view> wordsToRead(std::string_view text) {
   return words;
 }
 
-Brackets bracketsIn(std::string_view text) {
-  const auto isOneOf = [](const auto& forms, std::string_view spelled) {
-    return std::find(std::begin(forms), std::end(forms), spelled) != std::end(forms);
-  };
-  Brackets brackets;
-  for (const CodePoint character : CodePoints(text)) {
-    if (isOneOf(kOpening, character.bytes)) ++brackets.opening;
-    if (isOneOf(kClosing, character.bytes)) ++brackets.closing;
-  }
-  return brackets;
+std::size_t charactersIn(std::string_view text) {
+  UErrorCode status = U_ZERO_ERROR;
+  UText view = UTEXT_INITIALIZER;
+  utext_openUTF8(&view, text.data(), static_cast<std::int64_t>(text.size()), &status);
+  icu::BreakIterator& borders = characterBorders();
+  borders.setText(&view, status);
+  std::size_t characters = 0;
+  for (borders.first(); borders.next() != icu::BreakIterator::DONE;) ++characters;
+  utext_close(&view);
+  return characters;
 }
 
 }  // namespace zk::tools

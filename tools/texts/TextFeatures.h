@@ -44,12 +44,8 @@ struct OuterSpace {
 /// The runs of decimal digits in `text`, of whatever script, each in ASCII digits, sorted.
 [[nodiscard]] std::vector<std::string> numbersIn(std::string_view text);
 
-/// The number of opening and closing brackets, of whatever form.
-struct Brackets {
-  std::size_t opening = 0;
-  std::size_t closing = 0;
-  bool operator==(const Brackets&) const = default;
-};
-[[nodiscard]] Brackets bracketsIn(std::string_view text);
+/// The number of user-perceived characters (extended grapheme clusters) of `text`, UTF-8. A byte that is not
+/// UTF-8 counts as one.
+[[nodiscard]] std::size_t charactersIn(std::string_view text);
 
 }  // namespace zk::tools

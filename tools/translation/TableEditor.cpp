@@ -15,7 +15,7 @@ namespace {
 constexpr std::string_view kBlanks = " \t";
 
 bool tellsTools(const TableEntry::Comment& comment) {
-  const auto tells = [&](std::string_view name) { return !wordsTold(comment, name).empty(); };
+  const auto tells = [&](std::string_view name) { return wordsTold(comment, name).has_value(); };
   return tells(kExplanation) || tells(kContext) || tells(kState) || tells(kCheck);
 }
 
@@ -110,7 +110,7 @@ void TableEditor::setState(const TableEntry& entry, TranslationState state) {
   const bool hasMark = state == TranslationState::untranslated || state == TranslationState::needsReview;
   std::string mark = hasMark ? markFor(state) : "";
   for (const TableEntry::Comment& comment : entry.comments) {
-    if (wordsTold(comment, kState).empty()) continue;
+    if (!wordsTold(comment, kState)) continue;
     const Span span = mark.empty() ? withLines(comment.span) : comment.span;
     change(span, std::exchange(mark, ""));
   }
@@ -122,7 +122,7 @@ void TableEditor::setState(const TableEntry& entry, TranslationState state) {
 
 void TableEditor::setExplanation(const TableEntry& entry, const std::string& explanation) {
   for (const TableEntry::Comment& comment : entry.comments) {
-    if (!wordsTold(comment, kExplanation).empty()) change(comment.span, explanation);
+    if (wordsTold(comment, kExplanation)) change(comment.span, explanation);
   }
 }
 

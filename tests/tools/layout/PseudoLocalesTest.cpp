@@ -4,7 +4,7 @@
 #include <ZKStrings/tools/support/Diagnostic.h>
 #include <ZKStrings/tools/support/Languages.h>
 #include <ZKStrings/tools/texts/TextFeatures.h>
-#include <ZKStrings/tools/texts/TextSize.h>
+#include <ZKStrings/tools/texts/TextFeatures.h>
 
 #include <algorithm>
 #include <filesystem>

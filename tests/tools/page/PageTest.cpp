@@ -79,7 +79,7 @@ TEST(Page, ReportsEachFindingAtItsText) {
     return false;
   };
   EXPECT_TRUE(hasFinding(0, "marks")) << findings;
-  EXPECT_TRUE(hasFinding(0, "unknown-state")) << findings;
+  EXPECT_TRUE(hasFinding(0, "unknown-comment")) << findings;
   EXPECT_TRUE(hasFinding(23, "unknown-placeholder")) << findings;
   EXPECT_TRUE(hasFinding(nullptr, "unknown-key")) << findings;
   EXPECT_FALSE(hasFinding(nullptr, "missing-key")) << findings;

@@ -1,4 +1,4 @@
-#include <ZKStrings/tools/texts/TextSize.h>
+#include <ZKStrings/tools/texts/TextFeatures.h>
 
 #include <cstddef>
 
@@ -6,7 +6,7 @@
 
 namespace {
 
-TEST(TextSize, CountsWhatReadersTakeForOneCharacter) {
+TEST(TextFeatures, CountUserPerceivedCharacters) {
   struct Case {
     const char* text;
     std::size_t characters;

@@ -1,0 +1,350 @@
+#include <ZKStrings/platform/text/UnicodeText.h>
+#include <ZKStrings/tools/check/LanguageRules.h>
+#include <ZKStrings/tools/check/Prose.h>
+#include <ZKStrings/tools/support/Characters.h>
+#include <ZKStrings/tools/support/Languages.h>
+#include <ZKStrings/tools/texts/TextFeatures.h>
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <iterator>
+#include <optional>
+#include <set>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include <fmt/format.h>
+#include <fmt/ranges.h>
+#include <unicode/uscript.h>
+
+namespace zk::tools {
+
+namespace {
+
+constexpr std::string_view kNoBreakSpace = "\u00A0";
+
+// The glossary
+
+/// Whether the English text has one of the phrases of `term`.
+bool means(const Words& english, const Term& term) {
+  for (std::size_t at = 0; at < english.size();) {
+    if (const std::size_t passed = sizeAt(term.exceptions, english, at); passed > 0) {
+      at += passed;
+      continue;
+    }
+    if (sizeAt(term.english, english, at) > 0) return true;
+    ++at;
+  }
+  return false;
+}
+
+/// Returns the words of a translation in the form in which stems are compared, with a blank for every space.
+std::string searchable(std::string_view text) {
+  std::string prose = caseFolded(proseOf(text));
+  std::replace(prose.begin(), prose.end(), '\n', ' ');
+  return replaceAll(prose, kNoBreakSpace, " ");
+}
+
+/// Adds a finding for each of `phrases` in the text.
+template <class Message>
+void findPhrases(const Phrases& phrases, const Translation& translation, Findings& findings,
+                 const Message& message) {
+  if (phrases.empty()) return;
+  const std::string_view text = translation.entry.text;
+  const Words words(text);
+  TextPlaces places(translation.entry);
+  for (std::size_t at = 0; at < words.size(); ++at) {
+    const std::size_t size = sizeAt(phrases, words, at);
+    if (size == 0) continue;
+    const std::size_t begin = words.offsetOf(at);
+    const std::size_t end = words.offsetOf(at + size - 1) + words[at + size - 1].spelled.size();
+    findings.add(translation.entry, places.at(begin), message(text.substr(begin, end - begin)));
+  }
+}
+
+void findOtherTerms(const Translation& translation, Findings& findings) {
+  const Words english(translation.english.text);
+  const std::string text = searchable(translation.entry.text);
+  for (const Term& term : translation.glossary.terms) {
+    const auto stems = term.stems.find(translation.language);
+    if (stems == term.stems.end() || !means(english, term)) continue;
+    const auto isInText = [&](const std::string& stem) { return text.find(stem) != std::string::npos; };
+    if (std::any_of(stems->second.begin(), stems->second.end(), isInText)) continue;
+    findings.add(translation.entry,
+                 fmt::format("the translation of {} has none of the glossary's words (\"{}\"); use one",
+                             term.name, fmt::join(stems->second, "\", \"")));
+  }
+}
+
+void findAvoidedPhrases(const Translation& translation, Findings& findings) {
+  const Words english(translation.english.text);
+  for (const Term& term : translation.glossary.terms) {
+    const auto avoided = term.avoided.find(translation.language);
+    if (avoided == term.avoided.end() || !means(english, term)) continue;
+    findPhrases(avoided->second, translation, findings, [&](std::string_view phrase) {
+      return fmt::format("\"{}\" is misleading as a translation of {}; use another wording", phrase,
+                         term.name);
+    });
+  }
+}
+
+void findWrongAddress(const Translation& translation, Findings& findings) {
+  const LanguageStyle& style = translation.glossary.styleOf(translation.language);
+  findPhrases(style.wrongAddress, translation, findings, [](std::string_view word) {
+    return fmt::format("\"{}\" is another form of address; address the player as the other texts do", word);
+  });
+}
+
+// Words
+
+/// Whether `text` has nothing but white space between the word `first` and the next one.
+bool areNeighbours(std::string_view text, const Words& words, std::size_t first) {
+  const std::size_t end = words.offsetOf(first) + words[first].spelled.size();
+  return isBlank(text.substr(end, words.offsetOf(first + 1) - end));
+}
+
+void findDoubledWords(const Translation& translation, Findings& findings) {
+  const LanguageStyle& style = translation.glossary.styleOf(translation.language);
+  if (style.doublesWords) return;
+  const Words words(translation.entry.text);
+  TextPlaces places(translation.entry);
+  for (std::size_t at = 0; at + 1 < words.size(); ++at) {
+    if (words[at].folded != words[at + 1].folded) continue;
+    if (sizeAt(style.doubledWords, words, at) > 0 || !areNeighbours(translation.entry.text, words, at))
+      continue;
+    findings.add(translation.entry, places.at(words.offsetOf(at + 1)),
+                 fmt::format("the word \"{}\" is repeated; remove one of the two", words[at].spelled));
+  }
+}
+
+UScriptCode scriptOf(char32_t character) {
+  UErrorCode status = U_ZERO_ERROR;
+  return uscript_getScript(static_cast<UChar32>(character), &status);
+}
+
+/// The scripts whose letters look alike.
+constexpr UScriptCode kLookAlikes[] = {USCRIPT_LATIN, USCRIPT_CYRILLIC, USCRIPT_GREEK};
+
+/// Returns the first letter of `word` that belongs to another script than its first letter, if both look alike.
+std::optional<std::string_view> firstStrayLetter(std::string_view word) {
+  std::optional<UScriptCode> first;
+  for (const CodePoint letter : CodePoints(word)) {
+    const UScriptCode script = letter.value ? scriptOf(*letter.value) : USCRIPT_COMMON;
+    const bool looksAlike =
+        std::find(std::begin(kLookAlikes), std::end(kLookAlikes), script) != std::end(kLookAlikes);
+    if (!looksAlike) continue;
+    if (first && *first != script) return letter.bytes;
+    first = script;
+  }
+  return std::nullopt;
+}
+
+void findMixedScripts(const Translation& translation, Findings& findings) {
+  const std::string prose = proseOf(translation.entry.text);
+  TextPlaces places(translation.entry);
+  for (const std::string_view word : wordsOf(prose)) {
+    const std::optional<std::string_view> stray = firstStrayLetter(word);
+    if (!stray) continue;
+    findings.add(
+        translation.entry, places.at(static_cast<std::size_t>(stray->data() - prose.data())),
+        fmt::format("the letters of \"{}\" are of two scripts from \"{}\" on; use one script", word, *stray));
+  }
+}
+
+/// Returns how many English words in a row are reported: one is enough in a language that does not use Latin letters.
+std::size_t reportedCount(std::string_view language) {
+  constexpr std::size_t kAmongLatinLetters = 3;
+  UErrorCode status = U_ZERO_ERROR;
+  std::array<UScriptCode, 8> scripts{};
+  const std::int32_t count = uscript_getCode(std::string(language).c_str(), scripts.data(),
+                                             static_cast<std::int32_t>(scripts.size()), &status);
+  return count > 0 && U_SUCCESS(status) && scripts[0] != USCRIPT_LATIN ? 1 : kAmongLatinLetters;
+}
+
+/// Returns the runs of `count` words in `text`, without names and loan words. Single words have more than three
+/// letters.
+std::vector<std::string> runsIn(std::string_view text, const CatalogueSettings& settings,
+                                const Phrases& loanWords, std::size_t count) {
+  constexpr std::size_t kLongestAbbreviation = 3;
+  const std::string prose = proseOf(text);
+  std::vector<std::string_view> words = settings.wordsToTranslate(prose);
+  std::erase_if(words, [&](std::string_view word) { return sizeAt(loanWords, Words(word), 0) > 0; });
+  std::vector<std::string> runs;
+  for (auto word = words.begin(); words.end() - word >= static_cast<std::ptrdiff_t>(count); ++word) {
+    if (count == 1 && lengthOf(*word) <= kLongestAbbreviation) continue;
+    runs.push_back(
+        caseFolded(fmt::to_string(fmt::join(word, word + static_cast<std::ptrdiff_t>(count), " "))));
+  }
+  return runs;
+}
+
+void findEnglishWords(const Translation& translation, Findings& findings) {
+  const std::size_t count = reportedCount(translation.language);
+  const Phrases& loanWords = translation.glossary.styleOf(translation.language).loanWords;
+  const CatalogueSettings& settings = *translation.english.settings;
+  const std::vector<std::string> english = runsIn(translation.english.text, settings, loanWords, count);
+  const std::set<std::string_view> known(english.begin(), english.end());
+  for (const std::string& run : runsIn(translation.entry.text, settings, loanWords, count)) {
+    if (!known.contains(run)) continue;
+    findings.add(translation.entry, fmt::format("\"{}\" is English; translate it", run));
+    return;
+  }
+}
+
+// Typography
+
+/// The quotation marks of all languages, except for the one that is also an apostrophe.
+constexpr std::string_view kQuotationMarks[] = {"\"", "„", "“",  "”",  "‟",  "‚",  "‘",  "‛",  "«",  "»",
+                                                "‹",  "›", "「", "」", "『", "』", "〝", "〞", "〟", "＂"};
+
+/// Returns the character before the byte `end`; empty at the beginning of the text.
+std::string_view characterBefore(std::string_view text, std::size_t end) {
+  std::size_t begin = end;
+  while (begin > 0 && (static_cast<unsigned char>(text[--begin]) & 0xC0) == 0x80) {
+  }
+  return text.substr(begin, end - begin);
+}
+
+std::string_view characterAt(std::string_view text, std::size_t at) {
+  return at < text.size() ? firstCodePoint(text.substr(at)).bytes : std::string_view();
+}
+
+bool isLetter(std::string_view character) {
+  if (character.empty()) return false;
+  const CodePoint codePoint = firstCodePoint(character);
+  return codePoint.value && isLetterMarkOrDigit(*codePoint.value) && !isDecimalDigit(*codePoint.value);
+}
+
+bool isDigit(std::string_view character) {
+  return !character.empty() && character[0] >= '0' && character[0] <= '9';
+}
+
+void addAt(std::size_t offset, const Translation& translation, std::string message, Findings& findings) {
+  findings.add(translation.entry, TextPlaces(translation.entry).at(offset), std::move(message));
+}
+
+void findQuotationMarks(const Translation& translation, Findings& findings) {
+  const std::string& right = translation.glossary.styleOf(translation.language).quotationMarks;
+  if (right.empty()) return;
+  for (const std::string_view mark : kQuotationMarks) {
+    const std::size_t offset = translation.entry.text.find(mark);
+    if (offset == std::string::npos || right.find(mark) != std::string::npos) continue;
+    addAt(offset, translation, fmt::format("{} is not a quotation mark of the language; use {}", mark, right),
+          findings);
+  }
+}
+
+void findApostrophes(const Translation& translation, Findings& findings) {
+  const std::size_t offset = translation.entry.text.find('\'');
+  if (offset == std::string::npos) return;
+  addAt(offset, translation, "the apostrophe is straight; write ’", findings);
+}
+
+void findDots(const Translation& translation, Findings& findings) {
+  const std::size_t offset = translation.entry.text.find("...");
+  if (offset == std::string::npos) return;
+  addAt(offset, translation, "three dots are used as an ellipsis; write …", findings);
+}
+
+/// Returns the offset of the first of two blanks in a row; `npos` if there are none.
+std::size_t findTwoBlanks(std::string_view text) {
+  const auto blankSize = [&](std::size_t at) -> std::size_t {
+    const std::string_view rest = text.substr(at);
+    return rest.starts_with(' ') ? 1 : rest.starts_with(kNoBreakSpace) ? kNoBreakSpace.size() : 0;
+  };
+  for (std::size_t at = 0; at < text.size(); ++at) {
+    const std::size_t size = blankSize(at);
+    if (size > 0 && blankSize(at + size) > 0) return at;
+  }
+  return text.npos;
+}
+
+void findDoubledBlanks(const Translation& translation, Findings& findings) {
+  const std::size_t offset = findTwoBlanks(translation.entry.text);
+  if (offset == std::string::npos || findTwoBlanks(translation.english.text) != std::string::npos) return;
+  addAt(offset, translation, "two blanks in a row; write one", findings);
+}
+
+/// Whether `mark`, at the offset `at`, needs no no-break space before it: at the beginning of the text or of a line,
+/// within a number or a word, after another such mark, a bracket or a quotation mark.
+bool needsNoSpace(std::string_view mark, std::string_view text, std::size_t at, const LanguageStyle& style) {
+  const std::string_view before = characterBefore(text, at);
+  if (before.empty() || before == "\n" || before == "(") return true;
+  const bool isWithinNumber = isDigit(before) && isDigit(characterAt(text, at + mark.size()));
+  const bool isWithinWord = isLetter(before) && isLetter(characterAt(mark, 0));
+  const bool isAfterMark =
+      std::find(style.noBreakBefore.begin(), style.noBreakBefore.end(), before) != style.noBreakBefore.end();
+  return isWithinNumber || isWithinWord || isAfterMark ||
+         style.quotationMarks.find(before) != std::string::npos;
+}
+
+/// Adds a finding for each `mark` in `text`, the prose of `translation`, for which `isMissing(offset)` is
+/// true.
+template <class IsMissing>
+void findWithoutSpace(std::string_view mark, std::string_view text, std::string_view side,
+                      const Translation& translation, const IsMissing& isMissing, Findings& findings) {
+  TextPlaces places(translation.entry);
+  for (std::size_t at = text.find(mark); at != std::string_view::npos;
+       at = text.find(mark, at + mark.size())) {
+    if (!isMissing(at)) continue;
+    findings.add(translation.entry, places.at(at),
+                 fmt::format("\"{}\" has no no-break space (U+00A0) {} it; write one", mark, side));
+  }
+}
+
+void findNoBreakSpaces(const Translation& translation, Findings& findings) {
+  const LanguageStyle& style = translation.glossary.styleOf(translation.language);
+  const std::string text = proseOf(translation.entry.text);
+  for (const std::string_view mark : style.noBreakBefore) {
+    const auto isMissing = [&](std::size_t at) {
+      return characterBefore(text, at) != kNoBreakSpace && !needsNoSpace(mark, text, at, style);
+    };
+    findWithoutSpace(mark, text, "before", translation, isMissing, findings);
+  }
+  for (const std::string_view mark : style.noBreakAfter) {
+    const auto isMissing = [&](std::size_t at) {
+      const std::string_view after = characterAt(text, at + mark.size());
+      return !after.empty() && after != kNoBreakSpace;
+    };
+    findWithoutSpace(mark, text, "after", translation, isMissing, findings);
+  }
+}
+
+/// `find` for what has been translated: in a text that equals the English one, words and typography are English.
+template <void (*find)(const Translation&, Findings&)>
+void ifTranslated(const Translation& translation, Findings& findings) {
+  const bool isTranslated = translation.entry.text != translation.english.text;
+  if (translation.language != kBase && isTranslated) find(translation, findings);
+}
+
+constexpr RuleFor<Translation> kRules[] = {
+    {{"glossary-term", Severity::warning, "a translation without the glossary's word for a concept"},
+     ifTranslated<findOtherTerms>},
+    {{"avoided-phrase", Severity::warning, "a phrase that the glossary avoids for a concept"},
+     ifTranslated<findAvoidedPhrases>},
+    {{"address", Severity::warning, "a word of another form of address"}, ifTranslated<findWrongAddress>},
+    {{"doubled-word", Severity::warning, "a repeated word, unless the glossary allows it"}, findDoubledWords},
+    {{"mixed-scripts", Severity::warning, "Latin, Cyrillic or Greek letters in one word"}, findMixedScripts},
+    {{"english-words", Severity::warning,
+      "words of the English text except names: three in a row, or one in a script that is not Latin"},
+     ifTranslated<findEnglishWords>},
+    {{"quotation-marks", Severity::warning, "straight quotation marks, or those of another language"},
+     ifTranslated<findQuotationMarks>},
+    {{"apostrophe", Severity::warning, "a straight apostrophe"}, ifTranslated<findApostrophes>},
+    {{"ellipsis", Severity::warning, "three dots instead of an ellipsis"}, ifTranslated<findDots>},
+    {{"doubled-blank", Severity::warning, "two blanks in a row, unless the English text has them"},
+     findDoubledBlanks},
+    {{"no-break-space", Severity::warning, "a mark without the no-break space that the language needs there"},
+     ifTranslated<findNoBreakSpaces>},
+};
+
+}  // namespace
+
+std::span<const RuleFor<Translation>> languageRules() {
+  return kRules;
+}
+
+}  // namespace zk::tools
