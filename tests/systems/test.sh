@@ -51,6 +51,7 @@ step() {
   printf '%-10s %-8s %-60s %4d s\n' "$release" "${1%:*}" "${*:3}" "$((SECONDS - start))"
 }
 
+mkdir -p build/systems
 [ -d "$bare" ] || make_bare_system
 copy_bare_system
 git clone --quiet --no-hardlinks . "$root/$project"
