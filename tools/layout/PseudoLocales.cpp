@@ -102,12 +102,26 @@ void refuseShipped(const fs::path& resources, const std::string& directory) {
        folder = folder.parent_path()) {
     if (folder == shipped) {
       fail(directory,
-           "these resources are shipped and must not contain pseudo-locales; name the folder of another "
-           "build or "
-           "installation");
+           "these resources are shipped and must not contain pseudo-locales; name the folder of "
+           "another build or installation");
     }
     if (folder == folder.parent_path()) return;
   }
+}
+
+/// Copies of the files in `resources`, below `folder`.
+std::vector<FileChange> copiesOf(const fs::path& resources, const fs::path& folder) {
+  std::vector<FileChange> copies;
+  std::error_code failure;
+  fs::recursive_directory_iterator file(resources, failure);
+  for (; !failure && file != fs::recursive_directory_iterator(); file.increment(failure)) {
+    std::error_code brokenLink;
+    if (!file->is_regular_file(brokenLink)) continue;
+    const fs::path path = file->path().lexically_relative(resources);
+    copies.push_back({(folder / path).string(), readFile(resources.string(), path.string())});
+  }
+  if (failure) fail(resources.string(), "the folder cannot be listed; see that it may be read");
+  return copies;
 }
 
 }  // namespace
@@ -133,18 +147,13 @@ void writePseudoLocales(const std::string& root, const std::string& directory) {
   refuseShipped(resources, directory);
   const Catalogue catalogue = Catalogue::read(root);
   const EnglishTexts english(catalogue, Table::readWellFormed(root, kBase));
-  std::error_code failure;
-  fs::create_directories(directory, failure);
-  if (!failure) {
-    fs::copy(resources, directory, fs::copy_options::recursive | fs::copy_options::overwrite_existing,
-             failure);
-  }
-  if (failure)
-    fail(directory, "the resources cannot be written; see that the folder may be written and has room");
-  writeFiles(directory, {{"xa.lproj/Localizable.strings", tableOf(english, accentedText)},
-                         {"xb.lproj/Localizable.strings", tableOf(english, mirroredText)},
-                         {"xk.lproj/Localizable.strings",
-                          tableOf(english, [](const EnglishText& text) { return text.key; })}});
+  const fs::path folder = fs::absolute(directory);
+  const auto keyOf = [](const EnglishText& text) { return text.key; };
+  std::vector<FileChange> files = copiesOf(resources, folder);
+  files.insert(files.begin(), {{folder / "xa.lproj/Localizable.strings", tableOf(english, accentedText)},
+                               {folder / "xb.lproj/Localizable.strings", tableOf(english, mirroredText)},
+                               {folder / "xk.lproj/Localizable.strings", tableOf(english, keyOf)}});
+  writeFiles(folder.string(), files);
 }
 
 }  // namespace zk::tools
