@@ -79,6 +79,11 @@ class CSVReader {
     if (language == titles_.end())
       fail(file_,
            "no column has a language code as its title; give the column of translations one, such as \"de\"");
+    const auto other = std::find_if(language + 1, titles_.end(), isLanguage);
+    if (other != titles_.end())
+      fail(file_,
+           fmt::format("the columns \"{}\" and \"{}\" are both titled with a language; remove or rename one",
+                       *language, *other));
     const auto target = static_cast<std::size_t>(language - titles_.begin());
 
     Translations translations{*language, {}};
