@@ -11,8 +11,8 @@
 #include <utility>
 #include <vector>
 
-/// What `zkstrings import` does with files of translation programs. The first part of the input is the file name's
-/// extension, which names the format.
+/// Imports files of translation programs. The first part of the input is the file name's extension, which names the
+/// format.
 
 namespace zk::fuzzing {
 
@@ -22,14 +22,15 @@ using namespace zk::tools;
 using testing::TemporaryDirectory;
 using testing::TemporaryProject;
 
-/// Whether `work` ends without a refusal, in time.
+/// Returns whether `work` refuses nothing. It must end in time.
 template <class Work>
 bool succeeds(std::size_t bytes, Work work) {
   const TimeLimit limit(bytes);
   try {
     work();
   } catch (const CommandFailed& failed) {
-    require(!failed.diagnostics.empty() && !failed.diagnostics[0].message.empty(), "refused without a word");
+    require(!failed.diagnostics.empty() && !failed.diagnostics[0].message.empty(),
+            "refused without a reason");
     return false;
   }
   return true;
@@ -43,12 +44,12 @@ void importInto(const TemporaryProject& project, const Translations& translation
     return succeeds(bytes, [&] { done = importTranslations(project.root(), translations, "de.xlf", false); });
   };
   Import done;
-  if (!import(done)) return require(project.read(table) == before, "refused, and yet the table is changed");
+  if (!import(done)) return require(project.read(table) == before, "refused, but the table is changed");
   const std::string after = project.read(table);
   require(Table::read(project.root(), "de").diagnostics.empty(), "the table is broken:\n" + after);
   Import again;
-  require(import(again) && again.refused == done.refused, "it cannot be imported again");
-  require(project.read(table) == after, "imported again, it changes the table again:\n" + after);
+  require(import(again) && again.refused == done.refused, "a second import fails");
+  require(project.read(table) == after, "a second import changes the table again:\n" + after);
 }
 
 std::size_t sizeOf(const Translations& translations) {
@@ -58,8 +59,8 @@ std::size_t sizeOf(const Translations& translations) {
   return size;
 }
 
-/// Whether exports have such units: with a key, without carriage returns, and translated if they have the
-/// English text, which otherwise stands for a translation that is missing.
+/// Whether an export can have such a unit: it has a key and no carriage returns, and if it needs review, its target is not
+/// the English text.
 bool isExported(const TranslationUnit& unit) {
   const bool isBegun = unit.state == TranslationState::translated || unit.target != unit.source;
   return !unit.key.empty() && isBegun &&
@@ -73,7 +74,7 @@ bool areSame(const std::vector<TranslationUnit>& sent, const std::vector<Transla
                     });
 }
 
-/// What a format has written, it reads again.
+/// Each format must read what it writes.
 void sendAround(Translations translations, const TemporaryDirectory& directory) {
   translations.language = "de";
   std::erase_if(translations.units, [](const TranslationUnit& unit) { return !isExported(unit); });
@@ -87,7 +88,7 @@ void sendAround(Translations translations, const TemporaryDirectory& directory) 
     Translations back;
     const std::string file = directory.write(name, bytes);
     require(succeeds(bytes.size(), [&] { back = readTranslations(file); }),
-            "it is not read again:\n" + bytes);
+            "it cannot be read again:\n" + bytes);
     require(areSame(translations.units, back.units), "it is read as something else:\n" + bytes);
   }
 }
