@@ -1,14 +1,15 @@
 # zk_add_catalogue(TARGET <target> ROOT <folder> [NAME <name>] [NAMESPACE <namespace>] [DESTINATION <directory>])
 #
-# Adds the static library <target> with the accessors of the catalogue in <folder>, as `zkstrings init` begins one. A program
-# that links it includes "<name>.h". <name> and <namespace> are those of catalogue/catalogue.json; when they are
-# given here as well, they must be the same.
+# Adds the static library <target> with the accessors of the catalogue in <folder>, which `zkstrings init` creates. A program
+# that links it includes "<name>.h". <name> and <namespace> are those in catalogue/catalogue.json; if they are
+# given here as well, they must be the same. Each catalogue of a project needs a name of its own.
 #
-# The accessors are generated anew whenever the catalogue or its English table changes; a fault in them fails the build, with
-# its file, line and column. They find their tables in share/<name>, at or above the directory of the program or
-# shared library that holds them, two levels up at most. For the build, the tables are linked there at the top of the
-# build folder and in the current one. An installation gets a copy at its root, for code in bin/, lib/ or
-# lib/<architecture>/, or in DESTINATION, which is best the directory that the code itself is installed in.
+# The accessors are regenerated whenever the catalogue or its English table changes; an error in them fails the build, with
+# file, line and column. They find their tables in share/<project>-<name>, in the directory of the program or shared
+# library that contains them or at most two levels above it. <project> is the name of the top-level project, so two
+# products can be installed under one prefix. In the build folder, the tables are links, at its top and in the current
+# directory. An installation copies the tables to its root, for code in bin/, lib/ or lib/<architecture>/, or to DESTINATION,
+# which should be the directory that the code itself is installed in.
 function(zk_add_catalogue)
   cmake_parse_arguments(PARSE_ARGV 0 arg "" "TARGET;ROOT;NAME;NAMESPACE;DESTINATION" "")
   if(NOT arg_TARGET OR NOT arg_ROOT OR arg_UNPARSED_ARGUMENTS OR arg_KEYWORDS_MISSING_VALUES)
@@ -25,6 +26,15 @@ function(zk_add_catalogue)
     endif()
   endforeach()
 
+  string(TOLOWER ${name} unique)
+  get_property(other GLOBAL PROPERTY ZKSTRINGS_CATALOGUE_${unique})
+  if(other AND NOT other STREQUAL arg_ROOT)
+    message(FATAL_ERROR "${arg_ROOT}/catalogue/catalogue.json:1:1: error: the catalogue in ${other} is named \"${name}\" too; "
+      "change one of the two names")
+  endif()
+  set_property(GLOBAL PROPERTY ZKSTRINGS_CATALOGUE_${unique} ${arg_ROOT})
+  string(REGEX REPLACE "[^A-Za-z0-9_.-]" "_" folder "${CMAKE_PROJECT_NAME}-${name}")
+
   set(generated ${CMAKE_CURRENT_BINARY_DIR}/${arg_TARGET}-accessors)
   zkstrings_find_command(command)
   add_custom_command(OUTPUT ${generated}/${name}.h ${generated}/${name}.cpp
@@ -36,30 +46,31 @@ function(zk_add_catalogue)
   add_library(${arg_TARGET} STATIC ${generated}/${name}.cpp ${generated}/${name}.h)
   target_include_directories(${arg_TARGET} PUBLIC ${generated})
   target_link_libraries(${arg_TARGET} PUBLIC ZKStrings::ZKStrings)
-  # It may become part of a shared library.
+  target_compile_definitions(${arg_TARGET} PRIVATE ZK_CATALOGUE_FOLDER="${folder}")
+  # The library may become part of a shared one.
   set_target_properties(${arg_TARGET} PROPERTIES POSITION_INDEPENDENT_CODE ON)
 
   foreach(directory IN ITEMS ${CMAKE_BINARY_DIR} ${CMAKE_CURRENT_BINARY_DIR})
     file(MAKE_DIRECTORY ${directory}/share)
-    file(CREATE_LINK ${arg_ROOT}/resources ${directory}/share/${name} SYMBOLIC)
+    file(CREATE_LINK ${arg_ROOT}/resources ${directory}/share/${folder} SYMBOLIC)
   endforeach()
   set(installed "${arg_DESTINATION}")
-  cmake_path(APPEND installed share ${name})
+  cmake_path(APPEND installed share ${folder})
   install(DIRECTORY ${arg_ROOT}/resources/ DESTINATION ${installed} PATTERN "*.md" EXCLUDE PATTERN "glossary.json" EXCLUDE
     PATTERN "*.zkstrings-*" EXCLUDE)
 endfunction()
 
-# Sets the variables <name> and <namespace> to what <file> says, and stops with a message when it does not say it.
+# Sets the variables <name> and <namespace> to those in <file>. Stops with a message if they are missing.
 function(zkstrings_read_catalogue_name file name namespace)
   if(NOT EXISTS ${file})
-    message(FATAL_ERROR "${file}:1:1: error: no such file; ROOT names a folder that zkstrings init has begun")
+    message(FATAL_ERROR "${file}:1:1: error: no such file; ROOT must be a folder that zkstrings init has created")
   endif()
   set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${file})
   file(READ ${file} json)
   string(JSON read_name ERROR_VARIABLE no_name GET "${json}" name)
   string(JSON read_namespace ERROR_VARIABLE no_namespace GET "${json}" namespace)
   if(no_name)
-    message(FATAL_ERROR "${file}:1:1: error: the file names no catalogue; write {\"name\": \"Texts\", \"namespace\": \"myapp\"}")
+    message(FATAL_ERROR "${file}:1:1: error: the catalogue has no name; write {\"name\": \"Texts\", \"namespace\": \"myapp\"}")
   endif()
   if(read_name STREQUAL "ZKStrings")
     message(FATAL_ERROR "${file}:1:1: error: the name ZKStrings is the module's own; choose another")
@@ -71,7 +82,7 @@ function(zkstrings_read_catalogue_name file name namespace)
   set(${namespace} "${read_namespace}" PARENT_SCOPE)
 endfunction()
 
-# Sets the variable <command> to what runs zkstrings: the one that this build makes, or that was installed with the module.
+# Sets the variable <command> to zkstrings: the target of this build, or the program installed with the module.
 function(zkstrings_find_command command)
   if(TARGET zkstrings)
     set(${command} zkstrings PARENT_SCOPE)

@@ -18,7 +18,7 @@ both="250 Spieler warten, 12 Abzeichen"  # one text of the program's own, one of
 expect "in the build folder" "$both" "$build/bin/own_catalogue" de-DE
 
 "$cmake" --install "$build" --prefix "$work/module" >/dev/null
-[ ! -e "$work/module/share/ConsoleTexts" ] || fail "the example's tables are installed with the module"
+[ -z "$(find "$work/module/share" -name '*ConsoleTexts')" ] || fail "the example's tables are installed with the module"
 cp -r "$source/examples/own-catalogue" "$work/app"
 "$cmake" -G Ninja -S "$work/app" -B "$work/build" -DCMAKE_CXX_COMPILER="$compiler" -DCMAKE_PREFIX_PATH="$work/module" \
   -DCMAKE_INSTALL_PREFIX="$work/first" -DCMAKE_INSTALL_RPATH_USE_LINK_PATH=ON >/dev/null
@@ -51,3 +51,20 @@ grep -qF "$entries:2:1: error: the key \"Camera_is_on\"" <<<"$output" || fail "t
 sed -i 's/NAMESPACE console/NAMESPACE other/' "$work/app/CMakeLists.txt"
 output=$("$cmake" -S "$work/app" -B "$work/build" 2>&1) && fail "another namespace than the catalogue's is taken"
 grep -qF 'catalogue.json:1:1: error: the namespace is "console" here and' <<<"$(tr -s ' \n' ' ' <<<"$output")" || fail "the namespace is not told: $output"
+
+sed -i 's/NAMESPACE other/NAMESPACE console/' "$work/app/CMakeLists.txt"
+cp -r "$work/app/texts" "$work/app/more"
+echo 'zk_add_catalogue(TARGET more ROOT more)' >>"$work/app/CMakeLists.txt"
+output=$("$cmake" -S "$work/app" -B "$work/build" 2>&1) && fail "two catalogues may have one name"
+grep -qF 'is named "ConsoleTexts" too;' <<<"$(tr -s ' \n' ' ' <<<"$output")" || fail "the name is not reported: $output"
+
+# Two products with the same catalogue name, under one prefix.
+for product in alpha beta; do
+  cp -r "$source/examples/own-catalogue" "$work/$product"
+  sed -i "s/project(OwnCatalogue/project($product/; s/own_catalogue/$product/" "$work/$product/CMakeLists.txt"
+  sed -i "s/Guten Abend/$product/" "$work/$product/texts/resources/de.lproj/Localizable.strings"
+  "$cmake" -G Ninja -S "$work/$product" -B "$work/build-$product" -DCMAKE_CXX_COMPILER="$compiler" \
+    -DCMAKE_PREFIX_PATH="$work/module" -DCMAKE_INSTALL_PREFIX="$work/both" -DCMAKE_INSTALL_RPATH_USE_LINK_PATH=ON >/dev/null
+  "$cmake" --build "$work/build-$product" --target install >/dev/null
+done
+for product in alpha beta; do expect "under one prefix" "$product, Kim!" "$work/both/bin/$product" de-DE; done

@@ -56,14 +56,18 @@ constexpr const char* kSourceBegin = R"({notice}
 #include <ZKStrings/engine/StringLookup.h>
 #include <ZKStrings/platform/Bundle.h>
 
+#ifndef ZK_CATALOGUE_FOLDER  // zk_add_catalogue defines it, so that two products never share a folder
+#define ZK_CATALOGUE_FOLDER "{name}"
+#endif
+
 namespace {{
 
-/// The tables: share/{name} at or above the directory of the file that holds this code, two levels up at
-/// most. Null while they cannot be opened for the moment.
+/// The tables in share/ZK_CATALOGUE_FOLDER, in the directory of the file that contains this code or at most two levels
+/// above it. Null while they temporarily cannot be opened.
 struct {name}Resources {{
   static const zk::Bundle* bundle() {{
     try {{
-      static const zk::Bundle& found = zk::Bundle::bundleForClass(typeid({name}Resources), "{name}");
+      static const zk::Bundle& found = zk::Bundle::bundleForClass(typeid({name}Resources), ZK_CATALOGUE_FOLDER);
       return &found;
     }} catch (const std::system_error&) {{
       return nullptr;
