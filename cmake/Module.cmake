@@ -14,7 +14,6 @@ set(public_headers
   platform/Dictionary.h
   platform/Export.h
   platform/Locale.h
-  platform/Registration.h
   platform/Resolver.h
   platform/SharedArray.h
   platform/ZKCommon.h
@@ -27,34 +26,28 @@ add_library(zk_objects OBJECT
   catalogue/EntryText.cpp
   catalogue/ZKStrings.cpp
   engine/BundleGlobals.cpp
-  engine/LanguageChoice.cpp
   engine/PlaceholderSubstitution.cpp
   engine/StringLookup.cpp
   engine/Substitutions.cpp
   platform/Bundle.cpp
   platform/Export.cpp
   platform/system/CodeLocation.cpp
-  platform/system/DirectoryListing.cpp
   platform/system/File.cpp
-  platform/system/ProcessSeed.cpp
   platform/system/ResourceDirectory.cpp
+  platform/system/ThreadPointer.cpp
   platform/formats/Json.cpp
   platform/Locale.cpp
-  platform/registry/ServiceView.cpp
   platform/Resolver.cpp
   platform/formats/StringTable.cpp
   platform/formats/StringTableReader.cpp
   platform/formats/TextEncoding.cpp
-  platform/text/CanonicalForm.cpp
-  platform/text/GraphemeClusters.cpp
   platform/text/TextSearch.cpp
   platform/text/UnicodeText.cpp
   platform/ZKCommon.cpp
   region/Country.cpp
   region/CountryList.cpp
   region/CurrentLanguage.cpp
-  region/Language.cpp
-  region/LanguageDerivation.cpp)
+  region/Language.cpp)
 target_include_directories(zk_objects PUBLIC ${PROJECT_BINARY_DIR}/include)
 target_link_libraries(zk_objects PRIVATE zk_compile_options ICU::uc nlohmann_json::nlohmann_json)
 set_source_files_properties(platform/system/ResourceDirectory.cpp PROPERTIES COMPILE_DEFINITIONS

@@ -1,5 +1,5 @@
 #include <ZKStrings/engine/BundleGlobals.h>
-#include <ZKStrings/engine/ModuleBundle.h>
+#include <ZKStrings/region/CountryList.h>
 
 #include <system_error>
 #include <typeinfo>
@@ -8,14 +8,14 @@ namespace zk {
 
 namespace {
 
-/// Stands for this module when the platform is asked which bundle holds its code.
+/// Identifies this module when the platform is asked which bundle holds its code.
 class BundleClass {};
 
 }  // namespace
 
-const Bundle* moduleBundle() {
+const Bundle* internal::moduleBundle() {
   try {
-    // When this throws, the next call runs it again.
+    // If this throws, the next call runs it again.
     static const Bundle& bundle = Bundle::bundleForClass(typeid(BundleClass));
     return &bundle;
   } catch (const std::system_error&) {
@@ -24,7 +24,7 @@ const Bundle* moduleBundle() {
 }
 
 const Bundle& bundle() {
-  const Bundle* const found = moduleBundle();
+  const Bundle* const found = internal::moduleBundle();
   return found ? *found : Bundle::withoutResources("");
 }
 
@@ -35,6 +35,11 @@ const Bundle& mainBundle() {
   } catch (const std::system_error&) {
     return Bundle::withoutResources("");
   }
+}
+
+// Here and not in region/, which does not know the module's bundle.
+SharedArray<Country> loadCountries() {
+  return countriesIn(bundle());
 }
 
 }  // namespace zk

@@ -5,12 +5,25 @@
 
 namespace zk {
 
-/// The module's own bundle: the directory with the language directories and countries.json. Found at the
-/// first call of any thread, once, and the same object ever after. While it cannot be found or listed for
-/// want of descriptors or memory, a bundle without resources; the next call looks again.
+/// The module's own bundle: the directory with the language directories and countries.json. Found on the first call
+/// and the same object on every later call. Thread-safe.
+///
+/// Returns a bundle without resources while the directory temporarily cannot be found or listed; the next call looks
+/// again.
 [[nodiscard]] ZK_EXPORT const Bundle& bundle();
 
-/// The app's main bundle, found likewise and independently of `bundle`. The module itself reads nothing from it.
+/// The app's main bundle: the directory of its executable. Found on the first call and the same object on every later
+/// call. The module itself reads nothing from it. Thread-safe.
+///
+/// Returns a bundle without resources while the directory temporarily cannot be found or listed; the next call looks
+/// again.
 [[nodiscard]] ZK_EXPORT const Bundle& mainBundle();
+
+namespace internal {
+
+/// The module's own bundle; null while it temporarily cannot be found or listed.
+[[nodiscard]] const Bundle* moduleBundle();
+
+}  // namespace internal
 
 }  // namespace zk

@@ -13,7 +13,7 @@ namespace zk {
 /// for English.
 [[nodiscard]] inline std::string_view languageCode(std::string_view identifier) {
   const std::string_view code = firstTwoCharacters(identifier);
-  return code == "en" ? "Base" : code;
+  return code.size() == 2 && code[0] == 'e' && code[1] == 'n' ? "Base" : code;
 }
 
 /// Stops the process: there is no Base.lproj among the module's resources, or there are no resources where

@@ -1,6 +1,6 @@
 #include <ZKStrings/engine/Substitutions.h>
 #include <ZKStrings/platform/text/Bytes.h>
-#include <ZKStrings/platform/text/CanonicalForm.h>
+#include <ZKStrings/platform/text/TextSearch.h>
 
 #include <algorithm>
 #include <string>

@@ -4,21 +4,21 @@
 #include <ZKStrings/platform/Export.h>
 
 #include <atomic>
-#include <cstddef>
-#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <system_error>
 #include <typeinfo>
-#include <vector>
 
 namespace zk {
 
 class ResourcePath;
 class StringTable;
+
+namespace internal {
 struct ResourcePlaces;
+}
 
 /// A directory of resources: string tables, language directories, data files.
 ///
@@ -28,54 +28,65 @@ struct ResourcePlaces;
 ///       }
 ///     }
 ///
-/// A bundle lists its directory once, when it is opened; directories and tables that are added or removed
-/// later are not seen. Bundles and the tables opened in them live until the process ends and are shared by
-/// all threads; any thread may call anything, and only the first opening of a directory or table takes a
-/// lock.
+/// A bundle lists its directory once, when it is opened. It does not see directories and tables that are added
+/// or removed later. Bundles and their tables live until the process ends and are shared by all threads.
 ///
-/// When the process or the system is short of descriptors or memory for the moment, nothing is remembered:
-/// the same call succeeds when the shortage is over. Any function may throw std::bad_alloc.
+/// Thread-safe. Only the first opening of a directory or table takes a lock.
+///
+/// Throws std::bad_alloc if memory runs out, and std::system_error where a function says so. After either, the
+/// same call succeeds once the shortage is over.
 class ZK_EXPORT alignas(kCacheLine) Bundle {
  public:
-  /// The bundle of the module that defines the type `type`: the nearest directory `share/ZKStrings` at or
-  /// above the directory of the shared library or executable that holds the module's code, two levels up at
-  /// most, or else the place that the module was configured to be installed with. When there is none, a
-  /// bundle without resources, whose path is empty.
+  /// Returns the bundle of the module that defines the type `type`: the nearest directory `share/ZKStrings` at or
+  /// above the directory of the module's shared library or executable, at most two levels up, or else the place
+  /// where the module was configured to be installed. Returns a bundle without resources, whose path is empty, if
+  /// there is no such directory.
   ///
-  /// Throws std::system_error when it cannot be said for the moment which directory it is or what is in it.
+  /// Throws std::system_error if the directory temporarily cannot be found or listed.
   [[nodiscard]] static const Bundle& bundleForClass(const std::type_info& type);
 
-  /// The same for code that has resources of its own, in a directory `name`: the nearest `share/name` at or
-  /// above the directory of the file that defines the type `type`, two levels up at most. A `name` that is no
-  /// single name, such as "" or "a/b", has none.
+  /// Returns the bundle of other code with its own resources: the nearest directory `share/NAME` at or above the
+  /// directory of the file that defines the type `type`, at most two levels up. `name` is a single name; for
+  /// others, such as "" or "a/b", returns a bundle without resources.
+  ///
+  ///     const zk::Bundle& texts = zk::Bundle::bundleForClass(typeid(MyTexts), "MyTexts");
+  ///
+  /// Throws std::system_error if the directory temporarily cannot be found or listed.
   [[nodiscard]] static const Bundle& bundleForClass(const std::type_info& type, std::string_view name);
 
-  /// The bundle of the running app: the directory of its executable, without resources when that cannot be
-  /// listed. Throws like `bundleForClass`.
+  /// Returns the bundle of the running app: the directory of its executable. It has no resources if the directory
+  /// cannot be listed.
+  ///
+  /// Throws std::system_error if the directory temporarily cannot be found or listed.
   [[nodiscard]] static const Bundle& mainBundle();
 
-  /// A bundle without resources at `path`; the same path gives the same bundle.
+  /// Returns a bundle without resources at `path`. The same path returns the same bundle.
   [[nodiscard]] static const Bundle& withoutResources(const std::string& path);
 
-  /// Opens the directory at `path`; null when it is none or cannot be listed. The same path gives the same
-  /// bundle.
+  /// Opens the directory at `path`. Returns null if it is not a directory or cannot be listed. The same path
+  /// returns the same bundle.
+  ///
+  /// Throws std::system_error if the directory temporarily cannot be listed.
   [[nodiscard]] static const Bundle* initWithPath(const std::string& path);
 
-  /// Opens a directory that a bundle holds; null when it cannot be listed. Throws std::system_error when that
-  /// is so for the moment only.
+  /// Opens a directory that another bundle lists. Returns null if it is not a directory or cannot be listed. The
+  /// same path returns the same bundle.
+  ///
+  /// Throws std::system_error if the directory temporarily cannot be listed.
   [[nodiscard]] static const Bundle* initWithPath(const ResourcePath& path);
 
-  /// The directory `name`.`type` among the bundle's resources, for example "de" and "lproj"; null when there
-  /// is none. Names are compared byte for byte; an empty name, a slash, ".." or a dot in `type` names nothing.
+  /// Returns the directory `name`.`type` among the bundle's resources, for example "de" and "lproj"; null if there
+  /// is none. Names are compared byte for byte and never become a path. An empty name, a name with a slash and a
+  /// type with a dot are never found.
   [[nodiscard]] const ResourcePath* pathForResource(std::string_view name, std::string_view type) const;
 
-  /// The full path of the file `name`.`extension` in the bundle's directory; nothing when there is none.
-  /// Looks afresh at each call.
+  /// Returns the full path of the file `name`.`extension` in the bundle's directory; nothing if there is none.
+  /// Looks for the file on every call.
   [[nodiscard]] std::optional<std::string> URLForResource(std::string_view name,
                                                           std::string_view extension) const;
 
-  /// The text that the table `table`.strings, or Localizable.strings when none is named, holds for `key`.
-  /// When it holds none, `value`; when that is empty, `key`. The result views into the table, or is the
+  /// Returns the text for `key` in the table `table`.strings, or in Localizable.strings if `table` is omitted. If
+  /// the table has none, returns `value`, or `key` if `value` is empty. The result is a view of the table, or the
   /// argument itself.
   [[nodiscard]] std::string_view localizedStringForKey(
       std::string_view key, std::string_view value,
@@ -89,31 +100,20 @@ class ZK_EXPORT alignas(kCacheLine) Bundle {
   Bundle& operator=(const Bundle&) = delete;
 
  private:
-  using Resources = std::vector<std::unique_ptr<const ResourcePath>>;
-  struct Name;
-  struct Slot;
+  class Listing;
 
-  Bundle(std::string path, Resources resources);
+  Bundle(std::string path, std::unique_ptr<const Listing> listing);
   static const Bundle* open(const std::string& path, std::error_code& failure);
-  static const Bundle* open(const ResourcePath& path);
-  static const Bundle& bundleOfCode(const std::type_info& type, const ResourcePlaces& places);
+  static const Bundle* openListed(const ResourcePath& path);
   static const Bundle& openOrThrow(const std::string& path, std::error_code failure);
-  [[nodiscard]] Name nameOf(std::string_view name, std::string_view type) const;
-  [[nodiscard]] std::size_t placeOf(const Name& name) const;
-  [[nodiscard]] const ResourcePath* find(std::string_view name, std::string_view type) const;
-
-  /// An index of the resources by name, with open addressing. Its size is a power of two; `last_` is one less.
-  std::unique_ptr<Slot[]> slots_{};
-  std::size_t last_ = 0;
-  const std::uint64_t seed_;
-  const ResourcePath* defaultTable_;
+  static const Bundle& bundleOfCode(const std::type_info& type, const internal::ResourcePlaces& places);
 
   const std::string path_;
-  const Resources resources_;
+  const std::unique_ptr<const Listing> listing_;
+  const ResourcePath* const defaultTable_;
 };
 
-/// The place of one resource, as a bundle's listing keeps it for the rest of the process. What has been
-/// opened there is remembered beside it, so that opening it again costs no search.
+/// The place of one resource in the listing of a bundle. Lives until the process ends.
 class ZK_EXPORT alignas(kCacheLine) ResourcePath {
  public:
   /// The full path of the file or directory.
@@ -121,21 +121,22 @@ class ZK_EXPORT alignas(kCacheLine) ResourcePath {
   /// Whether it was a directory when it was listed.
   [[nodiscard]] bool isDirectory() const { return isDirectory_; }
 
-  /// What a listing has found at the full path `path`.
-  ResourcePath(std::string path, bool isDirectory);
   ~ResourcePath();
   ResourcePath(const ResourcePath&) = delete;
   ResourcePath& operator=(const ResourcePath&) = delete;
 
  private:
   friend class Bundle;
-  [[nodiscard]] std::string_view fileName() const { return fileName_; }
+  ResourcePath(std::string path, bool isDirectory);
+  [[nodiscard]] bool isNamed(std::string_view name, std::string_view type) const;
   [[nodiscard]] const StringTable* table() const;
   [[nodiscard]] const StringTable* openTable() const;
 
   const std::string path_;
-  const std::string_view fileName_;
+  std::string_view name_{};  // of the file: what is before the last dot, or empty
+  std::string_view type_{};  // and what is after it
   const bool isDirectory_;
+  // What has been opened at this path, so that opening it again needs no search.
   mutable std::atomic<const Bundle*> bundle_{nullptr};
   mutable std::atomic<const StringTable*> table_{nullptr};
 };

@@ -1,9 +1,14 @@
 #include <ZKStrings/platform/Resolver.h>
-#include <ZKStrings/platform/registry/Entry.h>
+#include <ZKStrings/platform/ServiceView.h>
+#include <ZKStrings/platform/system/ThreadPointer.h>
 
-#include <condition_variable>
+#include <cstddef>
+#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
+#include <functional>
+#include <mutex>
+#include <string>
 #include <typeindex>
 #include <unordered_map>
 
@@ -11,88 +16,62 @@
 
 namespace zk {
 
-namespace registry {
+namespace internal {
 
-/// What one thread is doing as a runner of factories; guarded by the one lock of all makers.
-struct Maker {
-  const Registration* waitsFor = nullptr;  // what another thread is making for it
+struct alignas(kCacheLine) Entry {
+  Entry(const std::type_info& service, const std::optional<std::string>& given)
+      : type(service), name(given) {}
+
+  const std::type_info& type;
+  const std::optional<std::string> name;
+
+  std::atomic<std::uint64_t> generation{0};  // counts the changes of the registration
+  std::mutex mutex{};
+  std::shared_ptr<Registration> registration{};  // guarded by `mutex`
+  std::recursive_mutex
+      making{};  // held while a factory runs whose result will be kept, and which may come back here
 };
 
 namespace {
 
-thread_local constinit Maker thisThread;
-
-struct Makers {
-  std::mutex mutex{};
-  std::condition_variable oneIsDone{};
-};
-
-Makers& makers() {
-  static auto& makers = *new Makers;  // never destroyed: a service may be asked for as late as anyone likes
-  return makers;
-}
-
-/// Says what is wrong with a service on standard error and stops the process.
-[[noreturn]] void stop(const Entry& entry, const char* fault) {
+/// Reports what is wrong with a service and stops the process.
+[[noreturn]] void stop(const Entry& entry, const char* problem) {
   int status = 0;
   const std::unique_ptr<char, decltype(&std::free)> readable(
       abi::__cxa_demangle(entry.type.name(), nullptr, nullptr, &status), &std::free);
   std::fprintf(stderr, "Resolver: the service %s%s%s%s %s\n", readable ? readable.get() : entry.type.name(),
                entry.name ? " named \"" : "", entry.name ? entry.name->c_str() : "", entry.name ? "\"" : "",
-               fault);
+               problem);
   std::abort();
 }
 
 }  // namespace
 
-Registration::Registration() : scope_(ResolverScope::everyResolve) {
-}
+Registration::Registration() = default;
 
 Registration::~Registration() = default;
 
-Service Registration::service(const Entry& entry) {
-  return scope_ == ResolverScope::application ? keptOrMade(entry) : made(entry);
-}
-
 Service Registration::made(const Entry& entry) {
   Service service = make();
-  if (!service) stop(entry, "has a factory that gives nothing");
+  if (!service) stop(entry, "has a factory that returned nothing");
   return service;
 }
 
-/// Makes the service at the first call, and gives the same one ever after. A thread that comes meanwhile
-/// waits.
-Service Registration::keptOrMade(const Entry& entry) {
+Service Registration::service(Entry& entry) {
+  if (scope != ResolverScope::application) return made(entry);
   if (isKept_.load(std::memory_order_acquire)) return kept_;
-  std::unique_lock lock(makers().mutex);
-  while (maker_) {
-    if (isAwaitedBy(thisThread)) stop(entry, "is resolved by its own factory, directly or through others");
-    thisThread.waitsFor = this;
-    makers().oneIsDone.wait(lock);
-    thisThread.waitsFor = nullptr;
-  }
+  const std::lock_guard lock(entry.making);
   if (isKept_) return kept_;
-
-  maker_ = &thisThread;
-  lock.unlock();
-  const auto done = [&](void*) {
-    const std::lock_guard again(makers().mutex);
-    maker_ = nullptr;
-    makers().oneIsDone.notify_all();
-  };
-  const std::unique_ptr<void, decltype(done)> afterwards(this, done);  // also when the factory throws
-  kept_ = made(entry);
+  if (isBeingMade_) stop(entry, "is resolved by its own factory, directly or through others");
+  isBeingMade_ = true;
+  try {
+    kept_ = made(entry);
+  } catch (...) {
+    isBeingMade_ = false;
+    throw;
+  }
   isKept_.store(true, std::memory_order_release);
   return kept_;
-}
-
-/// Whether the making of this registration's service has to wait for `thread`: because that is its maker, or
-/// because its maker waits for another that has to.
-bool Registration::isAwaitedBy(const Maker& thread) const {
-  for (const Registration* next = this; next && next->maker_; next = next->maker_->waitsFor) {
-    if (next->maker_ == &thread) return true;
-  }
-  return false;
 }
 
 namespace {
@@ -105,11 +84,22 @@ struct HashOfKey {
   }
 };
 
+/// The current registration of `entry`. Stops the process if there is none.
+std::shared_ptr<Registration> current(Entry& entry) {
+  std::unique_lock lock(entry.mutex);
+  std::shared_ptr<Registration> registration = entry.registration;
+  lock.unlock();
+  if (!registration)
+    stop(entry, "is not registered; register it (for Language: assign Current::language) first");
+  return registration;
+}
+
 }  // namespace
 
 Entry& entryFor(const std::type_info& type, std::optional<std::string_view> name) {
-  static std::mutex& mutex = *new std::mutex;  // never destroyed, as above
-  // Not in an order of types: on 32-bit ARM, GCC's puts types of one source file before and behind others at once.
+  // Never destroyed: a service may be resolved in the last destructor of an app.
+  static std::mutex& mutex = *new std::mutex;
+  // Not ordered by type: on 32-bit ARM, GCC's order of types is inconsistent within one source file.
   static auto& entries = *new std::unordered_map<Key, Entry, HashOfKey>;
   const Key key(type, name);
   const std::lock_guard lock(mutex);
@@ -124,30 +114,62 @@ ResolverOptions registerIn(Entry& entry, std::shared_ptr<Registration> registrat
   return ResolverOptions(entry, std::move(registration));
 }
 
-Resolved resolved(Entry& entry) {
-  std::unique_lock lock(entry.mutex);
-  const std::shared_ptr<Registration> registration = entry.registration;
-  const std::uint64_t generation = entry.generation.load(std::memory_order_relaxed);
-  lock.unlock();
-  if (!registration)
-    stop(entry, "is not registered; register it (for Language: assign Current::language) first");
-  const ResolverScope scope = registration->scope();
-  return {registration->service(entry), generation, scope};
-}
-
 Service resolveFrom(Entry& entry) {
-  return resolved(entry).service;
+  return current(entry)->service(entry);
 }
 
-}  // namespace registry
+namespace {
 
-ResolverOptions::ResolverOptions(registry::Entry& entry,
-                                 std::shared_ptr<registry::Registration> registration) noexcept
+// What this thread keeps. A plain pointer needs no construction, so reading it is cheap and safe at any time.
+thread_local constinit Kept* keptByThread = nullptr;
+
+void freeAllKept(void*) {
+  while (keptByThread) delete std::exchange(keptByThread, keptByThread->next);
+}
+
+/// The place where this thread keeps the service of `entry`; null if it cannot keep any.
+Kept* placeFor(const Entry& entry) {
+  for (Kept* kept = keptByThread; kept; kept = kept->next) {
+    if (kept->entry == &entry) return kept;
+  }
+  static const ThreadPointer& atThreadEnd = *new ThreadPointer(freeAllKept);
+  if (!atThreadEnd.set(&keptByThread)) return nullptr;
+  keptByThread = new Kept{&entry, nullptr, 0, 0, nullptr, keptByThread};
+  return keptByThread;
+}
+
+}  // namespace
+
+Hold::Hold(Entry& entry) : kept_(keptByThread) {
+  const std::uint64_t generation = entry.generation.load(std::memory_order_acquire);
+  for (; kept_; kept_ = kept_->next) {
+    if (kept_->entry != &entry || kept_->generation != generation) continue;
+    ++kept_->openViews;
+    service_ = kept_->service;
+    return;
+  }
+  const std::shared_ptr<Registration> registration = current(entry);
+  owner_ = registration->service(entry);
+  service_ = owner_.get();
+  if (registration->scope != ResolverScope::application) return;
+  Kept* const place = placeFor(entry);
+  if (!place || place->openViews > 0) return;  // a view further up the stack still reads the older service
+  kept_ = place;
+  kept_->openViews = 1;
+  kept_->service = service_;
+  kept_->generation = generation;
+  kept_->owner.swap(owner_);  // last, as releasing the older service may open a view
+}
+
+}  // namespace internal
+
+ResolverOptions::ResolverOptions(internal::Entry& entry,
+                                 std::shared_ptr<internal::Registration> registration) noexcept
     : entry_(entry), registration_(std::move(registration)) {
 }
 
 ResolverOptions& ResolverOptions::scope(ResolverScope scope) {
-  registration_->setScope(scope);
+  registration_->scope = scope;
   // What threads keep was kept under the old scope.
   entry_.generation.fetch_add(1, std::memory_order_release);
   return *this;

@@ -4,9 +4,10 @@
 #error "Resolver.h needs RTTI: compile without -fno-rtti, or include the other headers by themselves"
 #endif
 
+#include <ZKStrings/platform/CacheLines.h>
 #include <ZKStrings/platform/Export.h>
-#include <ZKStrings/platform/Registration.h>
 
+#include <atomic>
 #include <memory>
 #include <optional>
 #include <string_view>
@@ -15,64 +16,119 @@
 
 namespace zk {
 
-/// How long the registry keeps what a factory gave.
+/// How long the registry keeps a factory's result.
 enum class ResolverScope {
-  everyResolve,  ///< not at all: each resolve calls the factory
-  application,   ///< for the rest of the process: the first resolve calls the factory, once per registration
+  everyResolve,  ///< Not at all: each resolve calls the factory.
+  application,   ///< Until the process ends: only the first resolve of a registration calls the factory.
 };
 
-/// The options of one registration, as `Resolver::register_` gives them.
+class ResolverOptions;
+
+namespace internal {
+
+struct Entry;
+
+using Service = std::shared_ptr<const void>;
+
+/// A factory, its scope, and the service that the application scope keeps.
+class ZK_EXPORT Registration {
+ public:
+  Registration(const Registration&) = delete;
+  Registration& operator=(const Registration&) = delete;
+  virtual ~Registration();
+
+  /// A new service or the one that is kept, depending on the scope. `entry` is what was resolved.
+  [[nodiscard]] Service service(Entry& entry);
+
+  std::atomic<ResolverScope> scope{ResolverScope::everyResolve};
+
+ protected:
+  Registration();
+
+ private:
+  /// Calls the factory; null if it returned nothing.
+  [[nodiscard]] virtual Service make() = 0;
+  [[nodiscard]] Service made(const Entry& entry);
+
+  bool isBeingMade_ = false;  // guarded by the entry, as is writing `kept_`
+  std::atomic<bool> isKept_{false};
+  Service kept_{};  // written once, before `isKept_` is set
+};
+
+template <class Type, class Make>
+class RegistrationOf final : public Registration {
+ public:
+  explicit RegistrationOf(Make made) : factory(std::move(made)) {}
+
+  Make factory;
+
+ private:
+  Service make() override {
+    std::optional<Type> service = factory();
+    if (!service) return nullptr;
+    return std::allocate_shared<const Type>(CacheLineAllocator<Type>(), *std::move(service));
+  }
+};
+
+/// The entry for a type and a name, which lives until the process ends.
+[[nodiscard]] ZK_EXPORT Entry& entryFor(const std::type_info& type, std::optional<std::string_view> name);
+
+/// Makes `registration` the current one of `entry`. Allocates nothing.
+ZK_EXPORT ResolverOptions registerIn(Entry& entry, std::shared_ptr<Registration> registration) noexcept;
+
+[[nodiscard]] ZK_EXPORT Service resolveFrom(Entry& entry);
+
+}  // namespace internal
+
+/// The options of one registration, returned by `Resolver::register_`.
 class ZK_EXPORT ResolverOptions {
  public:
-  /// Sets how long what the factory gives is kept. Until this is called, a registration has `everyResolve`,
-  /// also for another thread that resolves between the two calls.
+  /// Sets how long the factory's result is kept. A new registration has the scope `everyResolve`, which another
+  /// thread may see before this call.
   ResolverOptions& scope(ResolverScope scope);
 
  private:
-  friend ResolverOptions registry::registerIn(registry::Entry&,
-                                              std::shared_ptr<registry::Registration>) noexcept;
-  ResolverOptions(registry::Entry& entry, std::shared_ptr<registry::Registration> registration) noexcept;
+  friend ResolverOptions internal::registerIn(internal::Entry&,
+                                              std::shared_ptr<internal::Registration>) noexcept;
+  ResolverOptions(internal::Entry& entry, std::shared_ptr<internal::Registration> registration) noexcept;
 
-  registry::Entry& entry_;
-  std::shared_ptr<registry::Registration> registration_;
+  internal::Entry& entry_;
+  std::shared_ptr<internal::Registration> registration_;
 };
 
-/// The app-wide service registry: who needs a service asks for it by its type and, where there are several,
-/// by a name.
+/// The app-wide service registry. Code that needs a service asks for it by its type and, if there are several
+/// of that type, by name.
 ///
 ///     zk::Resolver::register_<Theme>([] { return Theme::dark(); }).scope(zk::ResolverScope::application);
 ///     Theme theme = zk::Resolver::resolve<Theme>();
 ///
-/// Any thread may register and resolve at any time. A registration replaces the earlier one of its type and
-/// name for all later resolves. Factories run without any lock of the registry's held, so a factory may
-/// register and resolve other services; one that is called at every resolve may be called by several threads
-/// at once.
+/// Thread-safe. A new registration replaces the earlier one of its type and name for all later resolves. A
+/// factory may register and resolve other services. Several threads may call a factory of the scope
+/// `everyResolve` at the same time.
 ///
-/// Programming errors stop the process after one line on standard error: resolving what is not registered, a
-/// factory that gives nothing, and factories of the application scope that need each other's services in a
-/// circle, on one thread or on several.
+/// Stops the process, after one line on standard error, if a service is resolved that is not registered, if a
+/// factory returns nothing, and if a factory of the application scope needs its own service, directly or
+/// through other factories. If such a cycle is entered by several threads at the same time, they may wait for
+/// each other forever.
 ///
-/// A factory and the types that it gives belong to the program or library that registered them: a plug-in
-/// that registered one must stay loaded. After a `fork`, the child may use the registry if no other thread
-/// of the parent was using it at that moment.
+/// A plug-in that registered a factory must stay loaded. After a `fork`, the child may use the registry only
+/// if no other thread of the parent was using it at that moment.
 class ZK_EXPORT Resolver {
  public:
-  /// Registers `factory`, a function without arguments that gives a `Service` or an optional one, for the
-  /// type `Service` and `name`. The factory is moved, never copied. No name is a name of its own, different
-  /// from the empty text.
+  /// Registers `factory`, a function without arguments that returns a `Service` or an optional one, for the
+  /// type `Service` and `name`. Moves the factory and never copies it. Omitting the name is not the same as
+  /// passing an empty one.
   template <class Service, class Make>
   static ResolverOptions register_(Make factory, std::optional<std::string_view> name = std::nullopt) {
-    using Registration = registry::RegistrationOf<Service, Make>;
-    return registry::registerIn(registry::entryFor(typeid(Service), name),
+    using Registration = internal::RegistrationOf<Service, Make>;
+    return internal::registerIn(internal::entryFor(typeid(Service), name),
                                 std::make_shared<Registration>(std::move(factory)));
   }
 
-  /// A copy of the service registered for the type `Service` and `name`. There are no arguments for the
-  /// factory: the application scope could heed only those of whoever happens to resolve first. What differs
-  /// from one resolve to the next belongs into the name, or into a function that the service offers.
+  /// Returns a copy of the service registered for the type `Service` and `name`.
   template <class Service>
   [[nodiscard]] static Service resolve(std::optional<std::string_view> name = std::nullopt) {
-    const registry::Service service = registry::resolveFrom(registry::entryFor(typeid(Service), name));
+    const internal::Service service = internal::resolveFrom(internal::entryFor(typeid(Service), name));
     return *static_cast<const Service*>(service.get());
   }
 };

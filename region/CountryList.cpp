@@ -1,4 +1,3 @@
-#include <ZKStrings/engine/BundleGlobals.h>
 #include <ZKStrings/platform/formats/Json.h>
 #include <ZKStrings/platform/system/File.h>
 #include <ZKStrings/region/CountryList.h>
@@ -9,10 +8,6 @@
 #include <utility>
 
 namespace zk {
-
-SharedArray<Country> loadCountries() {
-  return countriesIn(bundle());
-}
 
 SharedArray<Country> countriesIn(const Bundle& bundle) {
   const std::optional<std::string> path = bundle.URLForResource("countries", "json");

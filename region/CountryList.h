@@ -7,15 +7,18 @@
 
 namespace zk {
 
-/// Reads the countries that the app offers from the module's resource countries.json, in file order: a JSON
-/// array of objects, each as `Country::fromDictionary` takes it. Objects that describe no country are left
-/// out. The list is empty when there is no such file, when it cannot be read or is not JSON, and when
-/// anything but objects stands in the array.
+/// Returns the countries that the app offers, from the module's resource countries.json, in file order. The file is
+/// a JSON array of objects as `Country::fromDictionary` reads them. Objects that do not describe a country are left
+/// out. Returns an empty list if the file is missing, cannot be read or is not JSON, and if the array contains anything
+/// but objects.
 ///
-/// Every call looks for the file and reads it again. Any thread may call it.
+///     for (const zk::Country& country : zk::loadCountries()) std::cout << country.displayName() << "\n";
+///
+/// Reads the file on every call. Thread-safe.
 [[nodiscard]] ZK_EXPORT SharedArray<Country> loadCountries();
 
-/// The same for the resource of another bundle than the module's own.
+/// Returns the countries in the resource countries.json of `bundle`, as `loadCountries` does for the module's own
+/// bundle. Thread-safe.
 [[nodiscard]] ZK_EXPORT SharedArray<Country> countriesIn(const Bundle& bundle);
 
 }  // namespace zk

@@ -10,7 +10,7 @@ namespace zk::Current {
 
 namespace {
 
-/// The factory that is registered: it owns a language, and gives copies of it.
+/// The factory that is registered. It owns a language and returns copies of it.
 struct LanguageFactory {
   std::optional<Language> operator()() const { return captured; }
   Language captured;
@@ -36,18 +36,18 @@ Language LanguageProperty::get() const {
 }
 
 LanguageAccess::LanguageAccess() : language_(language.get()) {
-  using Registration = registry::RegistrationOf<Language, LanguageFactory>;
+  using Registration = zk::internal::RegistrationOf<Language, LanguageFactory>;
   auto registration = std::make_shared<Registration>(LanguageFactory{language_});
-  captured_ = &registration->factory().captured;
+  captured_ = &registration->factory.captured;
   writeBack_ = std::move(registration);
 }
 
 LanguageAccess::~LanguageAccess() {
-  if (areUnchanged(language_, *captured_)) return;
+  if (!isAlwaysWrittenBack_ && areUnchanged(language_, *captured_)) return;
   *captured_ = std::move(language_);
-  // Nothing here allocates: the entry is there since the access began.
-  registry::Entry& entry = registry::entryFor(typeid(Language), std::nullopt);
-  registry::registerIn(entry, std::move(writeBack_)).scope(ResolverScope::application);
+  // Nothing here allocates: the entry exists since the access began.
+  zk::internal::Entry& entry = zk::internal::entryFor(typeid(Language), std::nullopt);
+  zk::internal::registerIn(entry, std::move(writeBack_)).scope(ResolverScope::application);
 }
 
 }  // namespace zk::Current

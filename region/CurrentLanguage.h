@@ -7,61 +7,63 @@
 #include <memory>
 #include <utility>
 
-namespace zk::registry {
+namespace zk::internal {
 class Registration;
 }
 
 namespace zk::Current {
 
-/// Temporary access to the current language, as `Current::language->` gives it: a copy. When the access ends,
-/// also by an exception, the copy is written back if it was changed; one that was only read writes nothing.
+/// Temporary access to a copy of the current language, returned by `Current::language->`. When the access ends, even
+/// by an exception, the copy is written back if it was changed. A copy that was only read is not written back.
 class ZK_EXPORT LanguageAccess {
  public:
-  /// Takes all the memory that writing back needs, so that only this may throw `std::bad_alloc`.
+  /// Allocates all the memory that writing back needs. Only this constructor may throw std::bad_alloc.
   LanguageAccess();
   ~LanguageAccess();
   LanguageAccess(const LanguageAccess&) = delete;
   LanguageAccess& operator=(const LanguageAccess&) = delete;
 
-  /// The copy's fields, to read or change.
+  /// The fields of the copy, to read or change.
   Language* operator->() ZK_REFERRED_TO { return &language_; }
-  /// The copy.
+  /// The copy itself, to read or change.
   Language& operator*() ZK_REFERRED_TO { return language_; }
 
  private:
+  friend class LanguageProperty;
   Language language_;
-  std::shared_ptr<registry::Registration> writeBack_{};  // what is registered if the copy was changed
-  Language* captured_ = nullptr;                         // in it: the language as it was resolved
+  bool isAlwaysWrittenBack_ = false;
+  std::shared_ptr<zk::internal::Registration> writeBack_{};  // what is registered if the copy is written back
+  Language* captured_ = nullptr;  // in `writeBack_`: the language as it was resolved
 };
 
-/// The property behind `Current::language`.
+/// The type of `Current::language`.
 class ZK_EXPORT LanguageProperty {
  public:
   constexpr LanguageProperty() = default;
   LanguageProperty(const LanguageProperty&) = delete;
 
-  /// Makes `value` the language of every text from now on, on all threads.
+  /// Makes `value` the language of all texts from now on, on all threads.
   const LanguageProperty& operator=(Language value) const;
 
-  /// A copy of the current language.
+  /// Returns a copy of the current language.
   [[nodiscard]] Language get() const;
-  /// The same.
+  /// Returns a copy of the current language.
   [[nodiscard]] operator Language() const { return get(); }
 
-  /// Access to one field, until the end of the statement.
+  /// Gives access to one field until the end of the full expression.
   [[nodiscard]] LanguageAccess operator->() const { return {}; }
 
-  /// Calls `change(Language&)` on a copy of the current language, and writes it back as `->` does.
+  /// Calls `change(Language&)` on a copy of the current language, and writes the copy back, even if `change` did not
+  /// change it or threw an exception.
   template <class Change>
   void change(Change&& change) const {
     LanguageAccess access;
+    access.isAlwaysWrittenBack_ = true;
     std::forward<Change>(change)(*access);
   }
 };
 
-/// The app-wide language setting that every text follows. It is kept in the `Resolver`, as the unnamed
-/// service of type `Language` with application scope, and must be assigned before the first text is looked
-/// up: reading it before stops the process with a message.
+/// The app-wide language setting that every text follows. Assign it before the first text is looked up.
 ///
 ///     zk::Current::language = zk::Language{};                          // set
 ///     zk::Language now = zk::Current::language.get();                  // get: a copy
@@ -71,18 +73,23 @@ class ZK_EXPORT LanguageProperty {
 ///       language.countries = {};
 ///     });
 ///
-/// What `->` gives ends with the full expression. A loop over a list therefore takes a copy:
+/// The temporary that `->` returns is destroyed at the end of the full expression. A loop over a list needs a copy:
 ///
 ///     for (const zk::Country& country : zk::Current::language.get().countries) ...   // right
-///     for (const zk::Country& country : zk::Current::language->countries) ...        // wrong: the list is gone
+///     for (const zk::Country& country : zk::Current::language->countries) ...        // wrong: the list is destroyed
 ///
-/// Any thread may read and assign. A change with `->` or `change` is written back when it ends, also when it
-/// ends by an exception; what another thread assigned meanwhile is lost then. For the same reason, make one
-/// change in one full expression: of two, the one that ends last is what remains. Reading beside it is fine,
-/// as in `language->preferredLanguages = {language->preferredLanguages[0], "en"}`.
+/// The setting is kept in `Resolver`, as the unnamed service of type `Language` with application scope.
 ///
-/// A thread that has looked texts up keeps the language that it saw until its next lookup, also when another
-/// has been assigned since. A plug-in that assigned or changed the language must stay loaded.
+/// Thread-safe. A change with `->` or `change` is written back when it ends, and then replaces what another thread
+/// has assigned in the meantime. Make only one change in one full expression: if there are several, only the one that
+/// ends last remains. Reading next to a change is safe, as in
+/// `language->preferredLanguages = {language->preferredLanguages[0], "en"}`.
+///
+/// A thread that looks up texts keeps the language that it used until its next lookup. A plug-in that assigned or
+/// changed the language must stay loaded.
+///
+/// Stops the process, after one line on standard error, if it is read or changed before it is assigned. Throws
+/// std::bad_alloc if memory runs out; the setting is then unchanged.
 inline constexpr LanguageProperty language;
 
 }  // namespace zk::Current

@@ -2,7 +2,6 @@
 #include <ZKStrings/platform/formats/StringTableReader.h>
 #include <ZKStrings/platform/formats/TextEncoding.h>
 #include <ZKStrings/platform/system/File.h>
-#include <ZKStrings/platform/system/ProcessSeed.h>
 #include <ZKStrings/platform/text/Bytes.h>
 
 #include <limits>
@@ -14,16 +13,16 @@ namespace {
 
 constexpr std::uint32_t kFree = std::numeric_limits<std::uint32_t>::max();
 
-std::uint32_t shortHashOf(std::string_view key, std::uint64_t seed) {
-  return static_cast<std::uint32_t>(hashOf(key, seed) >> 32);
+std::uint32_t shortHashOf(std::string_view key) {
+  return static_cast<std::uint32_t>(hashOf(key) >> 32);
 }
 
-/// The place among `slots` where the search for `hash` begins: the hash as a fraction of the whole.
+/// The slot where the search for `hash` begins.
 std::size_t placeOf(std::uint32_t hash, std::size_t slots) {
   return static_cast<std::size_t>((std::uint64_t{hash} * slots) >> 32);
 }
 
-/// A place or a size in a table's text, which ends at 256 MiB of its file.
+/// A place or a size in a table's text. Fits, because the file is at most 256 MiB long.
 std::uint32_t narrow(std::size_t number) {
   return static_cast<std::uint32_t>(number);
 }
@@ -36,7 +35,6 @@ StringTable StringTable::inFile(const std::string& path, std::error_code& failur
   std::optional<std::string> text = decodedText(*std::move(bytes), UnmarkedText::isUtf8);
   if (!text) return StringTable();
 
-  const std::uint64_t seed = processSeed();
   const auto unescaped = [&](const StringTableReader::Token& token) {
     const std::size_t size = token.end - token.begin;
     return token.hasEscapes ? unescape(text->data() + token.begin, size) : size;
@@ -47,37 +45,37 @@ StringTable StringTable::inFile(const std::string& path, std::error_code& failur
   while (reader.next()) {
     const std::size_t keySize = unescaped(reader.key());
     const std::size_t valueSize = unescaped(reader.value());
-    const std::uint32_t hash = shortHashOf({text->data() + reader.key().begin, keySize}, seed);
+    const std::uint32_t hash = shortHashOf({text->data() + reader.key().begin, keySize});
     entries.push_back(
         {hash, narrow(reader.key().begin), narrow(keySize), narrow(reader.value().begin), narrow(valueSize)});
   }
   if (reader.fault()) return StringTable();
-  return StringTable(*std::move(text), seed, entries);
+  return StringTable(*std::move(text), entries);
 }
 
-StringTable::StringTable() : StringTable(std::string(), 0, {}) {
+StringTable::StringTable() : StringTable(std::string(), {}) {
 }
 
-StringTable::StringTable(std::string text, std::uint64_t seed, const std::vector<Slot>& entries)
-    : text_(std::move(text)), slots_(entries.size() * 3 / 2 + 1, Slot{0, kFree, 0, 0, 0}), seed_(seed) {
+StringTable::StringTable(std::string text, const std::vector<Slot>& entries)
+    : text_(std::move(text)), slots_(entries.size() * 3 / 2 + 1, Slot{0, kFree, 0, 0, 0}) {
   for (const Slot& entry : entries) {
     slots_[slotFor(entry.hash, {text_.data() + entry.key, entry.keySize})] = entry;
   }
 }
 
-/// The place of the slot of `key`, or of the free slot where it belongs.
+/// The slot of `key`, or the free slot where it belongs.
 std::size_t StringTable::slotFor(std::uint32_t hash, std::string_view key) const {
   std::size_t at = placeOf(hash, slots_.size());
   for (;; at = at + 1 == slots_.size() ? 0 : at + 1) {
     const Slot& slot = slots_[at];
     if (slot.key == kFree) return at;
     if (slot.hash != hash || slot.keySize != key.size()) continue;
-    if (sameBytes(text_.data() + slot.key, key.data(), key.size())) return at;
+    if (std::char_traits<char>::compare(text_.data() + slot.key, key.data(), key.size()) == 0) return at;
   }
 }
 
 std::optional<std::string_view> StringTable::find(std::string_view key) const {
-  const Slot& slot = slots_[slotFor(shortHashOf(key, seed_), key)];
+  const Slot& slot = slots_[slotFor(shortHashOf(key), key)];
   if (slot.key == kFree) return std::nullopt;
   return std::string_view(text_.data() + slot.value, slot.valueSize);
 }

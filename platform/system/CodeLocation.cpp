@@ -1,7 +1,7 @@
 #include <ZKStrings/platform/system/CodeLocation.h>
-#include <ZKStrings/platform/system/Failure.h>
+#include <ZKStrings/platform/system/File.h>
 
-#include <algorithm>
+#include <cerrno>
 #include <cinttypes>
 #include <climits>
 #include <cstdint>
@@ -9,10 +9,8 @@
 #include <cstring>
 #include <filesystem>
 #include <memory>
-#include <span>
-#include <string_view>
 
-#include <link.h>
+#include <dlfcn.h>
 #include <sys/auxv.h>
 
 namespace zk {
@@ -21,54 +19,28 @@ namespace {
 
 namespace fs = std::filesystem;
 
-bool holds(const dl_phdr_info& file, std::uintptr_t address) {
-  const std::span segments(file.dlpi_phdr, file.dlpi_phnum);
-  return std::any_of(segments.begin(), segments.end(), [&](const auto& segment) {
-    return segment.p_type == PT_LOAD && address - (file.dlpi_addr + segment.p_vaddr) < segment.p_memsz;
-  });
-}
-
-/// What the dynamic loader calls the file that holds `address`: the path under which it was loaded, which may
-/// be relative, and nothing for the executable, whose name is with some C libraries only what it was called by.
+/// The path under which the library that holds `address` was loaded, which may be relative. Empty for the
+/// executable, since some C libraries know only the name by which it was called.
 std::string loadedName(const void* address) {
-  struct Search {
-    std::uintptr_t address;
-    const char* name;
-  };
-  Search search{reinterpret_cast<std::uintptr_t>(address), ""};
-  const auto look = [](dl_phdr_info* file, std::size_t, void* data) {
-    Search& wanted = *static_cast<Search*>(data);
-    if (!holds(*file, wanted.address)) return 0;
-    const bool isExecutable = reinterpret_cast<std::uintptr_t>(file->dlpi_phdr) == getauxval(AT_PHDR);
-    if (!isExecutable) wanted.name = file->dlpi_name;
-    return 1;
-  };
-  dl_iterate_phdr(look, &search);
-  return search.name;
+  Dl_info file{};
+  Dl_info executable{};
+  if (dladdr(address, &file) == 0 || !file.dli_fname) return {};
+  const auto* const header = reinterpret_cast<const void*>(getauxval(AT_PHDR));
+  const bool isInExecutable = dladdr(header, &executable) != 0 && executable.dli_fbase == file.dli_fbase;
+  return isInExecutable ? "" : file.dli_fname;
 }
 
 struct Closer {
   void operator()(FILE* file) const { std::fclose(file); }
 };
 
-/// The path that the kernel spells as `spelling`: \012 stands for a line break, and for itself.
-std::string pathSpelled(std::string spelling) {
-  constexpr std::string_view kLineBreak = "\\012";
-  std::error_code notThere;
-  std::size_t at = spelling.find(kLineBreak);
-  if (at == std::string::npos || fs::exists(spelling, notThere)) return spelling;
-  for (; at != std::string::npos; at = spelling.find(kLineBreak, at))
-    spelling.replace(at, kLineBreak.size(), "\n");
-  return spelling;
-}
-
-/// The file that the kernel has mapped at `address`, always by its absolute path without links.
+/// The absolute path, without links, of the file that the kernel has mapped at `address`.
 std::string mappedFile(const void* address, std::error_code& failure) {
   failure.clear();
   const auto wanted = reinterpret_cast<std::uintptr_t>(address);
   const std::unique_ptr<FILE, Closer> maps(std::fopen("/proc/self/maps", "re"));
   if (!maps) {
-    failure = lastFailure();
+    failure = {errno, std::generic_category()};
     return {};
   }
   char line[PATH_MAX + 128];
@@ -79,13 +51,13 @@ std::string mappedFile(const void* address, std::error_code& failure) {
     if (std::sscanf(line, "%" SCNxPTR "-%" SCNxPTR, &begin, &end) != 2) continue;
     if (wanted < begin || wanted >= end) continue;
     const char* const path = std::strchr(line, '/');
-    return path ? pathSpelled({path, std::strcspn(path, "\n")}) : std::string();
+    return path ? std::string(path, std::strcspn(path, "\n")) : std::string();
   }
   if (std::ferror(maps.get())) failure = make_error_code(std::errc::io_error);
   return {};
 }
 
-/// `path`, if need be from the working directory on; empty when no file is there.
+/// `path`, relative to the working directory; empty if no file is there.
 std::string existingFile(const std::string& path, std::error_code& failure) {
   const fs::path absolute = fs::absolute(path, failure);
   return !failure && fs::exists(absolute, failure) ? absolute.string() : std::string();
@@ -103,16 +75,16 @@ std::string fileHolding(const void* address, std::error_code& failure) {
   failure.clear();
   std::string loaded = loadedName(address);
   if (loaded.starts_with('/')) return loaded;
-  // The executable is asked for here too: /proc/self/exe is not always it, but the dynamic loader when that
-  // was started with the program as its argument.
+  // For the executable too: /proc/self/exe is the dynamic loader if that was started with the program as its
+  // argument.
   std::string mapped = mappedFile(address, failure);
-  if (!mapped.empty() || isPassing(failure)) return mapped;
+  if (!mapped.empty() || isTemporary(failure)) return mapped;
   return loaded.empty() ? executablePath(failure) : existingFile(loaded, failure);
 }
 
 std::string executablePath(std::error_code& failure) {
   const fs::path path = fs::read_symlink("/proc/self/exe", failure);
-  return failure && !isPassing(failure) ? startedPath(failure) : path.string();
+  return failure && !isTemporary(failure) ? startedPath(failure) : path.string();
 }
 
 }  // namespace zk

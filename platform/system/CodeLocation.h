@@ -5,14 +5,14 @@
 
 namespace zk {
 
-/// The absolute path of the shared library or executable whose code or data lies at `address`, as it was
-/// loaded: links in it are not followed, and it may hold "." and "..". Where the program loaded it by a
-/// relative path, the kernel's own name for the file, so that a change of the working directory does no harm.
-/// Empty when the file is not known; `failure` then says whether that may pass.
+/// Returns the absolute path of the shared library or executable that holds the code or data at `address`, as it
+/// was loaded: it may contain links, "." and "..". If the program loaded it by a relative path, returns the
+/// kernel's name for the file, so a change of the working directory does no harm. Returns an empty path if the
+/// file is not known; `failure` is then the reason.
 [[nodiscard]] std::string fileHolding(const void* address, std::error_code& failure);
 
-/// The absolute path of the running executable, from the kernel or, without /proc, from the path by which the
-/// program was started. Empty when it is not known; `failure` then says whether that may pass.
+/// Returns the absolute path of the running executable, from the kernel or, without /proc, from the path by which
+/// the program was started. Returns an empty path if it is not known; `failure` is then the reason.
 [[nodiscard]] std::string executablePath(std::error_code& failure);
 
 }  // namespace zk

@@ -1,8 +1,13 @@
-#include <ZKStrings/platform/system/Failure.h>
 #include <ZKStrings/platform/system/File.h>
 
+#include <algorithm>
 #include <cerrno>
+#include <cstddef>
+#include <iterator>
+#include <memory>
+#include <string_view>
 
+#include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -12,6 +17,11 @@ namespace zk {
 namespace {
 
 constexpr off_t kLargestFile = off_t{256} << 20;
+
+/// Why the last system call failed.
+std::error_code lastFailure() {
+  return {errno, std::generic_category()};
+}
 
 class Descriptor {
  public:
@@ -27,8 +37,7 @@ class Descriptor {
   int number_;
 };
 
-/// Fills `bytes` from the file, and shortens them when the file turns out to be shorter. False when reading
-/// fails.
+/// Fills `bytes` from the file, and shortens them if the file is shorter. False if reading fails.
 bool readInto(std::string& bytes, int file) {
   std::size_t filled = 0;
   while (filled < bytes.size()) {
@@ -42,7 +51,31 @@ bool readInto(std::string& bytes, int file) {
   return true;
 }
 
+struct Closer {
+  void operator()(DIR* directory) const { closedir(directory); }
+};
+
+/// Whether `entry` of the directory at `path` is a directory. Sets `failure` if that is temporarily unknown.
+bool isDirectory(const dirent& entry, const std::string& path, std::error_code& failure) {
+  if (entry.d_type != DT_UNKNOWN && entry.d_type != DT_LNK) return entry.d_type == DT_DIR;
+  struct stat status {};
+  if (stat((path + "/" + entry.d_name).c_str(), &status) == 0) return S_ISDIR(status.st_mode);
+  if (isTemporary(lastFailure())) failure = lastFailure();
+  return false;
+}
+
 }  // namespace
+
+bool isTemporary(const std::error_code& failure) {
+  constexpr int kTemporary[] = {EMFILE, ENFILE, ENOMEM,    EIO,      EINTR,  EAGAIN,
+                                ESTALE, EBUSY,  ETIMEDOUT, ENOTCONN, ENOBUFS};
+  const int number = failure.default_error_condition().value();
+  return std::find(std::begin(kTemporary), std::end(kTemporary), number) != std::end(kTemporary);
+}
+
+bool isRefusal(const std::error_code& failure) {
+  return failure == std::errc::permission_denied || failure == std::errc::operation_not_permitted;
+}
 
 std::optional<std::string> contentsOfFile(const std::string& path) {
   std::error_code unused;
@@ -67,6 +100,25 @@ std::optional<std::string> contentsOfFile(const std::string& path, std::error_co
   std::string bytes(static_cast<std::size_t>(status.st_size), '\0');
   if (!readInto(bytes, file.number())) return fail(lastFailure());
   return bytes;
+}
+
+// Not std::filesystem::directory_iterator, which ends the process if there is no memory for it.
+std::vector<DirectoryEntry> entriesOf(const std::string& path, std::error_code& failure) {
+  failure.clear();
+  std::vector<DirectoryEntry> entries;
+  const std::unique_ptr<DIR, Closer> directory(opendir(path.c_str()));
+  if (!directory) failure = lastFailure();
+  while (!failure) {
+    errno = 0;
+    const dirent* const entry = readdir(directory.get());
+    if (!entry && errno == 0) return entries;
+    if (!entry) {
+      failure = lastFailure();
+    } else if (const std::string_view name = entry->d_name; name != "." && name != "..") {
+      entries.push_back({entry->d_name, isDirectory(*entry, path, failure)});
+    }
+  }
+  return {};
 }
 
 }  // namespace zk

@@ -3,15 +3,31 @@
 #include <optional>
 #include <string>
 #include <system_error>
+#include <vector>
 
 namespace zk {
 
-/// All bytes of the regular file at `path`. Nothing when there is no such file, when it cannot be read, when
-/// it is larger than 256 MiB, or when it is no regular file (a directory, FIFO or device is refused without
-/// waiting on it).
+/// Whether the same call may succeed soon: the process or the system is short of descriptors or memory, a network
+/// file system does not answer, or the call was interrupted. Every other failure is an answer, and may be kept.
+[[nodiscard]] bool isTemporary(const std::error_code& failure);
+
+/// Whether the call failed for lack of permission.
+[[nodiscard]] bool isRefusal(const std::error_code& failure);
+
+/// Returns all bytes of the regular file at `path`. Returns nothing if there is no such file, if it cannot be
+/// read, if it is larger than 256 MiB, and if it is not a regular file (a directory, FIFO or device is refused
+/// without waiting for it). `failure` is the reason, and is cleared on success.
+[[nodiscard]] std::optional<std::string> contentsOfFile(const std::string& path, std::error_code& failure);
+/// Returns all bytes of the regular file at `path`, or nothing, for callers that do not need the reason.
 [[nodiscard]] std::optional<std::string> contentsOfFile(const std::string& path);
 
-/// The same; `failure` says why there is nothing, and is cleared when there is something.
-[[nodiscard]] std::optional<std::string> contentsOfFile(const std::string& path, std::error_code& failure);
+struct DirectoryEntry {
+  std::string name;
+  bool isDirectory;  ///< or a link to one
+};
+
+/// Returns the entries of the directory at `path`, without "." and "..", in no particular order. Returns none if
+/// the directory cannot be listed completely; `failure` is the reason, and is cleared on success.
+[[nodiscard]] std::vector<DirectoryEntry> entriesOf(const std::string& path, std::error_code& failure);
 
 }  // namespace zk

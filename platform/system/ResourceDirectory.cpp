@@ -1,24 +1,24 @@
-#include <ZKStrings/platform/system/Failure.h>
+#include <ZKStrings/platform/system/File.h>
 #include <ZKStrings/platform/system/ResourceDirectory.h>
 
 #include <filesystem>
 
-namespace zk {
+namespace zk::internal {
 
 namespace {
 
 namespace fs = std::filesystem;
 
-/// The nearest of the places of the resources, seen from a directory that holds the code's file.
+/// The nearest of `places`, seen from the directory of the code's file.
 std::string resourcesSeenFrom(fs::path directory, const ResourcePlaces& places, std::error_code& failure) {
   constexpr int kLevels = 3;
   const auto isThere = [&](const fs::path& candidate) { return fs::is_directory(candidate, failure); };
-  // An absolute place stands for itself, wherever it is seen from.
+  // An absolute place replaces the directory.
   const fs::path installed = (directory / places.installed).lexically_normal();
   for (int level = 0; level < kLevels; ++level, directory = directory.parent_path()) {
     const fs::path candidate = directory / places.above;
     if (isThere(candidate)) return candidate.string();
-    if (isPassing(failure)) return {};
+    if (isTemporary(failure)) return {};
   }
   return !places.installed.empty() && isThere(installed) ? installed.string() : std::string();
 }
@@ -36,11 +36,11 @@ std::string resourceDirectory(const std::string& codeFile, const ResourcePlaces&
   if (codeFile.empty()) return {};
   const fs::path asLoaded = fs::path(codeFile).lexically_normal();
   std::string found = resourcesSeenFrom(asLoaded.parent_path(), places, failure);
-  if (!found.empty() || isPassing(failure)) return found;
+  if (!found.empty() || isTemporary(failure)) return found;
 
   const fs::path withoutLinks = fs::canonical(codeFile, failure);
   if (failure || withoutLinks == asLoaded) return {};
   return resourcesSeenFrom(withoutLinks.parent_path(), places, failure);
 }
 
-}  // namespace zk
+}  // namespace zk::internal

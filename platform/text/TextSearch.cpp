@@ -1,15 +1,110 @@
 #include <ZKStrings/platform/text/Bytes.h>
 #include <ZKStrings/platform/text/TextSearch.h>
+#include <ZKStrings/platform/text/UnicodeText.h>
 
+#include <algorithm>
+#include <cstdint>
+#include <new>
 #include <utility>
+#include <vector>
+
+#include <unicode/normalizer2.h>
+#include <unicode/unistr.h>
 
 namespace zk {
 
 namespace {
 
-/// How many units at the end of each beginning of `target` are the beginning of `target` again, all of them
-/// not counted: from there the search by Knuth, Morris and Pratt goes on when the next unit differs.
-std::vector<std::size_t> repeatedBeginnings(const std::vector<CanonicalUnit>& target) {
+constexpr char32_t kFirstByteValue = 0x110000;
+
+/// Unicode's canonical decompositions.
+const icu::Normalizer2& decompositions() {
+  static const icu::Normalizer2* const decompositions = [] {
+    internal::requireMemoryForICU();
+    UErrorCode status = U_ZERO_ERROR;
+    const icu::Normalizer2* const form = icu::Normalizer2::getNFDInstance(status);
+    if (U_FAILURE(status)) throw std::bad_alloc();
+    return form;
+  }();
+  return *decompositions;
+}
+
+/// Whether `codePoint` does not combine with what is before it.
+bool isBorderBefore(const CodePoint& codePoint) {
+  return !codePoint.value || decompositions().hasBoundaryBefore(static_cast<UChar32>(*codePoint.value));
+}
+
+/// A code point of a canonically decomposed text.
+struct Unit {
+  char32_t value;  // kFirstByteValue and more for a byte that is not UTF-8
+  std::uint8_t combiningClass;
+  std::size_t begin, end;  // the bytes of the text between two borders, which all units between them share
+};
+
+/// Appends the code points that `codePoint` decomposes to.
+void appendDecomposed(std::vector<Unit>& units, const CodePoint& codePoint) {
+  const auto append = [&](char32_t value, std::uint8_t combiningClass) {
+    units.push_back({value, combiningClass, 0, 0});
+  };
+  if (!codePoint.value) return append(kFirstByteValue + static_cast<unsigned char>(codePoint.bytes[0]), 0);
+  if (*codePoint.value < 0x80) return append(*codePoint.value, 0);
+  const auto whole = static_cast<UChar32>(*codePoint.value);
+  icu::UnicodeString parts;  // few enough to fit without an allocation
+  if (!decompositions().getDecomposition(whole, parts)) {
+    return append(*codePoint.value, decompositions().getCombiningClass(whole));
+  }
+  for (std::int32_t i = 0; i < parts.length(); i = parts.moveIndex32(i, 1)) {
+    const UChar32 part = parts.char32At(i);
+    append(static_cast<char32_t>(part), decompositions().getCombiningClass(part));
+  }
+}
+
+/// Puts consecutive marks into their canonical order.
+void reorderMarks(std::vector<Unit>& units) {
+  const auto isMark = [](const Unit& unit) { return unit.combiningClass != 0; };
+  for (auto begin = units.begin(); begin != units.end();) {
+    begin = std::find_if(begin, units.end(), isMark);
+    const auto end = std::find_if_not(begin, units.end(), isMark);
+    std::stable_sort(begin, end,
+                     [](const Unit& a, const Unit& b) { return a.combiningClass < b.combiningClass; });
+    begin = end;
+  }
+}
+
+/// The canonical decomposition of `text`.
+std::vector<Unit> decomposed(std::string_view text) {
+  std::vector<Unit> units;
+  std::size_t firstUnit = 0;
+  std::size_t begin = 0;
+  bool isAfterByte = false;  // a byte that is not UTF-8 has borders on both sides
+  const auto endSegment = [&](std::size_t end) {
+    for (; firstUnit < units.size(); ++firstUnit) {
+      units[firstUnit].begin = begin;
+      units[firstUnit].end = end;
+    }
+    begin = end;
+  };
+  for (std::size_t at = 0; at < text.size();) {
+    const CodePoint next = firstCodePoint(text.substr(at));
+    if (isAfterByte || isBorderBefore(next)) endSegment(at);
+    appendDecomposed(units, next);
+    isAfterByte = !next.value;
+    at += next.bytes.size();
+  }
+  endSegment(text.size());
+  reorderMarks(units);
+  return units;
+}
+
+/// The bytes [begin, end) of a text.
+struct Occurrence {
+  std::size_t begin;
+  std::size_t end;
+};
+
+/// For each prefix of `target`, the length of the longest shorter prefix that is also its suffix: where the search by
+/// Knuth, Morris and Pratt continues if the next unit differs.
+std::vector<std::size_t> repeatedPrefixes(const std::vector<Unit>& target) {
   std::vector<std::size_t> lengths(target.size());
   std::size_t length = 0;
   for (std::size_t i = 1; i < target.size(); ++i) {
@@ -20,72 +115,79 @@ std::vector<std::size_t> repeatedBeginnings(const std::vector<CanonicalUnit>& ta
   return lengths;
 }
 
-/// Replaces all that `search` finds in `text`.
-template <class Search>
-void replaceAll(std::string& text, Search search, std::string_view replacement) {
-  std::string result;
-  std::size_t done = 0;
-  while (const std::optional<Occurrence> found = search.next()) {
-    if (done == 0) result.reserve(text.size() + replacement.size());
-    result.append(text, done, found->begin - done).append(replacement);
-    done = found->end;
+/// Finds `target` by canonical equivalence.
+std::vector<Occurrence> canonicalOccurrences(std::string_view text, std::string_view target) {
+  const std::vector<Unit> units = decomposed(text);
+  const std::vector<Unit> wanted = decomposed(target);
+  const std::vector<std::size_t> repeated = repeatedPrefixes(wanted);
+  const auto isBorder = [&](std::size_t at) {
+    return at == 0 || at == units.size() || units[at].begin != units[at - 1].begin;
+  };
+  std::vector<Occurrence> found;
+  std::size_t same = 0;
+  for (std::size_t at = 0; at < units.size() && !wanted.empty();) {
+    const char32_t value = units[at++].value;
+    while (same > 0 && wanted[same].value != value) same = repeated[same - 1];
+    if (wanted[same].value == value) ++same;
+    if (same < wanted.size()) continue;
+    const std::size_t begin = at - same;
+    const bool isWhole = isBorder(begin) && isBorder(at);
+    if (isWhole) found.push_back({units[begin].begin, units[at - 1].end});
+    same = isWhole ? 0 : repeated[same - 1];
   }
-  if (done == 0) return;
-  result.append(text, done);
-  text = std::move(result);
+  return found;
+}
+
+/// Whether `target` can be found by comparing bytes: no character but itself is equivalent to one of its characters.
+bool isPlain(std::string_view target) {
+  // The Kelvin sign, the Greek question mark and the Greek varia decompose to these, and nothing else to ASCII.
+  constexpr std::size_t kLongest = 64;  // it is compared at each place of a text
+  return !target.empty() && target.size() <= kLongest && isAsciiWithout(target, {'K', ';', '`'});
+}
+
+/// Finds a plain `target`: the same places as `canonicalOccurrences`, faster.
+std::vector<Occurrence> plainOccurrences(std::string_view text, std::string_view target) {
+  std::vector<Occurrence> found;
+  for (std::size_t at = text.find(target); at != text.npos; at = text.find(target, at)) {
+    const std::size_t end = at + target.size();
+    const bool isWhole = hasBorderBefore(text.substr(end));
+    if (isWhole) found.push_back({at, end});
+    at = isWhole ? end : at + 1;
+  }
+  return found;
 }
 
 }  // namespace
 
-CanonicalSearch::CanonicalSearch(std::string_view text, std::string_view target)
-    : text_(decomposed(text)), target_(decomposed(target)), repeatedBeginnings_(repeatedBeginnings(target_)) {
+bool internal::isBorderBeforeNonAscii(std::string_view text) {
+  return isBorderBefore(firstCodePoint(text));
 }
 
-bool CanonicalSearch::isBorder(std::size_t at) const {
-  return at == 0 || at == text_.size() || text_[at].begin != text_[at - 1].begin;
-}
-
-std::optional<Occurrence> CanonicalSearch::next() {
-  std::size_t same = 0;
-  while (at_ < text_.size() && !target_.empty()) {
-    const char32_t value = text_[at_++].value;
-    while (same > 0 && target_[same].value != value) same = repeatedBeginnings_[same - 1];
-    if (target_[same].value == value) ++same;
-    if (same < target_.size()) continue;
-    const std::size_t begin = at_ - target_.size();
-    if (isBorder(begin) && isBorder(at_)) return Occurrence{text_[begin].begin, text_[at_ - 1].end};
-    same = repeatedBeginnings_[same - 1];
+// Not by ICU's normalisation, whose work grows with the square of the number of marks on one letter.
+std::string canonicalForm(std::string_view text) {
+  if (isAsciiWithout(text, {})) return std::string(text);
+  std::string form;
+  for (const Unit& unit : decomposed(text)) {
+    if (unit.value < kFirstByteValue) {
+      appendCodePoint(form, unit.value);
+    } else {
+      form += static_cast<char>(unit.value - kFirstByteValue);
+    }
   }
-  return std::nullopt;
-}
-
-std::optional<Occurrence> AsciiSearch::next() {
-  const std::size_t size = target_.size();
-  const std::size_t middle = size / 2;  // placeholders begin and end alike: this is where they differ
-  for (; (at_ = findAscii(target_[0], text_, at_)) + size <= text_.size(); ++at_) {
-    const char* const place = text_.data() + at_;
-    if (place[middle] != target_[middle] || !sameBytes(place, target_.data(), size)) continue;
-    if (!hasBorderBefore(text_.substr(at_ + size))) continue;
-    at_ += size;
-    return Occurrence{at_ - size, at_};
-  }
-  at_ = text_.size();
-  return std::nullopt;
-}
-
-bool AsciiSearch::serves(std::string_view target) {
-  // K, ; and ` are what the Kelvin sign, the Greek question mark and the Greek varia decompose to, the only
-  // other characters whose canonical decomposition is ASCII.
-  constexpr std::size_t kLongest = 64;  // it is compared anew at each place of a text
-  return !target.empty() && target.size() <= kLongest && isAsciiWithout(target, {'K', ';', '`'});
+  return form;
 }
 
 void replaceOccurrences(std::string& text, std::string_view target, std::string_view replacement) {
-  if (AsciiSearch::serves(target)) {
-    replaceAll(text, AsciiSearch(text, target), replacement);
-  } else {
-    replaceAll(text, CanonicalSearch(text, target), replacement);
+  const auto found = isPlain(target) ? plainOccurrences(text, target) : canonicalOccurrences(text, target);
+  if (found.empty()) return;
+  std::string result;
+  result.reserve(text.size() + found.size() * replacement.size());
+  std::size_t done = 0;
+  for (const Occurrence& occurrence : found) {
+    result.append(text, done, occurrence.begin - done).append(replacement);
+    done = occurrence.end;
   }
+  text = result.append(text, done);
 }
 
 }  // namespace zk

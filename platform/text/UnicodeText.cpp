@@ -1,12 +1,15 @@
+#include <ZKStrings/platform/system/ThreadPointer.h>
 #include <ZKStrings/platform/text/Bytes.h>
-#include <ZKStrings/platform/text/GraphemeClusters.h>
 #include <ZKStrings/platform/text/UnicodeText.h>
 
 #include <cstdint>
+#include <cstdlib>
 #include <new>
 
 #include <unicode/casemap.h>
+#include <unicode/ubrk.h>
 #include <unicode/uchar.h>
+#include <unicode/udata.h>
 #include <unicode/utf8.h>
 
 namespace zk {
@@ -15,7 +18,7 @@ namespace {
 
 #pragma GCC diagnostic ignored "-Wsign-conversion"  // within the library's macros
 
-/// The code point at `at`, behind which `at` moves; negative for a byte that is not UTF-8.
+/// Returns the code point at `at` and moves `at` after it; negative for a byte that is not UTF-8.
 UChar32 nextCodePoint(std::string_view text, std::size_t& at) {
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wconversion"  // within the library's macro
@@ -29,7 +32,7 @@ bool isAscii(char byte) {
   return static_cast<unsigned char>(byte) < 0x80;
 }
 
-/// One code point after the other: without regard to a language, none depends on its neighbours.
+/// Appends one code point in upper case. Without regard to a language, none depends on its neighbours.
 void appendUpperCased(std::string& text, std::string_view codePoint) {
   if (isAscii(codePoint[0])) {
     const char letter = codePoint[0];
@@ -45,7 +48,67 @@ void appendUpperCased(std::string& text, std::string_view codePoint) {
   text.append(capitals, static_cast<std::size_t>(size));
 }
 
+/// This thread's iterator over user-perceived characters. Opening one takes microseconds, so it is kept.
+UBreakIterator* characterIterator() {
+  static const ThreadPointer& kept =
+      *new ThreadPointer([](void* open) { ubrk_close(static_cast<UBreakIterator*>(open)); });
+  if (void* const open = kept.get()) return static_cast<UBreakIterator*>(open);
+  internal::requireMemoryForICU();
+  // Not by ubrk_open, which asks for the default locale: ICU deadlocks if memory runs out there.
+  UErrorCode status = U_ZERO_ERROR;
+  UDataMemory* const rules = udata_open(U_ICUDATA_NAME "-brkitr", "brk", "char", &status);
+  if (U_FAILURE(status)) throw std::bad_alloc();
+  const auto* const bytes = static_cast<const std::uint8_t*>(udata_getMemory(rules));
+  UBreakIterator* const opened = ubrk_openBinaryRules(bytes, INT32_MAX, nullptr, 0, &status);
+  udata_close(rules);  // ICU keeps its data until the process ends
+  if (U_SUCCESS(status) && kept.set(opened)) return opened;
+  ubrk_close(opened);
+  throw std::bad_alloc();
+}
+
 }  // namespace
+
+void internal::requireMemoryForICU() {
+  constexpr std::size_t kPlenty = std::size_t{64} * 1024;
+  // From malloc, as ICU's is. Volatile, because compilers otherwise remove an allocation that is only freed.
+  void* const volatile memory = std::malloc(kPlenty);
+  if (!memory) throw std::bad_alloc();
+  std::free(memory);
+}
+
+// The iterator reads UTF-16, so the beginning of the text is converted: more of it if the character is that long.
+std::size_t internal::firstClusterSize(std::string_view text) {
+  UBreakIterator* const iterator = characterIterator();
+  for (std::size_t most = 32;; most *= 4) {
+    std::u16string units;
+    CodePoint next{0, {}};
+    for (std::size_t at = 0; at < text.size() && units.size() < most; at += next.bytes.size()) {
+      next = firstCodePoint(text.substr(at));
+      if (!next.value) break;
+      if (*next.value > 0xFFFF) units += U16_LEAD(*next.value);
+      units += static_cast<char16_t>(*next.value > 0xFFFF ? U16_TRAIL(*next.value) : *next.value);
+    }
+    if (units.empty()) return 1;
+    UErrorCode status = U_ZERO_ERROR;
+    ubrk_setText(iterator, units.data(), static_cast<std::int32_t>(units.size()), &status);
+    const std::int32_t border = U_SUCCESS(status) ? ubrk_next(iterator) : UBRK_DONE;
+    if (border == UBRK_DONE) throw std::bad_alloc();
+    const auto end = static_cast<std::size_t>(border);
+    if (end == units.size() && end >= most) continue;
+    std::size_t size = 0;
+    for (std::size_t unit = 0; unit < end; size += next.bytes.size()) {
+      next = firstCodePoint(text.substr(size));
+      unit += *next.value > 0xFFFF ? 2 : 1;
+    }
+    return size;
+  }
+}
+
+std::string_view internal::firstTwoClusters(std::string_view text) {
+  std::size_t size = 0;
+  for (int i = 0; i < 2 && size < text.size(); ++i) size += firstClusterSize(text.substr(size));
+  return text.substr(0, size);
+}
 
 CodePoint firstCodePoint(std::string_view text) {
   std::size_t length = 0;
@@ -79,15 +142,10 @@ bool isUtf8(std::string_view bytes) {
   return true;
 }
 
-std::string_view firstTwoClusters(std::string_view text) {
-  std::size_t size = 0;
-  for (int i = 0; i < 2 && size < text.size(); ++i) size += firstClusterSize(text.substr(size));
-  return text.substr(0, size);
-}
-
 std::size_t findCharacter(std::string_view text, char wanted) {
   for (std::size_t at = 0; at < text.size();) {
-    const std::size_t size = firstClusterSize(text.substr(at));
+    const std::string_view rest = text.substr(at);
+    const std::size_t size = internal::beginsWithPlainAscii(rest) ? 1 : internal::firstClusterSize(rest);
     if (size == 1 && text[at] == wanted) return at;
     at += size;
   }

@@ -7,50 +7,61 @@
 
 namespace zk {
 
-/// All functions take UTF-8. Bytes that are not UTF-8 count as characters of their own that equal only
-/// themselves, and pass through unchanged. Any thread may call them.
+// All texts are UTF-8. A byte that is not UTF-8 counts as a character of its own and is never changed. Thread-safe.
 
 /// One code point of a text, or one byte of it that is not UTF-8.
 struct CodePoint {
   std::optional<char32_t> value;  ///< absent for a byte that is not UTF-8
-  std::string_view bytes;         ///< the bytes that spell it in the text
+  std::string_view bytes;         ///< the bytes of the text that encode it
 };
 
-/// The code point at the beginning of `text`, which must not be empty.
+/// Returns the code point at the beginning of `text`. Requires: `text` is not empty.
 [[nodiscard]] CodePoint firstCodePoint(std::string_view text);
 
-/// Appends `codePoint` to `text`; a number that is no Unicode scalar value is left out.
+/// Appends `codePoint` to `text`, unless it is not a Unicode scalar value.
 void appendCodePoint(std::string& text, char32_t codePoint);
 
-/// The general categories letter, mark and decimal digit.
+/// Whether the general category is letter, mark or decimal digit.
 [[nodiscard]] bool isLetterMarkOrDigit(char32_t codePoint);
 [[nodiscard]] bool isDecimalDigit(char32_t codePoint);
 
 [[nodiscard]] bool isUtf8(std::string_view bytes);
 
-/// The first two user-perceived characters (extended grapheme clusters) of `text`, or all of it when it has
+/// Returns the first two user-perceived characters (extended grapheme clusters) of `text`, or all of it if it has
 /// fewer.
 [[nodiscard]] inline std::string_view firstTwoCharacters(std::string_view text);
 
-/// Where the ASCII character `wanted` first stands in `text` as a user-perceived character of its own, not as
-/// the base of one with accents or joiners; `npos` when it does not.
+/// Returns the place of the first `wanted`, an ASCII character, that is a user-perceived character by itself and not
+/// the base of one with accents or joiners; `npos` if there is none.
 [[nodiscard]] std::size_t findCharacter(std::string_view text, char wanted);
 
-/// `text` in upper case by the full default mapping of Unicode, whatever the locale: "straße" gives
-/// "STRASSE".
+/// Returns `text` in upper case by Unicode's full default mapping, in every locale: "straße" becomes "STRASSE".
 [[nodiscard]] std::string upperCased(std::string_view text);
 
-/// The same as `firstTwoCharacters`, by the full rules, also for what the quick way serves.
+namespace internal {
+
+/// Whether the first byte of `text`, which is not empty, is a user-perceived character by itself, as all ASCII before
+/// ASCII is. Only CR and LF are one character together.
+[[nodiscard]] inline bool beginsWithPlainAscii(std::string_view text) {
+  const auto isAscii = [](char byte) { return static_cast<signed char>(byte) >= 0; };
+  return isAscii(text[0]) && text[0] != '\r' && (text.size() == 1 || isAscii(text[1]));
+}
+
+/// The size in bytes of the first user-perceived character of `text`, which is not empty.
+[[nodiscard]] std::size_t firstClusterSize(std::string_view text);
+/// The same as `firstTwoCharacters`.
 [[nodiscard]] std::string_view firstTwoClusters(std::string_view text);
 
+/// Throws std::bad_alloc if memory is short. Called before a step for which ICU allocates once: if memory runs out
+/// during such a step, ICU never tries it again.
+void requireMemoryForICU();
+
+}  // namespace internal
+
 inline std::string_view firstTwoCharacters(std::string_view text) {
-  // Between two ASCII characters there is always a border, but between CR and LF.
-  const auto isPlain = [](char character) {
-    return static_cast<signed char>(character) >= 0 && character != '\r';
-  };
-  if (text.size() < 2) return text;
-  const bool isQuick = isPlain(text[0]) && isPlain(text[1]) && (text.size() == 2 || isPlain(text[2]));
-  return isQuick ? text.substr(0, 2) : firstTwoClusters(text);
+  using internal::beginsWithPlainAscii;
+  const bool isQuick = text.size() >= 2 && beginsWithPlainAscii(text) && beginsWithPlainAscii(text.substr(1));
+  return isQuick ? text.substr(0, 2) : internal::firstTwoClusters(text);
 }
 
 }  // namespace zk

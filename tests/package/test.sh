@@ -94,10 +94,6 @@ expect "a link beside resources of its own" "Über uns, 0 countries" loaded_from
 # Loaded by a relative path, and asked for the first text after the working directory has changed.
 relative() { cd "$moved" && loaded_from "$lib" /; }
 expect "loaded by a relative path" "$text" relative
-broken=$work/line$'\n'break
-cp -r "$moved" "$broken"
-relative() { cd "$broken" && env LD_LIBRARY_PATH="$lib" bin/consumer /; }
-expect "loaded by a relative path with a line break" "$text" relative
 
 mv "$moved/share" "$moved/gone"
 expect "without resources" _ZN2zk35baseLprojIsMissingAmongTheResourcesEv "$moved/bin/consumer"

@@ -64,8 +64,9 @@ void expectRefused(const std::vector<std::string>& texts) {
 TEST(Json, RefusesWhatIsNotJson) {
   const std::string deep(100000, '[');
   expectRefused({"", " ", "[1,]", "[1", "[1] 2", "{\"a\" 1}", "nul", deep, deep + "]"});
-  expectRefused({"[01]", "[1e999, 1e]", "[1e999 1]", "[1e999, 1e999.5]", "[1e999, -]", "[1e999, 0x1p1024]",
-                 "[1e999, -0X1P1024]", "[1e999, 0infinity]"});
+  const std::string digits(400, '9');
+  expectRefused(
+      {"[01]", "[1e]", "[-]", "[0x1p1024]", "[0infinity]", "[1e999]", "-1E+999", digits, digits + ".5"});
   expectRefused(
       {"\"\xFF\"", "[\"\xC3\"]", "[1]\0"s, "[1] \0[2]"s, "[\"\0\"]"s, "[1]\uFEFF", "\uFEFF\uFEFF[1]"});
   expectRefused({"\xFF\xFE[", "\0[\0"s, "[\0]\0 \0\0\0"s, "\xFF\xFE\xFF\xFE[\0]\0"s,
@@ -74,7 +75,6 @@ TEST(Json, RefusesWhatIsNotJson) {
 }
 
 TEST(Json, ReadsFragmentsAndNumbersOfEverySize) {
-  const std::string digits(400, '9');
   const std::pair<std::string, std::string> cases[] = {
       {"\"text\"", "'text'"},
       {" 5 ", "5"},
@@ -89,16 +89,14 @@ TEST(Json, ReadsFragmentsAndNumbersOfEverySize) {
   for (const auto& [text, expected] : cases) EXPECT_EQ(parsed(text), expected) << text;
   for (const auto* number : {"9223372036854775808", "18446744073709551616", "-9223372036854775809"})
     EXPECT_TRUE(parseJson(number)->as<double>()) << number;
-  for (const std::string& number : {"1e999"s, "-1E+999"s, digits, digits + ".5"})
-    EXPECT_EQ(parsed("[" + number + ", \"a\\\"1e999\", 7]"), "null 'a\"1e999' 7 ") << number;
 }
 
 // It would take minutes if the work grew by the square.
 TEST(Json, LongNumbersAreReadOnce) {
   const std::string digits(1000000, '9');
-  EXPECT_TRUE(parseJson("[" + digits + ", 0." + digits + ", 1e" + digits + "]"));
-  EXPECT_FALSE(parseJson("[1e999, " + digits + ".]"));
-  EXPECT_FALSE(parseJson("[1e999, " + std::string(1000000, '0') + "]"));
+  EXPECT_TRUE(parseJson("[0." + digits + ", 1e-" + digits + "]"));
+  EXPECT_FALSE(parseJson("[" + digits + "]"));
+  EXPECT_FALSE(parseJson("[" + std::string(1000000, '0') + "]"));
 }
 
 /// The process's locale has a decimal comma, as most have; made here, since machines need not have one.
@@ -111,12 +109,12 @@ TEST(Json, NumbersHaveAPointWhateverTheLocale) {
   static_cast<void>(ignored);
   // Some C libraries take any name and have a point all the same.
   const bool isMade = std::setlocale(LC_NUMERIC, "comma") && std::localeconv()->decimal_point == ","s;
-  const std::string numbers = parsed("[1.5e999, 1.25, 7]");
+  const std::string numbers = parsed("[1.25, 7]");
   const std::string pointAfterwards = std::localeconv()->decimal_point;
   std::setlocale(LC_NUMERIC, "C");
   unsetenv("LOCPATH");
   if (!isMade) GTEST_SKIP() << "this machine cannot make a locale";
-  EXPECT_EQ(numbers, "null 1250/1000 7 ");
+  EXPECT_EQ(numbers, "1250/1000 7 ");
   EXPECT_EQ(pointAfterwards, ",");
 }
 

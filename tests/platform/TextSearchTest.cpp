@@ -3,11 +3,15 @@
 #include <ZKStrings/tests/RandomTexts.h>
 #include <ZKStrings/tests/Rows.h>
 
+#include <algorithm>
+#include <cstdint>
+#include <optional>
 #include <string>
-#include <vector>
+#include <string_view>
 
 #include <gtest/gtest.h>
 #include <unicode/normalizer2.h>
+#include <unicode/uchar.h>
 #include <unicode/unistr.h>
 
 namespace zk {
@@ -55,8 +59,9 @@ TEST(TextSearch, ATextIsFoundByItsNormalForms) {
     appendCodePoint(text, character);
     const std::string form = normalized(decomposition, text);
     ASSERT_EQ(canonicalForm(text), form) << std::uint32_t{character};
-    // Only what no other character is equivalent to may be left to the quick search.
-    ASSERT_TRUE(form == text || !AsciiSearch::serves(form)) << std::uint32_t{character};
+    // An ASCII target is found in every spelling.
+    if (text.empty()) continue;
+    ASSERT_EQ(replaced(text, form), "#") << std::uint32_t{character};
   }
 }
 
@@ -92,23 +97,28 @@ TEST(TextSearch, LongTextsThatDeferEveryDecisionAreSearched) {
   EXPECT_EQ(canonicalForm("\xFF\u0301é\xC3"), "\xFF\u0301e\u0301\xC3");
 }
 
-template <class Search>
-std::vector<std::size_t> bordersIn(Search search) {
-  std::vector<std::size_t> borders;
-  while (const auto next = search.next()) borders.insert(borders.end(), {next->begin, next->end});
-  return borders;
+/// Replaces ASCII texts: whether a mark follows is asked of Unicode's properties, one code point at a time.
+std::string replacedAscii(std::string_view text, std::string_view target) {
+  std::string result;
+  while (!text.empty()) {
+    const std::string_view rest = text.substr(std::min(target.size(), text.size()));
+    const std::optional<char32_t> next = rest.empty() ? U'x' : firstCodePoint(rest).value;
+    const bool isMarked =
+        next && u_getIntPropertyValue(static_cast<UChar32>(*next), UCHAR_LEAD_CANONICAL_COMBINING_CLASS) != 0;
+    const bool isFound = text.starts_with(target) && !isMarked;
+    result += isFound ? '#' : text[0];
+    text.remove_prefix(isFound ? target.size() : 1);
+  }
+  return result;
 }
 
-TEST(TextSearch, BothSearchesFindTheSame) {
+TEST(TextSearch, AsciiIsFoundUnlessAMarkFollows) {
   RandomTexts texts({"%{a}", "%", "{", "a", "}", "\u0301", "é", "e", "K", "\u212A", "🎉", "\u200D", "\xFF",
                      "\xE2\x84", "\uFE0F", "\u1161", " "});
   for (int round = 0; round < 20000; ++round) {
     const std::string text = texts.next(11);
-    for (const char* target : {"%{a}", "a", "}", "e", "{a"}) {
-      ASSERT_TRUE(AsciiSearch::serves(target));
-      ASSERT_EQ(bordersIn(AsciiSearch(text, target)), bordersIn(CanonicalSearch(text, target)))
-          << text << " " << target;
-    }
+    for (const std::string target : {"%{a}", "a", "}", "e", "{a"})
+      ASSERT_EQ(replaced(text, target), replacedAscii(text, target)) << text << " " << target;
   }
 }
 

@@ -1,4 +1,3 @@
-#include <ZKStrings/platform/text/GraphemeClusters.h>
 #include <ZKStrings/platform/text/UnicodeText.h>
 #include <ZKStrings/tests/RandomTexts.h>
 
@@ -42,10 +41,10 @@ TEST(UnicodeText, ClustersEndWhereICUSees) {
   for (int round = 0; round < 40000; ++round) {
     const std::string text = texts.next(10);
     std::string divided;
-    for (std::string_view rest = text; !rest.empty(); rest.remove_prefix(firstClusterSize(rest)))
-      divided.append(rest.substr(0, firstClusterSize(rest))) += '|';
+    for (std::string_view rest = text; !rest.empty(); rest.remove_prefix(internal::firstClusterSize(rest)))
+      divided.append(rest.substr(0, internal::firstClusterSize(rest))) += '|';
     ASSERT_EQ(divided, dividedByICU(text));
-    ASSERT_EQ(firstTwoCharacters(text), firstTwoClusters(text)) << text;
+    ASSERT_EQ(firstTwoCharacters(text), internal::firstTwoClusters(text)) << text;
   }
 }
 

@@ -3,7 +3,7 @@
 //   zk_soak SECONDS
 
 #include <ZKStrings/ZKStrings.h>
-#include <ZKStrings/platform/registry/ServiceView.h>
+#include <ZKStrings/platform/ServiceView.h>
 #include <ZKStrings/tests/threads/FirstUse.h>
 #include <ZKStrings/tests/threads/Writers.h>
 

@@ -1,0 +1,67 @@
+#pragma once
+
+#include <ZKStrings/platform/Resolver.h>
+
+#include <cstdint>
+#include <optional>
+#include <typeinfo>
+
+namespace zk {
+
+namespace internal {
+
+/// The service that one thread keeps of one entry, so that viewing it again costs no reference count. Only its
+/// thread writes to it, so it has cache lines of its own.
+struct alignas(128) Kept {
+  const Entry* entry;
+  const void* service;
+  std::uint64_t generation;  // of `entry`, when the service was resolved
+  unsigned openViews;
+  Service owner;
+  Kept* next;
+};
+
+/// Keeps a service alive: through what the thread keeps, or else by a reference of its own.
+class Hold {
+ public:
+  explicit Hold(Entry& entry);
+  Hold(const Hold&) = delete;
+  Hold& operator=(const Hold&) = delete;
+  ~Hold() {
+    if (kept_) --kept_->openViews;
+  }
+  [[nodiscard]] const void* service() const { return service_; }
+
+ private:
+  const void* service_ = nullptr;
+  Kept* kept_;
+  Service owner_{};
+};
+
+}  // namespace internal
+
+/// Resolves the unnamed service of the type `Service` without copying it. While nothing new is registered, it
+/// takes no lock and writes to no memory that threads share. In return, each thread keeps the last value that it
+/// viewed until its next view of that service, or until it ends.
+///
+///     const ServiceView<Language> language;
+///     read(language->preferredLanguages);
+///
+/// The service is valid as long as the view. Requires: the view is used only on the thread that created it.
+template <class Service>
+class ServiceView {
+ public:
+  ServiceView() : hold_(entry()) {}
+  const Service& operator*() const { return *static_cast<const Service*>(hold_.service()); }
+  const Service* operator->() const { return &**this; }
+
+ private:
+  static internal::Entry& entry() {
+    static internal::Entry& unnamed = internal::entryFor(typeid(Service), std::nullopt);
+    return unnamed;
+  }
+
+  internal::Hold hold_;
+};
+
+}  // namespace zk
