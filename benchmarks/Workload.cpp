@@ -13,8 +13,6 @@ namespace zk::benchmarks {
 
 namespace {
 
-constexpr const char* kSuffixes[] = {"_zero", "_one", "_two", "_few", "_many"};
-
 const nlohmann::json& entries() {
   static const nlohmann::json& entries =
       *new nlohmann::json(nlohmann::json::parse(std::ifstream(ZK_PROJECT_ROOT "/catalogue/entries.json")));
@@ -88,8 +86,8 @@ const std::vector<Pair>& germanTexts() {
     };
     for (const auto& entry : entries()) {
       if (!entry.contains("plural")) add(entry["key"]);
-      for (const char* suffix : kSuffixes) {
-        if (entry.contains("plural")) add(entry["key"].get<std::string>() + suffix);
+      for (const std::int64_t count : {0, 1, 2, 3, 6}) {
+        if (entry.contains("plural")) add(entry["key"].get<std::string>().append(pluralSuffix(count)));
       }
     }
     return pairs;
