@@ -75,7 +75,7 @@ test("A bar shows the progress of a language and selects it", async () => {
   const bars = page.locator("#coverage button");
   assert.deepStrictEqual(
     (await bars.allTextContents()).map((text) => text.replace(/^.*\)/, "")),
-    ["70 %", "88 %", "unreadable"],
+    ["70 %", "88 %", "error"],
   );
   assert.match(
     await bars.nth(1).getAttribute("title"),

@@ -33,7 +33,7 @@ function coverageButton(language, choose) {
     },
     element("span", { className: "name", lang: language.tag, dir: "auto" }, language.native),
     element("span", { className: "for-readers" }, ` (${language.english})`),
-    element("span", { className: "percent" }, language.isWellFormed ? `${coverage.percent} %` : "unreadable"),
+    element("span", { className: "percent" }, language.isWellFormed ? `${coverage.percent} %` : "error"),
     coverageBar(coverage),
   );
   button.addEventListener("click", () => choose(language));
