@@ -1,20 +1,101 @@
 #include <ZKStrings/tools/authoring/AccessorGenerator.h>
 #include <ZKStrings/tools/authoring/CatalogueFiles.h>
 #include <ZKStrings/tools/project/CatalogueSettings.h>
+#include <ZKStrings/tools/project/EnglishTexts.h>
+#include <ZKStrings/tools/project/EntryComments.h>
 #include <ZKStrings/tools/project/Table.h>
 #include <ZKStrings/tools/support/Diagnostic.h>
+#include <ZKStrings/tools/support/Files.h>
 #include <ZKStrings/tools/support/Languages.h>
 #include <ZKStrings/tools/texts/TextFeatures.h>
+#include <ZKStrings/tools/translation/TableEditor.h>
+#include <ZKStrings/tools/translation/TableReview.h>
+#include <ZKStrings/tools/translation/Template.h>
 
 #include <algorithm>
 #include <filesystem>
 #include <iterator>
+#include <set>
 #include <system_error>
 #include <utility>
+#include <vector>
+
+#include <fmt/format.h>
 
 namespace zk::tools {
 
 namespace {
+
+/// Gives each counted entry all its forms: those that it lacks are the text. If it has none, they are those of the
+/// English table, unless these are all the same, which is how a text without forms of its own looks there.
+void completeForms(Catalogue& catalogue, const Table& base) {
+  for (Entry& entry : catalogue.entries()) {
+    if (!entry.plural) continue;
+    PluralForms inBase;
+    std::set<std::string> texts;
+    for (std::size_t i = 0; i < inBase.size(); ++i) {
+      const TableEntry* const form = base.find(entry.key + std::string(kPluralForms[i].suffix));
+      inBase[i] = form ? form->text : entry.text;
+      texts.insert(*inBase[i]);
+    }
+    if (!formOf(entry, 0) && texts.size() > 1) entry.forms = inBase;
+    for (std::optional<std::string>& form : entry.forms) form = form.value_or(entry.text);
+  }
+}
+
+/// The table of `language` after what `change` does to its keys and placeholders.
+TableEditor changed(const std::string& root, const std::string& language, const TableChange& change) {
+  TableEditor editor = TableEditor::open(root, language);
+  for (const TableEntry& entry : editor.table().entries) {
+    const auto renamed = change.renamed.find(entry.key);
+    if (renamed == change.renamed.end()) continue;
+    const std::string& key = renamed->second;
+    if (key.empty()) {
+      editor.remove(entry);
+      continue;
+    }
+    if (key != entry.key && editor.table().find(key)) {
+      fail(editor.table().file, entry.keyAt,
+           fmt::format("the table has both \"{}\" and \"{}\"; remove the entry that nothing looks up",
+                       escaped(entry.key), escaped(key)));
+    }
+    if (key != entry.key) editor.replaceKey(entry, key);
+    if (!change.oldPlaceholder.empty())
+      editor.replacePlaceholder(entry, change.oldPlaceholder, change.newPlaceholder);
+  }
+  const std::string file = editor.table().file;
+  return {editor.edited(), file};
+}
+
+/// The bytes of the English table after it is brought in line with the catalogue.
+std::string syncedBase(TableEditor& base, const EnglishTexts& english) {
+  const TableEntry* before = nullptr;
+  for (const EnglishText& text : english.all()) {
+    const bool isFirst = text.suffix.empty() || text.suffix == kPluralForms[0].suffix;
+    const std::string context = isFirst ? contextOf(text) : "";
+    if (const TableEntry* const entry = base.table().find(text.key)) {
+      if (entry->text != text.text) base.replaceText(*entry, text.text);
+      base.setComment(*entry, kContext, context);
+      before = entry;
+    } else {
+      base.insertAfter(before, context + (context.empty() ? "" : "\n") + tableLine(text.key, text.text));
+    }
+  }
+  for (const TableEntry& entry : base.table().entries)
+    if (!english.find(entry.key)) base.remove(entry);
+  return TableEditor(base.edited(), base.table().file).sorted(english);
+}
+
+/// Reports keys that stand twice in a table, with different texts.
+void findUndecided(const Table& table, Diagnostics& diagnostics) {
+  for (const TableEntry& entry : table.entries) {
+    const TableEntry& last = *table.find(entry.key);
+    if (last.text == entry.text) continue;
+    diagnostics.push_back({Severity::error, table.file, entry.keyAt.line, entry.keyAt.column, "",
+                           fmt::format("the key \"{}\" has another text in line {}; keep one of the two",
+                                       escaped(entry.key), last.keyAt.line)});
+  }
+}
 
 /// The accessors' files that belong to the catalogue and its English table.
 std::vector<FileChange> accessorFiles(const CatalogueName& name, const Catalogue& catalogue,
@@ -26,20 +107,14 @@ std::vector<FileChange> accessorFiles(const CatalogueName& name, const Catalogue
   return {{name.headerFile(), std::move(accessors.header)}, {name.sourceFile(), std::move(accessors.source)}};
 }
 
-/// Those of the project at `root`, with the catalogue and the English table that it has.
-std::vector<FileChange> accessorFilesOf(const std::string& root) {
-  return accessorFiles(CatalogueSettings::read(root).name, Catalogue::read(root),
-                       Table::readWellFormed(root, kBase));
-}
-
-/// Whether the project at `root` keeps its accessors beside the catalogue: the module does; another may leave
-/// them to its build.
+/// Whether the project at `root` keeps its accessors with the catalogue: the module does; another may leave them to
+/// its build.
 bool keepsAccessors(const std::string& root, const CatalogueName& name) {
   std::error_code failure;
   return name.isModule() || std::filesystem::exists(std::filesystem::path(root) / name.headerFile(), failure);
 }
 
-/// The catalogue as its file holds it. Throws `CommandFailed` when it breaks a rule.
+/// The catalogue as its file holds it. Throws `CommandFailed` if it breaks a rule.
 std::string checkedJson(const Catalogue& catalogue) {
   std::string json = catalogue.toJson();
   static_cast<void>(Catalogue::parse(json, Catalogue::kFile));
@@ -48,26 +123,68 @@ std::string checkedJson(const Catalogue& catalogue) {
 
 }  // namespace
 
-void writeCatalogue(const std::string& root, const Catalogue& catalogue, const std::string& base,
-                    std::vector<FileChange> translations) {
-  const CatalogueName name = CatalogueSettings::read(root).name;
-  std::vector<FileChange> changes = std::move(translations);
-  changes.push_back({tablePath(kBase), base});
-  if (keepsAccessors(root, name))
-    std::ranges::move(accessorFiles(name, catalogue, Table::parse(base, tablePath(kBase))),
-                      std::back_inserter(changes));
-  changes.push_back({Catalogue::kFile, checkedJson(catalogue)});  // last, so a killed command can be repeated
-  writeFiles(root, changes);
+Catalogue readToChange(const std::string& root) {
+  Catalogue catalogue = Catalogue::read(root);
+  completeForms(catalogue, Table::readWellFormed(root, kBase));
+  return catalogue;
 }
 
-void generate(const std::string& root) {
-  writeFiles(root, accessorFilesOf(root));
+std::size_t writeCatalogue(const std::string& root, const Catalogue& catalogue, const TableChange& change) {
+  std::string json = checkedJson(catalogue);
+  TableEditor base = changed(root, std::string(kBase), change);
+  const EnglishTexts english(catalogue, base.table());
+  std::vector<FileChange> files;
+  Diagnostics undecided;
+  std::size_t marked = 0;
+  for (const std::string& language : languagesIn(root)) {
+    if (language == kBase) continue;
+    TableEditor editor = changed(root, language, change);
+    if (change.sorts) findUndecided(editor.table(), undecided);
+    marked += markChanged(editor, english, base.table(), change.keepsMeaning, change.reviewed);
+    std::string bytes = editor.edited();
+    if (change.sorts) bytes = TableEditor(bytes, editor.table().file).sorted(english);
+    if (bytes != readFile(root, editor.table().file))
+      files.push_back({editor.table().file, std::move(bytes)});
+  }
+  if (!undecided.empty()) throw CommandFailed{std::move(undecided)};
+
+  // An interrupted command is finished by another call: translations change before the English that they follow.
+  const std::string baseBytes = syncedBase(base, english);
+  files.push_back({tablePath(kBase), baseBytes});
+  const CatalogueName name = CatalogueSettings::read(root).name;
+  if (change.generates || keepsAccessors(root, name)) {
+    auto accessors = accessorFiles(name, catalogue, Table::parse(baseBytes, tablePath(kBase)));
+    std::move(accessors.begin(), accessors.end(), std::back_inserter(files));
+  }
+  files.push_back({Catalogue::kFile, std::move(json)});
+  writeFiles(root, files);
+  return marked;
+}
+
+std::size_t generate(const std::string& root) {
+  const Table base = Table::readWellFormed(root, kBase);
+  const auto isKnown = [&](const Entry& entry) {
+    return base.find(entry.plural ? entry.key + std::string(kPluralForms[0].suffix) : entry.key) != nullptr;
+  };
+  Catalogue catalogue = Catalogue::readEdited(root, isKnown);
+  completeForms(catalogue, base);
+  return writeCatalogue(root, catalogue, {.sorts = true, .generates = true});
 }
 
 void generateInto(const std::string& output, const std::string& root) {
   std::vector<FileChange> files;
   try {
-    files = accessorFilesOf(root);
+    const Catalogue catalogue = Catalogue::read(root);
+    const Table base = Table::readWellFormed(root, kBase);
+    const EnglishTexts english(catalogue, base);
+    for (const EnglishText& text : english.all()) {
+      const TableEntry* const entry = base.find(text.key);
+      if (!entry || entry->text == text.text) continue;
+      fail(base.file, entry->textAt,
+           fmt::format("the English of \"{}\" is not that of {}; run zkstrings generate", escaped(text.key),
+                       Catalogue::kFile));
+    }
+    files = accessorFiles(CatalogueSettings::read(root).name, catalogue, base);
   } catch (CommandFailed& failed) {
     for (Diagnostic& diagnostic : failed.diagnostics)
       diagnostic.file = (std::filesystem::path(root) / diagnostic.file).string();

@@ -1,25 +1,47 @@
 #pragma once
 
 #include <ZKStrings/tools/project/Catalogue.h>
-#include <ZKStrings/tools/support/Files.h>
 
+#include <cstddef>
+#include <map>
 #include <string>
-#include <vector>
 
 namespace zk::tools {
 
-/// Makes the accessors of the project at `root` anew, in its folder catalogue/. Throws `CommandFailed` when
-/// the catalogue or the English table is wrong.
-void generate(const std::string& root);
+/// What a command does to the tables, besides bringing them in line with the catalogue.
+struct TableChange {
+  /// New keys by old ones; an empty new key removes the entry.
+  std::map<std::string, std::string> renamed = {};
+  /// "%{value}" and what replaces it in the entries of `renamed`.
+  std::string oldPlaceholder = {};
+  std::string newPlaceholder = {};
+  /// A key whose translations need review although its English text is the same.
+  std::string reviewed = {};
+  /// Whether translations of a changed text are still right.
+  bool keepsMeaning = false;
+  /// Whether translations get the order of the catalogue, without repeated entries.
+  bool sorts = false;
+  /// Whether accessors are written even if the project does not keep them yet.
+  bool generates = false;
+};
 
-/// The same, in the directory `output`, for a build that keeps them there. The diagnostics that it throws name
-/// their files with `root`, so that they are found from the build's folder.
+/// Reads the catalogue of the project at `root`, with all plural forms, to change it. Throws `CommandFailed` if the
+/// catalogue or the English table is wrong.
+[[nodiscard]] Catalogue readToChange(const std::string& root);
+
+/// Writes the catalogue of the project at `root` and brings the rest in line with it, all files or none: the English
+/// table says what the catalogue says, translations of texts that have changed are marked for review, and the accessors
+/// are generated where the project keeps them. Returns the number of translations that need review now. Throws
+/// `CommandFailed` if one of the files breaks a rule or cannot be written.
+std::size_t writeCatalogue(const std::string& root, const Catalogue& catalogue,
+                           const TableChange& change = {});
+
+/// Does so for the catalogue as a person or a merge of two versions left it, and puts it and all tables in order.
+/// Throws `CommandFailed` with what it cannot decide, such as one key with two texts.
+std::size_t generate(const std::string& root);
+
+/// Writes only the accessors, into the directory `output`, for a build that keeps them there. Throws `CommandFailed`,
+/// with files named from `root`, if the catalogue is wrong or the English table does not say what it says.
 void generateInto(const std::string& output, const std::string& root);
-
-/// Writes the catalogue of the project at `root` and what changes with it, all or nothing: the English table,
-/// whose bytes are `base`, `translations`, and the accessors, where the project keeps them. Throws
-/// `CommandFailed` when one of them breaks a rule or cannot be written.
-void writeCatalogue(const std::string& root, const Catalogue& catalogue, const std::string& base,
-                    std::vector<FileChange> translations = {});
 
 }  // namespace zk::tools

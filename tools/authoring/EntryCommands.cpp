@@ -2,20 +2,15 @@
 #include <ZKStrings/platform/text/UnicodeText.h>
 #include <ZKStrings/tools/authoring/CatalogueFiles.h>
 #include <ZKStrings/tools/authoring/EntryCommands.h>
-#include <ZKStrings/tools/project/EnglishTexts.h>
 #include <ZKStrings/tools/project/Table.h>
-#include <ZKStrings/tools/support/Files.h>
-#include <ZKStrings/tools/support/Languages.h>
+#include <ZKStrings/tools/support/Characters.h>
 #include <ZKStrings/tools/support/Nearest.h>
 #include <ZKStrings/tools/texts/Placeholders.h>
 #include <ZKStrings/tools/texts/TextFeatures.h>
-#include <ZKStrings/tools/translation/TableEditor.h>
-#include <ZKStrings/tools/translation/Template.h>
-#include <ZKStrings/tools/translation/TranslationState.h>
 
 #include <algorithm>
-#include <functional>
 #include <iterator>
+#include <map>
 #include <stdexcept>
 #include <string_view>
 #include <utility>
@@ -38,79 +33,52 @@ void refuseFaultIn(const Entry& entry) {
   if (const std::string fault = Catalogue::faultIn(entry); !fault.empty()) refuse(fault);
 }
 
-void refuseUnknownPlaceholders(const std::string& form, const std::string& text) {
-  const std::vector<std::string_view> allowed = placeholderNames(text);
-  for (const std::string_view name : placeholderNames(form)) {
-    if (std::find(allowed.begin(), allowed.end(), name) == allowed.end())
-      refuse(
-          fmt::format("the form \"{}\" has the placeholder \"%{{{}}}\", which the text lacks", form, name));
-  }
-}
-
 void refuseWrongBytes(const std::string& text) {
   if (!isUtf8(text)) refuse("the text is not UTF-8; see that your terminal writes UTF-8");
   if (hasCarriageReturnOrNul(text)) refuse(kNoCarriageReturn);
 }
 
-void refuseWrongTexts(const PluralForms& forms, const std::string& text, bool isCounted) {
+/// Refuses what other systems take for a placeholder: "%s", "%1", "%@", "{name}", "{count, plural, ...}".
+void refuseForeignPlaceholders(const std::string& text) {
+  std::string_view foreign = text.find("%@") == std::string::npos ? "" : "%@";
+  for (const PlaceholderUse& use : placeholderUses(text)) {
+    if (foreign.empty() && !use.isRight && !use.spelled.starts_with("%{")) foreign = use.spelled;
+  }
+  if (foreign.empty()) return;
+  refuse(fmt::format(
+      "\"{}\" is not a placeholder; write %{{name}}, and plural forms with --count and --one, or take "
+      "it as plain text with --plain",
+      foreign));
+}
+
+bool isAnyGiven(const PluralForms& forms) {
+  return std::any_of(forms.begin(), forms.end(), [](const auto& form) { return form.has_value(); });
+}
+
+void refuseWrongTexts(const std::string& text, bool isCounted, const PluralForms& forms, bool isPlain) {
+  if (!isCounted && isAnyGiven(forms))
+    refuse("a text without a count has no plural forms; leave them out, or give it a count with --count");
   refuseWrongBytes(text);
+  if (!isPlain) refuseForeignPlaceholders(text);
   for (const std::optional<std::string>& form : forms) {
-    if (!form) continue;
-    refuseWrongBytes(*form);
-    if (!isCounted)
-      refuse("a text without count has no plural forms; leave them out, or add it with --count");
-    refuseUnknownPlaceholders(*form, text);
+    refuseWrongBytes(form.value_or(""));
+    if (!isPlain) refuseForeignPlaceholders(form.value_or(""));
   }
 }
 
-/// The forms of a counted text, all of them.
-PluralForms completed(PluralForms forms, const std::string& text) {
+/// Gives a counted entry `forms`; those that are not given are its text.
+void setForms(Entry& entry, const PluralForms& forms) {
   if (!forms[kFormForOne]) refuse("a counted text needs its form for one; add --one 'TEXT'");
-  for (std::optional<std::string>& form : forms) form = form.value_or(text);
-  return forms;
+  for (std::size_t i = 0; i < forms.size(); ++i) entry.forms[i] = forms[i].value_or(entry.text);
 }
 
-Entry entryFor(const NewEntry& added, const Catalogue& catalogue) {
-  const std::string ruled = keyForText(added.text);
-  Entry entry{added.key.empty() ? ruled : added.key, added.text, added.plural};
-  if (entry.text.empty()) refuse("the text is empty; give one");
-  if (entry.key.empty()) refuse("the text has no letter or digit to make a key of; give it one with --key");
-  if (keyForText(entry.key) != entry.key)
-    refuse(
-        fmt::format("the key \"{}\" cannot name a function; write \"{}\"", entry.key, keyForText(entry.key)));
-  if (entry.key != ruled) entry.kept = Entry::Kept::key;
-  refuseFaultIn(entry);
-  for (const Entry& present : catalogue.entries()) {
-    if (present.key == entry.key && (present.plural == entry.plural || present.text != entry.text))
-      refuse(fmt::format("the key \"{}\" is that of the text \"{}\"; give the new text another with --key",
-                         entry.key, escaped(present.text)));
-  }
-  return entry;
+/// Refuses a key that cannot name a function.
+void refuseWrongKey(const std::string& key) {
+  if (keyForText(key) != key)
+    refuse(fmt::format("the key \"{}\" cannot name a function; write \"{}\"", key, keyForText(key)));
 }
 
-/// Inserts the lines of the new `entry` into the English table, after those of the looked-up key before it. A line that
-/// is there already, from a command that was killed, gets the new text.
-void insertLines(const Catalogue& catalogue, const Entry& entry, const PluralForms& forms,
-                 TableEditor& base) {
-  const TableEntry* before = nullptr;
-  std::string lines;
-  const auto* form = forms.begin();
-  for (const auto& key : catalogue.lookedUpKeys()) {
-    const TableEntry* const present = base.table().find(key.key);
-    if (key.entry == &entry) {
-      const std::string& text = entry.plural ? **form++ : entry.text;
-      if (present) {
-        base.replaceText(*present, text);
-      } else {
-        lines += tableLine(key.key, text);
-      }
-    }
-    if (present && lines.empty()) before = present;
-  }
-  if (!lines.empty()) base.insertBehind(before, lines);
-}
-
-/// The entries of `key`, counted or not. Throws with the nearest key when there are none.
+/// The entries of `key`, counted or not. Throws with the nearest key if there are none.
 std::vector<Entry*> entriesOf(Catalogue& catalogue, const std::string& key) {
   std::vector<Entry*> found;
   std::vector<std::string_view> keys;
@@ -124,45 +92,57 @@ std::vector<Entry*> entriesOf(Catalogue& catalogue, const std::string& key) {
                      didYouMean(meant, fmt::format("see {} for those it has", Catalogue::kFile))));
 }
 
-/// A key that the tables have for an entry, with the place of its plural form (none for a bare key).
-struct TableKey {
-  std::string key;
-  std::optional<std::size_t> form;
-};
-std::vector<TableKey> tableKeysOf(const std::vector<Entry*>& entries) {
-  std::vector<TableKey> keys;
-  for (const Entry* const entry : entries) {
-    if (!entry->plural) keys.push_back({entry->key, std::nullopt});
-    for (std::size_t i = 0; entry->plural && i < std::size(kPluralForms); ++i)
-      keys.push_back({entry->key + std::string(kPluralForms[i].suffix), i});
+/// The keys of the tables for `entry`, and what they are with the key `newKey`; all empty if that is.
+std::map<std::string, std::string> renamedKeys(const Entry& entry, const std::string& newKey) {
+  if (!entry.plural) return {{entry.key, newKey}};
+  std::map<std::string, std::string> keys;
+  for (const PluralForm& form : kPluralForms) {
+    const std::string suffix(form.suffix);
+    keys.emplace(entry.key + suffix, newKey.empty() ? "" : newKey + suffix);
   }
   return keys;
 }
 
-/// What each translation that `edit` changes holds then.
-std::vector<FileChange> editTranslations(const std::string& root, const std::vector<TableKey>& keys,
-                                         const std::function<void(TableEditor&, const TableEntry&)>& edit) {
-  std::vector<FileChange> changes;
-  for (const std::string& language : languagesIn(root)) {
-    if (language == kBase) continue;
-    TableEditor editor = TableEditor::open(root, language);
-    for (const TableKey& key : keys) {
-      if (const TableEntry* const entry = editor.table().find(key.key)) edit(editor, *entry);
+void changeTexts(Entry& entry, const EntryChange& change) {
+  const std::string old = std::exchange(entry.text, change.text.value_or(entry.text));
+  for (std::size_t i = 0; entry.plural && i < entry.forms.size(); ++i) {
+    std::optional<std::string>& form = entry.forms[i];
+    if (change.forms[i]) {
+      form = change.forms[i];
+    } else if (form == old) {
+      form = entry.text;
+    } else if (entry.text != old) {
+      const auto& [suffix, counts, example] = kPluralForms[i];
+      refuse(fmt::format("the form for {} is \"{}\"; say what it is now with --{} 'TEXT'", counts,
+                         escaped(*form), suffix.substr(1)));
     }
-    if (editor.hasEdits()) changes.push_back({editor.table().file, editor.edited()});
   }
-  return changes;
 }
 
-/// The new English text of a table's key: the form given for it, or the new text where it had the old one.
-std::string changedText(const TableKey& key, const std::string& present, const std::string& oldText,
-                        const std::string& newText, const PluralForms& forms) {
-  if (!key.form) return newText;
-  if (forms[*key.form]) return *forms[*key.form];
-  if (present == oldText || present == newText) return newText;
-  const std::string_view name = kPluralForms[*key.form].suffix.substr(1);
-  refuse(fmt::format("the form for {} is \"{}\"; say what it is now with --{} 'TEXT'",
-                     kPluralForms[*key.form].counts, escaped(present), name));
+void renamePlaceholder(Entry& entry, const std::string& renaming, TableChange& tables) {
+  const std::size_t equals = renaming.find('=');
+  if (equals == std::string::npos)
+    refuse("write the old and the new name of the placeholder, as in value=player");
+  const std::string name = renaming.substr(0, equals);
+  const std::vector<std::string_view> names = placeholderNames(entry.text);
+  if (std::find(names.begin(), names.end(), name) == names.end()) {
+    refuse(fmt::format("the text of \"{}\" has no placeholder \"%{{{}}}\"; it is \"{}\"", entry.key, name,
+                       escaped(entry.text)));
+  }
+  tables.oldPlaceholder = "%{" + name + "}";
+  tables.newPlaceholder = "%{" + renaming.substr(equals + 1) + "}";
+  tables.renamed.merge(renamedKeys(entry, entry.key));
+  entry.text = replaceAll(entry.text, tables.oldPlaceholder, tables.newPlaceholder);
+  for (std::optional<std::string>& form : entry.forms)
+    if (form) form = replaceAll(*form, tables.oldPlaceholder, tables.newPlaceholder);
+}
+
+/// Gives a text a count. Its translations become the form for many.
+void addCount(Entry& entry, const PluralForms& forms, TableChange& tables) {
+  entry.plural = true;
+  setForms(entry, forms);
+  tables.reviewed = entry.key + std::string(std::rbegin(kPluralForms)->suffix);
+  tables.renamed.emplace(entry.key, tables.reviewed);
 }
 
 }  // namespace
@@ -175,65 +155,76 @@ std::string keyOf(const std::string& text) {
 }
 
 std::string addEntry(const std::string& root, const NewEntry& added) {
-  Catalogue catalogue = Catalogue::read(root);
-  refuseWrongTexts(added.forms, added.text, added.plural);
-  const PluralForms forms = added.plural ? completed(added.forms, added.text) : PluralForms();
-  Entry entry = entryFor(added, catalogue);
-  const std::size_t place = catalogue.placeFor(entry.key, entry.plural);
-  entry.line = place + 2;
-  const std::string key = entry.key;
-  catalogue.insert(place, std::move(entry));
-
-  TableEditor base = TableEditor::open(root, kBase);
-  insertLines(catalogue, catalogue.entries()[place], forms, base);
-  writeCatalogue(root, catalogue, base.edited());
-  return key;
+  Catalogue catalogue = readToChange(root);
+  refuseWrongTexts(added.text, added.plural, added.forms, added.isPlain);
+  Entry entry{added.key.empty() ? keyForText(added.text) : added.key, added.text, added.plural};
+  entry.comment = added.comment;
+  entry.max = added.max;
+  if (entry.text.empty()) refuse("the text is empty; give one");
+  if (entry.key.empty()) refuse("the text has no letter or digit to make a key of; give it one with --key");
+  refuseWrongKey(entry.key);
+  if (entry.plural) setForms(entry, added.forms);
+  keepKeyIfNeeded(entry);
+  refuseFaultIn(entry);
+  for (const Entry& present : catalogue.entries()) {
+    if (present.key == entry.key && (present.plural == entry.plural || present.text != entry.text))
+      refuse(fmt::format("the key \"{}\" is that of the text \"{}\"; give the new text another with --key",
+                         entry.key, escaped(present.text)));
+  }
+  catalogue.entries().push_back(entry);
+  catalogue.sort();
+  writeCatalogue(root, catalogue);
+  return entry.key;
 }
 
-std::size_t changeEntry(const std::string& root, const std::string& key, const std::string& text,
-                        const PluralForms& forms) {
-  Catalogue catalogue = Catalogue::read(root);
+std::size_t changeEntry(const std::string& root, const std::string& key, const EntryChange& change) {
+  Catalogue catalogue = readToChange(root);
   const std::vector<Entry*> entries = entriesOf(catalogue, key);
-  const std::string oldText = entries.front()->text;
-  refuseWrongTexts(forms, text, entries.back()->plural);
-  if (text.empty()) refuse("the new text is empty; zkstrings remove removes one");
+  const bool hasCount = entries.back()->plural;
+  refuseWrongTexts(change.text.value_or(""), hasCount || change.plural, change.forms, change.isPlain);
+  if (change.text && change.text->empty()) refuse("the new text is empty; zkstrings remove removes one");
+  if (change.plural && hasCount) refuse(fmt::format("\"{}\" has a count already; leave --count out", key));
+  TableChange tables;
+  tables.keepsMeaning = change.keepsMeaning;
   for (Entry* const entry : entries) {
-    entry->text = text;
-    if (entry->kept != Entry::Kept::place)
-      entry->kept = key == keyForText(text) ? Entry::Kept::nothing : Entry::Kept::key;
+    if (!change.placeholder.empty()) renamePlaceholder(*entry, change.placeholder, tables);
+    changeTexts(*entry, change);
+    if (change.plural) addCount(*entry, change.forms, tables);
+    entry->comment = change.comment.value_or(entry->comment);
+    entry->max = change.max.value_or(entry->max);
+    keepKeyIfNeeded(*entry);
     refuseFaultIn(*entry);
   }
+  return writeCatalogue(root, catalogue, tables);
+}
 
-  const std::vector<TableKey> keys = tableKeysOf(entries);
-  TableEditor base = TableEditor::open(root, kBase);
-  for (const TableKey& tableKey : keys) {
-    const TableEntry* const entry = base.table().find(tableKey.key);
-    if (entry) base.replaceText(*entry, changedText(tableKey, entry->text, oldText, text, forms));
+void renameEntry(const std::string& root, const std::string& key, const std::string& newKey) {
+  Catalogue catalogue = readToChange(root);
+  const std::vector<Entry*> entries = entriesOf(catalogue, key);
+  refuseWrongKey(newKey);
+  for (const Entry& present : catalogue.entries()) {
+    if (present.key == newKey)
+      refuse(fmt::format("the key \"{}\" is that of the text \"{}\"; choose another", newKey,
+                         escaped(present.text)));
   }
-  const EnglishTexts english(catalogue, Table::parse(base.edited(), tablePath(kBase)));
-  std::size_t marked = 0;
-  const auto mark = [&](TableEditor& editor, const TableEntry& entry) {
-    const EnglishText& now = *english.find(entry.key);
-    editor.setExplanation(entry, explanationOf(now));
-    if (isMarked(entry, TranslationState::untranslated)) return editor.replaceText(entry, now.text);
-    editor.setState(entry, TranslationState::needsReview);
-    ++marked;
-  };
-  writeCatalogue(root, catalogue, base.edited(), editTranslations(root, keys, mark));
-  return marked;
+  TableChange tables;
+  tables.sorts = true;
+  for (Entry* const entry : entries) {
+    tables.renamed.merge(renamedKeys(*entry, newKey));
+    entry->key = newKey;
+    keepKeyIfNeeded(*entry);
+    refuseFaultIn(*entry);
+  }
+  catalogue.sort();
+  writeCatalogue(root, catalogue, tables);
 }
 
 void removeEntry(const std::string& root, const std::string& key) {
-  Catalogue catalogue = Catalogue::read(root);
-  const std::vector<TableKey> keys = tableKeysOf(entriesOf(catalogue, key));
+  Catalogue catalogue = readToChange(root);
+  TableChange tables;
+  for (const Entry* const entry : entriesOf(catalogue, key)) tables.renamed.merge(renamedKeys(*entry, ""));
   std::erase_if(catalogue.entries(), [&](const Entry& entry) { return entry.key == key; });
-
-  TableEditor base = TableEditor::open(root, kBase);
-  for (const TableKey& tableKey : keys) {
-    if (const TableEntry* const entry = base.table().find(tableKey.key)) base.remove(*entry);
-  }
-  const auto remove = [](TableEditor& editor, const TableEntry& entry) { editor.remove(entry); };
-  writeCatalogue(root, catalogue, base.edited(), editTranslations(root, keys, remove));
+  writeCatalogue(root, catalogue, tables);
 }
 
 }  // namespace zk::tools

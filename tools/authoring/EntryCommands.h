@@ -2,41 +2,52 @@
 
 #include <ZKStrings/tools/project/Catalogue.h>
 
-#include <array>
 #include <cstddef>
-#include <iterator>
 #include <optional>
 #include <string>
 
 namespace zk::tools {
 
-/// The English plural forms of a text that are given, in the order of `kPluralForms`.
-using PluralForms = std::array<std::optional<std::string>, std::size(kPluralForms)>;
-
 /// A text to be added.
 struct NewEntry {
-  std::string text;  ///< the English default
+  std::string text = {};  ///< the English default
   bool plural = false;
   /// With a count: the form for one at least; others that are not given are the text itself.
   PluralForms forms = {};
   std::string key = {};  ///< empty for the key that the text gets
+  std::string comment = {};
+  std::size_t max = 0;
+  bool isPlain = false;  ///< whether placeholders of other systems, as in "%s", are meant as text
 };
 
-/// The key that `text` gets. Throws `std::invalid_argument`, with what is wrong, when it gets none.
+/// What to change about a text. What is not given stays.
+struct EntryChange {
+  std::optional<std::string> text = {};
+  PluralForms forms = {};
+  bool plural = false;  ///< whether a text without a count gets one
+  std::optional<std::string> comment = {};
+  std::optional<std::size_t> max = {};
+  std::string placeholder = {};  ///< "value=player" renames "%{value}"
+  bool keepsMeaning = false;     ///< whether translations are still right
+  bool isPlain = false;
+};
+
+/// Returns the key that `text` gets. Throws `std::invalid_argument`, with what is wrong, if it gets none.
 std::string keyOf(const std::string& text);
 
-// All these change all files that hold the text, or none. They throw `CommandFailed` when a file is wrong
-// or cannot be written, and `std::invalid_argument`, with what is wrong and what to do, when the text or the
-// key cannot be taken.
+// All these change all files that hold the text, or none. They throw `CommandFailed` if a file is wrong or cannot be
+// written, and `std::invalid_argument`, with what is wrong and what to do, if the text or the key cannot be taken.
 
-/// Adds the text to the project at `root`: to the catalogue at its place, to the English table, and to the
-/// accessors. Gives its key.
+/// Adds the text to the project at `root`: to the catalogue, to the English table, and to the accessors. Returns its key.
 std::string addEntry(const std::string& root, const NewEntry& added);
 
-/// Gives the text of `key` another English text and, where it is counted, the given plural forms; a form that
-/// was the old text becomes the new one. Marks its translations as to be reviewed, and gives their number.
-std::size_t changeEntry(const std::string& root, const std::string& key, const std::string& text,
-                        const PluralForms& forms);
+/// Changes the text of `key`. A plural form that was the old text becomes the new one. Translations of what has changed
+/// are marked for review, unless the meaning is the same; returns their number. If a text gets a count, its translations
+/// become the form for many.
+std::size_t changeEntry(const std::string& root, const std::string& key, const EntryChange& change);
+
+/// Gives the text of `key`, counted and plain, the key `newKey` in all tables.
+void renameEntry(const std::string& root, const std::string& key, const std::string& newKey);
 
 /// Removes the text of `key`, counted and plain, from the catalogue, from all tables and from the accessors.
 void removeEntry(const std::string& root, const std::string& key);

@@ -117,7 +117,8 @@ void findUnknownEscapes(const TableEntry& entry, Findings& findings) {
 std::string errorInState(const std::vector<std::string_view>& words) {
   const std::vector<std::string_view> states = {nameOf(TranslationState::untranslated),
                                                 nameOf(TranslationState::needsReview)};
-  const std::string state = fmt::format("{}", fmt::join(words, " "));
+  const auto previousEnglish = std::find(words.begin(), words.end(), "was");
+  const std::string state = fmt::format("{}", fmt::join(words.begin(), previousEnglish, " "));
   if (std::find(states.begin(), states.end(), state) != states.end()) return "";
   const std::optional<std::string_view> meant = nearest(state, states);
   return fmt::format(

@@ -4,11 +4,12 @@
 #include <ZKStrings/tools/support/Characters.h>
 #include <ZKStrings/tools/support/Terminal.h>
 
-#include <array>
 #include <cstddef>
 #include <memory>
 #include <optional>
+#include <string>
 #include <string_view>
+#include <utility>
 
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
@@ -17,9 +18,16 @@ namespace zk::tools {
 
 namespace {
 
+constexpr const char* kPlainHelp = "Take %s, {name} and the like as plain text";
+
 /// What the shell passes as \n inside quotes is meant as a line break.
 std::string withLineBreaks(std::string_view text) {
   return replaceAll(text, "\\n", "\n");
+}
+
+/// "Marked 2 translations for review".
+std::string markedForReview(std::size_t count) {
+  return fmt::format("Marked {} translation{} for review", count, count == 1 ? "" : "s");
 }
 
 /// Lets the user give the plural forms of a text: --zero to --many.
@@ -36,15 +44,12 @@ void addForms(CLI::App& command, PluralForms& forms) {
 
 void addGenerateCommand(CLI::App& app, const RootFinder& inRoot) {
   const auto output = std::make_shared<std::string>();
-  auto* const command = app.add_subcommand("generate", "Regenerate the accessors");
-  command->add_option("--output", *output, "The folder to write to (default: catalogue/)")->type_name("DIR");
+  auto* const command = app.add_subcommand("generate", "Regenerate the accessors and the English table");
+  command->add_option("--output", *output, "Write only the accessors, to this folder")->type_name("DIR");
   command->footer("Example: zkstrings generate");
   command->callback([inRoot, output] {
-    if (output->empty()) {
-      generate(inRoot());
-    } else {
-      generateInto(*output, inRoot());
-    }
+    if (!output->empty()) return generateInto(*output, inRoot());
+    if (const std::size_t marked = generate(inRoot()); marked > 0) say("{}.\n", markedForReview(marked));
   });
 }
 
@@ -63,6 +68,10 @@ void addAddCommand(CLI::App& app, const RootFinder& inRoot) {
   command->add_flag("--count", entry->plural, "The text has plural forms; give at least --one");
   addForms(*command, entry->forms);
   command->add_option("--key", entry->key, "The key (default: derived from the text)");
+  command->add_option("--comment", entry->comment, "What translators need to know about the text");
+  command->add_option("--max", entry->max, "The most characters that fit where the text appears")
+      ->check(CLI::NonNegativeNumber);
+  command->add_flag("--plain", entry->isPlain, kPlainHelp);
   command->footer("Example: zkstrings add --count '%{gifts} gifts' --one '%{gifts} gift'");
   command->callback([entry, inRoot] {
     entry->text = withLineBreaks(entry->text);
@@ -71,21 +80,40 @@ void addAddCommand(CLI::App& app, const RootFinder& inRoot) {
 }
 
 void addChangeCommand(CLI::App& app, const RootFinder& inRoot) {
-  struct Arguments {
-    std::string key;
-    std::string text;
-    PluralForms forms;
-  };
-  const auto arguments = std::make_shared<Arguments>();
-  auto* const command = app.add_subcommand("change", "Change the English of a text, but not its key");
-  command->add_option("key", arguments->key, "The text's key")->required()->type_name("KEY");
-  command->add_option("text", arguments->text, "The new English text; \\n is a line break")->required();
-  addForms(*command, arguments->forms);
+  const auto key = std::make_shared<std::string>();
+  const auto change = std::make_shared<EntryChange>();
+  auto* const command = app.add_subcommand("change", "Change a text, but not its key");
+  command->add_option("key", *key, "The text's key")->required()->type_name("KEY");
+  auto* const text = command->add_option("text", change->text, "The new English text; \\n is a line break");
+  command->add_flag("--same-meaning", change->keepsMeaning, "Leave translations alone: they are still right")
+      ->needs(text);
+  addForms(*command, change->forms);
+  command->add_flag("--count", change->plural, "Give the text a count; give at least --one");
+  command->add_option("--placeholder", change->placeholder, "Rename a placeholder in all tables")
+      ->type_name("OLD=NEW")
+      ->excludes(text);
+  command->add_option("--comment", change->comment, "What translators need to know; '' for nothing");
+  command->add_option("--max", change->max, "The most characters that fit; 0 for no limit")
+      ->check(CLI::NonNegativeNumber);
+  command->add_flag("--plain", change->isPlain, kPlainHelp);
   command->footer("Example: zkstrings change About 'About us'");
-  command->callback([arguments, inRoot] {
-    const std::size_t marked =
-        changeEntry(inRoot(), arguments->key, withLineBreaks(arguments->text), arguments->forms);
-    say("Changed {}; {} translation{} to review.\n", arguments->key, marked, marked == 1 ? "" : "s");
+  command->callback([key, change, command, inRoot] {
+    if (command->count_all() < 3) throw CLI::RequiredError("A new text or an option");
+    if (change->text) change->text = withLineBreaks(*change->text);
+    const std::size_t marked = changeEntry(inRoot(), *key, *change);
+    say("Changed {}.{}\n", *key, marked > 0 ? fmt::format(" {}.", markedForReview(marked)) : "");
+  });
+}
+
+void addRenameCommand(CLI::App& app, const RootFinder& inRoot) {
+  const auto keys = std::make_shared<std::pair<std::string, std::string>>();
+  auto* const command = app.add_subcommand("rename", "Give a text another key; translations stay");
+  command->add_option("key", keys->first, "The text's key")->required()->type_name("KEY");
+  command->add_option("new_key", keys->second, "Its new key")->required()->type_name("NEW_KEY");
+  command->footer("Example: zkstrings rename About About_the_app");
+  command->callback([keys, inRoot] {
+    renameEntry(inRoot(), keys->first, keys->second);
+    say("Renamed {} to {}.\n", keys->first, keys->second);
   });
 }
 
@@ -107,6 +135,7 @@ void addCatalogueCommands(CLI::App& app, const RootFinder& inRoot) {
   addKeyCommand(app);
   addAddCommand(app, inRoot);
   addChangeCommand(app, inRoot);
+  addRenameCommand(app, inRoot);
   addRemoveCommand(app, inRoot);
 }
 

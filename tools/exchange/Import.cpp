@@ -98,7 +98,7 @@ class Importer {
     } else if (entry) {
       change(unit, *entry, present, state, setsState);
     } else {
-      editor_.insertBehind(before,
+      editor_.insertAfter(before,
                            (setsState ? markFor(state) + "\n" : "") + tableLine(unit.key, unit.target));
       log(unit, result_.added, fmt::format("is added: {}", shown(unit.target, state)));
     }

@@ -1,6 +1,7 @@
 #include <ZKStrings/catalogue/KeyRule.h>
 #include <ZKStrings/tools/project/Catalogue.h>
 #include <ZKStrings/tools/project/Identifiers.h>
+#include <ZKStrings/tools/project/Table.h>
 #include <ZKStrings/tools/support/Characters.h>
 #include <ZKStrings/tools/support/Files.h>
 #include <ZKStrings/tools/support/Position.h>
@@ -13,6 +14,7 @@
 #include <utility>
 
 #include <fmt/format.h>
+#include <fmt/ranges.h>
 #include <nlohmann/json.hpp>
 
 namespace zk::tools {
@@ -27,7 +29,8 @@ constexpr const char* kNoObject = R"(the line is no JSON object; write {"key": "
 /// Reads the lines of entries.json into entries and collects what is wrong with each by itself.
 class Reader {
  public:
-  Reader(std::string file, Diagnostics& diagnostics) : file_(std::move(file)), diagnostics_(diagnostics) {}
+  Reader(std::string file, bool toleratesCommas, Diagnostics& diagnostics)
+      : file_(std::move(file)), toleratesCommas_(toleratesCommas), diagnostics_(diagnostics) {}
 
   std::vector<Entry> read(std::string_view json) {
     const std::vector<std::string_view> lines = linesOf(json);
@@ -52,7 +55,7 @@ class Reader {
   std::optional<Entry> readLine(std::string_view line, bool isLast) {
     const bool hasComma = line.ends_with(',');
     if (hasComma) line.remove_suffix(1);
-    if (hasComma == isLast) {
+    if (hasComma == isLast && !toleratesCommas_) {
       fail(line_, positionOf(line, line.size()).column,
            isLast ? "a comma behind the last entry; remove it" : "no comma behind the entry; add one");
     }
@@ -79,7 +82,8 @@ class Reader {
         fail(line_, 1,
              fmt::format(
                  "the member \"{}\" is unknown or of the wrong type; members are key, text and comment "
-                 "(texts), plural (true), kept (\"key\" or \"place\") and max (a number from 1)",
+                 "(texts), plural (true, or forms such as {{\"one\": \"1 coin\"}}), kept (\"key\" or "
+                 "\"place\") and max (a number from 1)",
                  name));
       }
     }
@@ -88,9 +92,21 @@ class Reader {
     return diagnostics_.size() == before ? std::optional(std::move(entry)) : std::nullopt;
   }
 
+  static bool readForms(PluralForms& forms, const nlohmann::json& object) {
+    if (!object.is_object() || object.empty()) return false;
+    for (const auto& [name, text] : object.items()) {
+      const auto* const form =
+          std::find_if(std::begin(kPluralForms), std::end(kPluralForms),
+                       [&](const PluralForm& known) { return known.suffix.substr(1) == name; });
+      if (form == std::end(kPluralForms) || !text.is_string()) return false;
+      forms[static_cast<std::size_t>(form - kPluralForms)] = text.get<std::string>();
+    }
+    return true;
+  }
+
   static bool readMember(Entry& entry, const std::string& name, const nlohmann::json& value) {
     if (name == "plural") {
-      entry.plural = value.is_boolean() && value.get<bool>();
+      entry.plural = (value.is_boolean() && value.get<bool>()) || readForms(entry.forms, value);
       return entry.plural;
     }
     if (name == "max") {
@@ -111,6 +127,7 @@ class Reader {
   }
 
   std::string file_;
+  bool toleratesCommas_;
   Diagnostics& diagnostics_;
   std::size_t line_ = 0;
 };
@@ -122,7 +139,10 @@ void checkEntry(const Entry& entry, const std::string& file, Diagnostics& diagno
   };
   const std::string ruled = keyForText(entry.text);
   if (entry.kept == Entry::Kept::nothing && entry.key != ruled) {
-    fail(fmt::format("the key \"{}\" is not the one that its text gets; use \"{}\"", entry.key, ruled));
+    fail(
+        fmt::format("the key \"{}\" is not the one that its text gets; give a new text the key \"{}\", and "
+                    "change the text of an existing key with zkstrings change",
+                    entry.key, ruled));
   }
   if (entry.kept == Entry::Kept::key && entry.key == ruled) {
     fail(fmt::format("the key \"{}\" follows the rule; remove \"kept\"", entry.key));
@@ -152,6 +172,14 @@ void checkEntry(const Entry& entry, const std::string& file, Diagnostics& diagno
     fail(fmt::format("\"{}\" is no placeholder; write %{{name}}, with letters and digits in the braces",
                      use.spelled));
   }
+  for (const std::optional<std::string>& form : entry.forms) {
+    if (hasCarriageReturnOrNul(form.value_or(""))) fail(kNoCarriageReturn);
+    for (const std::string_view name : placeholderNames(form ? std::string_view(*form) : "")) {
+      if (seen.contains(name)) continue;
+      fail(fmt::format("the form \"{}\" has the placeholder \"%{{{}}}\", which the text lacks",
+                       escaped(*form), name));
+    }
+  }
   if (entry.plural && seen.contains("count")) {
     fail("a counted entry has the argument count already; name its placeholder otherwise");
   }
@@ -172,13 +200,14 @@ void checkTogether(const std::vector<Entry>& entries, const std::string& file, D
       diagnostics.push_back({Severity::error, file, entry.line, 1, "", std::move(message)});
     };
     const auto [same, isNew] = accessors.try_emplace(signatureOf(entry), &entry);
-    if (!isNew)
-      fail(fmt::format("the accessor \"{}\" stands already in line {}; remove one", identifierFor(entry.key),
-                       same->second->line));
     const auto [first, isFirst] = texts.try_emplace(entry.key, &entry);
     if (!isFirst && first->second->text != entry.text) {
-      fail(fmt::format("the key \"{}\" has another text in line {}; give both the same", entry.key,
-                       first->second->line));
+      fail(fmt::format(
+          "the key \"{}\" has another text in line {}; keep one of the two, or give both the same", entry.key,
+          first->second->line));
+    } else if (!isNew) {
+      fail(fmt::format("the accessor \"{}\" is already in line {}; keep one of the two",
+                       identifierFor(entry.key), same->second->line));
     }
     if (entry.kept == Entry::Kept::place) continue;
     if (previous && lowerCased(entry.key) < lowerCased(previous->key)) {
@@ -192,6 +221,28 @@ void checkTogether(const std::vector<Entry>& entries, const std::string& file, D
 
 std::string quoted(const std::string& text) {
   return nlohmann::json(text).dump();
+}
+
+/// The forms that differ from the text: {"one": "%{n} coin"}, or true if none does.
+std::string formsOf(const Entry& entry) {
+  std::vector<std::string> members;
+  for (std::size_t i = 0; i < entry.forms.size(); ++i) {
+    if (entry.forms[i].value_or(entry.text) != entry.text)
+      members.push_back(fmt::format("\"{}\": {}", kPluralForms[i].suffix.substr(1), quoted(*entry.forms[i])));
+  }
+  return members.empty() ? "true" : fmt::format("{{{}}}", fmt::join(members, ", "));
+}
+
+/// The entry as a line of the file, without a comma.
+std::string lineOf(const Entry& entry) {
+  std::string line = fmt::format("  {{\"key\": {}, \"text\": {}", quoted(entry.key), quoted(entry.text));
+  if (entry.plural) line += ", \"plural\": " + formsOf(entry);
+  for (const auto& [kept, name] : kKeptNames) {
+    if (entry.kept == kept) line += fmt::format(", \"kept\": \"{}\"", name);
+  }
+  if (!entry.comment.empty()) line += ", \"comment\": " + quoted(entry.comment);
+  if (entry.max > 0) line += fmt::format(", \"max\": {}", entry.max);
+  return line + "}";
 }
 
 }  // namespace
@@ -210,9 +261,26 @@ Catalogue Catalogue::read(const std::string& root) {
 Catalogue Catalogue::parse(std::string_view json, const std::string& file) {
   Diagnostics diagnostics;
   Catalogue catalogue;
-  catalogue.entries_ = Reader(file, diagnostics).read(json);
+  catalogue.entries_ = Reader(file, false, diagnostics).read(json);
   for (const Entry& entry : catalogue.entries_) checkEntry(entry, file, diagnostics);
   checkTogether(catalogue.entries_, file, diagnostics);
+  if (!diagnostics.empty()) throw CommandFailed{std::move(diagnostics)};
+  return catalogue;
+}
+
+Catalogue Catalogue::readEdited(const std::string& root, const std::function<bool(const Entry&)>& isKnown) {
+  Diagnostics diagnostics;
+  Catalogue catalogue;
+  catalogue.entries_ = Reader(kFile, true, diagnostics).read(readFile(root, kFile));
+  catalogue.settings_ = CatalogueSettings::read(root);
+  catalogue.sort();
+  std::set<std::string> seen;
+  std::erase_if(catalogue.entries_, [&](const Entry& entry) { return !seen.insert(lineOf(entry)).second; });
+  for (Entry& entry : catalogue.entries_) {
+    if (isKnown(entry)) keepKeyIfNeeded(entry);
+    checkEntry(entry, kFile, diagnostics);
+  }
+  checkTogether(catalogue.entries_, kFile, diagnostics);
   if (!diagnostics.empty()) throw CommandFailed{std::move(diagnostics)};
   return catalogue;
 }
@@ -235,34 +303,34 @@ std::vector<Catalogue::LookedUpKey> Catalogue::lookedUpKeys() const {
   return keys;
 }
 
-std::size_t Catalogue::placeFor(std::string_view key, bool plural) const {
-  std::size_t place = 0;
-  for (std::size_t i = 0; i < entries_.size(); ++i) {
-    const Entry& entry = entries_[i];
-    if (entry.kept == Entry::Kept::place) continue;
-    const bool goesBefore = !plural && entry.plural && entry.key == key;
-    if (lowerCased(entry.key) <= lowerCased(key) && !goesBefore) place = i + 1;
+void Catalogue::sort() {
+  std::vector<std::pair<std::string, Entry>> sorted;
+  std::string rank;
+  for (Entry& entry : entries_) {
+    if (entry.kept != Entry::Kept::place) rank = lowerCased(entry.key);
+    sorted.emplace_back(rank, std::move(entry));
   }
-  return place;
-}
-
-void Catalogue::insert(std::size_t index, Entry entry) {
-  entries_.insert(entries_.begin() + static_cast<std::ptrdiff_t>(index), std::move(entry));
+  std::stable_sort(sorted.begin(), sorted.end(),
+                   [](const auto& a, const auto& b) { return a.first < b.first; });
+  entries_.clear();
+  for (auto& [key, entry] : sorted) entries_.push_back(std::move(entry));
 }
 
 std::string Catalogue::toJson() const {
   std::string json = "[\n";
-  for (const Entry& entry : entries_) {
-    json += fmt::format("  {{\"key\": {}, \"text\": {}", quoted(entry.key), quoted(entry.text));
-    if (entry.plural) json += ", \"plural\": true";
-    for (const auto& [kept, name] : kKeptNames) {
-      if (entry.kept == kept) json += fmt::format(", \"kept\": \"{}\"", name);
-    }
-    if (!entry.comment.empty()) json += fmt::format(", \"comment\": {}", quoted(entry.comment));
-    if (entry.max > 0) json += fmt::format(", \"max\": {}", entry.max);
-    json += &entry == &entries_.back() ? "}\n" : "},\n";
-  }
+  for (const Entry& entry : entries_) json += lineOf(entry) + (&entry == &entries_.back() ? "\n" : ",\n");
   return json + "]\n";
+}
+
+const std::string* formOf(const Entry& entry, std::size_t form) {
+  if (entry.forms[form]) return &*entry.forms[form];
+  const auto isGiven = [](const std::optional<std::string>& other) { return other.has_value(); };
+  return std::any_of(entry.forms.begin(), entry.forms.end(), isGiven) ? &entry.text : nullptr;
+}
+
+void keepKeyIfNeeded(Entry& entry) {
+  if (entry.kept == Entry::Kept::place) return;
+  entry.kept = entry.key == keyForText(entry.text) ? Entry::Kept::nothing : Entry::Kept::key;
 }
 
 }  // namespace zk::tools

@@ -1,11 +1,14 @@
 #pragma once
 
-#include <ZKStrings/tools/support/Diagnostic.h>
 #include <ZKStrings/tools/project/CatalogueSettings.h>
+#include <ZKStrings/tools/support/Diagnostic.h>
 #include <ZKStrings/tools/texts/Placeholders.h>
 #include <ZKStrings/tools/texts/PluralForms.h>
 
+#include <array>
 #include <cstddef>
+#include <functional>
+#include <iterator>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -13,14 +16,18 @@
 
 namespace zk::tools {
 
+/// The English plural forms of a text that are given, in the order of `kPluralForms`.
+using PluralForms = std::array<std::optional<std::string>, std::size(kPluralForms)>;
+
 /// One entry of the catalogue, as catalogue/entries.json holds it.
 struct Entry {
-  /// What of an old entry stays as it is although a rule says otherwise: its key, or its key and its place.
+  /// What an entry keeps although a rule asks for something else: its key, or its key and its place.
   enum class Kept { nothing, key, place };
 
   std::string key;
   std::string text;  ///< the English default
   bool plural = false;
+  PluralForms forms = {};  ///< of a counted entry; if one is given, those that are not are `text`
   Kept kept = Kept::nothing;
   std::string comment = {};  ///< for translators: where the text appears, what it means; may be empty
   std::size_t max = 0;       ///< the most characters that fit where the text appears; 0 for no limit
@@ -36,8 +43,13 @@ class Catalogue {
   /// Reads and checks entries.json and catalogue.json in the project at `root`. Throws `CommandFailed` with all that
   /// is wrong in the first, or with the first error in the second.
   [[nodiscard]] static Catalogue read(const std::string& root);
-  /// The same of the text of such a file, which diagnostics call `file`.
+  /// Reads and checks the bytes of such a file, which diagnostics call `file`.
   [[nodiscard]] static Catalogue parse(std::string_view json, const std::string& file);
+  /// Reads entries.json as a person or a merge of two versions left it: sorts the entries, drops repeated ones,
+  /// ignores missing commas, and lets an entry keep its key if its text has changed. An entry whose key `isKnown`
+  /// does not accept is new. Throws `CommandFailed` if something else is wrong.
+  [[nodiscard]] static Catalogue readEdited(const std::string& root,
+                                            const std::function<bool(const Entry&)>& isKnown);
 
   /// What is wrong with `entry` by itself, and what to do; empty when nothing is.
   [[nodiscard]] static std::string faultIn(const Entry& entry);
@@ -55,9 +67,8 @@ class Catalogue {
   };
   [[nodiscard]] std::vector<LookedUpKey> lookedUpKeys() const;
 
-  /// Where a new entry with `key` and `plural` belongs: the index of the entry before which it goes.
-  [[nodiscard]] std::size_t placeFor(std::string_view key, bool plural) const;
-  void insert(std::size_t index, Entry entry);
+  /// Sorts the entries by key without regard to case. One that keeps its place stays after the one before it.
+  void sort();
 
   /// The text of entries.json that holds this catalogue.
   [[nodiscard]] std::string toJson() const;
@@ -68,5 +79,11 @@ class Catalogue {
   std::vector<Entry> entries_;
   CatalogueSettings settings_;
 };
+
+/// The text of the plural form `form` of `entry`; null if only the English table says it.
+[[nodiscard]] const std::string* formOf(const Entry& entry, std::size_t form);
+
+/// Lets `entry` keep its key if the key is not the one that its text gets, and only then.
+void keepKeyIfNeeded(Entry& entry);
 
 }  // namespace zk::tools

@@ -6,6 +6,21 @@
 
 namespace zk::tools {
 
+namespace {
+
+std::string englishOf(const std::string& key, const Entry& entry, std::string_view suffix,
+                      const Table& base) {
+  if (suffix.empty()) return entry.text;
+  const auto* const form = std::find_if(std::begin(kPluralForms), std::end(kPluralForms),
+                                        [&](const PluralForm& known) { return known.suffix == suffix; });
+  if (const std::string* const given = formOf(entry, static_cast<std::size_t>(form - kPluralForms)))
+    return *given;
+  const TableEntry* const inBase = base.find(key);
+  return inBase ? inBase->text : entry.text;
+}
+
+}  // namespace
+
 std::vector<std::string_view> EnglishText::placeholders() const {
   std::vector<std::string_view> names = placeholderNames(text);
   for (const std::string_view name : placeholderNames(entry->text)) {
@@ -31,9 +46,8 @@ std::string_view EnglishText::dispensable() const {
 
 EnglishTexts::EnglishTexts(const Catalogue& catalogue, const Table& base) {
   for (auto& [key, entry, suffix] : catalogue.lookedUpKeys()) {
-    const TableEntry* const form = suffix.empty() ? nullptr : base.find(key);
     if (!places_.emplace(key, texts_.size()).second) continue;
-    texts_.push_back({key, entry, suffix, form ? form->text : entry->text, &catalogue.settings()});
+    texts_.push_back({key, entry, suffix, englishOf(key, *entry, suffix, base), &catalogue.settings()});
   }
 }
 

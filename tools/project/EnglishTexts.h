@@ -16,7 +16,7 @@ struct EnglishText {
   std::string key;
   const Entry* entry;
   std::string_view suffix;  ///< of a plural form, or empty
-  std::string text;         ///< of the English table for a plural form, of the entry otherwise
+  std::string text;         ///< of the entry; of a form that only the English table says, from there
   const CatalogueSettings* settings;
 
   /// The names of the placeholders that a translation may use: those of the text, and of a plural form those
@@ -33,8 +33,8 @@ struct EnglishText {
 /// The English texts of all keys that the module looks up, in catalogue order.
 class EnglishTexts {
  public:
-  /// `catalogue` must outlive the texts. A plural form that `base`, the English table, lacks has the text of
-  /// its entry.
+  /// `catalogue` must outlive the texts. If an entry gives no plural forms, they are those of `base`, the English
+  /// table; a form that `base` lacks has the text of its entry.
   EnglishTexts(const Catalogue& catalogue, const Table& base);
 
   [[nodiscard]] const std::vector<EnglishText>& all() const { return texts_; }

@@ -47,9 +47,13 @@ TableEntry entryFrom(const StringTableReader& reader, std::string_view text, std
                               commentPositions.at(comment.begin - 2)});
   }
   const Token& value = reader.value();
-  const std::size_t quote = text[value.begin - 1] == '"' ? 1 : 0;
+  const auto withQuotes = [&](const Token& token) -> TableEntry::Span {
+    const std::size_t quote = token.begin > 0 && text[token.begin - 1] == '"' ? 1 : 0;
+    return {token.begin - quote, token.end + quote};
+  };
   entry.span = {reader.entry().begin, reader.entry().end};
-  entry.spelledSpan = {value.begin - quote, value.end + quote};
+  entry.keySpan = withQuotes(reader.key());
+  entry.spelledSpan = withQuotes(value);
   entry.keyAt = positions.at(reader.key().begin);
   entry.key = plain(reader.key());
   entry.textAt = positions.at(value.begin);

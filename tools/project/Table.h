@@ -34,6 +34,7 @@ struct TableEntry {
   std::string text;
   std::string spelled;  ///< the text as it stands in the file, with its escapes
   Span span;            ///< from the key to the semicolon
+  Span keySpan;         ///< of the key, with its quotes
   Span spelledSpan;     ///< of the text, with its quotes
   Position keyAt;
   Position textAt;                ///< of the first character within the quotes

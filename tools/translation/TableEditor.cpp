@@ -14,9 +14,9 @@ namespace {
 
 constexpr std::string_view kBlanks = " \t";
 
-bool tellsTools(const TableEntry::Comment& comment) {
-  const auto tells = [&](std::string_view name) { return wordsTold(comment, name).has_value(); };
-  return tells(kExplanation) || tells(kContext) || tells(kState) || tells(kCheck);
+bool isForTools(const TableEntry::Comment& comment) {
+  const auto begins = [&](std::string_view name) { return wordsTold(comment, name).has_value(); };
+  return begins(kExplanation) || begins(kContext) || begins(kState) || begins(kCheck);
 }
 
 }  // namespace
@@ -36,28 +36,28 @@ TableEditor::TableEditor(std::string bytes, const std::string& file) : text_(std
   text_.erase(0, mark_.size());
 }
 
-/// Where the blanks begin that stand before `offset`.
+/// Where the blanks before `offset` begin.
 std::size_t TableEditor::blanksBegin(std::size_t offset) const {
   return offset == 0 ? 0 : text_.find_last_not_of(kBlanks, offset - 1) + 1;
 }
 
-/// Whether only blanks stand before `offset` on its line.
+/// Whether only blanks come before `offset` on its line.
 bool TableEditor::isFirstOnLine(std::size_t offset) const {
   const std::size_t begin = blanksBegin(offset);
   return begin == 0 || text_[begin - 1] == '\n';
 }
 
-/// `span`, and the rest of its lines when nothing else stands on them; otherwise the blanks behind it.
+/// `span`, and the rest of its lines if they have nothing else; otherwise the blanks after it.
 TableEditor::Span TableEditor::withLines(Span span) const {
-  const std::size_t behind = std::min(text_.find_first_not_of(" \t\r", span.end), text_.size());
-  const bool isLastOnLine = behind == text_.size() || text_[behind] == '\n';
+  const std::size_t after = std::min(text_.find_first_not_of(" \t\r", span.end), text_.size());
+  const bool isLastOnLine = after == text_.size() || text_[after] == '\n';
   if (isFirstOnLine(span.begin) && isLastOnLine)
-    return {blanksBegin(span.begin), std::min(behind + 1, text_.size())};
+    return {blanksBegin(span.begin), std::min(after + 1, text_.size())};
   return {span.begin, std::min(text_.find_first_not_of(kBlanks, span.end), text_.size())};
 }
 
-/// Where the lines begin that belong to an entry: those of the comments right before it, and of those that
-/// tell the tools about it.
+/// Where the lines of an entry begin, with the comments right before it and those that are for the tools. Another
+/// comment at the beginning of the file is about the whole file.
 std::size_t TableEditor::beginWithComments(const TableEntry& entry) const {
   std::size_t begin = entry.span.begin;
   bool isRightBefore = true;
@@ -66,13 +66,13 @@ std::size_t TableEditor::beginWithComments(const TableEntry& entry) const {
     if (commentBegin > begin) continue;  // within the entry
     const auto end = text_.begin() + static_cast<std::ptrdiff_t>(commentEnd);
     const auto next = text_.begin() + static_cast<std::ptrdiff_t>(begin);
-    isRightBefore = isRightBefore && std::count(end, next, '\n') <= 1;
-    if (isRightBefore || tellsTools(*comment)) begin = commentBegin;
+    isRightBefore = isRightBefore && commentBegin > 0 && std::count(end, next, '\n') <= 1;
+    if (isRightBefore || isForTools(*comment)) begin = commentBegin;
   }
   return isFirstOnLine(begin) ? blanksBegin(begin) : begin;
 }
 
-/// The blank line before the one that begins at `line`; nothing when there is none.
+/// The blank line before the one that begins at `line`; nothing if there is none.
 std::optional<TableEditor::Span> TableEditor::blankLineBefore(std::size_t line) const {
   if (line == 0 || text_[line - 1] != '\n') return std::nullopt;
   const std::size_t end = line - (std::string_view(text_).substr(0, line).ends_with("\r\n") ? 2 : 1);
@@ -80,67 +80,79 @@ std::optional<TableEditor::Span> TableEditor::blankLineBefore(std::size_t line) 
   return Span{blanksBegin(end), line};
 }
 
-TableEditor::InsertionPlace TableEditor::placeBehind(const TableEntry* entry) const {
+TableEditor::InsertionPlace TableEditor::placeAfter(const TableEntry* entry) const {
   const TableEntry* const first = table_.entries.empty() ? nullptr : &table_.entries.front();
   const TableEntry* const neighbour = entry ? entry : first;
   if (!neighbour) return {text_.size(), false};
   const std::size_t place = entry ? endOfLine(text_, *entry) : beginWithComments(*neighbour);
-  // What stands before the first entry is the file's head, and tells nothing of the entries.
+  // The blank line before the first entry ends the file's head, so the second entry shows what separates entries.
   const TableEntry* const second =
       neighbour == first && table_.entries.size() > 1 ? &table_.entries[1] : neighbour;
   return {place, blankLineBefore(beginWithComments(*second)).has_value()};
 }
 
-void TableEditor::insertBehind(const TableEntry* entry, std::string_view lines) {
+void TableEditor::insertAfter(const TableEntry* entry, std::string_view lines) {
   const auto [known, isNew] = places_.try_emplace(entry);
-  if (isNew) known->second = placeBehind(entry);
+  if (isNew) known->second = placeAfter(entry);
   const auto [offset, isAmongBlankLines] = known->second;
-  std::string& inserted = insertions_[offset];
+  auto& [end, inserted] = edits_[{offset, Kind::insertion}];
+  end = offset;
   if (inserted.empty() && offset > 0 && text_[offset - 1] != '\n') inserted = "\n";
   if (isAmongBlankLines && entry) inserted += "\n";
   inserted += lines;
   if (isAmongBlankLines && !entry) inserted += "\n";
 }
 
-void TableEditor::replaceText(const TableEntry& entry, std::string_view text) {
-  change(entry.spelledSpan, '"' + escaped(text) + '"');
+void TableEditor::replaceKey(const TableEntry& entry, std::string_view key) {
+  replace(entry.keySpan, '"' + escaped(key) + '"');
 }
 
-void TableEditor::setState(const TableEntry& entry, TranslationState state) {
-  const bool hasMark = state == TranslationState::untranslated || state == TranslationState::needsReview;
-  std::string mark = hasMark ? markFor(state) : "";
-  for (const TableEntry::Comment& comment : entry.comments) {
-    if (!wordsTold(comment, kState)) continue;
-    const Span span = mark.empty() ? withLines(comment.span) : comment.span;
-    change(span, std::exchange(mark, ""));
+void TableEditor::replaceText(const TableEntry& entry, std::string_view text) {
+  replace(entry.spelledSpan, '"' + escaped(text) + '"');
+}
+
+void TableEditor::replacePlaceholder(const TableEntry& entry, std::string_view from, std::string_view to) {
+  const auto replaceIn = [&](Span span) {
+    const std::string before = text_.substr(span.begin, span.end - span.begin);
+    const std::string bytes = replaceAll(before, from, to);
+    if (bytes != before) replace(span, bytes);
+  };
+  replaceIn(entry.spelledSpan);
+  for (const TableEntry::Comment& comment : entry.comments) replaceIn(comment.span);
+}
+
+void TableEditor::setComment(const TableEntry& entry, std::string_view name, std::string comment) {
+  for (const TableEntry::Comment& present : entry.comments) {
+    if (!wordsTold(present, name)) continue;
+    if (text_.compare(present.span.begin, present.span.end - present.span.begin, comment) == 0) return;
+    const Span span = comment.empty() ? withLines(present.span) : present.span;
+    replace(span, std::exchange(comment, ""));
   }
-  if (mark.empty()) return;
+  if (comment.empty()) return;
   const std::size_t key = entry.span.begin;
   const std::string indent = text_.substr(blanksBegin(key), key - blanksBegin(key));
-  change({key, key}, isFirstOnLine(key) ? mark + "\n" + indent : mark + " ");
+  auto& [end, inserted] = edits_[{key, Kind::comment}];
+  end = key;
+  inserted += comment + (isFirstOnLine(key) ? "\n" + indent : " ");
 }
 
-void TableEditor::setExplanation(const TableEntry& entry, const std::string& explanation) {
-  for (const TableEntry::Comment& comment : entry.comments) {
-    if (wordsTold(comment, kExplanation)) change(comment.span, explanation);
-  }
+void TableEditor::setState(const TableEntry& entry, TranslationState state,
+                           std::string_view previousEnglish) {
+  const bool hasMark = state == TranslationState::untranslated || state == TranslationState::needsReview;
+  const std::string known = quotedIn(entry, kState).value_or("");
+  setComment(entry, kState, hasMark ? markFor(state, previousEnglish.empty() ? known : previousEnglish) : "");
 }
 
 void TableEditor::remove(const TableEntry& entry) {
-  Span first = withLines(entry.span);
-  change(first, "");
-  for (auto comment = entry.comments.rbegin(); comment != entry.comments.rend(); ++comment) {
-    if (comment->span.begin > entry.span.begin || !tellsTools(*comment)) continue;
-    const Span span = withLines(comment->span);
-    change(span, "");
-    if (span.end == first.begin) first = span;
-  }
-  // Of the two blank lines between which the entry stood, one is left.
-  const std::size_t behind = withLines(entry.span).end;
-  const std::string_view rest = std::string_view(text_).substr(behind);
+  const std::size_t begin = beginWithComments(entry);
+  const bool hasLines = isFirstOnLine(begin) && endOfLine(text_, entry) > entry.span.end;
+  const Span span = hasLines ? Span{begin, endOfLine(text_, entry)} : withLines({begin, entry.span.end});
+  replace(span, "");
+  // Of the two blank lines before and after the entry, one remains.
+  const std::string_view rest = std::string_view(text_).substr(span.end);
   const bool isBeforeBlankLine = rest.empty() || rest.starts_with("\n") || rest.starts_with("\r\n");
-  const std::optional<Span> blankLine = blankLineBefore(first.begin);
-  if (blankLine && isBeforeBlankLine) change(*blankLine, "");
+  const std::optional<Span> blankLine = blankLineBefore(span.begin);
+  if (blankLine && isBeforeBlankLine) replace(*blankLine, "");
 }
 
 std::string TableEditor::edited() const {
@@ -151,26 +163,42 @@ std::string TableEditor::edited() const {
     at = offset;
   };
   const bool hasCarriageReturns = text_.find("\r\n") < text_.find('\n');
-  const auto add = [&](const std::string& lines) {
-    result += hasCarriageReturns ? replaceAll(lines, "\n", "\r\n") : lines;
-  };
-  auto insertion = insertions_.begin();
-  for (const auto& [begin, change] : changes_) {
-    for (; insertion != insertions_.end() && insertion->first <= begin; ++insertion) {
-      copyUpTo(std::max(insertion->first, at));
-      add(insertion->second);
-    }
-    if (begin < at) continue;
-    copyUpTo(begin);
-    add(change.replacement);
-    at = change.end;
-  }
-  for (; insertion != insertions_.end(); ++insertion) {
-    copyUpTo(std::max(insertion->first, at));
-    add(insertion->second);
+  for (const auto& [place, edit] : edits_) {
+    const auto [begin, kind] = place;
+    if (begin < at && kind != Kind::insertion) continue;
+    copyUpTo(std::max(begin, at));
+    result += hasCarriageReturns ? replaceAll(edit.replacement, "\n", "\r\n") : edit.replacement;
+    at = std::max(at, edit.end);
   }
   copyUpTo(text_.size());
   return result;
+}
+
+std::string TableEditor::sorted(const EnglishTexts& order) const {
+  struct Block {
+    std::ptrdiff_t rank;
+    std::string lines;
+  };
+  std::vector<Block> blocks;
+  const std::size_t first = table_.entries.empty() ? text_.size() : beginWithComments(table_.entries.front());
+  std::size_t begin = first;
+  std::ptrdiff_t rank = 0;
+  for (const TableEntry& entry : table_.entries) {
+    const EnglishText* const text = order.find(entry.key);
+    if (text) rank = text - order.all().data();  // an entry that nothing looks up follows the one before it
+    const std::size_t end = endOfLine(text_, entry);
+    if (table_.find(entry.key) == &entry) blocks.push_back({rank, text_.substr(begin, end - begin)});
+    begin = end;
+  }
+  const std::string blankLine = blocks.size() > 1 && blocks[1].lines.starts_with('\n') ? "\n" : "";
+  if (!blocks.empty() && !blocks[0].lines.starts_with('\n')) blocks[0].lines.insert(0, blankLine);
+  if (!blocks.empty() && !blocks.back().lines.ends_with('\n')) blocks.back().lines += '\n';
+  std::stable_sort(blocks.begin(), blocks.end(),
+                   [](const Block& a, const Block& b) { return a.rank < b.rank; });
+  std::string sorted;
+  for (const Block& block : blocks) sorted += block.lines;
+  const std::size_t extra = sorted.starts_with('\n') ? 1 : 0;
+  return mark_ + text_.substr(0, first) + sorted.substr(extra) + text_.substr(begin);
 }
 
 }  // namespace zk::tools

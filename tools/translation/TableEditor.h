@@ -1,5 +1,6 @@
 #pragma once
 
+#include <ZKStrings/tools/project/EnglishTexts.h>
 #include <ZKStrings/tools/project/Table.h>
 #include <ZKStrings/tools/translation/TranslationState.h>
 
@@ -8,24 +9,24 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace zk::tools {
 
-/// Edits the text of a string table, and leaves comments, order, blanks, line ends and all else as they are,
-/// byte for byte. Edits are collected and made at once:
+/// Edits the text of a string table and leaves everything else as it is, byte for byte. Edits are collected and made
+/// at once:
 ///
 ///     TableEditor editor = TableEditor::open(root, "de");
 ///     if (const TableEntry* const about = editor.table().find("About")) editor.replaceText(*about, "Info");
 ///     if (editor.hasEdits()) writeFile(root, editor.table().file, editor.edited());
 ///
-/// Entries are those of `table()`. Of edits of one entry, those count that do not touch what another one has
-/// replaced or removed.
+/// Entries are those of `table()`. An edit within a range that another edit removes has no effect.
 class TableEditor {
  public:
   /// For the table of `language` of the project at `root`. Throws `CommandFailed` when it cannot be read, is
   /// not well formed, or is not UTF-8.
   [[nodiscard]] static TableEditor open(const std::string& root, std::string_view language);
-  /// The same for the bytes of such a file.
+  /// Edits the bytes of such a file.
   TableEditor(std::string bytes, const std::string& file);
   TableEditor(const TableEditor&) = delete;
   TableEditor& operator=(const TableEditor&) = delete;
@@ -33,25 +34,35 @@ class TableEditor {
   /// The table before the edits.
   [[nodiscard]] const Table& table() const { return table_; }
 
-  /// Puts `lines`, whole ones that end in "\n", behind the line of `entry`, or before the first entry when it
-  /// is null. Of insertions at one place the first stands first. A blank line separates them where one
-  /// separates the entries there.
-  void insertBehind(const TableEntry* entry, std::string_view lines);
+  /// Puts `lines`, each with its "\n", after the line of `entry`, or before the first entry if it is null. Several
+  /// insertions at one place keep their order. A blank line separates them if one separates the entries there.
+  void insertAfter(const TableEntry* entry, std::string_view lines);
+  void replaceKey(const TableEntry& entry, std::string_view key);
   void replaceText(const TableEntry& entry, std::string_view text);
-  /// Marks the entry so, on a line before it, instead of as before. A translated one has no mark.
-  void setState(const TableEntry& entry, TranslationState state);
-  /// Replaces the comment before the entry that explains its English text, if there is one, by `explanation`.
-  void setExplanation(const TableEntry& entry, const std::string& explanation);
-  /// Removes the entry and the comments before it that tell the tools about it; others stay.
+  /// Replaces `from`, as in "%{value}", by `to` in the text of the entry and in the comments before it.
+  void replacePlaceholder(const TableEntry& entry, std::string_view from, std::string_view to);
+  /// Replaces the comment before the entry that begins with `name` ("context:") by `comment`, or adds it on a line of
+  /// its own. Removes it if `comment` is empty.
+  void setComment(const TableEntry& entry, std::string_view name, std::string comment);
+  /// Sets the comment that marks the entry; a translated one has none. `previousEnglish` is the text that a translation
+  /// to be reviewed was made from; if it is empty, the mark keeps the one that it has.
+  void setState(const TableEntry& entry, TranslationState state, std::string_view previousEnglish = "");
+  /// Removes the entry with the comments right before it, on its line, and those for the tools. A comment at the
+  /// beginning of the file remains.
   void remove(const TableEntry& entry);
 
-  [[nodiscard]] bool hasEdits() const { return !insertions_.empty() || !changes_.empty(); }
+  [[nodiscard]] bool hasEdits() const { return !edits_.empty(); }
   /// The bytes of the file after the edits.
   [[nodiscard]] std::string edited() const;
+  /// The bytes of the file before the edits, with its entries in the order of `order`, each with its comments, and
+  /// without all but the last entry of a repeated key.
+  [[nodiscard]] std::string sorted(const EnglishTexts& order) const;
 
  private:
   using Span = TableEntry::Span;
-  struct Change {
+  /// The kinds of edits at one place, in the order in which they take effect.
+  enum class Kind { insertion, comment, replacement };
+  struct Edit {
     std::size_t end;
     std::string replacement;
   };
@@ -60,22 +71,21 @@ class TableEditor {
     bool isAmongBlankLines;
   };
 
-  void change(Span span, std::string replacement) {
-    changes_[span.begin] = {span.end, std::move(replacement)};
+  void replace(Span span, std::string replacement) {
+    edits_[{span.begin, Kind::replacement}] = {span.end, std::move(replacement)};
   }
   [[nodiscard]] std::size_t blanksBegin(std::size_t offset) const;
   [[nodiscard]] bool isFirstOnLine(std::size_t offset) const;
   [[nodiscard]] Span withLines(Span span) const;
   [[nodiscard]] std::size_t beginWithComments(const TableEntry& entry) const;
   [[nodiscard]] std::optional<Span> blankLineBefore(std::size_t line) const;
-  [[nodiscard]] InsertionPlace placeBehind(const TableEntry* entry) const;
+  [[nodiscard]] InsertionPlace placeAfter(const TableEntry* entry) const;
 
   std::string mark_;  // the byte-order mark, if there is one
-  std::string text_;  // what stands behind it
+  std::string text_;  // what follows it
   Table table_;
-  std::map<const TableEntry*, InsertionPlace> places_;  // of the insertions behind an entry
-  std::map<std::size_t, std::string> insertions_;       // by offset
-  std::map<std::size_t, Change> changes_;               // by begin
+  std::map<const TableEntry*, InsertionPlace> places_;  // of the insertions after an entry
+  std::map<std::pair<std::size_t, Kind>, Edit> edits_;  // by begin
 };
 
 }  // namespace zk::tools

@@ -52,7 +52,7 @@ TableUpdate updateTable(const std::string& root, const std::string& language, bo
       before = entry;
       updateMark(*entry, text, language, editor, update);
     } else {
-      editor.insertBehind(before, untranslatedEntry(text));
+      editor.insertAfter(before, untranslatedEntry(text));
       ++update.added;
     }
   }

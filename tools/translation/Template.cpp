@@ -15,35 +15,30 @@
 
 namespace zk::tools {
 
-namespace {
-
-/// `text` as a comment, which no text ends early.
-std::string comment(std::string_view text) {
-  return fmt::format("/* {} */", replaceAll(text, "*/", "* /"));
-}
-
-}  // namespace
-
 std::string explanationOf(const EnglishText& english) {
-  std::string about = fmt::format("{} \"{}\"", kExplanation, escaped(english.text));
+  std::string about = fmt::format("/* {} {}", kExplanation, quotedForComment(english.text));
   const std::vector<std::string_view> names = english.placeholders();
   if (!names.empty()) about += fmt::format("; placeholders: %{{{}}}", fmt::join(names, "}, %{"));
-  return comment(about);
+  return about + " */";
+}
+
+std::string contextOf(const EnglishText& english) {
+  const std::string context = english.entry->context();
+  return context.empty() ? "" : fmt::format("/* {} {} */", kContext, context);
 }
 
 std::string untranslatedEntry(const EnglishText& english) {
   const std::string mark =
       english.settings->isSameEverywhere(english.text) ? "" : markFor(TranslationState::untranslated) + "\n";
-  const std::string context = english.entry->context();
-  return explanationOf(english) + "\n" +
-         (context.empty() ? "" : comment(fmt::format("{} {}", kContext, context)) + "\n") + mark +
+  const std::string context = contextOf(english);
+  return explanationOf(english) + "\n" + context + (context.empty() ? "" : "\n") + mark +
          tableLine(english.key, english.text);
 }
 
 std::string templateFor(std::string_view language, const EnglishTexts& english) {
-  std::string table = comment(fmt::format(
-      "Language {}. Translate the texts behind the equals signs; keep keys and placeholders.", language));
-  table += "\n";
+  std::string table = fmt::format(
+      "/* Language {}. Translate the texts after the equals signs; keep keys and placeholders. */\n",
+      language);
   for (const EnglishText& text : english.all()) table += "\n" + untranslatedEntry(text);
   return table;
 }

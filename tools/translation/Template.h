@@ -11,6 +11,9 @@ namespace zk::tools {
 /// The comment that explains a text to its translators: the English text and its placeholders.
 [[nodiscard]] std::string explanationOf(const EnglishText& english);
 
+/// The comment with the context of a text, or an empty text: `/* context: At most 14 characters. */`.
+[[nodiscard]] std::string contextOf(const EnglishText& english);
+
 /// The entry of a text that is to be translated: the English text, under a comment with it and its
 /// placeholders, and marked as untranslated when there is something to translate in it.
 [[nodiscard]] std::string untranslatedEntry(const EnglishText& english);

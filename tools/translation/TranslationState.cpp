@@ -50,12 +50,15 @@ TranslationState stateOf(std::string_view language, const TableEntry* entry, con
 
 bool isMarked(const TableEntry& entry, TranslationState state) {
   return std::any_of(entry.comments.begin(), entry.comments.end(), [&](const TableEntry::Comment& comment) {
-    return wordsTold(comment, kState) == Words{nameOf(state)};
+    const auto words = wordsTold(comment, kState);
+    return words && !words->empty() && words->front() == nameOf(state);
   });
 }
 
-std::string markFor(TranslationState state) {
-  return fmt::format("/* {} {} */", kState, nameOf(state));
+std::string markFor(TranslationState state, std::string_view previousEnglish) {
+  const bool hasPrevious = state == TranslationState::needsReview && !previousEnglish.empty();
+  const std::string previous = !hasPrevious ? "" : fmt::format("; was {}", quotedForComment(previousEnglish));
+  return fmt::format("/* {} {}{} */", kState, nameOf(state), previous);
 }
 
 }  // namespace zk::tools

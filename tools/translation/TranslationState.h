@@ -31,10 +31,11 @@ enum class TranslationState {
 /// The rule of `check` that counts untranslated texts.
 inline constexpr std::string_view kUntranslatedRule = "untranslated";
 
-/// Whether a comment before the entry marks it so: `/* state: needs-review */`.
+/// Whether a comment before the entry marks it as `state`: `/* state: needs-review */`.
 [[nodiscard]] bool isMarked(const TableEntry& entry, TranslationState state);
 
-/// That comment, without a line break. Entries are marked as `untranslated` and `needsReview` only.
-[[nodiscard]] std::string markFor(TranslationState state);
+/// The comment that marks an entry as `untranslated` or `needsReview`, with the previous English text unless empty:
+/// `/* state: needs-review; was "Accept it" */`.
+[[nodiscard]] std::string markFor(TranslationState state, std::string_view previousEnglish = "");
 
 }  // namespace zk::tools

@@ -24,7 +24,7 @@ const TableEntry& entry(const TableEditor& editor, const char* key) {
 /// Inserts an entry behind the one of `key`; before all when that is null.
 auto insertion(const char* key) {
   return [key](TableEditor& editor) {
-    editor.insertBehind(key ? &entry(editor, key) : nullptr, "/* x */\n\"x\" = \"y\";\n");
+    editor.insertAfter(key ? &entry(editor, key) : nullptr, "/* x */\n\"x\" = \"y\";\n");
   };
 }
 auto removal(const char* key) {
@@ -74,8 +74,10 @@ const Case kCases[] = {
     {"of one among blank lines",
      "a = b;\n\n/* English: \"d\" */\n/* state: untranslated */\nc = d;\n\ne = f;\n", removal("c"),
      "a = b;\n\ne = f;\n"},
-    {"of one with comments of others", "a = b;\n\n/* A group */\n// check: off marks\nc = d; // it\ne = f;\n",
-     removal("c"), "a = b;\n\n/* A group */\n// it\ne = f;\n"},
+    {"of one with its comments",
+     "a = b;\n\n/* A group */\n\n/* of c */\n// check: off marks\nc = d; // it\ne = f;\n", removal("c"),
+     "a = b;\n\n/* A group */\n\ne = f;\n"},
+    {"below the head", "/* German. */\na = b;\nc = d;\n", removal("a"), "/* German. */\nc = d;\n"},
     {"of one on a line", "a = b; c = d; e = f;", removal("c"), "a = b; e = f;"},
     {"of the last", "\na = b;", removal("a"), ""},
 
@@ -94,8 +96,8 @@ const Case kCases[] = {
     {"an insertion before a mark", "a = b;\nc = d;\n",
      [](TableEditor& editor) {
        editor.setState(entry(editor, "c"), kUntranslated);
-       editor.insertBehind(&entry(editor, "a"), "x = y;\n");
-       editor.insertBehind(&entry(editor, "a"), "z = y;\n");
+       editor.insertAfter(&entry(editor, "a"), "x = y;\n");
+       editor.insertAfter(&entry(editor, "a"), "z = y;\n");
      },
      "a = b;\nx = y;\nz = y;\n/* state: untranslated */\nc = d;\n"},
     {"all of one entry", "/* state: untranslated */\na = b;\n",
