@@ -1,6 +1,6 @@
 #include <ZKStrings/tools/command/HelpFormatter.h>
 #include <ZKStrings/tools/command/Subcommands.h>
-#include <ZKStrings/tools/reference/ReferenceCommand.h>
+#include <ZKStrings/tools/reference/Reference.h>
 #include <ZKStrings/tools/support/Diagnostic.h>
 #include <ZKStrings/tools/support/Files.h>
 #include <ZKStrings/tools/support/Nearest.h>
@@ -54,6 +54,14 @@ int exit(const CLI::App& app, const CLI::ParseError& reason) {
   return isWrong ? kWrongUsage : 0;
 }
 
+/// Prints the manual page for "man", or for "complete WORD..." the words that complete the last one. The build and the
+/// scripts for shells ask for them as `zkstrings reference ...`, which no help mentions.
+void printReference(const CLI::App& app, const std::vector<std::string>& words) {
+  const bool isComplete = words.front() == "complete";
+  std::fputs((isComplete ? completionOf(app, {words.begin() + 1, words.end()}) : manPageOf(app)).c_str(),
+             stdout);
+}
+
 int run(int argc, char** argv) {
   CLI::App app{"Manage the text catalogue and its translations", "zkstrings"};
   app.formatter(std::make_shared<HelpFormatter>());
@@ -80,8 +88,10 @@ int run(int argc, char** argv) {
   addPageCommands(app, inRoot);
   for (CLI::App* const command : app.get_subcommands({})) command->fallthrough();
 
-  if (argc > 1 && argv[1] == std::string_view(kReference))
-    return printReference(app, {argv + 2, argv + argc});
+  if (argc > 2 && argv[1] == std::string_view("reference")) {
+    printReference(app, {argv + 2, argv + argc});
+    return 0;
+  }
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& reason) {

@@ -1,153 +1,133 @@
-#include <ZKStrings/tools/reference/Completion.h>
+#include <ZKStrings/tools/check/Checker.h>
+#include <ZKStrings/tools/project/Catalogue.h>
+#include <ZKStrings/tools/reference/Reference.h>
+#include <ZKStrings/tools/support/Characters.h>
+#include <ZKStrings/tools/support/Diagnostic.h>
+#include <ZKStrings/tools/support/Files.h>
+#include <ZKStrings/tools/support/Languages.h>
 
 #include <algorithm>
 #include <cstddef>
 #include <sstream>
-#include <string>
 #include <string_view>
 #include <utility>
-#include <vector>
 
 #include <CLI/CLI.hpp>
+#include <fmt/format.h>
 
 namespace zk::tools {
 
 namespace {
 
-bool startsWithDash(std::string_view word) {
-  return word.starts_with('-');
-}
-
-bool takesValue(const CLI::Option& option) {
-  return option.get_items_expected_max() > 0;
-}
-
-/// Where a command line has come to.
-class CommandLine {
- public:
-  explicit CommandLine(const CLI::App& app) : app_(app), command_(&app) {}
-
-  /// Goes on behind `word`.
-  void take(const std::string& word) {
-    if (word == "=") return;
-    if (awaitsValue_) {
-      awaitsValue_ = nullptr;
-      return;
-    }
-    if (word == "--") {
-      onlyArguments_ = true;
-    } else if (startsWithDash(word) && !onlyArguments_) {
-      const CLI::Option* const option = optionNamed(word);
-      if (option && takesValue(*option)) awaitsValue_ = option;
-    } else if (const CLI::App* const subcommand = subcommandNamed(word)) {
-      command_ = subcommand;
-    } else {
-      ++arguments_;
-    }
-  }
-
-  [[nodiscard]] std::vector<Candidate> candidates(std::string_view begun,
-                                                  const WordsOfType& wordsOfType) const {
-    if (awaitsValue_) return valuesOf(*awaitsValue_, wordsOfType);
-    if (startsWithDash(begun) && !onlyArguments_) return optionsFor(begun, wordsOfType);
-    if (command_ == &app_) return arguments_ == 0 ? subcommands() : std::vector<Candidate>();
-    const CLI::Option* const argument = nextArgument();
-    return argument ? valuesOf(*argument, wordsOfType) : std::vector<Candidate>();
-  }
-
- private:
-  /// The options of the subcommand and of the command itself, which may stand behind it.
-  [[nodiscard]] std::vector<const CLI::Option*> options() const {
-    const auto isNamed = [](const CLI::Option* option) { return option->nonpositional(); };
-    std::vector<const CLI::Option*> all = command_->get_options(isNamed);
-    if (command_ == &app_) return all;
-    for (const CLI::Option* const option : app_.get_options(isNamed)) {
-      if (option != app_.get_help_ptr() && option != app_.get_version_ptr()) all.push_back(option);
-    }
-    return all;
-  }
-
-  [[nodiscard]] const CLI::Option* optionNamed(const std::string& name) const {
-    const std::vector<const CLI::Option*> all = options();
-    const auto found = std::find_if(all.begin(), all.end(),
-                                    [&](const CLI::Option* option) { return option->check_name(name); });
-    return found == all.end() ? nullptr : *found;
-  }
-
-  [[nodiscard]] const CLI::App* subcommandNamed(const std::string& name) const {
-    if (command_ != &app_ || onlyArguments_) return nullptr;
-    const std::vector<const CLI::App*> all = app_.get_subcommands({});
-    const auto found = std::find_if(all.begin(), all.end(),
-                                    [&](const CLI::App* command) { return command->get_name() == name; });
-    return found == all.end() ? nullptr : *found;
-  }
-
-  /// The argument that the next word would be; the last of a subcommand may take any number of words.
-  [[nodiscard]] const CLI::Option* nextArgument() const {
-    const std::vector<const CLI::Option*> all =
-        command_->get_options([](const CLI::Option* option) { return option->get_positional(); });
-    if (arguments_ < all.size()) return all[arguments_];
-    return !all.empty() && all.back()->get_items_expected_max() > 1 ? all.back() : nullptr;
-  }
-
-  [[nodiscard]] std::vector<Candidate> subcommands() const {
-    std::vector<Candidate> all;
-    for (const CLI::App* const command : app_.get_subcommands({}))
-      all.push_back({command->get_name(), command->get_description()});
-    return all;
-  }
-
-  /// Names of options; for "--option=", the same with each of its values.
-  [[nodiscard]] std::vector<Candidate> optionsFor(std::string_view begun,
-                                                  const WordsOfType& wordsOfType) const {
-    std::vector<Candidate> all;
-    if (const std::size_t equals = begun.find('='); equals != std::string_view::npos) {
-      const CLI::Option* const option = optionNamed(std::string(begun.substr(0, equals)));
-      if (option) all = valuesOf(*option, wordsOfType);
-      for (Candidate& candidate : all) candidate.word.insert(0, begun.substr(0, equals + 1));
-      return all;
-    }
-    for (const CLI::Option* const option : options()) {
-      for (const std::string& name : option->get_lnames())
-        all.push_back({"--" + name, option->get_description()});
-    }
-    return all;
-  }
-
-  [[nodiscard]] static std::vector<Candidate> valuesOf(const CLI::Option& option,
-                                                       const WordsOfType& wordsOfType) {
-    const std::string type = option.get_type_name();
-    if (type == "DIR" || type == "FILE") return {{std::string(kFileNames), ""}};
-    std::vector<Candidate> all;
-    if (const std::size_t open = type.find('{'); open != std::string::npos) {
-      std::istringstream values(type.substr(open + 1, type.find('}') - open - 1));
-      for (std::string value; std::getline(values, value, ',');) all.push_back({value, ""});
-      return all;
-    }
-    for (std::string& word : wordsOfType(type)) all.push_back({std::move(word), ""});
-    return all;
-  }
-
-  const CLI::App& app_;
-  const CLI::App* command_;
-  const CLI::Option* awaitsValue_ = nullptr;
-  std::size_t arguments_ = 0;
-  bool onlyArguments_ = false;
+struct Candidate {
+  std::string word;
+  std::string explanation;
 };
+
+bool isPositional(const CLI::Option* option) {
+  return option->get_positional();
+}
+
+bool isNamed(const CLI::Option* option) {
+  return option->nonpositional();
+}
+
+/// The options of `command`, and those of `app` that can follow it.
+std::vector<const CLI::Option*> optionsOf(const CLI::App& app, const CLI::App& command) {
+  std::vector<const CLI::Option*> options = command.get_options(isNamed);
+  if (&command == &app) return options;
+  for (const CLI::Option* const option : app.get_options(isNamed)) {
+    if (option != app.get_help_ptr() && option != app.get_version_ptr()) options.push_back(option);
+  }
+  return options;
+}
+
+std::vector<std::string> keysIn(const std::string& root) {
+  std::vector<std::string> keys;
+  const Catalogue catalogue = Catalogue::read(root);
+  for (const Entry& entry : catalogue.entries()) keys.push_back(entry.key);
+  keys.erase(std::unique(keys.begin(), keys.end()), keys.end());
+  return keys;
+}
+
+/// The words that an option or argument with the type name `type` takes. There are none outside a project.
+std::vector<std::string> wordsOf(std::string_view type, const std::vector<std::string>& line) {
+  std::vector<std::string> words;
+  if (type == "RULE") {
+    for (const Rule& rule : checkRules()) words.emplace_back(rule.name);
+  }
+  if (type == "DIR" || type == "FILE") return {":files"};
+  if (const std::size_t begin = type.find('{'); begin != type.npos) {  // {text,json}
+    std::istringstream values(std::string(type.substr(begin + 1, type.find('}') - begin - 1)));
+    for (std::string value; std::getline(values, value, ',');) words.push_back(value);
+  }
+  try {
+    const auto root = std::find(line.begin(), line.end(), "--root");
+    const std::string project = line.end() - root > 2 ? rootAt(root[1]) : findRoot();
+    if (type == "LANGUAGE") return languagesIn(project);
+    if (type == "KEY") return keysIn(project);
+  } catch (const CommandFailed&) {
+  }
+  return words;
+}
+
+/// All words that can follow `line`, whose last word begins as `begun`.
+std::vector<Candidate> candidatesAfter(const CLI::App& app, const std::vector<std::string>& line,
+                                       std::string_view begun) {
+  const CLI::App* command = &app;
+  const CLI::Option* awaitsValue = nullptr;
+  std::size_t arguments = 0;
+  for (auto word = line.begin(); word != line.end() - 1; ++word) {
+    if (*word == "=") continue;
+    if (awaitsValue) {
+      awaitsValue = nullptr;
+    } else if (word->starts_with('-')) {
+      for (const CLI::Option* const option : optionsOf(app, *command))
+        if (option->check_name(*word) && option->get_items_expected_max() > 0) awaitsValue = option;
+    } else if (const auto all =
+                   app.get_subcommands([&](const CLI::App* one) { return one->get_name() == *word; });
+               command == &app && !all.empty()) {
+      command = all.front();
+    } else {
+      ++arguments;
+    }
+  }
+
+  std::vector<Candidate> candidates;
+  if (!awaitsValue && begun.starts_with('-')) {
+    for (const CLI::Option* const option : optionsOf(app, *command)) {
+      for (const std::string& name : option->get_lnames())
+        candidates.push_back({"--" + name, option->get_description()});
+    }
+    return candidates;
+  }
+  if (!awaitsValue && command == &app) {
+    if (arguments > 0) return {};  // an unknown subcommand
+    for (const CLI::App* const subcommand : app.get_subcommands({}))
+      candidates.push_back({subcommand->get_name(), subcommand->get_description()});
+    return candidates;
+  }
+  const std::vector<const CLI::Option*> all = command->get_options(isPositional);
+  const bool isRepeated = !all.empty() && all.back()->get_items_expected_max() > 1;
+  if (!awaitsValue && (arguments < all.size() || isRepeated))
+    awaitsValue = all[std::min(arguments, all.size() - 1)];
+  if (!awaitsValue) return {};
+  for (std::string& word : wordsOf(awaitsValue->get_type_name(), line))
+    candidates.push_back({std::move(word), ""});
+  return candidates;
+}
 
 }  // namespace
 
-std::vector<Candidate> candidatesFor(const CLI::App& app, const std::vector<std::string>& words,
-                                     const WordsOfType& wordsOfType) {
-  if (words.empty()) return {};
-  CommandLine line(app);
-  for (auto word = words.begin(); word != words.end() - 1; ++word) line.take(*word);
-  const std::string_view begun = words.back() == "=" ? std::string_view() : words.back();
-  std::vector<Candidate> all = line.candidates(begun, wordsOfType);
-  std::erase_if(all, [&](const Candidate& candidate) {
-    return candidate.word != kFileNames && !candidate.word.starts_with(begun);
-  });
-  return all;
+std::string completionOf(const CLI::App& app, const std::vector<std::string>& words) {
+  if (words.empty()) return "";
+  const std::string begun = words.back() == "=" ? "" : words.back();
+  std::string lines;
+  for (const auto& [word, explanation] : candidatesAfter(app, words, begun)) {
+    if (word == ":files" || word.starts_with(begun))
+      lines += fmt::format("{}{}{}\n", withoutControls(word), explanation.empty() ? "" : "\t", explanation);
+  }
+  return lines;
 }
 
 }  // namespace zk::tools

@@ -1,8 +1,8 @@
 #include <ZKStrings/tools/check/Checker.h>
-#include <ZKStrings/tools/reference/ManPage.h>
+#include <ZKStrings/tools/reference/Reference.h>
 
 #include <string_view>
-#include <vector>
+#include <utility>
 
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
@@ -11,33 +11,18 @@ namespace zk::tools {
 
 namespace {
 
-/// `text` so that the formatter shows it as it is.
+constexpr std::pair<char, std::string_view> kEscapes[] = {{'\\', "\\e"},  {'-', "\\-"},   {'\'', "\\(aq"},
+                                                          {'^', "\\(ha"}, {'~', "\\(ti"}, {'`', "\\(ga"}};
+
+/// `text` as markup that shows it literally.
 std::string markupOf(std::string_view text) {
-  std::string markup;
-  if (text.starts_with('.') || text.starts_with('\'')) markup = "\\&";
+  std::string markup = text.starts_with('.') ? "\\&" : "";
   for (const char character : text) {
-    switch (character) {
-      case '\\':
-        markup += "\\e";
-        break;
-      case '-':
-        markup += "\\-";
-        break;
-      case '\'':
-        markup += "\\(aq";
-        break;
-      case '^':
-        markup += "\\(ha";
-        break;
-      case '~':
-        markup += "\\(ti";
-        break;
-      case '`':
-        markup += "\\(ga";
-        break;
-      default:
-        markup += character;
+    std::string_view spelled(&character, 1);
+    for (const auto& [special, escape] : kEscapes) {
+      if (character == special) spelled = escape;
     }
+    markup += spelled;
   }
   return markup;
 }
@@ -55,11 +40,8 @@ std::string item(const std::string& heading, std::string_view text) {
   return fmt::format(".TP\n{}\n{}\n", heading, markupOf(text));
 }
 
-/// An argument as the synopsis shows it: optional, or any number of times.
-std::string argumentOf(const CLI::Option& option) {
-  const std::string name =
-      italic(option.get_name(true)) + (option.get_items_expected_max() > 1 ? " ..." : "");
-  return option.get_required() ? name : "[" + name + "]";
+std::vector<const CLI::Option*> argumentsOf(const CLI::App& command) {
+  return command.get_options([](const CLI::Option* option) { return option->get_positional(); });
 }
 
 /// "--root DIR".
@@ -75,12 +57,10 @@ std::string headingOf(const CLI::Option& option) {
 
 std::string optionsOf(const CLI::App& command) {
   std::string markup;
-  const auto isArgument = [](const CLI::Option* option) { return option->get_positional(); };
-  const auto isNamed = [](const CLI::Option* option) { return option->nonpositional(); };
-  for (const CLI::Option* const argument : command.get_options(isArgument))
+  for (const CLI::Option* const argument : argumentsOf(command))
     markup += item(italic(argument->get_name(true)), argument->get_description());
-  for (const CLI::Option* const option : command.get_options(isNamed)) {
-    if (option != command.get_help_ptr() || command.get_parent() == nullptr)
+  for (const CLI::Option* const option : command.get_options()) {
+    if (option->nonpositional() && (option != command.get_help_ptr() || command.get_parent() == nullptr))
       markup += item(headingOf(*option), option->get_description());
   }
   return markup;
@@ -88,20 +68,13 @@ std::string optionsOf(const CLI::App& command) {
 
 std::string sectionOf(const CLI::App& command) {
   std::string usage = bold(command.get_name());
-  const auto isArgument = [](const CLI::Option* option) { return option->get_positional(); };
-  for (const CLI::Option* const argument : command.get_options(isArgument))
-    usage += " " + argumentOf(*argument);
-  std::string markup = fmt::format(".SS {}\n{}.\n", usage, markupOf(command.get_description()));
-  markup += optionsOf(command);
-  if (!command.get_footer().empty()) markup += ".PP\n" + markupOf(command.get_footer()) + "\n";
-  return markup;
-}
-
-std::string rulesSection() {
-  std::string markup = ".SH RULES\nWhat\n.B check\nlooks for:\n";
-  for (const auto& [name, severity, summary] : checkRules())
-    markup += item(fmt::format("{} ({})", bold(name), nameOf(severity)), summary);
-  return markup;
+  for (const CLI::Option* const argument : argumentsOf(command)) {
+    const std::string name =
+        italic(argument->get_name(true)) + (argument->get_items_expected_max() > 1 ? " ..." : "");
+    usage += argument->get_required() ? " " + name : " [" + name + "]";
+  }
+  return fmt::format(".SS {}\n{}.\n{}.PP\n{}\n", usage, markupOf(command.get_description()),
+                     optionsOf(command), markupOf(command.get_footer()));
 }
 
 }  // namespace
@@ -116,11 +89,17 @@ std::string manPageOf(const CLI::App& app) {
   page += ".SH OPTIONS\n" + optionsOf(app);
   page += ".SH COMMANDS\n";
   for (const CLI::App* const command : app.get_subcommands({})) page += sectionOf(*command);
-  page += rulesSection();
-  page += ".SH EXIT STATUS\n";
-  page += item(bold("0"), "All went well.");
-  page += item(bold("1"), "The command failed, or check found what it fails on.");
-  page += item(bold("2"), "The command line was wrong.");
+  page += ".SH RULES\nThe rules of\n.BR check :\n";
+  for (const auto& [rule, severity, summary] : checkRules())
+    page += item(fmt::format("{} ({})", bold(rule), nameOf(severity)), summary);
+  page += ".SH EXIT STATUS\nEach command ends with one of these:\n";
+  page += item(bold("0"), "Done.");
+  page +=
+      item(bold("1"),
+           "Something in the project's or the given files is wrong, or a file cannot be read or written.");
+  page +=
+      item(bold("2"),
+           "The command line is wrong: an unknown command, option, key or language, or an unusable text.");
   return page;
 }
 

@@ -45,7 +45,6 @@ expect "same-plurals same-text" check --off same
 expect "same-plurals same-text" check --off = same
 expect "text json" check --format ''
 expect "About" remove About
-expect "" check -- --s
 expect "-o default" --root ''
 cd "$work"
 expect "" check d
