@@ -125,8 +125,8 @@ void addImportCommand(CLI::App& app, const RootFinder& inRoot, int& status) {
       ->type_name("LANGUAGE");
   command->add_flag(
       "--force", arguments->force,
-      "Import even if the English text, whose translation is then marked for review, or the table's "
-      "translation has changed since the export");
+      "Import texts that have changed since the export, and mark them for review if the English text "
+      "has changed");
   command->add_flag("--quiet", arguments->quiet, "Print only warnings and counts");
   command->footer("Example: zkstrings import de.xlf");
   command->callback([arguments, inRoot, &status] { status = runImport(inRoot(), *arguments) ? 0 : 1; });
