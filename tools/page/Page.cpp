@@ -4,12 +4,14 @@
 #include <ZKStrings/tools/page/Page.h>
 #include <ZKStrings/tools/page/PageParts.h>
 #include <ZKStrings/tools/page/ShownTexts.h>
+#include <ZKStrings/tools/project/EntryComments.h>
 #include <ZKStrings/tools/support/Languages.h>
 #include <ZKStrings/tools/texts/TextFeatures.h>
 #include <ZKStrings/tools/translation/TranslationState.h>
 
 #include <algorithm>
 #include <cstddef>
+#include <optional>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -94,12 +96,15 @@ class DataMaker {
     Json texts = Json::array();
     Json characters = Json::array();
     std::string states;
+    Json previous = Json::array();
     shown_.choose(language);
     for (const EnglishText& english : english_.all()) {
       texts.push_back(shown_.markedText(english));
       characters.push_back(charactersIn(shown_.text(english)));
       const TableEntry* const entry = table.diagnostics.empty() ? table.find(english.key) : nullptr;
       states += letterOf(stateOf(language, entry, english));
+      const std::optional<std::string> before = entry ? quotedIn(*entry, kState) : std::nullopt;
+      if (before) previous.push_back({states.size() - 1, *before});
     }
     return {{"tag", tag},
             {"english", nameIn(icu::Locale::getEnglish(), locale)},
@@ -110,6 +115,7 @@ class DataMaker {
             {"texts", std::move(texts)},
             {"characters", std::move(characters)},
             {"states", std::move(states)},
+            {"previous", std::move(previous)},
             {"findings", findingsOf(table)}};
   }
 

@@ -15,12 +15,13 @@ namespace zk::tools {
 ///      "forms": [{"name": "few", "counts": "3 to 5", "example": 4}, …],
 ///      "entries": [{"key", "context", "counted", "formatted", "call"}, …],
 ///      "languages": [{"tag", "english", "native", "isRightToLeft", "file", "isWellFormed",
-///                     "texts", "characters", "states", "findings"}, …]}
+///                     "texts", "characters", "states", "previous", "findings"}, …]}
 ///
 /// English is the first language. "texts", "characters" and "states" have an element for each key that the
 /// engine looks up, in catalogue order: the finished text, whose values are marked as `ShownTexts` marks them; its
-/// length in characters; one letter for missing (m), untranslated (u), needs review (r) or translated (t). A
-/// finding is an array of the index of its key (null for the table as a whole), severity, rule, message, line
+/// length in characters; one letter for missing (m), untranslated (u), needs review (r) or translated (t). An
+/// element of "previous" is an array of the index of a key and the English text that its translation was made
+/// from, if that has changed. A finding is an array of the index of its key (null for the table as a whole), severity, rule, message, line
 /// and column.
 [[nodiscard]] std::string pageData(const std::string& root);
 

@@ -89,12 +89,17 @@ function textsOf(entry, language) {
 
 function languageBlock(entry, language) {
   const findings = [];
-  someText(entry, (text) => void findings.push(...(language.findingsByText.get(text) ?? [])));
+  const previous = new Set();
+  someText(entry, (text) => {
+    findings.push(...(language.findingsByText.get(text) ?? []));
+    if (language.previous.has(text)) previous.add(language.previous.get(text));
+  });
   return element(
     "article",
     { className: "language" },
     languageHead(entry, language),
     textsOf(entry, language),
+    ...[...previous].map((text) => element("p", { className: "previous" }, `The English was “${text}”`)),
     findings.length > 0 ? element("ul", { className: "findings" }, ...findings.map(findingItem)) : "",
   );
 }

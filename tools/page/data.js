@@ -8,6 +8,7 @@ const STATE_NAMES = { m: "missing", u: "untranslated", r: "needs review", t: "tr
 
 languages.forEach((language, index) => {
   language.index = index;
+  language.previous = new Map(language.previous);
   language.findingsByText = new Map();
   for (const [text, severity, rule, message, line, column] of language.findings) {
     const finding = { severity, rule, message, place: `${language.file}:${line}:${column}` };
