@@ -37,7 +37,7 @@ import() {
 compare() {
   import "$1"
   cmp --silent "$table" sent.strings || fail "$1 changes the table: $(diff "$table" sent.strings | head -n 3)"
-  sed 's/ = ".*";$/ = "";/; /^\/\* state:/d' sent.strings >"$table"
+  sed 's/ = ".*";$/ = "";/' sent.strings >"$table"
   import "$1" --force
   "$zkstrings" export "$language" -o back.xlf >/dev/null
   cmp --silent back.xlf sent.xlf || fail "$1 has lost something: $(diff back.xlf sent.xlf | head -n 3)"
@@ -47,7 +47,7 @@ compare() {
 # Prints the table with the first texts of several words marked for review, and without the next ones.
 with_marks() {
   awk -F' = ' '
-    /^".* .* .*;$/ && reviewed < 3 { print "/* state: needs-review */"; ++reviewed; print; next }
+    /^".* .* .*;$/ && reviewed < 3 { print "/* state: needs-review; was \"Old\" */"; ++reviewed; print; next }
     /^".* .* .*;$/ && left < 3 { ++left; next }
     { print }' "$1"
 }

@@ -95,7 +95,7 @@ class CSVReader {
       const auto isEmpty = [](const std::string& text) { return text.empty(); };
       if (std::all_of(row.begin(), row.end(), isEmpty)) continue;
       translations.units.push_back(
-          {cellOf(key), cellOf(english), cellOf(target), stateFrom(cellOf(state)), cellOf(notes), at});
+          {cellOf(key), cellOf(english), cellOf(target), stateFrom(cellOf(state)), cellOf(notes), "", at});
     }
     return translations;
   }
@@ -182,7 +182,7 @@ std::string toCSV(const Translations& translations) {
   std::string table = fmt::format("{}key,en,{},state,notes\r\n", kByteOrderMark, translations.language);
   for (const TranslationUnit& unit : translations.units) {
     table += fmt::format("{},{},{},{},{}\r\n", cell(unit.key), cell(unit.source), cell(unit.target),
-                         nameOf(unit.state), cell(unit.notes));
+                         nameOf(unit.state), cell(notesWithPrevious(unit)));
   }
   return table;
 }

@@ -21,7 +21,7 @@ constexpr std::uintmax_t kLargest = 32U << 20U;
 
 void refuseControlCharacters(const Translations& translations) {
   for (const TranslationUnit& unit : translations.units) {
-    if (fitsXLIFF(unit.key + unit.source + unit.target + unit.notes)) continue;
+    if (fitsXLIFF(unit.key + unit.source + unit.target + notesWithPrevious(unit))) continue;
     fail(tablePath(translations.language),
          fmt::format("the text of \"{}\" has a control character, which XLIFF cannot hold; "
                      "remove it, or export with --format po",
@@ -30,6 +30,11 @@ void refuseControlCharacters(const Translations& translations) {
 }
 
 }  // namespace
+
+std::string notesWithPrevious(const TranslationUnit& unit) {
+  if (unit.previousSource.empty()) return unit.notes;
+  return fmt::format("The English text was \"{}\".\n{}", unit.previousSource, unit.notes);
+}
 
 ExchangeFormat formatNamedBy(std::string_view path) {
   const std::string ending = lowerCased(std::filesystem::path(path).extension().string());

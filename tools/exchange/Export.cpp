@@ -2,6 +2,7 @@
 #include <ZKStrings/tools/project/Catalogue.h>
 #include <ZKStrings/tools/project/CatalogueSettings.h>
 #include <ZKStrings/tools/project/EnglishTexts.h>
+#include <ZKStrings/tools/project/EntryComments.h>
 #include <ZKStrings/tools/project/Table.h>
 #include <ZKStrings/tools/support/Characters.h>
 #include <ZKStrings/tools/support/Languages.h>
@@ -71,8 +72,10 @@ Translations translationsOf(const std::string& root, const std::string& language
     const std::string translation(translationIn(entry, state));
     std::vector<std::string> notes = notesOn(text);
     notes.push_back(versionNote(translation, state));
-    translations.units.push_back(
-        {text.key, text.text, translation, state, fmt::format("{}", fmt::join(notes, "\n"))});
+    const bool needsReview = state == TranslationState::needsReview;
+    translations.units.push_back({text.key, text.text, translation, state,
+                                  fmt::format("{}", fmt::join(notes, "\n")),
+                                  needsReview ? quotedIn(*entry, kState).value_or("") : ""});
   }
   return translations;
 }

@@ -10,6 +10,9 @@ namespace zk::tools {
 /// The formats. The functions that read one take the UTF-8 text of a file without a byte-order mark. They throw
 /// `CommandFailed`, which names `file`, if the text is not in the format.
 
+/// The unit's notes, with the previous English text if there is one. For formats that have no other place for it.
+[[nodiscard]] std::string notesWithPrevious(const TranslationUnit& unit);
+
 /// XLIFF 1.2, which nearly all translation programs read. Codes are <ph> elements around the code's text, so that
 /// programs without support for codes keep it.
 [[nodiscard]] std::string toXLIFF12(const Translations& translations);

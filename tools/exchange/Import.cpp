@@ -91,17 +91,24 @@ class Importer {
     const bool hasMark = entry && (isMarked(*entry, TranslationState::untranslated) ||
                                    isMarked(*entry, TranslationState::needsReview));
     const bool setsState = hasMark || state == TranslationState::needsReview;
-    if (entry && entry->text == unit.target && (present == state || !setsState)) {
+    const bool isSameText = entry && entry->text == unit.target;
+    if (isSameText && (present == state || !setsState)) {
       ++result_.unchanged;
-    } else if (std::string reason = whyStale(unit, english, entry, present); !reason.empty() && !force_) {
-      refuse(unit, std::move(reason));
-    } else if (entry) {
-      change(unit, *entry, present, state, setsState);
-    } else {
-      editor_.insertAfter(before,
-                           (setsState ? markFor(state) + "\n" : "") + tableLine(unit.key, unit.target));
-      log(unit, result_.added, fmt::format("is added: {}", shown(unit.target, state)));
+      return;
     }
+    const std::string reason = force_ ? "" : whyStale(unit, english, entry, present);
+    if (!reason.empty()) return refuse(unit, reason);
+    const std::string_view previousEnglish = isOutdated ? unit.source : "";
+    imported_.emplace(unit.key, &unit);
+    if (!entry) {
+      const std::string mark = setsState ? markFor(state, previousEnglish) + "\n" : "";
+      editor_.insertAfter(before, mark + tableLine(unit.key, unit.target));
+      return log(unit, result_.added, fmt::format("is added: {}", shown(unit.target, state)));
+    }
+    if (!isSameText) editor_.replaceText(*entry, unit.target);
+    if (setsState) editor_.setState(*entry, state, previousEnglish);
+    log(unit, isSameText ? result_.stateChanged : result_.changed,
+        fmt::format("is changed from {} to {}", shown(entry->text, present), shown(unit.target, state)));
   }
 
   /// What has changed since `unit` was exported; empty if nothing has.
@@ -121,18 +128,8 @@ class Importer {
         escaped(unit.key), shown(translation, present), shown(unit.target, unit.state));
   }
 
-  void change(const TranslationUnit& unit, const TableEntry& entry, TranslationState present,
-              TranslationState state, bool setsState) {
-    const bool isSameText = entry.text == unit.target;
-    if (!isSameText) editor_.replaceText(entry, unit.target);
-    if (setsState) editor_.setState(entry, state);
-    log(unit, isSameText ? result_.stateChanged : result_.changed,
-        fmt::format("is changed from {} to {}", shown(entry.text, present), shown(unit.target, state)));
-  }
-
   void log(const TranslationUnit& unit, std::size_t& count, const std::string& change) {
     ++count;
-    imported_.emplace(unit.key, &unit);
     changes_.push_back({Severity::note, file_, unit.at.line, unit.at.column, "",
                         fmt::format("\"{}\" {}", escaped(unit.key), change)});
   }

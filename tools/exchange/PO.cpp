@@ -83,6 +83,7 @@ std::string entryOf(const TranslationUnit& unit) {
   // Programs that drop the context keep the reference.
   lines += fmt::format("#: {}\n", referenceTo(unit.key));
   if (unit.state == TranslationState::needsReview) lines += "#, fuzzy\n";
+  if (!unit.previousSource.empty()) lines += fmt::format("#| msgid {}\n", quoted(unit.previousSource));
   return lines + statement("msgctxt", unit.key) + statement("msgid", unit.source) +
          statement("msgstr", unit.target);
 }

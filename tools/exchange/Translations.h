@@ -16,7 +16,9 @@ struct TranslationUnit {
   /// In a unit that was read, `translated` or `needsReview`; meaningless without a target.
   TranslationState state = TranslationState::translated;
   std::string notes = {};  ///< for translators, one a line
-  Position at = {1, 1};    ///< in the file that it was read from
+  std::string previousSource =
+      {};                ///< the English text that the target translates; empty unless it has changed
+  Position at = {1, 1};  ///< in the file that it was read from
 };
 
 /// Texts with their translations into one language.

@@ -62,6 +62,10 @@ void addUnit12(pugi::xml_node body, const TranslationUnit& unit) {
     addContent12(addElement(element, "target", {{"state", state}}), piecesOf(unit.target), source);
   }
   addText(addElement(element, "note", {{"from", "developer"}, {"annotates", "source"}}), unit.notes);
+  if (unit.previousSource.empty()) return;
+  pugi::xml_node previous = addElement(element, "alt-trans", {{"alttranstype", "previous-version"}});
+  addText(previous.append_child("source"), unit.previousSource);
+  addText(previous.append_child("target"), unit.target);
 }
 
 /// Adds a <source> or <target> of XLIFF 2.0. `dataFor` returns the id of a code's text in the original data.
@@ -87,7 +91,8 @@ void addContent20(pugi::xml_node element, const Pieces& pieces, const Pieces& so
 void addUnit20(pugi::xml_node file, const TranslationUnit& unit, std::size_t number) {
   pugi::xml_node element = addElement(
       file, "unit", {{"id", fmt::format("u{}", number)}, {"name", unit.key}, {"xml:space", "preserve"}});
-  addText(addElement(element.append_child("notes"), "note", {{"category", "developer"}}), unit.notes);
+  addText(addElement(element.append_child("notes"), "note", {{"category", "developer"}}),
+          notesWithPrevious(unit));
   pugi::xml_node data = element.append_child("originalData");
   std::map<std::string_view, std::size_t> dataNumbers;
   const auto dataFor = [&](std::string_view text) {
