@@ -172,26 +172,21 @@ std::size_t generate(const std::string& root) {
 }
 
 void generateInto(const std::string& output, const std::string& root) {
-  std::vector<FileChange> files;
-  try {
-    const Catalogue catalogue = Catalogue::read(root);
-    const Table base = Table::readWellFormed(root, kBase);
-    const EnglishTexts english(catalogue, base);
-    for (const EnglishText& text : english.all()) {
-      const TableEntry* const entry = base.find(text.key);
-      if (!entry || entry->text == text.text) continue;
-      fail(base.file, entry->textAt,
-           fmt::format("the English of \"{}\" is not that of {}; run zkstrings generate", escaped(text.key),
-                       Catalogue::kFile));
-    }
-    files = accessorFiles(CatalogueSettings::read(root).name, catalogue, base);
-  } catch (CommandFailed& failed) {
-    for (Diagnostic& diagnostic : failed.diagnostics)
-      diagnostic.file = (std::filesystem::path(root) / diagnostic.file).string();
-    throw;
+  const Catalogue catalogue = Catalogue::read(root);
+  const Table base = Table::readWellFormed(root, kBase);
+  const EnglishTexts english(catalogue, base);
+  for (const EnglishText& text : english.all()) {
+    const TableEntry* const entry = base.find(text.key);
+    if (!entry || entry->text == text.text) continue;
+    fail(base.file, entry->textAt,
+         fmt::format("the English of \"{}\" is not that of {}; run zkstrings generate", escaped(text.key),
+                     Catalogue::kFile));
   }
-  for (FileChange& file : files) file.path = std::filesystem::path(file.path).filename();
-  writeFiles(output, files);
+  std::vector<FileChange> files = accessorFiles(CatalogueSettings::read(root).name, catalogue, base);
+  for (FileChange& file : files) {
+    file.path = std::filesystem::current_path() / output / std::filesystem::path(file.path).filename();
+  }
+  writeFiles("", files);
 }
 
 }  // namespace zk::tools

@@ -9,6 +9,7 @@
 
 #include <cstddef>
 #include <cstdio>
+#include <filesystem>
 #include <memory>
 #include <string>
 #include <utility>
@@ -47,7 +48,7 @@ void runExport(const std::string& root, const ExportArguments& arguments) {
     fmt::print("{}", bytes);
     return;
   }
-  writeFile("", arguments.file, bytes);
+  writeFile("", std::filesystem::current_path() / arguments.file, bytes);
   const std::size_t count = translations.units.size();
   say("Wrote {} with {} text{}.\n", arguments.file, count, count == 1 ? "" : "s");
 }
@@ -79,7 +80,7 @@ bool runImport(const std::string& root, const ImportArguments& arguments) {
   Import done = importTranslations(root, translations, arguments.file, arguments.force);
   if (arguments.quiet)
     std::erase_if(done.diagnostics, [](const Diagnostic& one) { return one.severity == Severity::note; });
-  print(stdout, done.diagnostics);
+  print(stdout, fromWorkingDirectory(done.diagnostics, root));
   std::vector<std::string> counts;
   for (const auto& [count, what] : {std::pair(done.added, "added"),
                                     {done.changed, "changed"},
@@ -129,7 +130,10 @@ void addImportCommand(CLI::App& app, const RootFinder& inRoot, int& status) {
       "has changed");
   command->add_flag("--quiet", arguments->quiet, "Print only warnings and counts");
   command->footer("Example: zkstrings import de.xlf");
-  command->callback([arguments, inRoot, &status] { status = runImport(inRoot(), *arguments) ? 0 : 1; });
+  command->callback([arguments, inRoot, &status] {
+    arguments->file = std::filesystem::current_path() / arguments->file;
+    status = runImport(inRoot(), *arguments) ? 0 : 1;
+  });
 }
 
 }  // namespace zk::tools

@@ -4,6 +4,7 @@
 #include <ZKStrings/tools/support/Files.h>
 #include <ZKStrings/tools/support/Terminal.h>
 
+#include <filesystem>
 #include <memory>
 
 #include <CLI/CLI.hpp>
@@ -25,7 +26,8 @@ void addPageCommand(CLI::App& app, const RootFinder& inRoot) {
     const std::string root = inRoot();
     const std::string page = pageOf(root);
     const bool isNamed = !file->empty();
-    writeFile(isNamed ? "" : root, isNamed ? *file : kPage, page);
+    writeFile(isNamed ? "" : root, isNamed ? (std::filesystem::current_path() / *file).string() : kPage,
+              page);
     say("Wrote {}. Open it in a browser.\n", isNamed ? *file : root + "/" + kPage);
   });
 }
@@ -42,7 +44,7 @@ void addPseudoCommand(CLI::App& app, const RootFinder& inRoot) {
   command->callback([directory, inRoot] {
     const std::string root = inRoot();
     if (directory->empty()) *directory = root + kPseudoResources;
-    writePseudoLocales(root, *directory);
+    writePseudoLocales(root, std::filesystem::current_path() / *directory);
     say("Wrote xa, xb and xk into {}. An app that prefers one of them shows it.\n", *directory);
   });
 }

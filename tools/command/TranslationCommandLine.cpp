@@ -13,6 +13,7 @@
 #include <cstdio>
 #include <memory>
 #include <optional>
+#include <utility>
 
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
@@ -120,7 +121,8 @@ void addCheckCommand(CLI::App& app, const RootFinder& inRoot, int& status) {
     if (arguments->showsRules) return printRules();
     const std::string root = inRoot();
     for (std::string& language : arguments->options.languages) language = existingLanguage(root, language);
-    const CheckResult result = check(root, arguments->options);
+    CheckResult result = check(root, arguments->options);
+    result.diagnostics = fromWorkingDirectory(std::move(result.diagnostics), root);
     printResult(result, arguments->format);
     const auto fails = [&](const Diagnostic& diagnostic) {
       return diagnostic.severity == Severity::error ||
@@ -174,7 +176,7 @@ void addUpdateCommand(CLI::App& app, const RootFinder& inRoot) {
     const std::string root = inRoot();
     const std::string language = existingLanguage(root, arguments->language);
     const TableUpdate update = updateTable(root, language, arguments->prunes);
-    print(stdout, update.notLookedUp);
+    print(stdout, fromWorkingDirectory(update.notLookedUp, root));
     say("{}: {}\n", tablePath(language),
         update.isChange() ? summaryOf(update) : "up to date, nothing changed");
   });

@@ -69,11 +69,10 @@ int run(int argc, char** argv) {
   app.require_subcommand(1);
   std::string root;
   app.add_option("--root", root, "The project's folder (default: the nearest one upward)")->type_name("DIR");
-  const auto inRoot = [&] { return root.empty() ? findRoot() : rootAt(root); };
+  const auto inRoot = [&] { return root = root.empty() ? findRoot() : rootAt(root); };
   const auto aloneInRoot = [&] {
-    const std::string found = inRoot();
-    lockProject(found);
-    return found;
+    lockProject(inRoot());
+    return root;
   };
 
   int status = 0;
@@ -96,6 +95,9 @@ int run(int argc, char** argv) {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& reason) {
     return exit(app, reason);
+  } catch (const CommandFailed& failed) {
+    print(stderr, fromWorkingDirectory(failed.diagnostics, root));
+    return kWrongFiles;
   }
   return status;
 }
@@ -108,8 +110,6 @@ int main(int argc, char** argv) {
     const int status = run(argc, argv);
     if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0) return status;
     complain(kOutputFailed);
-  } catch (const CommandFailed& failed) {
-    print(stderr, failed.diagnostics);
   } catch (const std::invalid_argument& refused) {
     complain(refused.what());
     return kWrongUsage;

@@ -3,7 +3,9 @@
 
 #include <cstdint>
 #include <cstdlib>
+#include <filesystem>
 #include <string_view>
+#include <system_error>
 #include <utility>
 
 #include <fmt/color.h>
@@ -39,6 +41,17 @@ Style styleOf(Severity severity) {
 
 const char* nameOf(Severity severity) {
   return styleOf(severity).name;
+}
+
+Diagnostics fromWorkingDirectory(Diagnostics diagnostics, const std::string& root) {
+  namespace fs = std::filesystem;
+  std::error_code failure;
+  for (Diagnostic& diagnostic : diagnostics) {
+    diagnostic.file = (fs::path(root) / diagnostic.file).lexically_normal();
+    const std::string near = fs::path(diagnostic.file).lexically_proximate(fs::current_path(failure));
+    if (near.size() < diagnostic.file.size()) diagnostic.file = near;
+  }
+  return diagnostics;
 }
 
 std::string formatted(const Diagnostic& diagnostic, bool coloured) {

@@ -17,7 +17,7 @@ enum class Severity { error, warning, gap, note };
 /// Something wrong in a file of the project, as a compiler would report it.
 struct Diagnostic {
   Severity severity = Severity::error;
-  std::string file;        ///< relative to the project's root
+  std::string file;        ///< relative to the project's root, or absolute if it is not a file of the project
   std::size_t line = 1;    ///< from 1
   std::size_t column = 1;  ///< from 1, in characters
   std::string rule;        ///< the name under which the rule can be switched off; empty when it cannot
@@ -25,6 +25,10 @@ struct Diagnostic {
 };
 
 using Diagnostics = std::vector<Diagnostic>;
+
+/// Returns the diagnostics of the project at `root` with file names relative to the working directory, as terminals,
+/// editors and CI expect them.
+[[nodiscard]] Diagnostics fromWorkingDirectory(Diagnostics diagnostics, const std::string& root);
 
 /// The diagnostic as one line, "file:line:column: error: message [rule]", with colours when `coloured`.
 [[nodiscard]] std::string formatted(const Diagnostic& diagnostic, bool coloured);

@@ -207,7 +207,7 @@ std::string findRoot() {
 std::string rootAt(const std::string& directory) {
   std::error_code failure;
   if (fs::exists(fs::path(directory) / kMark, failure)) return directory;
-  fail((fs::path(directory) / kMark).string(), "no such file; --root needs the folder that has catalogue/");
+  fail(kMark, "no such file; --root needs the folder that has catalogue/");
 }
 
 void lockProject(const std::string& root) {
