@@ -69,6 +69,16 @@ std::string keyOf(pugi::xml_node unit) {
   return contextOf(unit, "sourcefile");
 }
 
+/// The target of a unit of XLIFF 1.2. Qt's programs write it into the <alt-trans> of the previous English text. Other
+/// programs' proposals are there as well, but neither approved nor with a state.
+pugi::xml_node targetOf(pugi::xml_node unit) {
+  const pugi::xml_node target = childNamed(unit, "target");
+  const pugi::xml_node other = childNamed(childNamed(unit, "alt-trans"), "target");
+  const bool isProposal =
+      !other.attribute("state") && std::string_view(unit.attribute("approved").value()) != "yes";
+  return target || isProposal ? target : other;
+}
+
 /// Whether a translation in XLIFF 1.2 is unfinished. Without a state it is finished.
 bool needsReview12(pugi::xml_node unit, pugi::xml_node target) {
   const std::string_view state = target.attribute("state").value();
@@ -208,7 +218,7 @@ class XLIFFReader {
     Codes codes;
     unit.source = textOf(childNamed(element, "source"), codes, 0);
     if (unit.key.empty()) unit.key = unit.source;
-    const pugi::xml_node target = childNamed(element, "target");
+    const pugi::xml_node target = targetOf(element);
     unit.target = textOf(target, codes, 0);
     if (needsReview12(element, target)) unit.state = TranslationState::needsReview;
     add(std::move(unit));
