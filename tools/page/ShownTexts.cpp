@@ -49,7 +49,7 @@ std::string ShownTexts::text(const EnglishText& english) const {
 std::string ShownTexts::markedText(const EnglishText& english) const {
   const std::optional<std::int64_t> count = exampleCount(english);
   Values values = valuesFor(english, count, false);
-  for (auto& [name, value] : values) value = "\uFDD0" + name + "\uFDD1" + value + "\uFDD2";
+  for (auto& [name, value] : values) value = fmt::format("\uFDD0{}\uFDD1{}\uFDD2", name, value);
   return filledIn(english, count, values);
 }
 

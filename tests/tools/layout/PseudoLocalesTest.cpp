@@ -4,7 +4,6 @@
 #include <ZKStrings/tools/support/Diagnostic.h>
 #include <ZKStrings/tools/support/Languages.h>
 #include <ZKStrings/tools/texts/TextFeatures.h>
-#include <ZKStrings/tools/texts/TextFeatures.h>
 
 #include <algorithm>
 #include <filesystem>
