@@ -70,12 +70,12 @@ Translations readFor(const std::string& root, const ImportArguments& arguments) 
   if (!arguments.language.empty()) translations.language = arguments.language;
   if (translations.language.empty())
     fail(arguments.file, "the file does not name its language; name it with --language");
-  translations.language = existingLanguage(root, translations.language);
+  translations.language =
+      existingLanguage(root, translations.language, arguments.language.empty() ? arguments.file : "");
   return translations;
 }
 
-/// Returns whether no text is refused.
-bool runImport(const std::string& root, const ImportArguments& arguments) {
+void runImport(const std::string& root, const ImportArguments& arguments) {
   const Translations translations = readFor(root, arguments);
   Import done = importTranslations(root, translations, arguments.file, arguments.force);
   if (arguments.quiet)
@@ -91,7 +91,7 @@ bool runImport(const std::string& root, const ImportArguments& arguments) {
   }
   if (counts.empty()) counts.emplace_back("nothing to import");
   say("{}: {}\n", tablePath(translations.language), fmt::join(counts, ", "));
-  return done.refused == 0;
+  if (done.refused > 0) throw CommandFailed{};
 }
 
 }  // namespace
@@ -118,7 +118,7 @@ void addExportCommand(CLI::App& app, const RootFinder& inRoot) {
   command->callback([arguments, inRoot] { runExport(inRoot(), *arguments); });
 }
 
-void addImportCommand(CLI::App& app, const RootFinder& inRoot, int& status) {
+void addImportCommand(CLI::App& app, const RootFinder& inRoot) {
   const auto arguments = std::make_shared<ImportArguments>();
   auto* const command = app.add_subcommand("import", "Import a translated XLIFF, PO or CSV file");
   command->add_option("file", arguments->file, "The file, as the translation program saved it")->required();
@@ -130,9 +130,9 @@ void addImportCommand(CLI::App& app, const RootFinder& inRoot, int& status) {
       "has changed");
   command->add_flag("--quiet", arguments->quiet, "Print only warnings and counts");
   command->footer("Example: zkstrings import de.xlf");
-  command->callback([arguments, inRoot, &status] {
+  command->callback([arguments, inRoot] {
     arguments->file = std::filesystem::current_path() / arguments->file;
-    status = runImport(inRoot(), *arguments) ? 0 : 1;
+    runImport(inRoot(), *arguments);
   });
 }
 

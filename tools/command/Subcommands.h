@@ -13,20 +13,20 @@ namespace zk::tools {
 using RootFinder = std::function<std::string()>;
 
 /// These functions add subcommands to the command line `app`. A subcommand runs while the line is parsed, and prints its
-/// answer. It throws `CommandFailed` if something in the user's files is wrong. `status` must outlive the parsing.
+/// answer. It throws `CommandFailed` if something in the user's files is wrong.
 
 /// init.
 void addInitCommand(CLI::App& app);
 /// generate, key, add, change and remove.
 void addCatalogueCommands(CLI::App& app, const RootFinder& inRoot);
-/// check. Sets `status` to 1 if it finds an error, a warning under --strict, or a gap under --complete.
-void addCheckCommand(CLI::App& app, const RootFinder& inRoot, int& status);
+/// check. It throws if it finds an error, a warning under --strict, or a gap under --complete.
+void addCheckCommand(CLI::App& app, const RootFinder& inRoot);
 void addCoverageCommand(CLI::App& app, const RootFinder& inRoot);
 void addTemplateCommand(CLI::App& app, const RootFinder& inRoot);
 void addUpdateCommand(CLI::App& app, const RootFinder& inRoot);
 void addExportCommand(CLI::App& app, const RootFinder& inRoot);
-/// import. Sets `status` to 1 if it refuses a text of the file.
-void addImportCommand(CLI::App& app, const RootFinder& inRoot, int& status);
+/// import. It throws if it refuses a text of the file.
+void addImportCommand(CLI::App& app, const RootFinder& inRoot);
 /// page and pseudo.
 void addPageCommands(CLI::App& app, const RootFinder& inRoot);
 

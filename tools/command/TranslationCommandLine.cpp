@@ -91,7 +91,7 @@ std::string summaryOf(const TableUpdate& update) {
 
 }  // namespace
 
-void addCheckCommand(CLI::App& app, const RootFinder& inRoot, int& status) {
+void addCheckCommand(CLI::App& app, const RootFinder& inRoot) {
   struct Arguments {
     CheckOptions options;
     std::string format;
@@ -117,7 +117,7 @@ void addCheckCommand(CLI::App& app, const RootFinder& inRoot, int& status) {
   command->add_flag("--rules", arguments->showsRules, "List the rules, and check nothing");
   addFormat(*command, arguments->format);
   command->footer("Example: zkstrings check de --strict");
-  command->callback([arguments, inRoot, &status] {
+  command->callback([arguments, inRoot] {
     if (arguments->showsRules) return printRules();
     const std::string root = inRoot();
     for (std::string& language : arguments->options.languages) language = existingLanguage(root, language);
@@ -129,7 +129,7 @@ void addCheckCommand(CLI::App& app, const RootFinder& inRoot, int& status) {
              (diagnostic.severity == Severity::warning && arguments->isStrict) ||
              (diagnostic.severity == Severity::gap && arguments->isForRelease);
     };
-    status = std::any_of(result.diagnostics.begin(), result.diagnostics.end(), fails) ? 1 : 0;
+    if (std::any_of(result.diagnostics.begin(), result.diagnostics.end(), fails)) throw CommandFailed{};
   });
 }
 

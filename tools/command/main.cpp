@@ -6,6 +6,7 @@
 #include <ZKStrings/tools/support/Nearest.h>
 #include <ZKStrings/tools/support/Terminal.h>
 
+#include <algorithm>
 #include <csignal>
 #include <cstdio>
 #include <exception>
@@ -26,8 +27,6 @@ using namespace zk::tools;
 /// The exit statuses, the same in each subcommand. The manual page lists them.
 constexpr int kWrongFiles = 1;
 constexpr int kWrongUsage = 2;
-
-constexpr const char* kOutputFailed = "the output cannot be written; is the disk full?";
 
 void complain(std::string_view message) {
   print(stderr, fmt::format("{}\n", message));
@@ -62,6 +61,7 @@ void printReference(const CLI::App& app, const std::vector<std::string>& words) 
              stdout);
 }
 
+/// Runs the command line. Returns the exit status, or throws as the subcommands do.
 int run(int argc, char** argv) {
   CLI::App app{"Manage the text catalogue and its translations", "zkstrings"};
   app.formatter(std::make_shared<HelpFormatter>());
@@ -75,15 +75,14 @@ int run(int argc, char** argv) {
     return root;
   };
 
-  int status = 0;
   addInitCommand(app);
   addCatalogueCommands(app, aloneInRoot);
-  addCheckCommand(app, inRoot, status);
+  addCheckCommand(app, inRoot);
   addCoverageCommand(app, inRoot);
   addTemplateCommand(app, aloneInRoot);
   addUpdateCommand(app, aloneInRoot);
   addExportCommand(app, inRoot);
-  addImportCommand(app, aloneInRoot, status);
+  addImportCommand(app, aloneInRoot);
   addPageCommands(app, inRoot);
   for (CLI::App* const command : app.get_subcommands({})) command->fallthrough();
 
@@ -99,23 +98,24 @@ int run(int argc, char** argv) {
     print(stderr, fromWorkingDirectory(failed.diagnostics, root));
     return kWrongFiles;
   }
-  return status;
+  return 0;
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
   std::signal(SIGXFSZ, SIG_IGN);  // so writing beyond a limit fails, with a message
+  int status = kWrongFiles;
   try {
-    const int status = run(argc, argv);
-    if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0) return status;
-    complain(kOutputFailed);
+    status = run(argc, argv);
   } catch (const std::invalid_argument& refused) {
     complain(refused.what());
-    return kWrongUsage;
+    status = kWrongUsage;
   } catch (const std::exception& failure) {
-    // Whether fmt::print throws if it cannot write depends on its release.
-    complain(std::ferror(stdout) == 0 ? std::string("zkstrings: ") + failure.what() : kOutputFailed);
+    // Whether fmt::print throws if it cannot write depends on its version.
+    if (std::ferror(stdout) == 0) complain(fmt::format("zkstrings: {}", failure.what()));
   }
-  return kWrongFiles;
+  if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0) return status;
+  complain("the output cannot be written; is the disk full?");
+  return std::max(status, kWrongFiles);
 }

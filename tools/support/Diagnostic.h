@@ -37,7 +37,8 @@ using Diagnostics = std::vector<Diagnostic>;
 /// object a line.
 [[nodiscard]] std::string toJson(const Diagnostics& diagnostics);
 
-/// Thrown by a command that cannot go on; the program prints the diagnostics and ends with a failure.
+/// Thrown by a command that fails because of its files. The program prints the diagnostics and ends with status 1. There
+/// are none if the command has printed them already.
 struct CommandFailed {
   Diagnostics diagnostics;
 };

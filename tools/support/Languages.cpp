@@ -107,7 +107,7 @@ std::string languageCodeOf(std::string_view word) {
   return codeOfName(name);
 }
 
-std::string existingLanguage(const std::string& root, std::string_view word) {
+std::string existingLanguage(const std::string& root, std::string_view word, const std::string& file) {
   const std::vector<std::string> languages = languagesIn(root);
   const auto exists = [&](std::string_view name) {
     return std::find(languages.begin(), languages.end(), name) != languages.end();
@@ -120,7 +120,9 @@ std::string existingLanguage(const std::string& root, std::string_view word) {
 
   const std::string advice = code.empty() ? adviceFor(lowerCased(name), languages)
                                           : fmt::format("zkstrings template {} creates one", code);
-  throw std::invalid_argument(fmt::format("no language has a table named \"{}\"; {}", word, advice));
+  const std::string message = fmt::format("no language has a table named \"{}\"; {}", word, advice);
+  if (!file.empty()) fail(file, message);
+  throw std::invalid_argument(message);
 }
 
 std::string whyNeverChosen(std::string_view language) {

@@ -18,9 +18,11 @@ inline constexpr std::string_view kBase = "Base";
 /// language itself, without regard to the case of ASCII letters. Empty when it means none, or one that has no such code.
 [[nodiscard]] std::string languageCodeOf(std::string_view word);
 
-/// The directory name, among those of `languagesIn`, of the language that the user's `word` means: "Base" or a code.
-/// Throws `CommandFailed`, with the nearest that exists, when there is none.
-[[nodiscard]] std::string existingLanguage(const std::string& root, std::string_view word);
+/// The directory name, among those of `languagesIn`, of the language that `word` means: "Base" or a code. If there is none,
+/// the message suggests the nearest. It is thrown as `std::invalid_argument` for a word of the command line, and
+/// as `CommandFailed` for one from `file`.
+[[nodiscard]] std::string existingLanguage(const std::string& root, std::string_view word,
+                                           const std::string& file = "");
 
 /// Why the module never chooses the directory that is named after `language`, and what to do; empty when it
 /// does. It looks for directories named by the first two characters of the user's languages, and for
