@@ -12,10 +12,9 @@ namespace zk::tools {
 
 namespace {
 
-constexpr const char* kNotice =
-    "// Generated from catalogue/entries.json by `zkstrings generate`. Do not edit: change the catalogue "
-    "instead.\n"
-    "// clang-format off\n";
+const std::string kNotice = std::string(kGeneratedNotice) +
+                            " Do not edit: change the catalogue instead.\n"
+                            "// clang-format off\n";
 
 constexpr const char* kHeaderBegin = R"(#pragma once
 
@@ -100,12 +99,6 @@ std::string literal(std::string_view text) {
   return result;
 }
 
-/// The name of the accessor; that of the class would be its constructor's.
-std::string accessorOf(const Entry& entry, const CatalogueName& catalogue) {
-  const std::string name = identifierFor(entry.key);
-  return name == catalogue.name ? name + "_" : name;
-}
-
 std::string parametersOf(const Entry& entry, const CatalogueName& catalogue) {
   std::vector<std::string> parameters;
   for (const std::string_view name : placeholderNames(entry.text)) {
@@ -147,6 +140,11 @@ std::string commentOf(const Entry& entry, const Table& base) {
 }
 
 }  // namespace
+
+std::string accessorOf(const Entry& entry, const CatalogueName& catalogue) {
+  const std::string name = identifierFor(entry.key);
+  return name == catalogue.name ? name + "_" : name;
+}
 
 Accessors generateAccessors(const Catalogue& catalogue, const Table& base, const CatalogueName& name) {
   Accessors accessors{begin(kHeaderBegin, name),

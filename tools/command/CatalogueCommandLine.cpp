@@ -1,5 +1,7 @@
+#include <ZKStrings/tools/authoring/AccessorGenerator.h>
 #include <ZKStrings/tools/authoring/CatalogueFiles.h>
 #include <ZKStrings/tools/authoring/EntryCommands.h>
+#include <ZKStrings/tools/authoring/Uses.h>
 #include <ZKStrings/tools/command/Subcommands.h>
 #include <ZKStrings/tools/support/Characters.h>
 #include <ZKStrings/tools/support/Terminal.h>
@@ -10,6 +12,7 @@
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
@@ -128,6 +131,27 @@ void addRemoveCommand(CLI::App& app, const RootFinder& inRoot) {
   });
 }
 
+void addUnusedCommand(CLI::App& app, const RootFinder& inRoot) {
+  const auto directories = std::make_shared<std::vector<std::string>>();
+  auto* const command = app.add_subcommand("unused", "List the texts that no source file uses");
+  command->add_option("directories", *directories, "The folders of the program's sources")
+      ->required()
+      ->type_name("DIR");
+  command->footer("Example: zkstrings unused src");
+  command->callback([directories, inRoot] {
+    const Catalogue catalogue = Catalogue::read(inRoot());
+    const Uses uses(*directories, catalogue);
+    Diagnostics unused;
+    for (const Entry& entry : catalogue.entries()) {
+      if (uses.of(entry).empty())
+        unused.push_back(
+            {Severity::note, Catalogue::kFile, entry.line, 1, "",
+             fmt::format("no source file calls {}", accessorCall(entry, catalogue.settings().name))});
+    }
+    print(stdout, unused);
+  });
+}
+
 }  // namespace
 
 void addCatalogueCommands(CLI::App& app, const RootFinder& inRoot) {
@@ -137,6 +161,7 @@ void addCatalogueCommands(CLI::App& app, const RootFinder& inRoot) {
   addChangeCommand(app, inRoot);
   addRenameCommand(app, inRoot);
   addRemoveCommand(app, inRoot);
+  addUnusedCommand(app, inRoot);
 }
 
 }  // namespace zk::tools

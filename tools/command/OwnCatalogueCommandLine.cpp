@@ -2,6 +2,7 @@
 #include <ZKStrings/tools/command/Subcommands.h>
 #include <ZKStrings/tools/support/Terminal.h>
 
+#include <filesystem>
 #include <memory>
 
 #include <CLI/CLI.hpp>
@@ -25,7 +26,9 @@ void addInitCommand(CLI::App& app) {
   command->footer("Example: zkstrings init texts --name Texts --namespace myapp");
   command->callback([arguments] {
     initCatalogue(arguments->directory, arguments->name);
-    say("Wrote {0}; {0}/README.md explains the next steps.\n", arguments->directory);
+    const std::string& directory = arguments->directory;
+    say("Wrote {}; {} explains the next steps.\n", directory,
+        (std::filesystem::path(directory) / "README.md").string());
   });
 }
 

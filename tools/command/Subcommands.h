@@ -17,10 +17,11 @@ using RootFinder = std::function<std::string()>;
 
 /// init.
 void addInitCommand(CLI::App& app);
-/// generate, key, add, change and remove.
+/// generate, key, add, change, rename, remove and unused.
 void addCatalogueCommands(CLI::App& app, const RootFinder& inRoot);
 /// check. It throws if it finds an error, a warning under --strict, or a gap under --complete.
 void addCheckCommand(CLI::App& app, const RootFinder& inRoot);
+/// coverage. It throws if a language has less than --at-least.
 void addCoverageCommand(CLI::App& app, const RootFinder& inRoot);
 void addTemplateCommand(CLI::App& app, const RootFinder& inRoot);
 void addUpdateCommand(CLI::App& app, const RootFinder& inRoot);

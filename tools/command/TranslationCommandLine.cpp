@@ -85,8 +85,9 @@ std::string summaryOf(const TableUpdate& update) {
   add("added", update.added, "text to translate", "texts to translate");
   add("marked", update.marked, "text as untranslated", "texts as untranslated");
   add("unmarked", update.unmarked, "translated text", "translated texts");
+  add("marked", update.reviews, "translation for review", "translations for review");
   add("removed", update.removed, "entry that nothing looks up", "entries that nothing looks up");
-  return fmt::format("{}", fmt::join(done, ", "));
+  return done.empty() ? "refreshed comments" : fmt::format("{}", fmt::join(done, ", "));
 }
 
 }  // namespace
@@ -134,26 +135,43 @@ void addCheckCommand(CLI::App& app, const RootFinder& inRoot) {
 }
 
 void addCoverageCommand(CLI::App& app, const RootFinder& inRoot) {
-  const auto format = std::make_shared<std::string>();
+  struct Arguments {
+    std::string format;
+    std::size_t least = 0;
+  };
+  const auto arguments = std::make_shared<Arguments>();
   auto* const command = app.add_subcommand("coverage", "Show translation progress per language");
-  addFormat(*command, *format);
-  command->footer("Example: zkstrings coverage");
-  command->callback([format, inRoot] {
+  command
+      ->add_option("--at-least", arguments->least,
+                   "Fail if a language has fewer translated texts, in percent")
+      ->check(CLI::Range(0, 100))
+      ->type_name("N");
+  addFormat(*command, arguments->format);
+  command->footer("Example: zkstrings coverage --at-least 95");
+  command->callback([arguments, inRoot] {
     const std::vector<Coverage> languages = coverageOf(inRoot());
-    if (*format == kJson) {
+    if (arguments->format == kJson) {
       fmt::print("{}\n", toJson(languages));
     } else {
       print(stdout, formatted(languages));
     }
+    const auto isBelow = [&](const Coverage& coverage) { return coverage.percent() < arguments->least; };
+    if (std::any_of(languages.begin(), languages.end(), isBelow)) throw CommandFailed{};
   });
 }
 
 void addTemplateCommand(CLI::App& app, const RootFinder& inRoot) {
   const auto language = std::make_shared<std::string>();
   auto* const command = app.add_subcommand("template", "Create the table for a new language");
-  command->add_option("language", *language, "The language's ISO 639-1 code")->required()->type_name("CODE");
+  command->add_option("language", *language, "The language: its code or name")
+      ->required()
+      ->type_name("LANGUAGE");
   command->footer("Example: zkstrings template fi");
   command->callback([language, inRoot] {
+    // "swe" and "Swedish" mean "sv"; a region, as in "pt-BR", is refused.
+    if (const std::string code = languageCodeOf(*language);
+        !code.empty() && language->find_first_of("-_./@") == std::string::npos)
+      *language = code;
     const std::size_t texts = writeTemplate(inRoot(), *language);
     say("Wrote {} with {} texts to translate.\n", tablePath(*language), texts);
   });
@@ -178,7 +196,7 @@ void addUpdateCommand(CLI::App& app, const RootFinder& inRoot) {
     const TableUpdate update = updateTable(root, language, arguments->prunes);
     print(stdout, fromWorkingDirectory(update.notLookedUp, root));
     say("{}: {}\n", tablePath(language),
-        update.isChange() ? summaryOf(update) : "up to date, nothing changed");
+        update.isChange ? summaryOf(update) : "up to date, nothing changed");
   });
 }
 

@@ -1,6 +1,7 @@
 #include <ZKStrings/tools/support/Files.h>
 #include <ZKStrings/tools/support/Languages.h>
 #include <ZKStrings/tools/translation/TableEditor.h>
+#include <ZKStrings/tools/translation/TableReview.h>
 #include <ZKStrings/tools/translation/TableUpdate.h>
 #include <ZKStrings/tools/translation/Template.h>
 
@@ -13,7 +14,7 @@ namespace zk::tools {
 
 namespace {
 
-/// Marks an entry that is empty or still in English, and removes the mark from one that is not.
+/// Marks an entry that is empty or still in English as untranslated, and removes that mark from other entries.
 void updateMark(const TableEntry& entry, const EnglishText& english, std::string_view language,
                 TableEditor& editor, TableUpdate& update) {
   const TranslationState state = stateOf(language, &entry, english);
@@ -42,24 +43,28 @@ TableUpdate updateTable(const std::string& root, const std::string& language, bo
   if (std::string reason = whyNeverChosen(language); !reason.empty())
     fail(tablePath(language), std::move(reason));
   const Catalogue catalogue = Catalogue::read(root);
-  const EnglishTexts english(catalogue, Table::readWellFormed(root, kBase));
-  TableEditor editor = TableEditor::open(root, language);
-
+  const Table base = Table::readWellFormed(root, kBase);
+  const EnglishTexts english(catalogue, base);
   TableUpdate update;
-  const TableEntry* before = nullptr;
+  TableEditor before = TableEditor::open(root, language);
+  update.reviews = markChanged(before, english, base);
+  TableEditor editor(before.edited(), before.table().file);
+
+  const TableEntry* previous = nullptr;
   for (const EnglishText& text : english.all()) {
     if (const TableEntry* const entry = editor.table().find(text.key)) {
-      before = entry;
+      previous = entry;
       updateMark(*entry, text, language, editor, update);
     } else {
-      editor.insertAfter(before, untranslatedEntry(text));
+      editor.insertAfter(previous, untranslatedEntry(text));
       ++update.added;
     }
   }
   for (const TableEntry& entry : editor.table().entries) {
     if (!english.find(entry.key)) updateUnknown(entry, prunes, editor, update);
   }
-  if (editor.hasEdits()) writeFile(root, editor.table().file, editor.edited());
+  update.isChange = before.hasEdits() || editor.hasEdits();
+  if (update.isChange) writeFile(root, editor.table().file, editor.edited());
   return update;
 }
 

@@ -11,18 +11,19 @@ namespace zk::tools {
 struct TableUpdate {
   std::size_t added = 0;     ///< texts, in English
   std::size_t marked = 0;    ///< entries, as untranslated
-  std::size_t unmarked = 0;  ///< entries that are no longer
+  std::size_t unmarked = 0;  ///< entries that are translated now
+  std::size_t reviews = 0;   ///< entries marked for review, as their English text has changed
   std::size_t removed = 0;   ///< entries that nothing looks up
+  bool isChange = false;     ///< whether anything has changed, if only comments
   Diagnostics notLookedUp;   ///< the entries that nothing looks up and that are still there
 
-  [[nodiscard]] bool isChange() const { return added + marked + unmarked + removed > 0; }
 };
 
-/// Brings the table of `language` of the project at `root` up to date: adds what is missing, each text at its
-/// place in the catalogue's order, and marks what is still in English as untranslated, and nothing else.
-/// Removes the entries that nothing looks up when `prunes`. All else stays as it is. Throws `CommandFailed`,
-/// having changed nothing, when the language has no table, when the table, the English one or the catalogue
-/// is wrong, or when the file cannot be written.
+/// Brings the table of `language` of the project at `root` up to date: adds the missing texts in the catalogue's order,
+/// marks texts that are still in English as untranslated and those whose English has changed for review, and refreshes
+/// the comments with the English text and the context. Removes the entries that nothing looks up if `prunes`. Everything
+/// else stays as it is. Throws `CommandFailed`, and changes nothing, if the language has no table, if the table, the
+/// English table or the catalogue is wrong, or if the file cannot be written.
 TableUpdate updateTable(const std::string& root, const std::string& language, bool prunes);
 
 }  // namespace zk::tools

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <ZKStrings/tools/project/Catalogue.h>
+
+#include <map>
+#include <string>
+#include <vector>
+
+namespace zk::tools {
+
+/// Where the sources of a program call the accessors of a catalogue.
+class Uses {
+ public:
+  /// Searches the source files (C++, Objective-C++) of the folders `directories` for calls of the accessors of
+  /// `catalogue`: their names after the name of the class, or after an alias that one of the files gives it with
+  /// `using Alias = ...;`. Comments, strings and generated accessors do not count. Throws `std::invalid_argument` if the
+  /// folders have no source file.
+  Uses(const std::vector<std::string>& directories, const Catalogue& catalogue);
+  /// Finds no uses.
+  Uses() = default;
+
+  /// The places that call the accessor of `entry`, with or without a count: "src/menu.cpp:12".
+  [[nodiscard]] const std::vector<std::string>& of(const Entry& entry) const;
+
+ private:
+  std::map<std::string, std::vector<std::string>> places_;  // by key
+};
+
+}  // namespace zk::tools
