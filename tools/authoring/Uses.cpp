@@ -108,6 +108,7 @@ std::vector<SourceFile> sourceFilesIn(const std::vector<std::string>& directorie
 }  // namespace
 
 Uses::Uses(const std::vector<std::string>& directories, const Catalogue& catalogue) {
+  if (directories.empty()) return;
   const CatalogueName& name = catalogue.settings().name;
   std::map<std::string_view, std::string_view> keys;  // by accessor
   std::vector<std::string> accessors;
@@ -135,6 +136,10 @@ const std::vector<std::string>& Uses::of(const Entry& entry) const {
   static const std::vector<std::string> none;
   const auto places = places_.find(entry.key);
   return places == places_.end() ? none : places->second;
+}
+
+std::string Uses::noteOn(const Entry& entry) const {
+  return of(entry).empty() ? "" : fmt::format("Used in {}.", fmt::join(of(entry), ", "));
 }
 
 }  // namespace zk::tools

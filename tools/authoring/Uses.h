@@ -14,13 +14,13 @@ class Uses {
   /// Searches the source files (C++, Objective-C++) of the folders `directories` for calls of the accessors of
   /// `catalogue`: their names after the name of the class, or after an alias that one of the files gives it with
   /// `using Alias = ...;`. Comments, strings and generated accessors do not count. Throws `std::invalid_argument` if the
-  /// folders have no source file.
+  /// folders have no source file; no folders have no uses.
   Uses(const std::vector<std::string>& directories, const Catalogue& catalogue);
-  /// Finds no uses.
-  Uses() = default;
 
   /// The places that call the accessor of `entry`, with or without a count: "src/menu.cpp:12".
   [[nodiscard]] const std::vector<std::string>& of(const Entry& entry) const;
+  /// Those places for people: "Used in src/menu.cpp:12, src/shop.cpp:3."; empty if there are none.
+  [[nodiscard]] std::string noteOn(const Entry& entry) const;
 
  private:
   std::map<std::string, std::vector<std::string>> places_;  // by key

@@ -139,7 +139,8 @@ void addUnusedCommand(CLI::App& app, const RootFinder& inRoot) {
       ->type_name("DIR");
   command->footer("Example: zkstrings unused src");
   command->callback([directories, inRoot] {
-    const Catalogue catalogue = Catalogue::read(inRoot());
+    const std::string root = inRoot();
+    const Catalogue catalogue = Catalogue::read(root);
     const Uses uses(*directories, catalogue);
     Diagnostics unused;
     for (const Entry& entry : catalogue.entries()) {
@@ -148,11 +149,18 @@ void addUnusedCommand(CLI::App& app, const RootFinder& inRoot) {
             {Severity::note, Catalogue::kFile, entry.line, 1, "",
              fmt::format("no source file calls {}", accessorCall(entry, catalogue.settings().name))});
     }
-    print(stdout, unused);
+    print(stdout, fromWorkingDirectory(unused, root));
   });
 }
 
 }  // namespace
+
+void addSourcesOption(CLI::App& command, std::vector<std::string>& directories) {
+  command
+      .add_option("--sources", directories, "Add the places that use a text in this folder; can be repeated")
+      ->allow_extra_args(false)
+      ->type_name("DIR");
+}
 
 void addCatalogueCommands(CLI::App& app, const RootFinder& inRoot) {
   addGenerateCommand(app, inRoot);

@@ -29,6 +29,7 @@ struct ExportArguments {
   std::string format;
   std::string xliff;
   bool onlyOpen = false;
+  std::vector<std::string> sources;
 
   [[nodiscard]] ExchangeFormat chosenFormat() const {
     if (format == "po") return ExchangeFormat::po;
@@ -42,7 +43,7 @@ void runExport(const std::string& root, const ExportArguments& arguments) {
   if (!arguments.xliff.empty() && !arguments.format.empty() && arguments.format != "xliff")
     throw CLI::ValidationError("--xliff", fmt::format("not with --format {}", arguments.format));
   const std::string language = existingLanguage(root, arguments.language);
-  const Translations translations = translationsOf(root, language, arguments.onlyOpen);
+  const Translations translations = translationsOf(root, language, arguments.onlyOpen, arguments.sources);
   const std::string bytes = written(translations, arguments.chosenFormat());
   if (arguments.file.empty()) {
     fmt::print("{}", bytes);
@@ -114,6 +115,7 @@ void addExportCommand(CLI::App& app, const RootFinder& inRoot) {
       ->check(CLI::IsMember({"1.2", "2.0"}))
       ->type_name("VERSION");
   command->add_flag("--missing", arguments->onlyOpen, "Only texts that are not translated or need review");
+  addSourcesOption(*command, arguments->sources);
   command->footer("Example: zkstrings export de --missing -o de.xlf");
   command->callback([arguments, inRoot] { runExport(inRoot(), *arguments); });
 }

@@ -6,6 +6,8 @@
 
 #include <filesystem>
 #include <memory>
+#include <string>
+#include <vector>
 
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
@@ -18,17 +20,23 @@ constexpr const char* kPage = "build/texts.html";
 constexpr const char* kPseudoResources = "/build/pseudo/share/ZKStrings";
 
 void addPageCommand(CLI::App& app, const RootFinder& inRoot) {
-  const auto file = std::make_shared<std::string>();
+  struct Arguments {
+    std::string file;
+    std::vector<std::string> sources;
+  };
+  const auto arguments = std::make_shared<Arguments>();
   auto* const command = app.add_subcommand("page", "Write an HTML page of all texts in all languages");
-  command->add_option("-o,--output", *file, "The HTML file (default: build/texts.html)")->type_name("FILE");
+  command->add_option("-o,--output", arguments->file, "The HTML file (default: build/texts.html)")
+      ->type_name("FILE");
+  addSourcesOption(*command, arguments->sources);
   command->footer("Example: zkstrings page -o texts.html");
-  command->callback([file, inRoot] {
+  command->callback([arguments, inRoot] {
     const std::string root = inRoot();
-    const std::string page = pageOf(root);
-    const bool isNamed = !file->empty();
-    writeFile(isNamed ? "" : root, isNamed ? (std::filesystem::current_path() / *file).string() : kPage,
-              page);
-    say("Wrote {}. Open it in a browser.\n", isNamed ? *file : root + "/" + kPage);
+    const std::string& file = arguments->file;
+    const std::string page = pageOf(root, arguments->sources);
+    writeFile(file.empty() ? root : "",
+              file.empty() ? kPage : (std::filesystem::current_path() / file).string(), page);
+    say("Wrote {}. Open it in a browser.\n", file.empty() ? root + "/" + kPage : file);
   });
 }
 

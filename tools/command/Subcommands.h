@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 namespace CLI {
 class App;
@@ -30,5 +31,8 @@ void addExportCommand(CLI::App& app, const RootFinder& inRoot);
 void addImportCommand(CLI::App& app, const RootFinder& inRoot);
 /// page and pseudo.
 void addPageCommands(CLI::App& app, const RootFinder& inRoot);
+
+/// Adds the option --sources, the folders in which a subcommand searches for the places that use a text.
+void addSourcesOption(CLI::App& command, std::vector<std::string>& directories);
 
 }  // namespace zk::tools

@@ -195,8 +195,7 @@ void addUpdateCommand(CLI::App& app, const RootFinder& inRoot) {
     const std::string language = existingLanguage(root, arguments->language);
     const TableUpdate update = updateTable(root, language, arguments->prunes);
     print(stdout, fromWorkingDirectory(update.notLookedUp, root));
-    say("{}: {}\n", tablePath(language),
-        update.isChange ? summaryOf(update) : "up to date, nothing changed");
+    say("{}: {}\n", tablePath(language), update.isChange ? summaryOf(update) : "up to date, nothing changed");
   });
 }
 

@@ -1,3 +1,4 @@
+#include <ZKStrings/tools/authoring/Uses.h>
 #include <ZKStrings/tools/exchange/Export.h>
 #include <ZKStrings/tools/project/Catalogue.h>
 #include <ZKStrings/tools/project/CatalogueSettings.h>
@@ -58,11 +59,13 @@ std::vector<std::string> notesOn(const EnglishText& english) {
 
 }  // namespace
 
-Translations translationsOf(const std::string& root, const std::string& language, bool onlyOpen) {
+Translations translationsOf(const std::string& root, const std::string& language, bool onlyOpen,
+                            const std::vector<std::string>& sources) {
   if (language == kBase)
     throw std::invalid_argument("the English texts are not translated; name the language to translate into");
   const Catalogue catalogue = Catalogue::read(root);
   const EnglishTexts english(catalogue, Table::readWellFormed(root, kBase));
+  const Uses uses(sources, catalogue);
   const Table table = Table::readWellFormed(root, language);
   Translations translations{language, {}, CatalogueSettings::read(root).name.name};
   for (const EnglishText& text : english.all()) {
@@ -71,6 +74,7 @@ Translations translationsOf(const std::string& root, const std::string& language
     if (onlyOpen && state == TranslationState::translated) continue;
     const std::string translation(translationIn(entry, state));
     std::vector<std::string> notes = notesOn(text);
+    if (std::string places = uses.noteOn(*text.entry); !places.empty()) notes.push_back(std::move(places));
     notes.push_back(versionNote(translation, state));
     const bool needsReview = state == TranslationState::needsReview;
     translations.units.push_back({text.key, text.text, translation, state,

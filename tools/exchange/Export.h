@@ -5,15 +5,17 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace zk::tools {
 
 /// The texts that the app looks up, each with its English text, its translation in the table of `language` ("de") of
 /// the project at `root`, and notes for translators, in catalogue order. A text that is not translated has no target.
-/// With `onlyOpen`, texts that are translated and need no review are left out. Throws `CommandFailed` for the English
+/// With `onlyOpen`, texts that are translated and need no review are left out. Notes name the places of use in
+/// the folders `sources`. Throws `CommandFailed` for the English
 /// table, for a language without a table, and if the table, the English table or the catalogue is not well-formed.
-[[nodiscard]] Translations translationsOf(const std::string& root, const std::string& language,
-                                          bool onlyOpen);
+[[nodiscard]] Translations translationsOf(const std::string& root, const std::string& language, bool onlyOpen,
+                                          const std::vector<std::string>& sources = {});
 
 /// The translation in `entry` (null if the table has none), which has that state; empty if it is not translated.
 [[nodiscard]] std::string_view translationIn(const TableEntry* entry, TranslationState state);

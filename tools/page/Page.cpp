@@ -1,5 +1,6 @@
 #include <ZKStrings/platform/text/UnicodeText.h>
 #include <ZKStrings/tools/authoring/AccessorGenerator.h>
+#include <ZKStrings/tools/authoring/Uses.h>
 #include <ZKStrings/tools/check/Checker.h>
 #include <ZKStrings/tools/page/Page.h>
 #include <ZKStrings/tools/page/PageParts.h>
@@ -59,9 +60,10 @@ char letterOf(TranslationState state) {
 
 class DataMaker {
  public:
-  explicit DataMaker(const std::string& root)
+  DataMaker(const std::string& root, const std::vector<std::string>& sources)
       : root_(root),
         catalogue_(Catalogue::read(root)),
+        uses_(sources, catalogue_),
         english_(catalogue_, Table::read(root, kBase)),
         shown_(root, english_),
         diagnostics_(check(root, {.languages = {}, .off = {}, .notes = true}).diagnostics) {}
@@ -81,9 +83,15 @@ class DataMaker {
   }
 
  private:
+  [[nodiscard]] std::string contextOf(const Entry& entry) const {
+    const std::string context = entry.context();
+    const std::string uses = uses_.noteOn(entry);
+    return context + (context.empty() || uses.empty() ? "" : " ") + uses;
+  }
+
   [[nodiscard]] Json dataOf(const Entry& entry) const {
     return {{"key", entry.key},
-            {"context", entry.context()},
+            {"context", contextOf(entry)},
             {"counted", entry.plural},
             {"formatted", !placeholderNames(entry.text).empty()},
             {"call", accessorCall(entry, catalogue_.settings().name)}};
@@ -135,6 +143,7 @@ class DataMaker {
 
   const std::string root_;
   const Catalogue catalogue_;
+  const Uses uses_;
   const EnglishTexts english_;
   const ShownTexts shown_;
   const Diagnostics diagnostics_;
@@ -142,13 +151,13 @@ class DataMaker {
 
 }  // namespace
 
-std::string pageData(const std::string& root) {
-  return DataMaker(root).all().dump(-1, ' ', false, Json::error_handler_t::replace);
+std::string pageData(const std::string& root, const std::vector<std::string>& sources) {
+  return DataMaker(root, sources).all().dump(-1, ' ', false, Json::error_handler_t::replace);
 }
 
-std::string pageOf(const std::string& root) {
+std::string pageOf(const std::string& root, const std::vector<std::string>& sources) {
   std::string page(kPageBeforeData);
-  for (const char byte : pageData(root)) {
+  for (const char byte : pageData(root, sources)) {
     // Escaped, so that no text can end the data or begin a comment in it. JSON has this sign in strings only.
     if (byte == '<') {
       page += "\\u003c";
