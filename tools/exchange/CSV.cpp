@@ -20,8 +20,9 @@ constexpr std::string_view kFormulaSigns[] = {"=", "+", "-", "@", "\t", "\r", "ï
 /// After these, a program that expects another separator starts a new cell.
 constexpr std::string_view kCellEnds = "\n\r;\t";
 
-bool isFormulaAfterApostrophes(std::string_view text) {
-  text.remove_prefix(std::min(text.find_first_not_of('\''), text.size()));
+/// Whether `text` is a formula for a spreadsheet, maybe after apostrophes and quotes.
+bool isFormula(std::string_view text) {
+  text.remove_prefix(std::min(text.find_first_not_of("'\""), text.size()));
   return std::any_of(std::begin(kFormulaSigns), std::end(kFormulaSigns),
                      [&](std::string_view sign) { return text.starts_with(sign); });
 }
@@ -33,9 +34,10 @@ std::string changeGuards(std::string_view text, Guards guards) {
   std::string result;
   bool isCellStart = true;
   for (; !text.empty(); text.remove_prefix(1)) {
-    const bool isFormula = isCellStart && isFormulaAfterApostrophes(text);
-    if (isFormula && guards == Guards::add) result += '\'';
-    if (isFormula && guards == Guards::remove && text[0] == '\'') text.remove_prefix(1);
+    if (isCellStart && isFormula(text)) {
+      if (guards == Guards::add) result += '\'';
+      if (guards == Guards::remove && text[0] == '\'') text.remove_prefix(1);
+    }
     result += text[0];
     isCellStart = kCellEnds.find(text[0]) != std::string_view::npos;
   }

@@ -65,6 +65,7 @@ TEST(ExchangeFormat, ReadsWhatItWrites) {
       "\"\u0301 &\u0301 <\u0301 \\\u0301",
       "one\n=1+1\n'-2;+3;\t@4",
       "'\n=1",
+      "\"+1\"\n\"'\"-",
   };
   Translations sent{"de", {}};
   for (const char* const text : kTexts) {
@@ -96,11 +97,11 @@ TEST(ExchangeFormat, KeepsAllShippedTexts) {
 TEST(ExchangeFormat, WritesNoFormulasForSpreadsheets) {
   Translations sent{"de", {}};
   for (const char* const text : {"=1+1", "+1", "-1", "@SUM(A1)", "\t=1", "\r=1", "'=1", "＝1", "a\n=1",
-                                 "a;=1", "\"\u0301,=1", "a\n;\t=1"})
+                                 "a;=1", "a\n\"=1", "\"\u0301,=1", "a\n;\t=1"})
     sent.units.push_back({text, text, text, TranslationState::translated, text});
   const std::string table = written(sent, ExchangeFormat::csv);
-  constexpr const char* kFormulas[] = {",\"=", ",\"+", ",\"-", ",\"@", ",\"\t",  ",\"\r", ",\"＝",
-                                       "\n=",  "\t=",  "\n\t", ";=",   ",\"\"=", "\n;=",  ";\t"};
+  constexpr const char* kFormulas[] = {",\"=",    ",\"+", ",\"-", ",\"@", ",\"\t",  ",\"\r", ",\"＝", "\n=",
+                                       "\n\"\"=", "\t=",  "\n\t", ";=",   ",\"\"=", "\n;=",  ";\t"};
   for (const char* const begin : kFormulas)
     EXPECT_EQ(table.find(begin), std::string::npos) << begin << "\n" << table;
 }
