@@ -24,7 +24,7 @@ function dataOf(file) {
 }
 
 /** A text of the data without the marks around its values. */
-const unmarked = (text) => text.replace(/\uFDD0.*?\uFDD1(.*?)\uFDD2/gs, "$1");
+const unmarked = (text) => text.replace(/\uFDD0[^\uFDD1]*\uFDD1([^\uFDD2]*)\uFDD2/g, "$1");
 
 async function startBrowser() {
   return chromium.launch({ executablePath: process.env.ZK_CHROMIUM });

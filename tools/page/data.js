@@ -39,7 +39,7 @@ const entries = data.entries.map((entry) => {
 const entriesByAddress = new Map(entries.map((entry) => [entry.address, entry]));
 
 /** Matches a value that the engine has filled in, with the name of its placeholder. */
-const VALUE = /\uFDD0(.*?)\uFDD1(.*?)\uFDD2/gs;
+const VALUE = /\uFDD0([^\uFDD0-\uFDD2]*)\uFDD1([^\uFDD0-\uFDD2]*)\uFDD2/g;
 
 /** The percentage by which the text is longer than the English text. */
 function excess(language, text) {
