@@ -1,56 +1,62 @@
-// Uses the module from many threads at once for a while, and ends with status 1 when a text belongs to no language that
-// was set while it was looked up, or when memory grows.
+// Uses the module from many threads at once for a while. Exits with status 1 if a text is in a language that was not
+// set while it was looked up, if first uses on several threads disagree, or if memory grows.
 //   zk_soak SECONDS
 
 #include <ZKStrings/ZKStrings.h>
-#include <ZKStrings/platform/ServiceView.h>
-#include <ZKStrings/tests/threads/FirstUse.h>
-#include <ZKStrings/tests/threads/Writers.h>
+#include <ZKStrings/platform/Resolver.h>
 
 #include <algorithm>
 #include <atomic>
 #include <chrono>
+#include <cstddef>
+#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
-#include <fstream>
+#include <functional>
+#include <iterator>
 #include <string>
 #include <thread>
+#include <utility>
 #include <vector>
 
 #include <malloc.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
-namespace zk::soak {
+namespace zk {
 
 namespace {
 
-[[noreturn]] void fail(const std::string& fault) {
-  std::fprintf(stderr, "zk_soak: %s\n", fault.c_str());
+[[noreturn]] void fail(const std::string& message) {
+  std::fprintf(stderr, "zk_soak: %s\n", message.c_str());
   std::_Exit(1);
 }
 
-/// One accessor of each family.
-constexpr std::string (*kFamilies[])() = {
+constexpr const char* kLanguages[] = {"ar", "da", "de", "es", "fr", "hi", "id", "it", "ja", "ko",
+                                      "nb", "nl", "pl", "pt", "ru", "sv", "tr", "uk", "vi", "zh"};
+
+/// One accessor of each form.
+constexpr std::string (*kAccessors[])() = {
     [] { return ZKStrings::About(); },
     [] { return ZKStrings::Your_Extra_Lives_are_on_the_way(2); },
     [] { return ZKStrings::Are_you_sure_you_want_to_kick_username("a player with a long name"); },
     [] { return ZKStrings::badgeCount_Badges("4", 4); },
 };
 
-/// The texts of the families in one language.
+/// The texts of the accessors in one language.
 using Texts = std::vector<std::string>;
 
-std::vector<Texts> textsOfAllLanguages() {
+std::vector<Texts> textsInAllLanguages() {
   std::vector<Texts> all;
   for (const char* language : kLanguages) {
     Current::language->preferredLanguages = {language};
     Texts& texts = all.emplace_back();
-    for (const auto family : kFamilies) texts.push_back(family());
+    for (const auto accessor : kAccessors) texts.push_back(accessor());
   }
   return all;
 }
 
-/// A service whose making and whose end look texts up.
+/// A service whose factory and destructor look texts up.
 struct Greeting {
   explicit Greeting(std::string shown) : text(std::move(shown)) {}
   Greeting(const Greeting&) = default;
@@ -59,138 +65,178 @@ struct Greeting {
   std::string text;
 };
 
+void registerGreeting() {
+  Resolver::register_<Greeting>([] {
+    Resolver::register_<std::string>([] { return ZKStrings::About(); });
+    return Greeting(Resolver::resolve<std::string>());
+  }).scope(ResolverScope::application);
+}
+
 class Soak {
  public:
-  Soak() : texts_(textsOfAllLanguages()) { registerGreeting(); }
+  Soak() : texts_(textsInAllLanguages()) {
+    registerGreeting();
+    setNextLanguage();
+  }
 
-  /// Lets the threads do their work for a while. In every fourth round all writers are at work, else one.
-  void round(int number, std::chrono::milliseconds time) {
+  /// Runs a writer and several readers for `time`.
+  void run(std::chrono::milliseconds time) {
     isOver_ = false;
-    writers_.restart();
     std::vector<std::thread> threads;
-    const auto add = [&](auto work) {
+    const auto repeat = [&](auto work) {
       threads.emplace_back([this, work] {
         while (!isOver_) work();
       });
     };
-    for (std::size_t way = 0; way < Writers::kWays; ++way) {
-      const auto turn = static_cast<std::size_t>(number) % (Writers::kWays + 1);
-      if (turn == way || turn == Writers::kWays) add([this, way] { writers_.write(way); });
-    }
-    for (int i = 0; i < 3; ++i) add([this] { readTexts(); });
-    add([this] { readLanguage(); });
-    add([this] { useServices(); });
-    for (int i = 0; i < 2; ++i) {
-      add([this] {
-        std::thread([this] { readTexts(); }).join();
-        ++shortThreads_;
-      });
-    }
+    repeat([this] { setNextLanguage(); });
+    for (int i = 0; i < 3; ++i) repeat([this] { readTexts(); });
+    repeat([this] { readLanguage(); });
+    for (int i = 0; i < 2; ++i) repeat([this] { useServices(); });
+    for (int i = 0; i < 2; ++i) repeat([this] { std::thread([this] { readTexts(); }).join(); });
     std::this_thread::sleep_for(time);
     isOver_ = true;
     for (std::thread& thread : threads) thread.join();
   }
 
-  void report(int rounds) const {
-    std::printf("%d rounds: %llu texts, %llu changes of the language, %llu threads that came and went\n",
-                rounds, static_cast<unsigned long long>(lookups_),
-                static_cast<unsigned long long>(writers_.changes()),
-                static_cast<unsigned long long>(shortThreads_));
+  void report() const {
+    std::printf("%llu texts, %llu changes of the language\n", static_cast<unsigned long long>(lookups_),
+                static_cast<unsigned long long>(done_));
   }
 
  private:
+  /// Sets the next language in each of the three ways in turn. Called by one thread at a time.
+  void setNextLanguage() {
+    constexpr std::uint64_t kBurst = 8;
+    const std::uint64_t number = ++begun_;
+    const SharedArray<std::string> list = {kLanguages[number % std::size(kLanguages)]};
+    if (number % 3 == 0) {
+      Language now = Current::language;
+      now.preferredLanguages = list;
+      Current::language = now;
+    } else if (number % 3 == 1) {
+      Current::language->preferredLanguages = list;
+    } else {
+      Current::language.change([&](Language& now) { now.preferredLanguages = list; });
+    }
+    done_ = number;
+    // In the pauses only one language is right.
+    if (number % kBurst == 0) std::this_thread::sleep_for(std::chrono::microseconds(100));
+  }
+
+  /// Whether `matches(index of a language)` is true for a language that was set at some time after `done` changes.
+  template <class Matches>
+  [[nodiscard]] bool anySince(std::uint64_t done, Matches matches) const {
+    const std::uint64_t begun = begun_;
+    for (std::uint64_t number = done; number <= begun; ++number)
+      if (matches(number % std::size(kLanguages))) return true;
+    return false;
+  }
+
   void readTexts() {
-    for (std::size_t family = 0; family < std::size(kFamilies); ++family) {
-      const Writers::Moment before = writers_.done();
-      const std::string text = kFamilies[family]();
-      const bool isRight =
-          writers_.anySince(before, [&](std::size_t language) { return texts_[language][family] == text; });
-      if (!isRight) fail("\"" + text + "\" belongs to no language that was set at that time");
+    for (std::size_t i = 0; i < std::size(kAccessors); ++i) {
+      const std::uint64_t done = done_;
+      const std::string text = kAccessors[i]();
+      if (!anySince(done, [&](std::size_t language) { return texts_[language][i] == text; }))
+        fail("\"" + text + "\" is in a language that was not set at that time");
       ++lookups_;
     }
   }
 
   void readLanguage() {
-    const Writers::Moment before = writers_.done();
-    const Language one = Current::language;
-    const Language other = Resolver::resolve<Language>();
-    for (const Language& read : {one, other}) {
-      const std::string& first = read.preferredLanguages[0];
-      const bool isRight =
-          writers_.anySince(before, [&](std::size_t language) { return kLanguages[language] == first; });
-      if (!isRight || read.preferredLanguageCountry() != first) fail(first + " was not set at that time");
-    }
-    if (one.country() != one.preferredLanguages[0]) fail("A country is not that of its language");
-    if (one.countries.empty() || Locale::preferredLanguages().empty()) fail("A list is empty");
-  }
-
-  void registerGreeting() {
-    Resolver::register_<Greeting>([] {
-      Resolver::register_<std::string>([] { return ZKStrings::About(); });
-      return Greeting(Resolver::resolve<std::string>());
-    }).scope(ResolverScope::application);
+    const std::uint64_t done = done_;
+    const Language read = Current::language;
+    const std::string& first = read.preferredLanguages[0];
+    if (!anySince(done, [&](std::size_t language) { return kLanguages[language] == first; }))
+      fail(first + " was not set at that time");
+    if (read.country() != first) fail("a country is not that of its language");
+    if (read.countries.empty() || Locale::preferredLanguages().empty()) fail("a list is empty");
   }
 
   void useServices() {
     registerGreeting();
-    const std::string text = ServiceView<Greeting>()->text;
+    const std::string text = Resolver::resolve<Greeting>().text;
     const auto isAbout = [&](const Texts& texts) { return texts[0] == text; };
-    if (std::none_of(texts_.begin(), texts_.end(), isAbout)) fail("\"" + text + "\" is of no language");
+    if (std::none_of(texts_.begin(), texts_.end(), isAbout)) fail("\"" + text + "\" is in no language");
   }
 
   const std::vector<Texts> texts_;
-  Writers writers_{};
   std::atomic<bool> isOver_ = false;
+  std::atomic<std::uint64_t> begun_ = 0;  // changes of the language
+  std::atomic<std::uint64_t> done_ = 0;
   std::atomic<std::uint64_t> lookups_ = 0;
-  std::atomic<std::uint64_t> shortThreads_ = 0;
 };
 
-struct Memory {
-  std::size_t heap;      // what is allocated; nothing under sanitizers
-  std::size_t resident;  // what the process takes of the machine's
-};
+/// Whether `get` returns the same on several threads that call it at once.
+template <class Get>
+bool isSameOnAllThreads(Get get) {
+  constexpr int kThreads = 8;
+  std::atomic<int> waiting = kThreads;
+  std::vector<decltype(get())> results(kThreads);
+  std::vector<std::thread> threads;
+  for (auto& result : results) {
+    threads.emplace_back([&] {
+      --waiting;
+      while (waiting > 0) std::this_thread::yield();
+      result = get();
+    });
+  }
+  for (std::thread& thread : threads) thread.join();
+  return std::adjacent_find(results.begin(), results.end(), std::not_equal_to()) == results.end();
+}
 
-Memory usedMemory() {
+bool areFirstUsesTheSame() {
+  const bool sameBundles = isSameOnAllThreads([] { return std::pair(&bundle(), &mainBundle()); });
+  const bool sameCountries = isSameOnAllThreads([] { return Language().countries.size(); });
+  Current::language = Language{};
+  // ICU sets up tables when it first meets joined emoji and accents.
+  Current::language->preferredLanguages = {"👨‍👩‍👧x", "e\u0301x", "de-DE"};
+  return sameBundles && sameCountries && isSameOnAllThreads([] {
+           return localizedString("About", "%{é}", std::nullopt, {{"e\u0301", "English"}});
+         }) &&
+         ZKStrings::About() == "Über uns";
+}
+
+/// Each process has its first uses only once, so several are tried.
+void testFirstUses() {
+  constexpr int kProcesses = 20;
+  for (int i = 0; i < kProcesses; ++i) {
+    const pid_t child = fork();
+    if (child == 0) _exit(areFirstUsesTheSame() ? 0 : 1);
+    int status = 0;
+    if (waitpid(child, &status, 0) != child || status != 0) fail("first uses on several threads disagree");
+  }
+}
+
+/// The bytes that are allocated. Sanitizers have an allocator of their own, which reports none.
+std::size_t allocatedBytes() {
   const struct mallinfo2 info = mallinfo2();
-  std::size_t pages = 0;
-  std::ifstream("/proc/self/statm") >> pages >> pages;
-  return {info.uordblks + info.hblkhd, pages * static_cast<std::size_t>(sysconf(_SC_PAGESIZE))};
+  return info.uordblks + info.hblkhd;
 }
 
-/// Fails when there is more now than after the first rounds.
-void expectNoGrowth(const Memory& before, const Memory& now) {
-  constexpr std::size_t kHeapTolerance = 16 * 1024;
-  constexpr std::size_t kResidentTolerance = 8 << 20;
-  std::printf("Memory: %zu KB of the heap, then %zu; %zu KB of the machine's, then %zu\n", before.heap / 1024,
-              now.heap / 1024, before.resident / 1024, now.resident / 1024);
-  if (before.heap == 0) return;  // sanitizers keep what was freed for a while
-  if (now.heap > before.heap + kHeapTolerance) fail("The heap grows");
-  if (now.resident > before.resident + kResidentTolerance) fail("The process grows");
-}
-
-int run(int seconds) {
+void run(int seconds) {
   constexpr int kRounds = 10;
   constexpr int kWarmUps = 3;
-  if (!isFirstUseSafe()) fail("First uses on several threads at once do not agree");
+  constexpr std::size_t kTolerance = 16 * 1024;
+  testFirstUses();
   Current::language = Language{};
   Soak soak;
-  Memory before{};
+  std::size_t before = 0;
   for (int round = 0; round < kRounds; ++round) {
-    if (round == kWarmUps) before = usedMemory();
-    soak.round(round, std::chrono::milliseconds(seconds * 1000 / kRounds));
+    if (round == kWarmUps) before = allocatedBytes();
+    soak.run(std::chrono::milliseconds(seconds * 1000 / kRounds));
   }
-  soak.report(kRounds);
-  expectNoGrowth(before, usedMemory());
-  return 0;
+  soak.report();
+  if (const std::size_t now = allocatedBytes(); now > before + kTolerance)
+    fail("the heap grew from " + std::to_string(before) + " to " + std::to_string(now) + " bytes");
 }
 
 }  // namespace
 
-}  // namespace zk::soak
+}  // namespace zk
 
 int main(int argc, char** argv) {
   const int seconds = argc == 2 ? std::atoi(argv[1]) : 0;
-  if (seconds > 0) return zk::soak::run(seconds);
+  if (seconds > 0) return zk::run(seconds), 0;
   std::fputs("zk_soak SECONDS\n", stderr);
   return 2;
 }
