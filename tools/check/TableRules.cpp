@@ -158,7 +158,7 @@ std::vector<std::string_view> missingKeys(const CheckedTable& subject) {
 void findMissingEnglish(const CheckedTable& subject, Findings& findings) {
   if (subject.language != kBase || !isWellFormed(subject) || subject.table.entries.empty()) return;
   for (const std::string_view key : missingKeys(subject)) {
-    findings.add(kFileBegin, fmt::format("the English table lacks \"{}\"; add the entry", key));
+    findings.add(kFileBegin, fmt::format("the English table lacks \"{}\"; run zkstrings generate", key));
   }
 }
 
@@ -251,9 +251,13 @@ void findUntranslated(const CheckedTable& subject, Findings& findings) {
 
 void findNeedsReview(const CheckedTable& subject, Findings& findings) {
   forEachIn(TranslationState::needsReview, subject, [&](const TableEntry* entry) {
+    const bool isMarked = zk::tools::isMarked(*entry, TranslationState::needsReview);
+    const std::optional<std::string> before = quotedIn(*entry, isMarked ? kState : kExplanation);
     findings.add(
-        *entry, fmt::format("the English text of \"{}\" has changed; correct the translation, then remove {}",
-                            escaped(entry->key), markFor(TranslationState::needsReview)));
+        *entry,
+        fmt::format("the English text of \"{}\" has changed{}; correct the translation, then {}",
+                    escaped(entry->key), before ? fmt::format(" from \"{}\"", escaped(*before)) : "",
+                    isMarked ? "remove the comment \"state:\"" : "the comment \"English:\" before it"));
   });
 }
 

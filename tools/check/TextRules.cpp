@@ -135,10 +135,11 @@ void findRepeated(const Translation& translation, Findings& findings) {
 
 // Marks, white space, punctuation and numbers
 
-/// The English table must equal the catalogue, except for plural forms, which only the table has.
+/// The English table must equal the catalogue. A catalogue without plural forms takes them from the table.
 void findOtherEnglish(const Translation& translation, Findings& findings) {
   const EnglishText& english = translation.english;
-  if (translation.language != kBase || !english.suffix.empty()) return;
+  const bool isOnlyInTable = !english.suffix.empty() && !formOf(*english.entry, 0);
+  if (translation.language != kBase || isOnlyInTable) return;
   if (translation.entry.text == english.text) return;
   findings.add(translation.entry, fmt::format("the catalogue has \"{}\" here; run zkstrings generate, or "
                                               "zkstrings change {} to change the English text",

@@ -4,6 +4,7 @@
 #include <ZKStrings/tools/project/Table.h>
 #include <ZKStrings/tools/support/Characters.h>
 #include <ZKStrings/tools/support/Files.h>
+#include <ZKStrings/tools/support/Json.h>
 #include <ZKStrings/tools/support/Position.h>
 #include <ZKStrings/tools/texts/TextFeatures.h>
 
@@ -24,113 +25,83 @@ namespace {
 constexpr std::pair<Entry::Kept, const char*> kKeptNames[] = {{Entry::Kept::key, "key"},
                                                               {Entry::Kept::place, "place"}};
 
-constexpr const char* kNoObject = R"(the line is no JSON object; write {"key": "...", "text": "..."})";
-
-/// Reads the lines of entries.json into entries and collects what is wrong with each by itself.
-class Reader {
- public:
-  Reader(std::string file, bool toleratesCommas, Diagnostics& diagnostics)
-      : file_(std::move(file)), toleratesCommas_(toleratesCommas), diagnostics_(diagnostics) {}
-
-  std::vector<Entry> read(std::string_view json) {
-    const std::vector<std::string_view> lines = linesOf(json);
-    std::vector<Entry> entries;
-    if (lines.size() < 2 || lines.front() != "[" || lines.back() != "]") {
-      fail(1, 1, "the file is no list of entries; write \"[\", one entry a line, \"]\"");
-      return entries;
-    }
-    for (line_ = 2; line_ < lines.size(); ++line_) {
-      if (std::optional<Entry> entry = readLine(lines[line_ - 1], line_ + 1 == lines.size())) {
-        entries.push_back(*std::move(entry));
-      }
-    }
-    return entries;
+void storePlural(Entry& entry, const JsonValue& value) {
+  entry.plural = value.isTrue();
+  if (entry.plural) return;
+  if (!value.isObject() || value.members().empty()) value.fail("write true, or forms: {\"one\": \"...\"}");
+  entry.plural = true;
+  for (const auto& [name, nameAt, text] : value.members()) {
+    const auto* const form = std::find_if(
+        std::begin(kPluralForms), std::end(kPluralForms),
+        [&, &formName = name](const PluralForm& known) { return known.suffix.substr(1) == formName; });
+    if (form == std::end(kPluralForms))
+      value.failAt(nameAt, fmt::format("unknown form \"{}\"; known are zero, one, two, few, many", name));
+    entry.forms[static_cast<std::size_t>(form - kPluralForms)] = text.text();
   }
+}
 
- private:
-  void fail(std::size_t line, std::size_t column, std::string message) {
-    diagnostics_.push_back({Severity::error, file_, line, column, "", std::move(message)});
+void storeKept(Entry& entry, const JsonValue& value) {
+  for (const auto& [kept, name] : kKeptNames) {
+    if (value.text() == name) entry.kept = kept;
   }
+  if (entry.kept == Entry::Kept::nothing) value.fail("write \"key\" or \"place\"");
+}
 
-  std::optional<Entry> readLine(std::string_view line, bool isLast) {
+void storeMax(Entry& entry, const JsonValue& value) {
+  if (value.integer() < 1) value.fail("write a number from 1");
+  entry.max = static_cast<std::size_t>(value.integer());
+}
+
+constexpr KnownMember<Entry> kEntryMembers[] = {
+    {"key", [](Entry& entry, const JsonValue& value) { entry.key = value.nonEmptyText(); }},
+    {"text", [](Entry& entry, const JsonValue& value) { entry.text = value.nonEmptyText(); }},
+    {"plural", storePlural},
+    {"kept", storeKept},
+    {"comment", [](Entry& entry, const JsonValue& value) { entry.comment = value.text(); }},
+    {"max", storeMax},
+};
+
+/// Returns the entry of one line, without its comma.
+Entry entryFrom(std::string_view line, std::string_view file, std::size_t number) {
+  const JsonValue object = JsonValue::parse(line, file, {number, 1});
+  Entry entry;
+  entry.line = number;
+  storeMembers(object, entry, kEntryMembers);
+  if (entry.key.empty() || entry.text.empty()) object.fail("the entry needs a \"key\" and a \"text\"");
+  return entry;
+}
+
+/// Reads the lines of entries.json and adds what is wrong with each to `diagnostics`.
+std::vector<Entry> readEntries(std::string_view json, const std::string& file, bool toleratesCommas,
+                               Diagnostics& diagnostics) {
+  const auto fail = [&](Position at, std::string message) {
+    diagnostics.push_back({Severity::error, file, at.line, at.column, "", std::move(message)});
+  };
+  diagnostics = mergeConflictsIn(json, file);
+  if (!diagnostics.empty()) return {};
+  const std::vector<std::string_view> lines = linesOf(json);
+  if (lines.size() < 2 || lines.front() != "[" || lines.back() != "]") {
+    fail({1, 1}, "the file is not a list of entries; write \"[\", one entry per line, \"]\"");
+    return {};
+  }
+  std::vector<Entry> entries;
+  for (std::size_t number = 2; number < lines.size(); ++number) {
+    std::string_view line = lines[number - 1];
+    const bool isLast = number + 1 == lines.size();
     const bool hasComma = line.ends_with(',');
     if (hasComma) line.remove_suffix(1);
-    if (hasComma == isLast && !toleratesCommas_) {
-      fail(line_, positionOf(line, line.size()).column,
-           isLast ? "a comma behind the last entry; remove it" : "no comma behind the entry; add one");
+    if (hasComma == isLast && !toleratesCommas) {
+      fail({number, positionOf(line, line.size()).column},
+           isLast ? "a comma after the last entry; remove it" : "no comma after the entry; add one");
     }
     try {
-      return entryFrom(nlohmann::json::parse(line));
-    } catch (const nlohmann::json::parse_error& fault) {
-      fail(line_, positionOf(line, std::max<std::size_t>(fault.byte, 1) - 1).column, kNoObject);
-    } catch (const nlohmann::json::out_of_range&) {
-      fail(line_, 1, kNoObject);
+      entries.push_back(entryFrom(line, file, number));
+    } catch (const CommandFailed& failed) {
+      diagnostics.push_back(failed.diagnostics.front());
     }
-    return std::nullopt;
   }
-
-  std::optional<Entry> entryFrom(const nlohmann::json& object) {
-    Entry entry;
-    entry.line = line_;
-    const std::size_t before = diagnostics_.size();
-    if (!object.is_object()) {
-      fail(line_, 1, kNoObject);
-      return std::nullopt;
-    }
-    for (const auto& [name, value] : object.items()) {
-      if (!readMember(entry, name, value)) {
-        fail(line_, 1,
-             fmt::format(
-                 "the member \"{}\" is unknown or of the wrong type; members are key, text and comment "
-                 "(texts), plural (true, or forms such as {{\"one\": \"1 coin\"}}), kept (\"key\" or "
-                 "\"place\") and max (a number from 1)",
-                 name));
-      }
-    }
-    if (entry.key.empty() || entry.text.empty())
-      fail(line_, 1, "the entry has no key or no text; give it both");
-    return diagnostics_.size() == before ? std::optional(std::move(entry)) : std::nullopt;
-  }
-
-  static bool readForms(PluralForms& forms, const nlohmann::json& object) {
-    if (!object.is_object() || object.empty()) return false;
-    for (const auto& [name, text] : object.items()) {
-      const auto* const form =
-          std::find_if(std::begin(kPluralForms), std::end(kPluralForms),
-                       [&](const PluralForm& known) { return known.suffix.substr(1) == name; });
-      if (form == std::end(kPluralForms) || !text.is_string()) return false;
-      forms[static_cast<std::size_t>(form - kPluralForms)] = text.get<std::string>();
-    }
-    return true;
-  }
-
-  static bool readMember(Entry& entry, const std::string& name, const nlohmann::json& value) {
-    if (name == "plural") {
-      entry.plural = (value.is_boolean() && value.get<bool>()) || readForms(entry.forms, value);
-      return entry.plural;
-    }
-    if (name == "max") {
-      entry.max = value.is_number_unsigned() ? value.get<std::size_t>() : 0;
-      return entry.max > 0;
-    }
-    if (!value.is_string()) return false;
-    for (const auto& [kept, keptName] : kKeptNames) {
-      if (name == "kept" && value == keptName) entry.kept = kept;
-    }
-    if (name == "kept") return entry.kept != Entry::Kept::nothing;
-    std::string* const member = name == "key"       ? &entry.key
-                                : name == "text"    ? &entry.text
-                                : name == "comment" ? &entry.comment
-                                                    : nullptr;
-    if (member) *member = value.get<std::string>();
-    return member != nullptr;
-  }
-
-  std::string file_;
-  bool toleratesCommas_;
-  Diagnostics& diagnostics_;
-  std::size_t line_ = 0;
-};
+  return entries;
+}
 
 /// Says what is wrong with an entry by the rules of the catalogue, each with the mend.
 void checkEntry(const Entry& entry, const std::string& file, Diagnostics& diagnostics) {
@@ -261,7 +232,7 @@ Catalogue Catalogue::read(const std::string& root) {
 Catalogue Catalogue::parse(std::string_view json, const std::string& file) {
   Diagnostics diagnostics;
   Catalogue catalogue;
-  catalogue.entries_ = Reader(file, false, diagnostics).read(json);
+  catalogue.entries_ = readEntries(json, file, false, diagnostics);
   for (const Entry& entry : catalogue.entries_) checkEntry(entry, file, diagnostics);
   checkTogether(catalogue.entries_, file, diagnostics);
   if (!diagnostics.empty()) throw CommandFailed{std::move(diagnostics)};
@@ -271,7 +242,7 @@ Catalogue Catalogue::parse(std::string_view json, const std::string& file) {
 Catalogue Catalogue::readEdited(const std::string& root, const std::function<bool(const Entry&)>& isKnown) {
   Diagnostics diagnostics;
   Catalogue catalogue;
-  catalogue.entries_ = Reader(kFile, true, diagnostics).read(readFile(root, kFile));
+  catalogue.entries_ = readEntries(readFile(root, kFile), kFile, true, diagnostics);
   catalogue.settings_ = CatalogueSettings::read(root);
   catalogue.sort();
   std::set<std::string> seen;

@@ -166,11 +166,17 @@ Table Table::parse(std::string bytes, std::string file) {
       table.entries.push_back(entryFrom(reader, *text, commentsBegin, positions));
       table.places.insert_or_assign(table.entries.back().key, table.entries.size() - 1);
     }
-    if (!reader.fault()) return table;
+    if (!reader.fault()) break;
     fail(positions.at(reader.fault()->offset), kSyntax,
          fmt::format("expected {}; write \"key\" = \"text\";", reader.fault()->expected));
     reader.recover();
   }
+  if (table.diagnostics.empty()) return table;
+  // The markers cause many other errors.
+  Diagnostics conflicts = mergeConflictsIn(*text, table.file);
+  if (conflicts.empty()) return table;
+  for (Diagnostic& conflict : conflicts) conflict.rule = kSyntax;
+  return {std::move(table.file), {}, std::move(conflicts), {}};
 }
 
 const TableEntry* Table::find(std::string_view key) const {

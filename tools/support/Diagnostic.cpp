@@ -78,6 +78,18 @@ std::string toJson(const Diagnostics& diagnostics) {
   return objects.empty() ? "[]" : fmt::format("[\n  {}\n]", fmt::join(objects, ",\n  "));
 }
 
+Diagnostics mergeConflictsIn(std::string_view text, const std::string& file) {
+  Diagnostics conflicts;
+  const std::vector<std::string_view> lines = linesOf(text);
+  for (std::size_t i = 0; i < lines.size(); ++i) {
+    if (!lines[i].starts_with("<<<<<<< ")) continue;
+    conflicts.push_back({Severity::error, file, i + 1, 1, "",
+                         "a merge conflict; keep the right lines and remove the lines with <<<<<<<, ======= "
+                         "and >>>>>>>"});
+  }
+  return conflicts;
+}
+
 void fail(std::string file, Position at, std::string message) {
   throw CommandFailed{{{Severity::error, std::move(file), at.line, at.column, "", std::move(message)}}};
 }

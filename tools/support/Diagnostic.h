@@ -37,6 +37,9 @@ using Diagnostics = std::vector<Diagnostic>;
 /// object a line.
 [[nodiscard]] std::string toJson(const Diagnostics& diagnostics);
 
+/// Returns an error for each merge conflict that Git has left in `text`, the content of `file`.
+[[nodiscard]] Diagnostics mergeConflictsIn(std::string_view text, const std::string& file);
+
 /// Thrown by a command that fails because of its files. The program prints the diagnostics and ends with status 1. There
 /// are none if the command has printed them already.
 struct CommandFailed {

@@ -62,6 +62,8 @@ class JsonBuilder : public nlohmann::json_sax<Json> {
   }
   bool parse_error(std::size_t position, const std::string& /*token*/,
                    const Json::exception& error) override {
+    if (Diagnostics conflicts = mergeConflictsIn(text_, std::string(file_)); !conflicts.empty())
+      throw CommandFailed{std::move(conflicts)};
     const bool isTooLarge = dynamic_cast<const Json::out_of_range*>(&error) != nullptr;
     tools::fail(std::string(file_), positions_.at(std::max<std::size_t>(position, 1) - 1),
                 isTooLarge ? "the number is too large" : "not valid JSON here; correct the syntax");
@@ -144,6 +146,11 @@ const Type& JsonValue::contentAs(const char* example) const {
 
 bool JsonValue::isObject() const {
   return std::holds_alternative<std::vector<JsonMember>>(content_);
+}
+
+bool JsonValue::isTrue() const {
+  const bool* const value = std::get_if<bool>(&content_);
+  return value && *value;
 }
 
 const std::string& JsonValue::text() const {

@@ -27,6 +27,7 @@ class JsonValue {
 
   [[nodiscard]] Position at() const { return at_; }
   [[nodiscard]] bool isObject() const;
+  [[nodiscard]] bool isTrue() const;
 
   [[nodiscard]] const std::string& text() const;
   [[nodiscard]] const std::string& nonEmptyText() const;

@@ -5,6 +5,8 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <optional>
+#include <string>
 #include <vector>
 
 #include <fmt/format.h>
@@ -41,11 +43,14 @@ TranslationState stateOf(std::string_view language, const TableEntry* entry, con
   if (!entry) return TranslationState::missing;
   if (isBlank(entry->text) && !isBlank(english.text)) return TranslationState::untranslated;
   if (language == kBase) return TranslationState::translated;
-  const bool isEnglish = entry->text == english.text;
+  const std::optional<std::string> recorded = quotedIn(*entry, kExplanation);
+  const bool isEnglish = entry->text == english.text || entry->text == recorded;
   if (isEnglish && isMarked(*entry, TranslationState::untranslated)) return TranslationState::untranslated;
-  if (isMarked(*entry, TranslationState::needsReview)) return TranslationState::needsReview;
-  return isEnglish && looksUntranslated(*entry, *english.settings) ? TranslationState::untranslated
-                                                                   : TranslationState::translated;
+  const bool isOutdated = recorded && *recorded != english.text;
+  if (isOutdated || isMarked(*entry, TranslationState::needsReview)) return TranslationState::needsReview;
+  return entry->text == english.text && looksUntranslated(*entry, *english.settings)
+             ? TranslationState::untranslated
+             : TranslationState::translated;
 }
 
 bool isMarked(const TableEntry& entry, TranslationState state) {

@@ -20,11 +20,11 @@ enum class TranslationState {
 /// "missing", "untranslated", "needs-review", "translated".
 [[nodiscard]] std::string_view nameOf(TranslationState state);
 
-/// The state of the text `english` in the table of `language`, where `entry` says it (null for none). It is
-/// `needsReview` when the entry is so marked. It is `untranslated` when the text equals the English one, and
-/// the entry is so marked, or two words or more stand in the text, not all of them names, and nobody has
-/// switched the rule `kUntranslatedRule` off for the entry. Texts of the English table are missing or
-/// translated.
+/// Returns the state of the text `english` in the table of `language`, whose entry is `entry` (null if there is none).
+///
+/// It is `needsReview` if a comment before the entry says so, or records another English text. It is `untranslated` if
+/// the text equals the English one, and either a comment says so or the text has two words or more that are not all
+/// names, unless a comment switches the rule `kUntranslatedRule` off. English texts are missing or translated.
 [[nodiscard]] TranslationState stateOf(std::string_view language, const TableEntry* entry,
                                        const EnglishText& english);
 
