@@ -63,20 +63,17 @@ std::string firstLanguageAfter(Change change) {
 
 const Operation kAll[] = {
     {.name = "the first text of all",
-     .use = Use::first,
      .act = [] { return assignGerman(), about(); },
      .right = "Über uns",
      .quiet = "English",
      .refused = "About"},
     {.name = "the first text in a known directory",
-     .use = Use::first,
      .prepare = [] { assignGerman(), static_cast<void>(bundle()); },
      .act = about,
      .right = "Über uns",
      .quiet = "English",
      .refused = "About"},
     {.name = "the first text in another language",
-     .use = Use::first,
      .prepare = [] { useGerman(), assign("fr"); },
      .act = about,
      .right = "À propos",
@@ -89,7 +86,6 @@ const Operation kAll[] = {
      .act = [] { return ZKStrings::Are_you_sure_you_want_to_kick_username("a player with a long name"); },
      .right = "Möchtest du a player with a long name wirklich rauswerfen?"},
     {.name = "the first language",
-     .use = Use::first,
      .act = [] { return std::to_string(Language().countries.size()); },
      .right = "246",
      .quiet = "0",
@@ -102,20 +98,17 @@ const Operation kAll[] = {
      .quiet = "0",
      .refused = "0"},
     {.name = "the app's directory",
-     .use = Use::first,
      .act = [] { return mainBundle().path().empty() ? "nowhere" : std::string("somewhere"); },
      .right = "somewhere",
      .quiet = "nowhere",
      .refused = "nowhere"},
     {.name = "a bundle",
-     .use = Use::first,
      .prepare = assignGerman,
      .act = textInBundle,
      .right = "text",
      .quiet = "value",
      .refused = "base"},
     {.name = "a language that has gone",
-     .use = Use::first,
      .prepare =
          [] {
            assignGerman();
@@ -189,14 +182,12 @@ const Operation kAll[] = {
          },
      .right = "%{a}\u0301 a longer text than all thoseé"},
     {.name = "upper case",
-     .use = Use::first,
      .act =
          [] {
            return Country::fromDictionary({{"name", "A"}, {"phoneCode", 1}, {"iso", "äß"}})->emoji();
          },
      .right = "\U0001F269\U0001F1F8\U0001F1F8"},
     {.name = "JSON",
-     .use = Use::first,
      .act =
          [] {
            const auto value = parseJson(R"([1.5, "a text that is not short", {"a": [1.5]}])");

@@ -15,7 +15,7 @@ enum class Use {
 /// Something that an app does with the module.
 struct Operation {
   const char* name;
-  Use use;
+  Use use = Use::first;
   void (*prepare)() = [] {};  ///< runs before the injected failure
   std::string (*act)();
   const char* right;
