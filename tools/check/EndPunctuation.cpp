@@ -1,5 +1,6 @@
 #include <ZKStrings/platform/text/UnicodeText.h>
 #include <ZKStrings/tools/check/EndPunctuation.h>
+#include <ZKStrings/tools/support/Characters.h>
 
 #include <algorithm>
 #include <cstdint>
@@ -34,12 +35,6 @@ constexpr Punctuation kPunctuation[] = {
     {"、", Ending::comma},       {"､", Ending::comma},         {"،", Ending::comma},
 };
 
-std::string_view lastCharacter(std::string_view text) {
-  std::size_t begin = text.size() - 1;
-  while (begin > 0 && (static_cast<unsigned char>(text[begin]) & 0xC0) == 0x80) --begin;
-  return text.substr(begin);
-}
-
 /// Closing quotes, brackets and marks. German and Polish close with quotes that open in other languages. A brace closes
 /// a placeholder.
 bool isClosingMark(UChar32 character) {
@@ -72,7 +67,7 @@ std::string_view withoutWhatFollows(std::string_view text) {
   constexpr std::string_view kTag = "</b>";
   while (!text.empty()) {
     const std::size_t passed = text.ends_with(kTag)                ? kTag.size()
-                               : isPassedOver(lastCharacter(text)) ? lastCharacter(text).size()
+                               : isPassedOver(lastCodePoint(text)) ? lastCodePoint(text).size()
                                                                    : 0;
     if (passed == 0) break;
     text.remove_suffix(passed);

@@ -200,14 +200,6 @@ void findEnglishWords(const Translation& translation, Findings& findings) {
 constexpr std::string_view kQuotationMarks[] = {"\"", "„", "“",  "”",  "‟",  "‚",  "‘",  "‛",  "«",  "»",
                                                 "‹",  "›", "「", "」", "『", "』", "〝", "〞", "〟", "＂"};
 
-/// Returns the character before the byte `end`; empty at the beginning of the text.
-std::string_view characterBefore(std::string_view text, std::size_t end) {
-  std::size_t begin = end;
-  while (begin > 0 && (static_cast<unsigned char>(text[--begin]) & 0xC0) == 0x80) {
-  }
-  return text.substr(begin, end - begin);
-}
-
 std::string_view characterAt(std::string_view text, std::size_t at) {
   return at < text.size() ? firstCodePoint(text.substr(at)).bytes : std::string_view();
 }
@@ -271,7 +263,7 @@ void findDoubledBlanks(const Translation& translation, Findings& findings) {
 /// Whether `mark`, at the offset `at`, needs no no-break space before it: at the beginning of the text or of a line,
 /// within a number or a word, after another such mark, a bracket or a quotation mark.
 bool needsNoSpace(std::string_view mark, std::string_view text, std::size_t at, const LanguageStyle& style) {
-  const std::string_view before = characterBefore(text, at);
+  const std::string_view before = lastCodePoint(text.substr(0, at));
   if (before.empty() || before == "\n" || before == "(") return true;
   const bool isWithinNumber = isDigit(before) && isDigit(characterAt(text, at + mark.size()));
   const bool isWithinWord = isLetter(before) && isLetter(characterAt(mark, 0));
@@ -300,7 +292,7 @@ void findNoBreakSpaces(const Translation& translation, Findings& findings) {
   const std::string text = proseOf(translation.entry.text);
   for (const std::string_view mark : style.noBreakBefore) {
     const auto isMissing = [&](std::size_t at) {
-      return characterBefore(text, at) != kNoBreakSpace && !needsNoSpace(mark, text, at, style);
+      return lastCodePoint(text.substr(0, at)) != kNoBreakSpace && !needsNoSpace(mark, text, at, style);
     };
     findWithoutSpace(mark, text, "before", translation, isMissing, findings);
   }

@@ -1,12 +1,14 @@
 #include <ZKStrings/tools/authoring/AccessorGenerator.h>
 #include <ZKStrings/tools/authoring/CatalogueFiles.h>
 #include <ZKStrings/tools/authoring/EntryCommands.h>
+#include <ZKStrings/tools/authoring/Initialisation.h>
 #include <ZKStrings/tools/authoring/Uses.h>
 #include <ZKStrings/tools/command/Subcommands.h>
 #include <ZKStrings/tools/support/Characters.h>
 #include <ZKStrings/tools/support/Terminal.h>
 
 #include <cstddef>
+#include <filesystem>
 #include <memory>
 #include <optional>
 #include <string>
@@ -23,7 +25,7 @@ namespace {
 
 constexpr const char* kPlainHelp = "Take %s, {name} and the like as plain text";
 
-/// What the shell passes as \n inside quotes is meant as a line break.
+/// `text` with line breaks for each \n, which shells pass on unchanged.
 std::string withLineBreaks(std::string_view text) {
   return replaceAll(text, "\\n", "\n");
 }
@@ -33,7 +35,7 @@ std::string markedForReview(std::size_t count) {
   return fmt::format("Marked {} translation{} for review", count, count == 1 ? "" : "s");
 }
 
-/// Lets the user give the plural forms of a text: --zero to --many.
+/// Adds options for the plural forms of a text: --zero to --many.
 void addForms(CLI::App& command, PluralForms& forms) {
   for (std::size_t i = 0; i < forms.size(); ++i) {
     const std::string name(kPluralForms[i].suffix.substr(1));
@@ -43,6 +45,28 @@ void addForms(CLI::App& command, PluralForms& forms) {
             "The English form for " + std::string(kPluralForms[i].counts))
         ->type_name("TEXT");
   }
+}
+
+void addInitCommand(CLI::App& app) {
+  struct Arguments {
+    std::string directory;
+    CatalogueName name{"", ""};
+  };
+  const auto arguments = std::make_shared<Arguments>();
+  auto* const command = app.add_subcommand("init", "Create a new catalogue");
+  command->add_option("directory", arguments->directory, "The catalogue's folder; created if needed")
+      ->required();
+  command->add_option("--name", arguments->name.name, "The class of its accessors, such as Texts")
+      ->required();
+  command->add_option("--namespace", arguments->name.nameSpace,
+                      "The namespace of that class (default: none)");
+  command->footer("Example: zkstrings init texts --name Texts --namespace myapp");
+  command->callback([arguments] {
+    initCatalogue(arguments->directory, arguments->name);
+    const std::string& directory = arguments->directory;
+    say("Wrote {}; {} explains the next steps.\n", directory,
+        (std::filesystem::path(directory) / "README.md").string());
+  });
 }
 
 void addGenerateCommand(CLI::App& app, const RootFinder& inRoot) {
@@ -68,7 +92,7 @@ void addAddCommand(CLI::App& app, const RootFinder& inRoot) {
   const auto entry = std::make_shared<NewEntry>();
   auto* const command = app.add_subcommand("add", "Add a text and its accessor");
   command->add_option("text", entry->text, "The English text; %{name}, \\n for a line break")->required();
-  command->add_flag("--count", entry->plural, "The text has plural forms; give at least --one");
+  command->add_flag("--count", entry->plural, "The text has plural forms; needs at least --one");
   addForms(*command, entry->forms);
   command->add_option("--key", entry->key, "The key (default: derived from the text)");
   command->add_option("--comment", entry->comment, "What translators need to know about the text");
@@ -91,7 +115,7 @@ void addChangeCommand(CLI::App& app, const RootFinder& inRoot) {
   command->add_flag("--same-meaning", change->keepsMeaning, "Leave translations alone: they are still right")
       ->needs(text);
   addForms(*command, change->forms);
-  command->add_flag("--count", change->plural, "Give the text a count; give at least --one");
+  command->add_flag("--count", change->plural, "Make it a text with plural forms; needs at least --one");
   command->add_option("--placeholder", change->placeholder, "Rename a placeholder in all tables")
       ->type_name("OLD=NEW")
       ->excludes(text);
@@ -163,6 +187,7 @@ void addSourcesOption(CLI::App& command, std::vector<std::string>& directories) 
 }
 
 void addCatalogueCommands(CLI::App& app, const RootFinder& inRoot) {
+  addInitCommand(app);
   addGenerateCommand(app, inRoot);
   addKeyCommand(app);
   addAddCommand(app, inRoot);

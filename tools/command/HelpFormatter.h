@@ -6,7 +6,7 @@
 
 namespace zk::tools {
 
-/// Lays out what --help prints within the terminal's width, broken at words.
+/// Breaks the lines of --help at words, to fit the width of a terminal.
 class HelpFormatter : public CLI::Formatter {
  public:
   std::string make_description(const CLI::App* command) const override;

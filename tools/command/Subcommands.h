@@ -16,9 +16,7 @@ using RootFinder = std::function<std::string()>;
 /// These functions add subcommands to the command line `app`. A subcommand runs while the line is parsed, and prints its
 /// answer. It throws `CommandFailed` if something in the user's files is wrong.
 
-/// init.
-void addInitCommand(CLI::App& app);
-/// generate, key, add, change, rename, remove and unused.
+/// init, generate, key, add, change, rename, remove and unused.
 void addCatalogueCommands(CLI::App& app, const RootFinder& inRoot);
 /// check. It throws if it finds an error, a warning under --strict, or a gap under --complete.
 void addCheckCommand(CLI::App& app, const RootFinder& inRoot);

@@ -40,7 +40,7 @@ void printRules() {
   }
 }
 
-/// "2 warnings"; nothing for none.
+/// Appends "2 warnings", or nothing if `count` is 0.
 void addCount(std::vector<std::string>& counts, std::size_t count, std::string_view singular,
               std::string_view plural) {
   if (count > 0) counts.push_back(fmt::format("{} {}", count, count == 1 ? singular : plural));

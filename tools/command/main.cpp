@@ -75,7 +75,6 @@ int run(int argc, char** argv) {
     return root;
   };
 
-  addInitCommand(app);
   addCatalogueCommands(app, aloneInRoot);
   addCheckCommand(app, inRoot);
   addCoverageCommand(app, inRoot);

@@ -66,7 +66,7 @@ class CSVReader {
   }
 
   Translations read() {
-    PositionTeller positions(text_);
+    PositionFinder positions(text_);
     titles_ = takeRow();
     const std::size_t key = requiredColumn("key");
     const std::size_t english = requiredColumn("en");

@@ -303,7 +303,7 @@ class XLIFFReader {
   const std::string& file_;
   const std::string& text_;
   pugi::xml_document document_;
-  PositionTeller positions_;
+  PositionFinder positions_;
   std::size_t expansionLeft_;
   Translations translations_;
 };

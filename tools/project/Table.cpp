@@ -25,7 +25,7 @@ std::string escapeAt(std::string_view spelled, std::size_t offset) {
 
 /// The entry that `reader` has read. Comments before `commentsBegin` belong to the one before.
 TableEntry entryFrom(const StringTableReader& reader, std::string_view text, std::size_t commentsBegin,
-                     PositionTeller& positions) {
+                     PositionFinder& positions) {
   using Token = StringTableReader::Token;
   TableEntry entry;
   const auto spelled = [&](const Token& token) { return text.substr(token.begin, token.end - token.begin); };
@@ -38,7 +38,7 @@ TableEntry entryFrom(const StringTableReader& reader, std::string_view text, std
     }
     return result;
   };
-  PositionTeller commentPositions = positions;  // some comments stand within the entry
+  PositionFinder commentPositions = positions;  // some comments stand within the entry
   for (const Token& comment : reader.comments()) {
     if (comment.begin < commentsBegin) continue;
     const std::size_t closingMark = text[comment.begin - 1] == '*' ? 2 : 0;
@@ -158,7 +158,7 @@ Table Table::parse(std::string bytes, std::string file) {
       fail(at, kEncoding, "the bytes here are not UTF-8; save the file as UTF-8");
     text = std::move(bytes);  // what else is wrong shows all the same
   }
-  PositionTeller positions(*text);
+  PositionFinder positions(*text);
   StringTableReader reader(*text);
   for (;;) {
     while (reader.next()) {

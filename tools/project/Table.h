@@ -56,7 +56,7 @@ class TextPlaces {
   void readOn();
 
   std::string_view spelled_;
-  PositionTeller positions_;
+  PositionFinder positions_;
   TableEntry::Span piece_ = {0, 0};  // of `spelled_`: an escape at most, and what follows it up to the next
   TableEntry::Span text_ = {0, 0};   // what the piece stands for
 };

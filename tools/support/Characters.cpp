@@ -6,6 +6,13 @@
 
 namespace zk::tools {
 
+std::string_view lastCodePoint(std::string_view text) {
+  std::size_t begin = text.size();
+  while (begin > 0 && isContinuationByte(text[--begin])) {
+  }
+  return text.substr(begin);
+}
+
 std::size_t lengthOf(std::string_view text) {
   std::size_t length = 0;
   for (CodePoints left(text); left != left.end(); ++left) ++length;

@@ -28,16 +28,24 @@ class CodePoints {
   std::string_view rest_;
 };
 
-/// The number of code points of `text`, UTF-8; a byte that is not counts as one.
+/// The last code point of a UTF-8 text, or an empty text if the text is empty.
+[[nodiscard]] std::string_view lastCodePoint(std::string_view text);
+
+/// Whether `byte` continues a code point in UTF-8.
+[[nodiscard]] constexpr bool isContinuationByte(char byte) {
+  return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80;
+}
+
+/// The number of code points in a UTF-8 text. A byte that is not UTF-8 counts as one.
 [[nodiscard]] std::size_t lengthOf(std::string_view text);
 
-/// `text` with its ASCII capitals as small letters, as keys and language codes are compared.
+/// `text` with its ASCII capitals in lower case.
 [[nodiscard]] std::string lowerCased(std::string_view text);
 
 /// `text` with each `from` replaced by `to`. Compares bytes: a combining mark after `from` changes nothing.
 [[nodiscard]] std::string replaceAll(std::string_view text, std::string_view from, std::string_view to);
 
-/// `text` with its control characters as escapes, \U000d for a carriage return. Line feeds stay if `keepsLines`.
+/// `text` with each control character as an escape, such as \U000d for a carriage return. If `keepsLines`, line feeds stay.
 [[nodiscard]] std::string withoutControls(std::string_view text, bool keepsLines = false);
 
 }  // namespace zk::tools

@@ -9,7 +9,7 @@
 
 namespace zk::tools {
 
-/// From the gravest to the mildest. A gap is a text that is not translated yet, which is not an error.
+/// How grave a diagnostic is, from the worst down. A gap is a text that is not translated yet, which is not an error.
 enum class Severity { error, warning, gap, note };
 
 [[nodiscard]] const char* nameOf(Severity severity);
@@ -20,7 +20,7 @@ struct Diagnostic {
   std::string file;        ///< relative to the project's root, or absolute if it is not a file of the project
   std::size_t line = 1;    ///< from 1
   std::size_t column = 1;  ///< from 1, in characters
-  std::string rule;        ///< the name under which the rule can be switched off; empty when it cannot
+  std::string rule;        ///< the name that turns the rule off; empty if nothing does
   std::string message;     ///< what is wrong; what to do
 };
 
@@ -30,11 +30,10 @@ using Diagnostics = std::vector<Diagnostic>;
 /// editors and CI expect them.
 [[nodiscard]] Diagnostics fromWorkingDirectory(Diagnostics diagnostics, const std::string& root);
 
-/// The diagnostic as one line, "file:line:column: error: message [rule]", with colours when `coloured`.
+/// The diagnostic as one line, "file:line:column: error: message [rule]", in colours if `coloured`.
 [[nodiscard]] std::string formatted(const Diagnostic& diagnostic, bool coloured);
 
-/// The diagnostics as a JSON array of objects with the members file, line, column, severity, rule and message, one
-/// object a line.
+/// The diagnostics as a JSON array with one object per line. Its members are file, line, column, severity, rule, message.
 [[nodiscard]] std::string toJson(const Diagnostics& diagnostics);
 
 /// Returns an error for each merge conflict that Git has left in `text`, the content of `file`.

@@ -124,7 +124,7 @@ class JsonBuilder : public nlohmann::json_sax<Json> {
 
   std::string_view text_;
   std::string_view file_;
-  PositionTeller positions_;
+  PositionFinder positions_;
   std::size_t end_ = 0;  // of the last token
   std::vector<JsonValue> open_;
   std::size_t dropped_ = 0;  // how many containers are open that are nested too deeply

@@ -34,7 +34,7 @@ bool isLanguageCode(std::string_view code) {
   return *known != nullptr;
 }
 
-/// The language's name, in lower case, as it is called in the language `in`.
+/// The name of `language` in the language `in`, in lower case.
 std::string nameOf(const char* language, const char* in) {
   UErrorCode status = U_ZERO_ERROR;
   std::array<UChar, 128> name{};
@@ -44,7 +44,8 @@ std::string nameOf(const char* language, const char* in) {
   return U_SUCCESS(status) ? lowerCased(bytes.data()) : "";
 }
 
-/// The codes of all languages by their names, in lower case, in English and by themselves. ICU is slow to tell them.
+/// The codes of all languages by their names, in lower case, in English and in the language itself. ICU is slow to find
+/// them, so they are kept.
 const std::map<std::string, std::string, std::less<>>& codesByName() {
   static const auto codes = [] {
     std::map<std::string, std::string, std::less<>> found;
@@ -57,13 +58,13 @@ const std::map<std::string, std::string, std::less<>>& codesByName() {
   return codes;
 }
 
-/// The code of the language that is called `name`, in lower case, in English or by itself; empty when none is.
+/// The code of the language with the name `name`, in lower case, or an empty text.
 std::string codeOfName(std::string_view name) {
   const auto found = codesByName().find(name);
   return found == codesByName().end() ? "" : found->second;
 }
 
-/// What to do about `name`, which means no language that ICU knows.
+/// What to do about `name`, which ICU does not know as a language.
 std::string adviceFor(std::string_view name, const std::vector<std::string>& languages) {
   std::vector<std::string> names = languages;
   for (const std::string& language : languages) names.push_back(nameOf(language.c_str(), "en"));
@@ -90,7 +91,7 @@ std::vector<std::string> languagesIn(const std::string& root) {
        entry.increment(failure)) {
     if (entry->path().extension() == kExtension) languages.push_back(entry->path().stem().string());
   }
-  if (failure) fail(kResources, "the directory cannot be listed; see that it exists and may be read");
+  if (failure) fail(kResources, "the directory cannot be listed; check that it exists and is readable");
   std::sort(languages.begin(), languages.end());
   return languages;
 }
@@ -128,15 +129,15 @@ std::string existingLanguage(const std::string& root, std::string_view word, con
 std::string whyNeverChosen(std::string_view language) {
   if (language == kBase) return "";
   if (language == "en") {
-    return "the module never chooses en.lproj, it takes English from Base.lproj; write the texts there";
+    return "the module never uses en.lproj, since English is in Base.lproj; write the texts there";
   }
   if (isLanguageCode(language)) return "";
   const std::string code = languageCodeOf(language);
   return fmt::format(
-      "the module never chooses \"{}.lproj\", whose name is no language code of two letters; {}", language,
-      code == "en"   ? "write English in Base.lproj"
+      "the module never uses \"{}.lproj\", since its name is not a two-letter language code; {}", language,
+      code == "en"   ? "write the English texts in Base.lproj"
       : code.empty() ? "only languages with an ISO 639-1 code can have a table"
-                     : fmt::format("name it {}.lproj", code));
+                     : fmt::format("rename it to {}.lproj", code));
 }
 
 }  // namespace zk::tools

@@ -1,18 +1,11 @@
+#include <ZKStrings/tools/support/Characters.h>
 #include <ZKStrings/tools/support/Position.h>
 
 #include <algorithm>
 
 namespace zk::tools {
 
-namespace {
-
-bool isContinuationByte(char byte) {
-  return (static_cast<unsigned char>(byte) & 0xC0) == 0x80;
-}
-
-}  // namespace
-
-Position PositionTeller::at(std::size_t offset) {
+Position PositionFinder::at(std::size_t offset) {
   for (; at_ < offset && at_ < text_.size(); ++at_) {
     if (text_[at_] == '\n') {
       position_ = {position_.line + 1, 1};
@@ -24,7 +17,7 @@ Position PositionTeller::at(std::size_t offset) {
 }
 
 Position positionOf(std::string_view text, std::size_t offset) {
-  return PositionTeller(text).at(offset);
+  return PositionFinder(text).at(offset);
 }
 
 std::vector<std::string_view> linesOf(std::string_view text) {

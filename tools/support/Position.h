@@ -6,18 +6,18 @@
 
 namespace zk::tools {
 
-/// A place in a text: the line and the column, in characters, both from 1.
+/// A place in a text: its line and its column, in characters, both from 1.
 struct Position {
   std::size_t line;
   std::size_t column;
 };
 
-/// Tells the positions of byte offsets that are asked for in rising order, and reads the text only once.
-class PositionTeller {
+/// Finds the positions of byte offsets. The offsets must be in rising order, so the text is read only once.
+class PositionFinder {
  public:
-  /// `text`, UTF-8, begins at `begin` and must outlive the teller.
-  explicit PositionTeller(std::string_view text, Position begin = {1, 1}) : text_(text), position_(begin) {}
-  /// The position of `offset`; of the end for one beyond it.
+  /// `text` is UTF-8, begins at the position `begin`, and must outlive the finder.
+  explicit PositionFinder(std::string_view text, Position begin = {1, 1}) : text_(text), position_(begin) {}
+  /// The position of `offset`, or of the end of the text if `offset` is beyond it.
   [[nodiscard]] Position at(std::size_t offset);
 
  private:
