@@ -85,6 +85,8 @@ include(CheckIPOSupported)
 check_ipo_supported(RESULT can_inline_across_files OUTPUT reason)
 if(BUILD_SHARED_LIBS AND can_inline_across_files AND NOT ZK_SANITIZE)
   set_target_properties(zk_objects ZKStrings PROPERTIES INTERPROCEDURAL_OPTIMIZATION_RELEASE ON)
+  # GCC compiles several partitions with make, and warns where make is not installed.
+  target_link_options(zk_compile_options INTERFACE $<$<CXX_COMPILER_ID:GNU>:-flto-partition=one>)
 endif()
 
 # The module as tools and tests link it: with its inner names.

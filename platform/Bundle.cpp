@@ -5,6 +5,8 @@
 #include <ZKStrings/platform/system/ResourceDirectory.h>
 #include <ZKStrings/platform/text/Bytes.h>
 
+#include <algorithm>
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
@@ -72,8 +74,7 @@ const StringTable* ResourcePath::openTable() const {
 class Bundle::Listing {
  public:
   explicit Listing(const std::string& path, const std::vector<DirectoryEntry>& entries) {
-    std::size_t size = 64;
-    while (size < entries.size() * 4) size *= 2;
+    const std::size_t size = std::bit_ceil(std::max<std::size_t>(entries.size() * 4, 64));
     slots_ = std::make_unique<Slot[]>(size);
     last_ = size - 1;
     for (const DirectoryEntry& entry : entries) {

@@ -61,6 +61,9 @@ void addUnit12(pugi::xml_node body, const TranslationUnit& unit) {
     const char* const state = isReviewed(unit) ? "translated" : "needs-review-translation";
     addContent12(addElement(element, "target", {{"state", state}}), piecesOf(unit.target), source);
   }
+  // translate-toolkit's xliff2po keeps no other place of the key.
+  const pugi::xml_node location = addElement(element, "context-group", {{"purpose", "location"}});
+  addText(addElement(location, "context", {{"context-type", "sourcefile"}}), unit.key);
   addText(addElement(element, "note", {{"from", "developer"}, {"annotates", "source"}}), unit.notes);
   if (unit.previousSource.empty()) return;
   pugi::xml_node previous = addElement(element, "alt-trans", {{"alttranstype", "previous-version"}});
