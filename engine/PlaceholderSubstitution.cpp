@@ -23,7 +23,7 @@ const Substitutions::Pair* pairAt(std::string_view text, const Substitutions& su
   for (const Substitutions::Pair& pair : substitutions) {
     const std::size_t size = pair.name.size();
     const bool isClosed = rest.size() > size && rest[size] == '}';
-    if (isClosed && rest.starts_with(pair.name)) return &pair;
+    if (isClosed && std::char_traits<char>::compare(rest.data(), pair.name.data(), size) == 0) return &pair;
   }
   return nullptr;
 }

@@ -49,11 +49,6 @@ ResourcePath::~ResourcePath() {
   delete table_.load();
 }
 
-// Not inlined, as it would keep the search for short names from being inlined.
-[[gnu::noinline]] bool ResourcePath::isNamed(std::string_view name, std::string_view type) const {
-  return name_ == name && type_ == type;
-}
-
 /// The string table in this file; null if it temporarily cannot be read.
 inline const StringTable* ResourcePath::table() const {
   const StringTable* const open = table_.load(std::memory_order_acquire);
@@ -94,7 +89,7 @@ class Bundle::Listing {
       if (slots_[at].name != wanted) continue;
       const ResourcePath* const path = slots_[at].path.get();
       const bool areShort = name.size() <= 8 && type.size() <= 8;
-      if (areShort || path->isNamed(name, type)) return path;
+      if (areShort || (path->name_ == name && path->type_ == type)) return path;
     }
     return nullptr;
   }

@@ -128,7 +128,6 @@ class ZK_EXPORT alignas(kCacheLine) ResourcePath {
  private:
   friend class Bundle;
   ResourcePath(std::string path, bool isDirectory);
-  [[nodiscard]] bool isNamed(std::string_view name, std::string_view type) const;
   [[nodiscard]] const StringTable* table() const;
   [[nodiscard]] const StringTable* openTable() const;
 

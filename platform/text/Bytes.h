@@ -57,8 +57,9 @@ constexpr std::uint64_t hashOfWords(std::uint64_t one, std::uint64_t other) {
   return hash ^ hash >> 32;
 }
 
-/// A hash of `bytes`. The upper half is the better one. Hashes differ between machines and are never stored.
-inline std::uint64_t hashOf(std::string_view bytes) {
+/// A hash of `bytes`. The upper half is the better one. Hashes differ between machines and are never stored. Not inlined,
+/// so that the compiler can inline its callers, which need it only for long texts.
+[[gnu::noinline]] inline std::uint64_t hashOf(std::string_view bytes) {
   using internal::load;
   const char* at = bytes.data();
   std::size_t left = bytes.size();
