@@ -4,6 +4,7 @@
 
 #include <ZKStrings/catalogue/ZKStrings.h>
 #include <ZKStrings/engine/BundleGlobals.h>
+#include <ZKStrings/engine/Languages.h>
 #include <ZKStrings/engine/StringLookup.h>
 #include <ZKStrings/platform/Resolver.h>
 #include <ZKStrings/region/CountryList.h>

@@ -1,5 +1,5 @@
 #include <ZKStrings/benchmarks/Workload.h>
-#include <ZKStrings/engine/PluralSuffix.h>
+#include <ZKStrings/engine/LookupRules.h>
 #include <ZKStrings/platform/Bundle.h>
 
 #include <filesystem>

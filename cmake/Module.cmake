@@ -6,6 +6,7 @@ set(public_headers
   ZKStrings.h
   catalogue/ZKStrings.h
   engine/BundleGlobals.h
+  engine/Languages.h
   engine/StringLookup.h
   engine/Substitutions.h
   engine/Text.h
@@ -26,6 +27,7 @@ add_library(zk_objects OBJECT
   catalogue/EntryText.cpp
   catalogue/ZKStrings.cpp
   engine/BundleGlobals.cpp
+  engine/Languages.cpp
   engine/PlaceholderSubstitution.cpp
   engine/StringLookup.cpp
   engine/Substitutions.cpp

@@ -1,4 +1,3 @@
-#include <ZKStrings/engine/JoinedText.h>
 #include <ZKStrings/engine/PlaceholderSubstitution.h>
 #include <ZKStrings/platform/text/Bytes.h>
 #include <ZKStrings/platform/text/TextSearch.h>
@@ -9,7 +8,7 @@ namespace zk {
 
 namespace {
 
-/// Whether no name can reach across the end or the beginning of a placeholder.
+/// Whether all names are ASCII and cannot contain the beginning or the end of a placeholder.
 bool haveSimpleNames(const Substitutions& substitutions) {
   for (const Substitutions::Pair& pair : substitutions) {
     if (!isAsciiWithout(pair.name, {'%', '}'})) return false;
@@ -17,7 +16,7 @@ bool haveSimpleNames(const Substitutions& substitutions) {
   return true;
 }
 
-/// The pair whose placeholder stands at the beginning of `text`, which is "%{"; null when there is none.
+/// The pair whose placeholder is at the beginning of `text`, which begins with "%{"; null if there is none.
 const Substitutions::Pair* pairAt(std::string_view text, const Substitutions& substitutions) {
   const std::string_view rest = text.substr(2);
   for (const Substitutions::Pair& pair : substitutions) {
@@ -30,9 +29,9 @@ const Substitutions::Pair* pairAt(std::string_view text, const Substitutions& su
 
 constexpr std::size_t kRoom = 512;
 
-/// Writes `text` with all its placeholders filled in to `to`, which has room for `kRoom` bytes, and gives the
-/// end. Null when the result has no room, and when it may not be what replacing one pair after the other gives:
-/// then a placeholder has no pair, its surroundings change it by an accent, or values bring forth another one.
+/// Writes `text` with all placeholders filled in to `to`, which has room for `kRoom` bytes, and returns the end. Returns
+/// null if the result is too long, or may differ from replacing one pair after the other: if a placeholder has no
+/// pair, if an accent follows one, or if a value makes a new one.
 char* fillInAtOnce(char* to, std::string_view text, const Substitutions& substitutions) {
   const char* const begin = to;
   std::size_t room = kRoom - kCopySlack;
@@ -58,9 +57,8 @@ char* fillInAtOnce(char* to, std::string_view text, const Substitutions& substit
     room -= value.size();
     to = copyBytes(to, value.data(), value.size());
   }
-  const bool bringsForthAnother =
-      hasPercent && std::string_view(begin, to).find("%{") != std::string_view::npos;
-  return bringsForthAnother ? nullptr : to;
+  const bool makesAnother = hasPercent && std::string_view(begin, to).find("%{") != std::string_view::npos;
+  return makesAnother ? nullptr : to;
 }
 
 }  // namespace
@@ -70,7 +68,7 @@ std::string fillIn(std::string_view text, const Substitutions& substitutions) {
   if (char* const end = fillInAtOnce(filled, text, substitutions)) return {filled, end};
   std::string result(text);
   for (const auto& [name, value] : substitutions) {
-    replaceOccurrences(result, JoinedText{"%{", name, "}"}, value);
+    replaceOccurrences(result, std::string("%{").append(name).append("}"), value);
   }
   return result;
 }

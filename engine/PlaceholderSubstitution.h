@@ -7,12 +7,12 @@
 
 namespace zk {
 
-/// `applySubstitutions` for a dictionary that is not empty.
+/// The same as `applySubstitutions`, if there are pairs.
 [[nodiscard]] std::string fillIn(std::string_view text, const Substitutions& substitutions);
 
-/// `text` with every placeholder "%{name}" for which `substitutions` has a text replaced by it, one pair
-/// after the other in their order: a text that itself contains the placeholder of a later pair is filled in.
-/// Other placeholders stay as they are, and there is no way to escape one.
+/// Returns `text` with each placeholder "%{name}" replaced by the text that `substitutions` has for its name, one pair
+/// after the other in their order. A value that contains the placeholder of a later pair is filled in as well. Other
+/// placeholders stay as they are. A placeholder cannot be escaped.
 [[nodiscard]] inline std::string applySubstitutions(std::string_view text,
                                                     const Substitutions& substitutions) {
   if (substitutions.begin() == substitutions.end()) return std::string(text);

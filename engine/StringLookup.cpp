@@ -1,10 +1,9 @@
 #include <ZKStrings/engine/BundleGlobals.h>
-#include <ZKStrings/engine/JoinedText.h>
-#include <ZKStrings/engine/LanguageChoice.h>
+#include <ZKStrings/engine/LookupRules.h>
 #include <ZKStrings/engine/PlaceholderSubstitution.h>
-#include <ZKStrings/engine/PluralSuffix.h>
 #include <ZKStrings/engine/StringLookup.h>
 #include <ZKStrings/platform/ServiceView.h>
+#include <ZKStrings/platform/text/Bytes.h>
 #include <ZKStrings/region/Language.h>
 
 #include <system_error>
@@ -12,6 +11,23 @@
 namespace zk {
 
 namespace {
+
+/// A key and its plural suffix: on the stack if they are as short as keys are, or else on the heap.
+class SuffixedKey {
+ public:
+  SuffixedKey(std::string_view key, std::string_view suffix) : size_(key.size() + suffix.size()) {
+    if (size_ > sizeof(short_)) long_.resize(size_);
+    char* const begin = long_.empty() ? short_ : long_.data();
+    copyBytes(copyBytes(begin, key.data(), key.size()), suffix.data(), suffix.size());
+  }
+
+  operator std::string_view() const { return {long_.empty() ? short_ : long_.data(), size_}; }
+
+ private:
+  char short_[120];
+  std::string long_{};
+  std::size_t size_;
+};
 
 /// The bundle to look a text up in: one without resources while that temporarily cannot be found.
 const Bundle& chosenBundle(const Bundle* resources, const SharedArray<std::string>& preferredLanguages) {
@@ -47,7 +63,7 @@ std::string localizedString(std::string_view key, std::string_view defaultValue,
 std::string localizedString(const Bundle* resources, std::string_view key, std::string_view defaultValue,
                             std::optional<std::int64_t> count, const Substitutions& substitutions) {
   if (!count) return finishedText(resources, key, defaultValue, substitutions);
-  return finishedText(resources, JoinedText{key, pluralSuffix(*count)}, defaultValue, substitutions);
+  return finishedText(resources, SuffixedKey(key, pluralSuffix(*count)), defaultValue, substitutions);
 }
 
 }  // namespace zk

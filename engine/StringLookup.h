@@ -11,34 +11,39 @@
 
 namespace zk {
 
-/// The finished text of one entry for the user: looked up in the table of the language that
-/// `Current::language` prefers, with the placeholders filled in. For a player who prefers German,
+/// Returns the finished text of one entry: looked up in the table of the language that `Current::language` prefers, with
+/// the placeholders filled in. For a player who prefers German,
 ///
 ///     zk::localizedString("badgeCount_Badges", "%{badgeCount} Badges", 4, {{"badgeCount", "4"}})
 ///
-/// is "4 Abzeichen".
+/// returns "4 Abzeichen".
 ///
-/// - `key` is the entry's key. With a count, the table is asked for the key and the count's suffix: "_zero",
-///   "_one", "_two", "_few" (3 to 5) or "_many" (6 and more, and negative counts).
-/// - `defaultValue` is the English text, for when the table has none for that key. When it is empty too, the
-///   key is used.
-/// - `count` chooses the plural form; it is not filled in anywhere.
-/// - `substitutions` are the texts for the placeholders; those without one stay as they are.
+/// - `key` is the entry's key. If there is a count, the table is searched for the key with the count's suffix: "_zero",
+///   "_one", "_two", "_few" (3 to 5) or "_many" (6 or more, and negative counts).
+/// - `defaultValue` is the English text, which is used if the table does not have the key. If it is empty, the key is
+///   used.
+/// - `count` selects the plural form. It is not filled in anywhere.
+/// - `substitutions` are the texts for the placeholders. Placeholders without a text stay as they are.
 ///
-/// All texts are UTF-8. Any thread may call it, at the same time as others. While the table cannot be opened
-/// for want of file descriptors or memory, the text is the English one. The process stops when no
-/// `Current::language` was assigned (with a message on standard error), and when Base.lproj is needed but
-/// missing among the module's resources (in a function whose name says so).
+/// All texts are UTF-8. Bytes that are not UTF-8 stay as they are. Returns the English text while the table temporarily
+/// cannot be opened.
+///
+/// Thread-safe. Throws std::bad_alloc if memory runs out. Stops the process if `Current::language` was not assigned
+/// (after one line on standard error), and if Base.lproj is needed but missing among the module's resources (in a
+/// function whose name says so).
 [[nodiscard]] ZK_EXPORT std::string localizedString(std::string_view key, std::string_view defaultValue,
                                                     std::optional<std::int64_t> count,
                                                     const Substitutions& substitutions);
 
-/// The same for a catalogue with resources of its own: looked up in `resources`, a directory with language
-/// directories such as Base.lproj and de.lproj, for the same `Current::language` and by the same rules. Null
-/// stands for resources that cannot be found for the moment; the text is then the English one.
+/// Returns the finished text of one entry of a catalogue with its own resources. `resources` is a directory with language
+/// directories such as Base.lproj and de.lproj; null means that it temporarily cannot be found, and returns the English
+/// text. Otherwise like `localizedString` without `resources`.
 ///
 ///     const zk::Bundle& texts = zk::Bundle::bundleForClass(typeid(MyTexts), "MyTexts");
 ///     zk::localizedString(&texts, "Hello", "Hello", std::nullopt, {})
+///
+/// Thread-safe. Throws std::bad_alloc if memory runs out. Stops the process if `Current::language` was not assigned
+/// and if Base.lproj is needed but missing.
 [[nodiscard]] ZK_EXPORT std::string localizedString(const Bundle* resources, std::string_view key,
                                                     std::string_view defaultValue,
                                                     std::optional<std::int64_t> count,

@@ -15,66 +15,85 @@
 
 namespace zk {
 
-/// The texts for the placeholders of one entry, by name: {"username", "kim"} fills "%{username}".
+/// The texts for the placeholders of one entry, by name: {"username", "kim"} fills in "%{username}".
 ///
 ///     const zk::Substitutions substitutions = {{"active", "12"}, {"limit", "50"}};
 ///
-/// What is known only when the program runs may come as any range of pairs:
+/// Names and texts that are known only at run time can come from any range of pairs:
 ///
 ///     std::map<std::string, std::string> values = ...;
 ///     zk::localizedString(key, english, std::nullopt, values);
 ///
-/// It views the texts that it is made of, which must outlive it. A computed text lives until the end of its
-/// statement: long enough for a call, too short for a variable.
+/// It views its texts, which must outlive it. A temporary lives until the end of its statement, which is long enough for
+/// a call, but not for a variable:
 ///
 ///     zk::localizedString(key, english, 5, {{"seconds", std::to_string(5)}});        // right
 ///     const std::string seconds = std::to_string(5);
 ///     const zk::Substitutions substitutions = {{"seconds", seconds}};                // right
-///     const zk::Substitutions substitutions = {{"seconds", std::to_string(5)}};      // wrong: the text is gone
+///     const zk::Substitutions substitutions = {{"seconds", std::to_string(5)}};      // wrong: the text is destroyed
 ///
-/// Up to five pairs in braces need no memory from the heap. A name given twice is a programming error that
-/// stops the process; canonically equivalent names (é and e + U+0301) are the same. Moved from, it is empty.
+/// Pairs in braces need no memory from the heap. Different objects may be used on different threads at the
+/// same time.
+///
+/// Stops the process if a name occurs twice. Canonically equivalent names, such as é and e + U+0301, are the same.
 class ZK_EXPORT Substitutions {
  public:
   /// A placeholder's name and the text that fills it. It views both.
   struct Pair {
-    /// Of two texts, which must outlive the pair.
-    constexpr Pair(Text placeholder, Text replacement) : name(placeholder), text(replacement) {}
-    /// Of a `std::pair` of texts, as maps hold them.
-    template <class Name, class Replacement>
-    constexpr Pair(const std::pair<Name, Replacement>& pair) : Pair(pair.first, pair.second) {}
+    /// Constructs a pair of two texts, which must outlive it.
+    constexpr Pair(Text placeholder ZK_REFERRED_TO, Text replacement ZK_REFERRED_TO)
+        : name(placeholder), text(replacement) {}
+    /// Constructs a pair from a `std::pair` of texts, as maps contain them.
+    template <std::convertible_to<Text> Name, std::convertible_to<Text> Replacement>
+    constexpr Pair(const std::pair<Name, Replacement>& pair ZK_REFERRED_TO) : Pair(pair.first, pair.second) {}
 
     std::string_view name;  ///< without "%{" and "}"
-    std::string_view text;  ///< taken as it is
+    std::string_view text;  ///< inserted as it is
+
+   private:
+    friend class Substitutions;
+    static constexpr char kAbsent = 0;
+    constexpr Pair() : name(&kAbsent, 0), text() {}
+    [[nodiscard]] constexpr bool isAbsent() const { return name.data() == &kAbsent; }
   };
 
-  /// None: every placeholder stays as it is.
+  /// Constructs an empty dictionary: every placeholder stays as it is.
   Substitutions() : size_(0) {}
-  /// The pairs in braces, in their order.
-  Substitutions(std::initializer_list<Pair> pairs) : Substitutions(pairs.begin(), pairs.size()) {}
+  /// Constructs a dictionary of up to five pairs in braces, in their order. Not from a `std::initializer_list`: the compiler
+  /// could not warn about texts that are destroyed too early.
+  Substitutions(Pair first ZK_REFERRED_TO, Pair second ZK_REFERRED_TO = {}, Pair third ZK_REFERRED_TO = {},
+                Pair fourth ZK_REFERRED_TO = {}, Pair fifth ZK_REFERRED_TO = {})
+      : Substitutions() {
+    const Pair pairs[] = {first, second, third, fourth, fifth};
+    std::size_t size = 1;
+    while (size < std::size(pairs) && !pairs[size].isAbsent()) ++size;
+    *this = Substitutions(pairs, size);
+  }
 
-  /// The pairs of a `std::map`, a vector or any other range that holds them (not one that computes them, as
-  /// nothing would own the texts).
+  /// Constructs a dictionary of the pairs in a `std::map`, a vector or any other range that stores its pairs. A range
+  /// that computes them does not compile, because nothing would own the texts.
   template <class Pairs>
   requires requires(const Pairs& pairs) {
     { *std::begin(pairs) } -> std::convertible_to<Pair>;
     requires std::is_lvalue_reference_v<decltype(*std::begin(pairs))>;
   }
   Substitutions(const Pairs& pairs ZK_REFERRED_TO) : Substitutions() {
-    std::vector<Pair> list;
-    if constexpr (requires { std::size(pairs); }) list.reserve(std::size(pairs));
-    for (const auto& pair : pairs) list.emplace_back(pair);
-    *this = Substitutions(list.data(), list.size());
+    if constexpr (std::is_convertible_v<const Pairs&, std::initializer_list<Pair>>) {
+      *this = Substitutions(std::data(pairs), std::size(pairs));
+    } else {
+      const std::vector<Pair> list(std::begin(pairs), std::end(pairs));
+      *this = Substitutions(list.data(), list.size());
+    }
   }
 
-  /// Copies view the same texts.
+  /// Constructs a copy that views the same texts.
   Substitutions(const Substitutions&) = default;
-  /// Leaves `other` empty.
+  /// Constructs a dictionary of the pairs of `other`, which is empty afterwards.
   Substitutions(Substitutions&& other) noexcept
       : size_(std::exchange(other.size_, 0)), many_(std::move(other.many_)) {
     if (size_ <= kFew) std::uninitialized_copy_n(other.few_, size_, few_);
   }
-  /// Takes the pairs of `other` over, in place of its own.
+  /// Replaces the pairs with those of `other`.
   Substitutions& operator=(Substitutions other) noexcept {
     size_ = other.size_;
     many_.swap(other.many_);
@@ -83,9 +102,9 @@ class ZK_EXPORT Substitutions {
   }
   ~Substitutions() = default;
 
-  /// The first of the pairs, in the order in which they were given.
+  /// The first pair, in the order of construction.
   [[nodiscard]] const Pair* begin() const ZK_REFERRED_TO { return size_ > kFew ? many_.data() : few_; }
-  /// Behind the last of them.
+  /// The end of the pairs, after the last one.
   [[nodiscard]] const Pair* end() const ZK_REFERRED_TO { return begin() + size_; }
 
  private:
@@ -105,8 +124,7 @@ class ZK_EXPORT Substitutions {
     std::uninitialized_copy_n(pairs, size, few_);
   }
 
-  /// False for nearly all names that are not the same: an ASCII character at either end of a text is there in
-  /// each that is canonically equivalent.
+  /// False for nearly all different names: canonically equivalent texts have the same ASCII characters at their ends.
   static bool mayBeSame(std::string_view one, std::string_view other) {
     const auto mayAgree = [](char a, char b) {
       return a == b || (static_cast<unsigned char>(a | b) & 0x80U) != 0;
@@ -119,7 +137,7 @@ class ZK_EXPORT Substitutions {
 
   std::size_t size_;
   union {
-    Pair few_[kFew];  // in a union, so that an empty dictionary costs no initialisation
+    Pair few_[kFew];  // in a union, so an empty dictionary initialises none
   };
   std::vector<Pair> many_{};
 };

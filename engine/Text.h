@@ -8,19 +8,20 @@
 
 namespace zk {
 
-/// A text that a caller hands over for the time of the call: whatever converts to `std::string_view` (a
-/// literal, a `std::string`), in UTF-8. It views the text and owns nothing. A number is no text: where
-/// `badgeCount_Badges(0, 0)` would compile for a plain `std::string_view`, and take the first 0 for a null
-/// pointer, it does not compile here.
+/// A parameter for a text in UTF-8: a literal, a `std::string`, or anything else that converts to `std::string_view`. It
+/// views the text, which must outlive it.
+///
+/// A number is not a text: `badgeCount_Badges(0, 0)` does not compile. With `std::string_view` it would, and take the
+/// first 0 for a null pointer.
 class Text {
  public:
-  /// Views `spelling`, which must outlive it.
+  /// Constructs a view of `text`.
   template <std::convertible_to<std::string_view> Spelling>
-  constexpr Text(const Spelling& spelling ZK_REFERRED_TO) : view_(spelling) {}
-  /// Nothing is no text.
+  constexpr Text(const Spelling& text ZK_REFERRED_TO) : view_(text) {}
+  /// A null pointer is not a valid text.
   Text(std::nullptr_t) = delete;
 
-  /// The text itself.
+  /// The viewed text.
   constexpr operator std::string_view() const { return view_; }
 
  private:

@@ -83,6 +83,13 @@ class Bundle::Listing {
     }
   }
 
+  template <class Visit>
+  void forEach(Visit visit) const {
+    for (std::size_t at = 0; at <= last_; ++at) {
+      if (slots_[at].path) visit(*slots_[at].path);
+    }
+  }
+
   [[nodiscard]] const ResourcePath* find(std::string_view name, std::string_view type) const {
     const Name wanted(name, type);
     for (std::size_t at = wanted.place() & last_; slots_[at].path; at = (at + 1) & last_) {
@@ -194,6 +201,14 @@ const Bundle* Bundle::open(const std::string& path, std::error_code& failure) {
 const ResourcePath* Bundle::pathForResource(std::string_view name, std::string_view type) const {
   const ResourcePath* const resource = listing_->find(name, type);
   return resource && resource->isDirectory() ? resource : nullptr;
+}
+
+std::vector<std::string_view> Bundle::directoriesOfType(std::string_view type) const {
+  std::vector<std::string_view> names;
+  listing_->forEach([&](const ResourcePath& resource) {
+    if (resource.type_ == type && resource.isDirectory()) names.push_back(resource.name_);
+  });
+  return names;
 }
 
 std::optional<std::string> Bundle::URLForResource(std::string_view name, std::string_view extension) const {

@@ -10,6 +10,7 @@
 #include <string_view>
 #include <system_error>
 #include <typeinfo>
+#include <vector>
 
 namespace zk {
 
@@ -79,6 +80,10 @@ class ZK_EXPORT alignas(kCacheLine) Bundle {
   /// is none. Names are compared byte for byte and never become a path. An empty name, a name with a slash and a
   /// type with a dot are never found.
   [[nodiscard]] const ResourcePath* pathForResource(std::string_view name, std::string_view type) const;
+
+  /// Returns the names of the directories of the type `type` among the bundle's resources, in no particular order: "Base"
+  /// and "de" for "lproj". The names live as long as the bundle.
+  [[nodiscard]] std::vector<std::string_view> directoriesOfType(std::string_view type) const;
 
   /// Returns the full path of the file `name`.`extension` in the bundle's directory; nothing if there is none.
   /// Looks for the file on every call.

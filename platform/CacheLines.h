@@ -8,8 +8,8 @@ namespace zk {
 /// The unit in which processors move memory between their caches, in bytes.
 inline constexpr std::size_t kCacheLine = 64;
 
-/// Allocates whole cache lines. For what many threads read and none writes: when one of them writes to
-/// something else on the same line, the others have to fetch the line anew.
+/// Allocates whole cache lines, for objects that many threads read and none writes. If a thread wrote to something else on
+/// the same line, all others would have to load the line again.
 template <class Object>
 struct CacheLineAllocator {
   using value_type = Object;

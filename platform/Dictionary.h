@@ -14,27 +14,29 @@ namespace zk {
 
 class Value;
 
-/// What one JSON object holds: members by name, in the order in which they were written.
+/// The members of one JSON object by name, in their order in the text.
 ///
 ///     const zk::Dictionary country = {{"name", "Austria"}, {"phoneCode", 43}, {"iso", "AT"}};
+///
+/// Different objects may be used on different threads at the same time.
 class Dictionary {
  public:
   /// A member's name and its value.
   using Member = std::pair<std::string, Value>;
 
-  /// Without members.
+  /// Constructs an empty dictionary.
   Dictionary();
-  /// With `members`, in their order; a name may come twice.
+  /// Constructs a dictionary of `members`, in their order. A name may occur twice.
   Dictionary(std::initializer_list<Member> members);
 
-  /// Adds a member and gives its value, made of `content` in its place.
+  /// Adds a member with a value made from `content`, and returns the value.
   template <class Content>
   Value& append(std::string_view name, Content&& content);
 
-  /// The value of the member `name`, compared byte for byte; null when there is none. Of several the last
-  /// counts.
+  /// Returns the value of the member `name`, compared byte for byte; null if there is none. If a name occurs several
+  /// times, the last member counts.
   [[nodiscard]] const Value* find(std::string_view name) const;
-  /// The same as `find`, and null also when the value is of another type than `Type`.
+  /// Returns the value of the member `name` as `Type`; null if there is none or if it is of another type.
   template <class Type>
   [[nodiscard]] const Type* find(std::string_view name) const;
 
@@ -42,7 +44,7 @@ class Dictionary {
   std::vector<Member> members_;
 };
 
-/// The integers that are numbers, and neither a truth value nor a character.
+/// An integer type that is a number, not a truth value or a character.
 template <class Type>
 concept IntegerNumber = std::integral<Type> && !std::same_as<Type, bool> && !std::same_as<Type, char> &&
                         !std::same_as<Type, wchar_t> && !std::same_as<Type, char8_t> &&
@@ -54,13 +56,13 @@ class Value {
   /// The elements of a JSON array.
   using List = std::vector<Value>;
 
-  /// Null.
+  /// Constructs null.
   Value() = default;
-  /// Null.
+  /// Constructs null.
   Value(std::nullptr_t) {}
-  /// Only a boolean itself: a pointer or a number does not become one.
+  /// Constructs a boolean. A pointer or a number does not become one.
   Value(std::same_as<bool> auto value) : value_(value) {}
-  /// An integer of any type; one beyond `std::int64_t` becomes the nearest `double`, as in JSON.
+  /// Constructs an integer. One beyond `std::int64_t` becomes the nearest `double`, as in JSON.
   Value(IntegerNumber auto value) {
     if (std::in_range<std::int64_t>(value)) {
       value_ = static_cast<std::int64_t>(value);
@@ -68,28 +70,28 @@ class Value {
       value_ = static_cast<double>(value);
     }
   }
-  /// A number that is no integer, also when it has no fraction.
+  /// Constructs a number that is not an integer, even if it has no fraction.
   Value(std::floating_point auto value) : value_(static_cast<double>(value)) {}
-  /// A text, in UTF-8.
+  /// Constructs a text, in UTF-8.
   Value(const char* value) : value_(std::string(value)) {}
-  /// A text, in UTF-8.
+  /// Constructs a text, in UTF-8.
   Value(std::string_view value) : value_(std::string(value)) {}
-  /// A text, in UTF-8.
+  /// Constructs a text, in UTF-8.
   Value(const std::string& value) : value_(value) {}
-  /// A text, in UTF-8.
+  /// Constructs a text, in UTF-8.
   Value(std::string&& value) : value_(std::move(value)) {}
-  /// A list.
+  /// Constructs a list.
   Value(List value) : value_(std::move(value)) {}
-  /// A dictionary.
+  /// Constructs a dictionary.
   Value(Dictionary value) : value_(std::move(value)) {}
 
-  /// The value as `Type` (`bool`, `std::int64_t`, `double`, `std::string`, `List` or `Dictionary`); null when
-  /// it is of another type. Nothing is converted: the text "44" is no number and 44.0 is no integer.
+  /// Returns the value as `Type` (`bool`, `std::int64_t`, `double`, `std::string`, `List` or `Dictionary`); null if it is
+  /// of another type. Nothing is converted: the text "44" is not a number, and 44.0 is not an integer.
   template <class Type>
   [[nodiscard]] const Type* as() const {
     return std::get_if<Type>(&value_);
   }
-  /// The same, to be changed in place.
+  /// Returns the value as `Type`, to be changed in place; null if it is of another type.
   template <class Type>
   [[nodiscard]] Type* as() {
     return std::get_if<Type>(&value_);

@@ -6,7 +6,7 @@
 #include <optional>
 #include <string>
 
-// What ZKStrings needs of the app's shared module: the record `Current` of app-wide services.
+// The part of the app's shared module that ZKStrings needs: the record `Current` of app-wide services.
 
 namespace zk {
 
@@ -14,33 +14,32 @@ namespace zk {
 class ZK_EXPORT NetworkReaching {
  public:
   virtual ~NetworkReaching();
-  /// The code of the country that the current network connection shows, or nothing when it is not known. May
-  /// be called by any thread that reads `Language::country`.
+  /// Returns the code of the country that the current network connection shows, or nothing if it is not known. Called on
+  /// the thread that calls `Language::country`.
   [[nodiscard]] virtual std::optional<std::string> networkCountryCode() const = 0;
 };
 
 namespace Current {
 
-/// The property behind `Current::reachability`.
+/// The type of `Current::reachability`.
 class ZK_EXPORT ReachabilityProperty {
  public:
   constexpr ReachabilityProperty() = default;
   ReachabilityProperty(const ReachabilityProperty&) = delete;
 
-  /// Makes `service` the app's reachability service; none (a null pointer) is the state before the first
-  /// assignment.
+  /// Makes `service` the app's reachability service. A null pointer restores the state before the first assignment.
   const ReachabilityProperty& operator=(std::shared_ptr<const NetworkReaching> service) const;
 
-  /// The app's service; before one was assigned, a service that knows no country. Never null.
+  /// Returns the app's service; before one is assigned, a service that does not know the country. Never null.
   [[nodiscard]] operator std::shared_ptr<const NetworkReaching>() const { return service(); }
-  /// The same, to call it.
+  /// Gives access to the app's service, to call it. Never null.
   [[nodiscard]] std::shared_ptr<const NetworkReaching> operator->() const { return service(); }
 
  private:
   [[nodiscard]] static std::shared_ptr<const NetworkReaching> service();
 };
 
-/// The app's network reachability service. Any thread may read and assign it.
+/// The app's network reachability service. Thread-safe.
 ///
 ///     zk::Current::reachability = std::make_shared<CarrierReachability>();
 ///     std::optional<std::string> code = zk::Current::reachability->networkCountryCode();

@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace zk {
 
@@ -19,7 +20,7 @@ SharedArray<Country> countriesIn(const Bundle& bundle) {
   const auto isObject = [](const Value& element) { return element.as<Dictionary>() != nullptr; };
   if (!elements || !std::all_of(elements->begin(), elements->end(), isObject)) return {};
 
-  SharedArray<Country>::Elements countries;
+  std::vector<Country> countries;
   countries.reserve(elements->size());
   for (const Value& element : *elements) {
     std::optional<Country> country = Country::fromDictionary(*element.as<Dictionary>());

@@ -10,34 +10,37 @@
 
 namespace zk {
 
-/// The user's language and region settings. A plain value: copies are cheap and independent, and separate
-/// copies may be used on different threads.
+/// The user's language and region settings. A plain value: copies are cheap and independent, and different copies may be
+/// used on different threads at the same time.
 ///
 ///     zk::Language language;                                  // the settings of this machine
 ///     language.preferredLanguages = {"pt-BR", "en"};          // or others
-///     zk::Current::language = language;                       // the texts of the app follow them
+///     zk::Current::language = language;                       // the app's texts follow them
 struct ZK_EXPORT Language {
-  /// The settings as they are now. Reads and parses the country list: make one `Language` and keep it. Never
-  /// fails; a country list that is missing or damaged gives no countries.
+  /// Constructs a record of the current settings. Reads and parses the country list, so construct one `Language` and
+  /// keep it. If the country list is missing or damaged, there are no countries. Throws std::bad_alloc if memory runs
+  /// out.
   Language();
 
   /// The countries that the app offers, in the order of the country list.
   SharedArray<Country> countries;
-  /// The user's locale, which follows later changes of the settings.
+  /// The user's locale, which follows later changes to the settings.
   Locale locale;
-  /// Language identifiers such as "de-DE", most preferred first, as the settings had them when this was made.
+  /// Language identifiers such as "de-DE", most preferred first, as they were in the settings at construction.
   SharedArray<std::string> preferredLanguages;
 
-  /// The user's country: what the app's reachability service says, also when that is empty, or else
-  /// `preferredLanguageCountry`. Asks the service at each call.
+  /// Returns the user's country: the one that the app's reachability service reports, even if that is empty, or else
+  /// `preferredLanguageCountry`. Asks the service on every call.
+  ///
+  ///     zk::Current::language->country().value_or("US")   // "AT" on a phone in Austria
   [[nodiscard]] std::optional<std::string> country() const;
 
-  /// The last of the parts that hyphens separate in the first preferred language, whatever it is: "US" of
-  /// "en-US", "CN" of "zh-Hans-CN", "en" of "en". Nothing when there is no such part.
+  /// Returns the last hyphen-separated part of the first preferred language, whatever it is: "US" for "en-US", "CN" for
+  /// "zh-Hans-CN", "en" for "en". Returns nothing if there is no such part.
   [[nodiscard]] std::optional<std::string> preferredLanguageCountry() const;
 
-  /// The first two of exactly three such parts ("zh-Hans" of "zh-Hans-CN"), or the first of exactly two ("en"
-  /// of "en-US"). Nothing when there are fewer or more: "en" has no code.
+  /// Returns the first two of exactly three such parts ("zh-Hans" for "zh-Hans-CN"), or the first of exactly two ("en"
+  /// for "en-US"). Returns nothing if there are fewer or more: "en" has no code.
   [[nodiscard]] std::optional<std::string> preferredLanguageCode() const;
 };
 

@@ -10,6 +10,7 @@
 #include <unicode/ubrk.h>
 #include <unicode/uchar.h>
 #include <unicode/udata.h>
+#include <unicode/uloc.h>
 #include <unicode/utf8.h>
 
 namespace zk {
@@ -150,6 +151,11 @@ std::size_t findCharacter(std::string_view text, char wanted) {
     at += size;
   }
   return std::string_view::npos;
+}
+
+bool isRightToLeft(std::string_view code) {
+  internal::requireMemoryForICU();
+  return uloc_isRightToLeft(std::string(code).c_str()) != 0;
 }
 
 std::string upperCased(std::string_view text) {

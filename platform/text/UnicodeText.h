@@ -35,6 +35,9 @@ void appendCodePoint(std::string& text, char32_t codePoint);
 /// the base of one with accents or joiners; `npos` if there is none.
 [[nodiscard]] std::size_t findCharacter(std::string_view text, char wanted);
 
+/// Whether the language with the code `code`, such as "ar", is written from right to left.
+[[nodiscard]] bool isRightToLeft(std::string_view code);
+
 /// Returns `text` in upper case by Unicode's full default mapping, in every locale: "straße" becomes "STRASSE".
 [[nodiscard]] std::string upperCased(std::string_view text);
 

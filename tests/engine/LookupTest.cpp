@@ -1,6 +1,6 @@
 #include <ZKStrings/catalogue/ZKStrings.h>
-#include <ZKStrings/engine/LanguageChoice.h>
-#include <ZKStrings/engine/PluralSuffix.h>
+#include <ZKStrings/engine/Languages.h>
+#include <ZKStrings/engine/LookupRules.h>
 #include <ZKStrings/engine/StringLookup.h>
 #include <ZKStrings/platform/Bundle.h>
 #include <ZKStrings/platform/Resolver.h>
@@ -42,6 +42,50 @@ TEST(Lookup, ACatalogueOfItsOwnFollowsTheSameLanguage) {
   Current::language->preferredLanguages = {"en"};
   EXPECT_EQ(localizedString(own, "Hi", "%{n} his", 1, {{"n", "1"}}), "1 hi");
   EXPECT_EQ(localizedString(nullptr, "Hi", "%{n} his", 1, {{"n", "1"}}), "1 his");
+}
+
+/// The codes of the languages, each with its direction.
+std::string shown(const std::vector<TextLanguage>& languages) {
+  std::string all;
+  for (const auto& [code, direction] : languages)
+    all += code + (direction == TextDirection::rtl ? ":rtl " : " ");
+  return all;
+}
+
+TEST(Languages, AreThoseThatALookupCanChoose) {
+  Current::language = Language{};
+  const TemporaryDirectory directory;
+  for (const char* name : {"Base", "de", "ar", "ckb", "zh-Hans", "en", "x", "日本", "e\u0301"})
+    directory.write(std::string(name) + ".lproj/Localizable.strings",
+                    "\"a\" = \"" + std::string(name) + "\";");
+  directory.write("fr.lproj", "not a directory");
+  directory.write("it.strings", "");
+  const Bundle* const own = Bundle::initWithPath(directory.path());
+  const std::vector<TextLanguage> available = availableLanguages(own);
+  EXPECT_EQ(shown(available), "ar:rtl de en e\u0301 x 日本 ");
+  for (const char* identifier :
+       {"ar-EG", "ckb-IQ", "de", "en-GB", "en", "e\u0301", "fr-FR", "x", "zh-Hans-CN", "日本語", "", "it"}) {
+    Current::language->preferredLanguages = {identifier};
+    const TextLanguage chosen = chosenLanguage(own);
+    const std::string text = localizedString(own, "a", "", std::nullopt, {});
+    EXPECT_EQ(text, chosen.code == "en" ? "Base" : chosen.code) << identifier;
+    EXPECT_NE(shown(available).find(shown({chosen})), std::string::npos) << identifier;
+  }
+  for (const TextLanguage& language : available) {
+    Current::language->preferredLanguages = {language.code};
+    EXPECT_EQ(shown({chosenLanguage(own)}), shown({language}));
+  }
+}
+
+TEST(Languages, OfTheModule) {
+  Current::language = Language{};
+  EXPECT_GE(availableLanguages().size(), 21u);
+  Current::language->preferredLanguages = {"xx", "ar-EG", "de"};
+  EXPECT_EQ(shown({chosenLanguage()}), "ar:rtl ");
+  Current::language->preferredLanguages = {"xx"};
+  EXPECT_EQ(shown({chosenLanguage()}), "en ");
+  EXPECT_EQ(shown({chosenLanguage(nullptr)}), "en ");
+  EXPECT_TRUE(availableLanguages(nullptr).empty());
 }
 
 /// Stands in for the platform's bundle, writes down what is asked of it, and can change its mind.

@@ -1,11 +1,17 @@
 #include <ZKStrings/engine/PlaceholderSubstitution.h>
 #include <ZKStrings/platform/text/TextSearch.h>
+#include <ZKStrings/platform/text/UnicodeText.h>
+#include <ZKStrings/tests/CommandOutput.h>
 #include <ZKStrings/tests/RandomTexts.h>
 #include <ZKStrings/tests/Rows.h>
+#include <ZKStrings/tests/TemporaryDirectory.h>
 
 #include <algorithm>
+#include <cstdint>
+#include <fstream>
 #include <map>
 #include <random>
+#include <sstream>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -13,6 +19,7 @@
 #include <vector>
 
 #include <gtest/gtest.h>
+#include <unicode/uchar.h>
 
 namespace zk {
 namespace {
@@ -45,6 +52,76 @@ TEST(Substitution, TakesAnyRangeOfPairs) {
   EXPECT_EQ(applySubstitutions("%{n0} %{n4}", numbered(5)), "0 4");
   EXPECT_EQ(applySubstitutions("%{n0} %{n999}", numbered(1000)), "0 999");
   static_assert(!std::is_constructible_v<Substitutions, std::vector<std::string>>);
+  static_assert(!std::is_convertible_v<std::map<std::string, int>, Substitutions>);
+  static_assert(!std::is_convertible_v<std::vector<std::pair<int, std::string>>, Substitutions>);
+}
+
+TEST(Substitution, TheCompilerWarnsOfTextsThatAreDestroyedTooEarly) {
+  if (testing::outputOf("clang++ --version 2>&1").status != 0) GTEST_SKIP() << "needs Clang";
+  const testing::TemporaryDirectory directory;
+  const std::string five = "const std::string five = std::to_string(5); ";
+  const std::pair<std::string, bool> cases[] = {
+      {"const zk::Substitutions pairs = {{\"n\", std::to_string(5)}};", true},
+      {"const zk::Substitutions pairs = {{\"a\", \"b\"}, {std::to_string(5), \"c\"}};", true},
+      {"const zk::Substitutions pairs = std::map<std::string, std::string>();", true},
+      {"const zk::Substitutions::Pair pair = {\"n\", std::to_string(5)};", true},
+      {five + "const zk::Substitutions pairs = {{\"a\", \"b\"}, {\"n\", five}};", false},
+      {"return zk::localizedString(\"a\", \"b\", 5, {{\"n\", std::to_string(5)}});", false},
+  };
+  for (const auto& [code, isWarning] : cases) {
+    const std::string file = directory.write(
+        "code.cpp", "#include <ZKStrings/engine/StringLookup.h>\n#include <map>\nstd::string f() { " + code +
+                        " return {}; }");
+    const testing::Answer answer = testing::outputOf(
+        "clang++ -std=c++20 -Wall -Wno-unused -Werror -fsyntax-only -I" ZK_INCLUDE_DIRECTORY " " + file +
+        " 2>&1");
+    EXPECT_EQ(answer.status != 0, isWarning) << code << "\n" << answer.output;
+    EXPECT_EQ(answer.output.find("[-Werror,-Wdangling]") != std::string::npos, isWarning) << answer.output;
+  }
+}
+
+/// For each character, the combining class of the first character of its canonical decomposition, from Unicode's own file.
+std::map<char32_t, int> leadCombiningClasses() {
+  std::map<char32_t, int> classes;
+  std::map<char32_t, char32_t> leads;
+  std::ifstream file("/usr/share/unicode/UnicodeData.txt");
+  for (std::string line; std::getline(file, line);) {
+    std::istringstream fields(line);
+    std::string field[6];
+    for (std::string& each : field) std::getline(fields, each, ';');
+    const auto character = static_cast<char32_t>(std::stoul(field[0], nullptr, 16));
+    classes[character] = std::stoi(field[3]);
+    const bool isCanonical = !field[5].empty() && field[5][0] != '<';
+    if (isCanonical) leads[character] = static_cast<char32_t>(std::stoul(field[5], nullptr, 16));
+  }
+  std::map<char32_t, int> leadClasses;
+  for (const auto& [character, unused] : classes) {
+    char32_t lead = character;
+    while (leads.contains(lead)) lead = leads[lead];
+    leadClasses[character] = classes[lead];
+  }
+  return leadClasses;
+}
+
+TEST(Substitution, OnlyACombiningMarkKeepsAPlaceholderFromBeingFilledIn) {
+  std::map<char32_t, int> classes = leadCombiningClasses();
+  if (classes.empty()) GTEST_SKIP() << "needs Debian's package unicode-data";
+  int marks = 0;
+  for (char32_t character = 1; character <= 0x10FFFF; ++character) {
+    std::string next;
+    appendCodePoint(next, character);
+    if (next.empty() || u_charType(static_cast<UChar32>(character)) == U_UNASSIGNED) continue;
+    const bool isMark = classes[character] != 0;
+    marks += isMark ? 1 : 0;
+    ASSERT_EQ(applySubstitutions("%{b}" + next, {{"b", "x"}}), (isMark ? "%{b}" : "x") + next)
+        << std::uint32_t{character};
+    if (isMark) continue;
+    ASSERT_EQ(applySubstitutions("%{b}%{a}", {{"a", next}, {"b", "x"}}), "x" + next)
+        << std::uint32_t{character};
+    ASSERT_EQ(applySubstitutions("%{b}%{a}", {{"b", "x"}, {"a", next}}), "x" + next)
+        << std::uint32_t{character};
+  }
+  EXPECT_GT(marks, 900);
 }
 
 TEST(Substitution, IsAValue) {

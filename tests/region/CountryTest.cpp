@@ -6,6 +6,7 @@
 
 #include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -29,6 +30,12 @@ TEST(Country, DerivesItsTexts) {
   EXPECT_EQ(country(1, "1-").emoji(), "\U0001F1D6\U0001F1D2");
   EXPECT_EQ(country(1, "\U000F0E5A\U000F0E5Ba").emoji(), "\U0010FFFF🇦");
   EXPECT_EQ(country(1, "gb").ISO(), "gb");
+}
+
+TEST(Country, StaysWholeWhenItIsMovedFrom) {
+  Country original = country(44, "GB");
+  const Country other = std::move(original);
+  EXPECT_EQ(original.displayName(), other.displayName());
 }
 
 TEST(Country, ComesOnlyFromACompleteDictionary) {

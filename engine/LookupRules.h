@@ -4,33 +4,49 @@
 #include <ZKStrings/platform/SharedArray.h>
 #include <ZKStrings/platform/text/UnicodeText.h>
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
 namespace zk {
 
-/// The name of the directory for a language identifier such as "pt-BR": its first two characters, and "Base"
-/// for English.
+/// Returns the suffix of a key for `count`. The same in every language, whatever its grammar.
+[[nodiscard]] constexpr std::string_view pluralSuffix(std::int64_t count) {
+  switch (count) {
+    case 0:
+      return "_zero";
+    case 1:
+      return "_one";
+    case 2:
+      return "_two";
+    default:
+      // 3, 4 and 5. As an unsigned number, every negative count is far above them.
+      return static_cast<std::uint64_t>(count) - 3 <= 2 ? "_few" : "_many";
+  }
+}
+
+/// Returns the name of the directory for a language identifier such as "pt-BR": its first two characters, or "Base" for
+/// English.
 [[nodiscard]] inline std::string_view languageCode(std::string_view identifier) {
   const std::string_view code = firstTwoCharacters(identifier);
   return code.size() == 2 && code[0] == 'e' && code[1] == 'n' ? "Base" : code;
 }
 
-/// Stops the process: there is no Base.lproj among the module's resources, or there are no resources where
-/// the module looks for them. The name is what a debugger shows.
+// A debugger shows the names of these functions, even if the library is stripped.
+
+/// Stops the process: Base.lproj is missing among the module's resources, or there are no resources at all.
 [[noreturn, gnu::cold, gnu::noinline]] ZK_EXPORT void baseLprojIsMissingAmongTheResources();
 
-/// Stops the process: the directory of a language was there, and was gone a moment later.
+/// Stops the process: the directory of a language existed, but not any more at the next step.
 [[noreturn, gnu::cold, gnu::noinline]] ZK_EXPORT void languageDirectoryHasVanished();
 
-/// The bundle of the language directory that `preferredLanguages` chooses among the resources of `bundle`:
-/// that of the first entry whose directory exists and opens, or else Base.lproj. Stops the process when that
-/// is missing or does not open.
+/// Returns the bundle of the language directory that `preferredLanguages` chooses among the resources of `bundle`: that
+/// of the first entry whose directory exists and opens, or else Base.lproj. Stops the process if Base.lproj is needed,
+/// but missing or not a directory, and if a directory vanishes between two steps.
 ///
-/// `PlatformBundle` is the platform's bundle or a stand-in with the same operations. Nothing is remembered:
-/// an entry's directory is looked up once to see that it is there and once to open it, and the winner's steps
-/// are taken again to obtain its bundle. What was there at first must still be there then, or the process
-/// stops.
+/// `PlatformBundle` is the platform's bundle, or a test's with the same operations. Nothing is remembered between
+/// calls: an entry's directory is looked up once to see that it exists and once to open it, and for the winner both
+/// steps are repeated.
 template <class PlatformBundle>
 const PlatformBundle& chosenLanguageBundle(const PlatformBundle& bundle,
                                            const SharedArray<std::string>& preferredLanguages) {
