@@ -63,11 +63,11 @@ class ZK_EXPORT Substitutions {
   /// could not warn about texts that are destroyed too early.
   Substitutions(Pair first ZK_REFERRED_TO, Pair second ZK_REFERRED_TO = {}, Pair third ZK_REFERRED_TO = {},
                 Pair fourth ZK_REFERRED_TO = {}, Pair fifth ZK_REFERRED_TO = {})
-      : Substitutions() {
+      : size_(0) {
     const Pair pairs[] = {first, second, third, fourth, fifth};
     std::size_t size = 1;
     while (size < std::size(pairs) && !pairs[size].isAbsent()) ++size;
-    *this = Substitutions(pairs, size);
+    adopt(pairs, size);
   }
 
   /// Constructs a dictionary of the pairs in a `std::map`, a vector or any other range that stores its pairs. A range
@@ -77,12 +77,12 @@ class ZK_EXPORT Substitutions {
     { *std::begin(pairs) } -> std::convertible_to<Pair>;
     requires std::is_lvalue_reference_v<decltype(*std::begin(pairs))>;
   }
-  Substitutions(const Pairs& pairs ZK_REFERRED_TO) : Substitutions() {
+  Substitutions(const Pairs& pairs ZK_REFERRED_TO) : size_(0) {
     if constexpr (std::is_convertible_v<const Pairs&, std::initializer_list<Pair>>) {
-      *this = Substitutions(std::data(pairs), std::size(pairs));
+      adopt(std::data(pairs), std::size(pairs));
     } else {
       const std::vector<Pair> list(std::begin(pairs), std::end(pairs));
-      *this = Substitutions(list.data(), list.size());
+      adopt(list.data(), list.size());
     }
   }
 
@@ -110,7 +110,8 @@ class ZK_EXPORT Substitutions {
  private:
   static constexpr std::size_t kFew = 5;
 
-  Substitutions(const Pair* pairs, std::size_t size) : size_(size) {
+  void adopt(const Pair* pairs, std::size_t size) {
+    size_ = size;
     if (size > kFew) {
       many_.assign(pairs, pairs + size);
       stopAtRepetition(many_);
