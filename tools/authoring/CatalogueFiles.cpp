@@ -1,3 +1,4 @@
+#include <ZKStrings/catalogue/KeyRule.h>
 #include <ZKStrings/tools/authoring/AccessorGenerator.h>
 #include <ZKStrings/tools/authoring/CatalogueFiles.h>
 #include <ZKStrings/tools/project/CatalogueSettings.h>
@@ -163,12 +164,20 @@ std::size_t writeCatalogue(const std::string& root, const Catalogue& catalogue, 
 
 std::size_t generate(const std::string& root) {
   const Table base = Table::readWellFormed(root, kBase);
+  TableChange change{.sorts = true, .generates = true};
   const auto isKnown = [&](const Entry& entry) {
-    return base.find(entry.plural ? entry.key + std::string(kPluralForms[0].suffix) : entry.key) != nullptr;
+    const std::vector<std::string> keys = entry.lookedUpKeys();
+    if (!base.find(keys.front())) return false;
+    if (entry.kept != Entry::Kept::nothing || entry.key == keyForText(entry.text)) return true;
+    // The text was changed by hand, perhaps in the English table, too.
+    std::copy_if(
+        keys.begin(), keys.end(), std::inserter(change.reviewed, change.reviewed.end()),
+        [&](const std::string& key) { return base.find(key) && base.find(key)->text == entry.text; });
+    return true;
   };
   Catalogue catalogue = Catalogue::readEdited(root, isKnown);
   completeForms(catalogue, base);
-  return writeCatalogue(root, catalogue, {.sorts = true, .generates = true});
+  return writeCatalogue(root, catalogue, change);
 }
 
 void generateInto(const std::string& output, const std::string& root) {

@@ -3,7 +3,9 @@
 #include <ZKStrings/tools/project/Catalogue.h>
 
 #include <cstddef>
+#include <functional>
 #include <map>
+#include <set>
 #include <string>
 
 namespace zk::tools {
@@ -15,8 +17,8 @@ struct TableChange {
   /// "%{value}" and what replaces it in the entries of `renamed`.
   std::string oldPlaceholder = {};
   std::string newPlaceholder = {};
-  /// A key whose translations need review although its English text is the same.
-  std::string reviewed = {};
+  /// Keys whose translations need review although the English table has the same text.
+  std::set<std::string, std::less<>> reviewed = {};
   /// Whether translations of a changed text are still right.
   bool keepsMeaning = false;
   /// Whether translations get the order of the catalogue, without repeated entries.

@@ -94,12 +94,9 @@ std::vector<Entry*> entriesOf(Catalogue& catalogue, const std::string& key) {
 
 /// The keys of the tables for `entry`, and what they are with the key `newKey`; all empty if that is.
 std::map<std::string, std::string> renamedKeys(const Entry& entry, const std::string& newKey) {
-  if (!entry.plural) return {{entry.key, newKey}};
   std::map<std::string, std::string> keys;
-  for (const PluralForm& form : kPluralForms) {
-    const std::string suffix(form.suffix);
-    keys.emplace(entry.key + suffix, newKey.empty() ? "" : newKey + suffix);
-  }
+  for (const std::string& key : entry.lookedUpKeys())
+    keys.emplace(key, newKey.empty() ? "" : newKey + key.substr(entry.key.size()));
   return keys;
 }
 
@@ -141,8 +138,9 @@ void renamePlaceholder(Entry& entry, const std::string& renaming, TableChange& t
 void addCount(Entry& entry, const PluralForms& forms, TableChange& tables) {
   entry.plural = true;
   setForms(entry, forms);
-  tables.reviewed = entry.key + std::string(std::rbegin(kPluralForms)->suffix);
-  tables.renamed.emplace(entry.key, tables.reviewed);
+  const std::string many = entry.key + std::string(std::rbegin(kPluralForms)->suffix);
+  tables.renamed.emplace(entry.key, many);
+  tables.reviewed.insert(many);
 }
 
 }  // namespace

@@ -3,10 +3,12 @@
 #include <ZKStrings/tools/exchange/Import.h>
 #include <ZKStrings/tools/project/Catalogue.h>
 #include <ZKStrings/tools/project/EnglishTexts.h>
+#include <ZKStrings/tools/project/EntryComments.h>
 #include <ZKStrings/tools/support/Files.h>
 #include <ZKStrings/tools/support/Languages.h>
 #include <ZKStrings/tools/texts/TextFeatures.h>
 #include <ZKStrings/tools/translation/TableEditor.h>
+#include <ZKStrings/tools/translation/Template.h>
 
 #include <algorithm>
 #include <map>
@@ -88,9 +90,9 @@ class Importer {
     }
     const bool isOutdated = unit.source != english.text;
     const TranslationState state = isOutdated && force_ ? TranslationState::needsReview : unit.state;
-    const bool hasMark = entry && (isMarked(*entry, TranslationState::untranslated) ||
-                                   isMarked(*entry, TranslationState::needsReview));
-    const bool setsState = hasMark || state == TranslationState::needsReview;
+    const bool hasMark = entry && isMarked(*entry, TranslationState::untranslated);
+    const bool setsState =
+        hasMark || present == TranslationState::needsReview || state == TranslationState::needsReview;
     const bool isSameText = entry && entry->text == unit.target;
     if (isSameText && (present == state || !setsState)) {
       ++result_.unchanged;
@@ -107,6 +109,7 @@ class Importer {
     }
     if (!isSameText) editor_.replaceText(*entry, unit.target);
     if (setsState) editor_.setState(*entry, state, previousEnglish);
+    if (quotedIn(*entry, kExplanation)) editor_.setComment(*entry, kExplanation, explanationOf(english));
     log(unit, isSameText ? result_.stateChanged : result_.changed,
         fmt::format("is changed from {} to {}", shown(entry->text, present), shown(unit.target, state)));
   }

@@ -223,6 +223,13 @@ std::string Entry::context() const {
   return comment + (comment.empty() || limit.empty() ? "" : " ") + limit;
 }
 
+std::vector<std::string> Entry::lookedUpKeys() const {
+  if (!plural) return {key};
+  std::vector<std::string> keys;
+  for (const PluralForm& form : kPluralForms) keys.push_back(key + std::string(form.suffix));
+  return keys;
+}
+
 Catalogue Catalogue::read(const std::string& root) {
   Catalogue catalogue = parse(readFile(root, kFile), kFile);
   catalogue.settings_ = CatalogueSettings::read(root);
@@ -265,11 +272,9 @@ std::string Catalogue::faultIn(const Entry& entry) {
 std::vector<Catalogue::LookedUpKey> Catalogue::lookedUpKeys() const {
   std::vector<LookedUpKey> keys;
   for (const Entry& entry : entries_) {
-    if (!entry.plural) keys.push_back({entry.key, &entry, ""});
-    if (!entry.plural) continue;
-    for (const PluralForm& form : kPluralForms) {
-      keys.push_back({std::string(entry.key).append(form.suffix), &entry, form.suffix});
-    }
+    const PluralForm* form = kPluralForms;
+    for (const std::string& key : entry.lookedUpKeys())
+      keys.push_back({key, &entry, entry.plural ? form++->suffix : ""});
   }
   return keys;
 }

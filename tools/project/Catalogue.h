@@ -35,6 +35,8 @@ struct Entry {
 
   /// What translators are told about the text: its comment, then its limit. May be empty.
   [[nodiscard]] std::string context() const;
+  /// The keys under which tables have the text: its key, or those of its five plural forms.
+  [[nodiscard]] std::vector<std::string> lookedUpKeys() const;
 };
 
 /// All texts of the app, in catalogue order.

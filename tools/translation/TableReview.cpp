@@ -9,7 +9,7 @@
 namespace zk::tools {
 
 std::size_t markChanged(TableEditor& editor, const EnglishTexts& english, const Table& base,
-                        bool keepsMeaning, std::string_view reviewed) {
+                        bool keepsMeaning, const std::set<std::string, std::less<>>& reviewed) {
   std::size_t marked = 0;
   for (const TableEntry& entry : editor.table().entries) {
     const EnglishText* const now = english.find(entry.key);
@@ -22,14 +22,15 @@ std::size_t markChanged(TableEditor& editor, const EnglishTexts& english, const 
 
     const TableEntry* const inBase = base.find(entry.key);
     const std::string before = recorded ? *recorded : inBase ? inBase->text : now->text;
-    if (before == now->text && entry.key != reviewed) continue;
+    const bool isInAnyCase = reviewed.contains(entry.key);
+    if (before == now->text && !isInAnyCase) continue;
     if (isUntranslated && (entry.text == before || entry.text.empty())) {
       editor.replaceText(entry, now->text);
       continue;
     }
     if (keepsMeaning) continue;
     const std::string madeFrom = (isReviewed ? quotedIn(entry, kState) : std::nullopt).value_or(before);
-    if (madeFrom == now->text && entry.key != reviewed) {
+    if (madeFrom == now->text && !isInAnyCase) {
       editor.setState(entry, TranslationState::translated);  // the change is taken back
       continue;
     }

@@ -16,7 +16,6 @@ struct TableUpdate {
   std::size_t removed = 0;   ///< entries that nothing looks up
   bool isChange = false;     ///< whether anything has changed, if only comments
   Diagnostics notLookedUp;   ///< the entries that nothing looks up and that are still there
-
 };
 
 /// Brings the table of `language` of the project at `root` up to date: adds the missing texts in the catalogue's order,
