@@ -165,7 +165,7 @@ void addTemplateCommand(CLI::App& app, const RootFinder& inRoot) {
   auto* const command = app.add_subcommand("template", "Create the table for a new language");
   command->add_option("language", *language, "The language: its code or name")
       ->required()
-      ->type_name("LANGUAGE");
+      ->type_name("NEW_LANGUAGE");
   command->footer("Example: zkstrings template fi");
   command->callback([language, inRoot] {
     // "swe" and "Swedish" mean "sv"; a region, as in "pt-BR", is refused.

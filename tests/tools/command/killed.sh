@@ -46,6 +46,10 @@ add 'Bye, %{name}!'
 add --count '%{n} moons' --one '%{n} moon'
 change About 'About us'
 change n_stars '%{n} suns' --one '%{n} sun'
+change n_stars --placeholder n=stars --max 9
+change Top_10 'Top ten' --same-meaning --comment 'The currency.'
+rename About Info
+rename n_stars stars
 remove About
 remove n_stars
 update de --prune
