@@ -1,4 +1,4 @@
-// How the tour lays out what it shows: a call on the left, its text on the right, 80 columns in all.
+// The layout of the tour: a call on the left and its text on the right, in 80 columns.
 #pragma once
 
 #include <cstddef>
@@ -12,7 +12,7 @@
 constexpr std::size_t kColumns = 80;
 constexpr std::size_t kAccessorColumns = 36;
 
-/// `text` in bold, where the output is a terminal and its user has nothing against it.
+/// `text` in bold if the output is a terminal and NO_COLOR is not set.
 inline std::string bold(std::string_view text) {
   static const bool isWelcome = isatty(STDOUT_FILENO) == 1 && std::getenv("NO_COLOR") == nullptr;
   return isWelcome ? "\x1b[1m" + std::string(text) + "\x1b[0m" : std::string(text);
@@ -22,8 +22,8 @@ inline void showHeading(std::string_view title) {
   std::cout << "\n" << bold(title) << "\n";
 }
 
-/// The columns of a terminal that `text` takes, near enough for a tour: two for each character of three bytes
-/// that is no punctuation of the Latin script, that is of the East Asian scripts.
+/// The number of terminal columns that `text` takes. It is an estimate: characters from U+3000 to U+FFFF, most of them
+/// East Asian, count as two columns, all others as one.
 inline std::size_t columnsOf(std::string_view text) {
   std::size_t columns = 0;
   for (const char byte : text) {
@@ -33,8 +33,7 @@ inline std::size_t columnsOf(std::string_view text) {
   return columns;
 }
 
-/// Shows `text` beside the call that gives it, on as many lines as it needs, broken at blanks and at its own
-/// line breaks.
+/// Prints the call `accessor` and the text that it returned. Long texts wrap at spaces.
 inline void show(std::string_view accessor, std::string_view text) {
   std::cout << "  " << accessor;
   std::size_t column = 2 + accessor.size();

@@ -1,11 +1,12 @@
-// A tour of the module, as an app would use it: texts of all four kinds in several languages, a change of
-// language while the program runs, and the list of countries.
+// A tour of the module, used as an app uses it: all four kinds of texts in several languages, a change of the language
+// while the program runs, and the list of countries.
 //
-//     tour                 the languages that this machine prefers, then some others
-//     tour pt-BR fr-FR     each of the given languages by itself, then the list as the player's preferred languages
+//     tour                 the preferred languages of this machine, then some others
+//     tour pt-BR fr-FR     each of the given languages, then all of them as the player's preferred languages
 
 #include <ZKStrings/ZKStrings.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <cstdlib>
 #include <iostream>
@@ -26,19 +27,20 @@ std::string joined(const zk::SharedArray<std::string>& identifiers) {
   return list.empty() ? "none" : list;
 }
 
-/// Whether the module has texts in the language: English, or one with a table of its own.
+/// Whether the module has texts in the language.
 bool hasTexts(std::string_view identifier) {
-  const std::string_view code = identifier.substr(0, 2);
-  return zk::bundle().pathForResource(code == "en" ? "Base" : code, "lproj") != nullptr;
+  const std::vector<zk::TextLanguage> languages = zk::availableLanguages();
+  return std::any_of(languages.begin(), languages.end(),
+                     [&](const zk::TextLanguage& one) { return one.code == identifier.substr(0, 2); });
 }
 
-/// In a container LANGUAGE is often set alone, and its user wonders why nothing changes.
+/// Explains why LANGUAGE has no effect if no locale is set, as in many containers.
 void explainIgnoredLanguage() {
   const char* const list = std::getenv("LANGUAGE");
   const zk::SharedArray<std::string> languages = zk::Locale::preferredLanguages();
   if (list == nullptr || *list == '\0' || joined(languages) != "en" || std::string_view(list) == "en") return;
   std::cout << "\nLANGUAGE=" << list
-            << " counts only beside a locale: set LANG as well, as in LANG=en_US.UTF-8\n";
+            << " has no effect without a locale: set LANG too, for example LANG=en_US.UTF-8\n";
 }
 
 void showTexts() {
@@ -68,13 +70,13 @@ void showTexts(const std::vector<std::string>& preferredLanguages) {
 }
 
 void showFallback() {
-  showHeading("A key that no table holds gives the English default");
+  showHeading("A key that is in no table: the English default");
   show("localizedString(...)",
        zk::localizedString("Confetti_for_name", "Confetti for %{name}!", std::nullopt, {{"name", "kim"}}));
 }
 
 void showLiveSwitch() {
-  showHeading("A change of the language shows in the very next text");
+  showHeading("After a change of the language, the next text follows");
   for (const char* identifier : {"en-US", "de-DE", "en-US"}) {
     language->preferredLanguages = {identifier};
     show(identifier, ZKStrings::You_re_back_in_the_game_No_one_was_correct());
@@ -82,14 +84,13 @@ void showLiveSwitch() {
 }
 
 void showCountries() {
-  showHeading("The countries that call by +44, of " + std::to_string(language->countries.size()));
+  showHeading("The countries with the calling code +44, of " + std::to_string(language->countries.size()));
   for (const zk::Country& country : language.get().countries) {
     if (country.phoneCode() == 44) std::cout << "  " << country.displayName() << "\n";
   }
 }
 
-/// What the machine prefers, then some languages of every kind; Greek has no table, so that its texts are the
-/// English ones.
+/// Shows the machine's languages, then some others. Greek has no table, so its texts are in English.
 void showEverything() {
   explainIgnoredLanguage();
   showTexts();

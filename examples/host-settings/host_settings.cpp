@@ -1,6 +1,5 @@
-// An app with settings of its own, as on a phone: it tells the module which languages its user prefers and which
-// country the network shows, instead of letting the module ask the environment, and follows a change while it
-// runs.
+// An app with its own settings, as on a phone. It passes the user's languages and the network's country to the module,
+// which does not read the environment then. The app follows changes while it runs.
 
 #include <ZKStrings/ZKStrings.h>
 
@@ -15,7 +14,7 @@
 
 namespace {
 
-/// The settings of the host system. Its threads and the app's meet here.
+/// The settings of the host system, shared by its threads and the app's.
 class HostSettings {
  public:
   [[nodiscard]] zk::LocaleSettings locale() const {
@@ -32,7 +31,7 @@ class HostSettings {
   std::vector<std::string> languages_ = {"en-US"};
 };
 
-/// What the host system knows of the mobile network.
+/// The country of the mobile network, as the host system reports it.
 class MobileNetwork : public zk::NetworkReaching {
  public:
   void setCountry(std::optional<std::string> code) {
@@ -50,8 +49,8 @@ class MobileNetwork : public zk::NetworkReaching {
   std::optional<std::string> country_;
 };
 
-/// What an app does when the host system says that the user has changed the settings.
-void takeOverLanguages() {
+/// Called when the user has changed the settings of the host system.
+void updateLanguages() {
   zk::Current::language->preferredLanguages = zk::Locale::preferredLanguages();
 }
 
@@ -64,7 +63,7 @@ void showScreen() {
 }  // namespace
 
 int main() {
-  // Before the first text.
+  // All of this comes before the first text.
   static HostSettings settings;
   const auto network = std::make_shared<MobileNetwork>();
   zk::Locale::readSettingsFrom([] { return settings.locale(); });
@@ -75,10 +74,10 @@ int main() {
   network->setCountry("AT");
   showScreen();
 
-  // The user opens the settings; the host system tells the app on a thread of its own.
+  // The user changes the settings, and the host system reports it on another thread.
   std::thread([] {
     settings.setLanguages({"de-AT", "en-GB"});
-    takeOverLanguages();
+    updateLanguages();
   }).join();
   showScreen();
 

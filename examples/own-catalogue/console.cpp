@@ -1,7 +1,7 @@
-// The host's console of a show: its texts come from a catalogue of its own, the word for the players' badges from the
-// module's catalogue, both in the same language.
+// The console of a show's host. Its texts come from its own catalogue, the word for the players' badges from the module's
+// catalogue, both in the same language.
 //   own_catalogue            in the languages of the user's settings
-//   own_catalogue de-DE      in the language given
+//   own_catalogue de-DE      in the given language
 #include <ZKStrings/ZKStrings.h>
 
 #include <cstdint>

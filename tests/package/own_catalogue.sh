@@ -1,14 +1,14 @@
 #!/usr/bin/env bash
-# Runs the example with a catalogue of its own from the build folder, then builds it from an installation of the module,
-# installs and moves it. Also changes its catalogue, and makes it wrong. The same for a program with two catalogues of its
-# own, but for the changes.
+# Runs the example with its own catalogue in the build folder, then builds it with an installed module, installs it and
+# moves it. Also changes its catalogue and makes errors in it. Does the same, without the changes, for a program with two
+# catalogues of its own, and for two programs whose catalogues have the same name.
 #   own_catalogue.sh CMAKE SOURCE_DIRECTORY BUILD_DIRECTORY CXX_COMPILER
 set -euo pipefail
 cmake=$1 source=$2 build=$3 compiler=$4
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 fail() { echo "$*" >&2; exit 1; }
-expect() {  # expect NAME LINE COMMAND...: runs the command elsewhere, and looks for the line in what it says
+expect() {  # expect NAME LINE COMMAND...: runs the command in another directory, and looks for the line in its output
   local output
   output=$(cd / && "${@:3}" 2>&1) || fail "$1: ended with $?: $output"
   grep -qxF -- "$2" <<<"$output" || fail "$1: not \"$2\", but: $output"
@@ -46,16 +46,16 @@ expect "after a change of the catalogue" "[Go live!]  [End the show?]" "$work/bu
 
 sed -i 's/"Camera_number_is_on"/"Camera_is_on"/' "$entries"
 output=$("$cmake" --build "$work/build" 2>&1) && fail "a wrong catalogue is built"
-grep -qF "$entries:2:1: error: the key \"Camera_is_on\"" <<<"$output" || fail "the fault is not told: $output"
+grep -qF "$entries:2:1: error: the key \"Camera_is_on\"" <<<"$output" || fail "the error is not reported: $output"
 
 sed -i 's/NAMESPACE console/NAMESPACE other/' "$work/app/CMakeLists.txt"
-output=$("$cmake" -S "$work/app" -B "$work/build" 2>&1) && fail "another namespace than the catalogue's is taken"
-grep -qF 'catalogue.json:1:1: error: the namespace is "console" here and' <<<"$(tr -s ' \n' ' ' <<<"$output")" || fail "the namespace is not told: $output"
+output=$("$cmake" -S "$work/app" -B "$work/build" 2>&1) && fail "a namespace other than the catalogue's is accepted"
+grep -qF 'catalogue.json:1:1: error: the namespace is "console" here and' <<<"$(tr -s ' \n' ' ' <<<"$output")" || fail "the namespace is not reported: $output"
 
 sed -i 's/NAMESPACE other/NAMESPACE console/' "$work/app/CMakeLists.txt"
 cp -r "$work/app/texts" "$work/app/more"
 echo 'zk_add_catalogue(TARGET more ROOT more)' >>"$work/app/CMakeLists.txt"
-output=$("$cmake" -S "$work/app" -B "$work/build" 2>&1) && fail "two catalogues may have one name"
+output=$("$cmake" -S "$work/app" -B "$work/build" 2>&1) && fail "two catalogues have the same name"
 grep -qF 'is named "ConsoleTexts" too;' <<<"$(tr -s ' \n' ' ' <<<"$output")" || fail "the name is not reported: $output"
 
 # Two products with the same catalogue name, under one prefix.

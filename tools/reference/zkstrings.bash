@@ -1,4 +1,4 @@
-# Completes zkstrings in bash. The command itself knows what may stand where.
+# Completes zkstrings in bash. The command itself prints the candidates.
 # shellcheck shell=bash
 _zkstrings() {
   local candidates

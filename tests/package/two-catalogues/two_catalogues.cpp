@@ -1,4 +1,4 @@
-// The same key in two catalogues, and a text of the module's: each from its own tables, in German.
+// The same key in two catalogues, and a text of the module's catalogue. Each comes from its own tables, in German.
 #include <ZKStrings/ZKStrings.h>
 
 #include <iostream>

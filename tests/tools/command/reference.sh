@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Looks at the manual page as man shows it, and completes command lines in bash and in zsh as a user does. Ends with
-# status 77 where one of them is missing.
+# Checks the manual page as man shows it, and completes command lines in bash and in zsh as a user does. Ends with status
+# 77 if one of these programs is missing.
 #   reference.sh COMMAND MANUAL SOURCE_DIRECTORY
 set -euo pipefail
 command=$1 manual=$2 source=$3
@@ -26,7 +26,7 @@ for word in --root "\\\\n is a line break" unknown-placeholder "'%{gifts} gifts'
   grep -q -e "$word" "$work/page" || fail "the manual page lacks $word"
 done
 
-in_bash() {  # in_bash WORD...: what the last word may become
+in_bash() {  # in_bash WORD...: prints the candidates for the last word
   bash --norc -c 'source "$0/tools/reference/zkstrings.bash"; COMP_WORDS=(zkstrings "$@"); COMP_CWORD=$#
     compopt() { COMPOPT="$*"; }
     _zkstrings zkstrings "${!#}"; echo ${COMPREPLY+"${COMPREPLY[@]}"} ${COMPOPT-}' "$source" "$@"
@@ -60,7 +60,7 @@ zpty -r -m shell shown '*READY*READY*'
 zpty -w -n shell "$2"$'\t'
 zpty -r -m shell shown "*$3*"
 END
-expect_in_zsh() {  # expect_in_zsh LINE BEGINNING: the line that TAB makes of its beginning
+expect_in_zsh() {  # expect_in_zsh LINE BEGINNING: TAB completes BEGINNING to LINE
   TERM=dumb timeout 20 zsh -f "$work/terminal.zsh" "$source/tools/reference" "$2" "$1" ||
     fail "in zsh, $2 does not become $1"
 }
