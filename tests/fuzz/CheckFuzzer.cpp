@@ -2,6 +2,7 @@
 #include <ZKStrings/tests/TemporaryDirectory.h>
 #include <ZKStrings/tests/fuzz/Fuzzing.h>
 #include <ZKStrings/tools/check/Checker.h>
+#include <ZKStrings/tools/check/Glossary.h>
 #include <ZKStrings/tools/project/Catalogue.h>
 
 #include <algorithm>
@@ -34,10 +35,10 @@ void tryDiagnostics(Diagnostics diagnostics) {
   for (const Diagnostic& diagnostic : diagnostics) {
     const std::string line = formatted(diagnostic, false);
     require(diagnostic.line > 0 && diagnostic.column > 0 && !diagnostic.message.empty(),
-            "it says nothing: " + line);
-    require(line.find_first_of("\n\r\x1B") == std::string::npos, "it is no line: " + line);
+            "this has no place or message: " + line);
+    require(line.find_first_of("\n\r\x1B") == std::string::npos, "this is not one line: " + line);
   }
-  require(nlohmann::json::accept(toJson(diagnostics)), "this is no JSON: " + toJson(diagnostics));
+  require(nlohmann::json::accept(toJson(diagnostics)), "this is not JSON: " + toJson(diagnostics));
 }
 
 bool isTableAtFault(const Diagnostic& diagnostic, const std::string& file) {
@@ -63,12 +64,13 @@ void tryTable(const std::string& root, const std::string& language, const Diagno
 
 void test(std::string_view input) {
   static const testing::TemporaryDirectory directory;
-  const std::vector<std::string> files = partsOf(input, 5);
+  const std::vector<std::string> files = partsOf(input, 6);
   directory.write(tablePath("Base"), files[0]);
   directory.write(tablePath("de"), files[1]);
   directory.write(Catalogue::kFile, files[2]);
   directory.write("resources/countries.json", files[3]);
-  directory.write("resources/glossary.json", files[4]);
+  directory.write(Glossary::kFile, files[4]);
+  directory.write(CatalogueSettings::kFile, files[5].empty() ? R"({"name": "Texts"})" : files[5]);
   const CheckResult result = checked(directory.path(), input.size());
   tryDiagnostics(result.diagnostics);
   for (const char* language : {"Base", "de"}) tryTable(directory.path(), language, result.diagnostics);

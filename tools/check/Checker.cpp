@@ -52,7 +52,7 @@ class Checker {
     return std::move(result_);
   }
 
-  Diagnostics faultsIn(const std::string& language, const Table& table, const Catalogue& catalogue,
+  Diagnostics errorsIn(const std::string& language, const Table& table, const Catalogue& catalogue,
                        const Table& base) {
     checkTable(language, table, true, catalogue, base);
     return std::move(result_.diagnostics);
@@ -87,7 +87,7 @@ class Checker {
     return catalogue;
   }
 
-  /// Without the English table, every app stops at its first text, whatever the language.
+  /// Without the English table, every app stops at its first text, in every language.
   [[nodiscard]] std::vector<std::string> languagesToCheck(const Table& base) const {
     std::vector<std::string> languages = options_.languages.empty() ? languagesIn(root_) : options_.languages;
     const bool hasBase = std::find(languages.begin(), languages.end(), kBase) != languages.end();
@@ -189,7 +189,7 @@ CheckResult check(const std::string& root, const CheckOptions& options) {
 
 Diagnostics checkTable(const std::string& language, const Table& table, const Catalogue& catalogue,
                        const Table& base) {
-  return Checker("", CheckOptions{}).faultsIn(language, table, catalogue, base);
+  return Checker("", CheckOptions{}).errorsIn(language, table, catalogue, base);
 }
 
 }  // namespace zk::tools

@@ -24,11 +24,6 @@ constexpr KnownMember<Term> kTermMembers[] = {
          for (const std::string& stem : stems.texts()) term.stems[language].push_back(caseFolded(stem));
        }
      }},
-    {"avoid",
-     [](Term& term, const JsonValue& value) {
-       for (const auto& [language, nameAt, phrases] : value.members())
-         term.avoided[language] = phrasesIn(phrases);
-     }},
 };
 
 constexpr KnownMember<LanguageStyle> kStyleMembers[] = {

@@ -20,7 +20,6 @@ struct Term {
   Phrases exceptions;  ///< phrases that contain one of those but mean something else
   /// By language, case-folded: a translation must contain one of them, anywhere in a word.
   ByName<std::vector<std::string>> stems;
-  ByName<Phrases> avoided;  ///< by language: phrases that a translation must not contain
 };
 
 /// How a language is written in this catalogue.

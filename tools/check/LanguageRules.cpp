@@ -48,23 +48,6 @@ std::string searchable(std::string_view text) {
   return replaceAll(prose, kNoBreakSpace, " ");
 }
 
-/// Adds a finding for each of `phrases` in the text.
-template <class Message>
-void findPhrases(const Phrases& phrases, const Translation& translation, Findings& findings,
-                 const Message& message) {
-  if (phrases.empty()) return;
-  const std::string_view text = translation.entry.text;
-  const Words words(text);
-  TextPlaces places(translation.entry);
-  for (std::size_t at = 0; at < words.size(); ++at) {
-    const std::size_t size = sizeAt(phrases, words, at);
-    if (size == 0) continue;
-    const std::size_t begin = words.offsetOf(at);
-    const std::size_t end = words.offsetOf(at + size - 1) + words[at + size - 1].spelled.size();
-    findings.add(translation.entry, places.at(begin), message(text.substr(begin, end - begin)));
-  }
-}
-
 void findOtherTerms(const Translation& translation, Findings& findings) {
   const Words english(translation.english.text);
   const std::string text = searchable(translation.entry.text);
@@ -79,23 +62,17 @@ void findOtherTerms(const Translation& translation, Findings& findings) {
   }
 }
 
-void findAvoidedPhrases(const Translation& translation, Findings& findings) {
-  const Words english(translation.english.text);
-  for (const Term& term : translation.glossary.terms) {
-    const auto avoided = term.avoided.find(translation.language);
-    if (avoided == term.avoided.end() || !means(english, term)) continue;
-    findPhrases(avoided->second, translation, findings, [&](std::string_view phrase) {
-      return fmt::format("\"{}\" is misleading as a translation of {}; use another wording", phrase,
-                         term.name);
-    });
-  }
-}
-
 void findWrongAddress(const Translation& translation, Findings& findings) {
-  const LanguageStyle& style = translation.glossary.styleOf(translation.language);
-  findPhrases(style.wrongAddress, translation, findings, [](std::string_view word) {
-    return fmt::format("\"{}\" is another form of address; address the player as the other texts do", word);
-  });
+  const Phrases& wrong = translation.glossary.styleOf(translation.language).wrongAddress;
+  if (wrong.empty()) return;
+  const Words words(translation.entry.text);
+  TextPlaces places(translation.entry);
+  for (std::size_t at = 0; at < words.size(); ++at) {
+    if (sizeAt(wrong, words, at) == 0) continue;
+    findings.add(translation.entry, places.at(words.offsetOf(at)),
+                 fmt::format("\"{}\" is another form of address; address the player as the other texts do",
+                             words[at].spelled));
+  }
 }
 
 // Words
@@ -315,8 +292,6 @@ void ifTranslated(const Translation& translation, Findings& findings) {
 constexpr RuleFor<Translation> kRules[] = {
     {{"glossary-term", Severity::warning, "a translation without the glossary's word for a concept"},
      ifTranslated<findOtherTerms>},
-    {{"avoided-phrase", Severity::warning, "a phrase that the glossary avoids for a concept"},
-     ifTranslated<findAvoidedPhrases>},
     {{"address", Severity::warning, "a word of another form of address"}, ifTranslated<findWrongAddress>},
     {{"doubled-word", Severity::warning, "a repeated word, unless the glossary allows it"}, findDoubledWords},
     {{"mixed-scripts", Severity::warning, "Latin, Cyrillic or Greek letters in one word"}, findMixedScripts},

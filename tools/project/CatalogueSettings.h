@@ -68,11 +68,11 @@ struct CatalogueSettings {
   /// Reads the settings from the content of such a file.
   [[nodiscard]] static CatalogueSettings parse(std::string_view json);
 
-  /// Returns whether `placeholder` stands for a number.
+  /// Returns whether `placeholder` is a number.
   [[nodiscard]] bool isNumber(std::string_view placeholder) const;
   /// Returns the words of `text` that need translation: all except `names`, numbers and single letters.
   [[nodiscard]] std::vector<std::string_view> wordsToTranslate(std::string_view text) const;
-  /// Returns whether `text` has no words to translate, placeholders aside.
+  /// Returns whether `text` has no words to translate apart from placeholders.
   [[nodiscard]] bool isSameEverywhere(std::string_view text) const;
 };
 

@@ -31,7 +31,7 @@ class JsonValue {
 
   [[nodiscard]] const std::string& text() const;
   [[nodiscard]] const std::string& nonEmptyText() const;
-  [[nodiscard]] std::vector<std::string> texts() const;  ///< none of them empty
+  [[nodiscard]] std::vector<std::string> texts() const;  ///< each non-empty
   [[nodiscard]] bool boolean() const;
   [[nodiscard]] std::int64_t integer() const;
   [[nodiscard]] const std::vector<JsonValue>& elements() const;

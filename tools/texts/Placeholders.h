@@ -6,20 +6,20 @@
 
 namespace zk::tools {
 
-/// The names in the placeholders "%{name}" of `text`, in the order in which they stand there.
+/// The names in the placeholders "%{name}" of `text`, in order.
 [[nodiscard]] std::vector<std::string_view> placeholderNames(std::string_view text);
 
-/// What in a text is a placeholder, or may have been meant as one, with full-width or small signs too.
+/// A placeholder of a text, or something that looks like a misspelt one, possibly with full-width or small signs.
 struct PlaceholderUse {
   std::size_t offset;  ///< in the text
-  /// "%{name}"; written wrongly: "%{ name }", "%{name", "{name}", "%name", "％｛name｝"
+  /// "%{name}"; misspelt: "%{ name }", "%{name", "{name}", "%name", "％｛name｝"
   std::string_view spelled;
   std::string_view name;  ///< the first letters and digits in it; may be empty
-  bool hasBrace;          ///< whether a brace opens it, and not only a percent sign
-  bool isRight;           ///< whether it is "%{name}", with letters and digits alone in the braces
+  bool hasBrace;          ///< whether it has an opening brace, not only a percent sign
+  bool isRight;           ///< whether it is "%{name}", with only letters and digits in the braces
 };
 
-/// All of them, in the order in which they stand in `text`.
+/// Returns all of them in `text`, in order.
 [[nodiscard]] std::vector<PlaceholderUse> placeholderUses(std::string_view text);
 
 }  // namespace zk::tools

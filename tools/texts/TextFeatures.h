@@ -7,9 +7,9 @@
 
 namespace zk::tools {
 
-/// All functions take UTF-8 and count bytes that are not as characters of their own.
+// All functions take UTF-8. A byte that is not UTF-8 counts as one character.
 
-/// Where the first control character of `text` stands, line feeds and tabs aside; `npos` for none.
+/// Returns the offset of the first control character in `text` except line feeds and tabs; `npos` if there is none.
 [[nodiscard]] std::size_t findControlCharacter(std::string_view text);
 
 /// Whether `text` has a carriage return, which ends a line of C++, or a NUL, which ends a text.
@@ -17,11 +17,11 @@ namespace zk::tools {
 inline constexpr const char* kNoCarriageReturn =
     "the text has a carriage return or a NUL; remove it (\\n is a line break)";
 
-/// Whether `text` is empty or white space alone.
+/// Whether `text` is empty or has only white space.
 [[nodiscard]] bool isBlank(std::string_view text);
 
-/// The white space at both ends, each space of whatever kind (no-break, narrow, wide) as " ". A blank text
-/// has all of it in front.
+/// The white space at both ends of a text, with a blank for each kind of space (no-break, narrow, wide). A blank text has
+/// all of it at the beginning.
 struct OuterSpace {
   std::string leading;
   std::string trailing;
@@ -29,7 +29,7 @@ struct OuterSpace {
 };
 [[nodiscard]] OuterSpace outerSpace(std::string_view text);
 
-/// How often `part` stands in `text`.
+/// Returns how often `text` contains `part`.
 [[nodiscard]] std::size_t countOf(std::string_view text, std::string_view part);
 
 /// `text` with each placeholder replaced by a space.
@@ -41,11 +41,10 @@ struct OuterSpace {
 /// The words of `text` except numbers and single letters.
 [[nodiscard]] std::vector<std::string_view> wordsToRead(std::string_view text);
 
-/// The runs of decimal digits in `text`, of whatever script, each in ASCII digits, sorted.
+/// The runs of decimal digits in `text`, of any script, in ASCII digits and sorted.
 [[nodiscard]] std::vector<std::string> numbersIn(std::string_view text);
 
-/// The number of user-perceived characters (extended grapheme clusters) of `text`, UTF-8. A byte that is not
-/// UTF-8 counts as one.
+/// The number of user-perceived characters (extended grapheme clusters) of `text`.
 [[nodiscard]] std::size_t charactersIn(std::string_view text);
 
 }  // namespace zk::tools

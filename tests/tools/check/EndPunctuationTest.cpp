@@ -6,7 +6,7 @@ namespace {
 
 using namespace zk::tools;
 
-TEST(EndPunctuation, IsKnownInAllScriptsAndBehindWhatFollowsIt) {
+TEST(EndPunctuation, IsFoundInAllScriptsAndBeforeClosingMarks) {
   struct Case {
     const char* text;
     Ending ending;

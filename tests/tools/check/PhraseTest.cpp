@@ -6,7 +6,7 @@ namespace {
 
 using namespace zk::tools;
 
-bool stands(const char* phrase, const char* text) {
+bool isIn(const char* phrase, const char* text) {
   const Words words(text);
   for (std::size_t at = 0; at < words.size(); ++at) {
     if (Phrase(phrase).sizeAt(words, at) > 0) return true;
@@ -14,11 +14,11 @@ bool stands(const char* phrase, const char* text) {
   return false;
 }
 
-TEST(Phrase, StandsInATextAsWholeWords) {
+TEST(Phrase, MatchesWholeWords) {
   struct Case {
     const char* phrase;
     const char* text;
-    bool stands;
+    bool isIn;
   };
   constexpr Case kCases[] = {
       {"coin", "One Coin!", true},
@@ -45,10 +45,10 @@ TEST(Phrase, StandsInATextAsWholeWords) {
       {"coin", "", false},
   };
   for (const auto& [phrase, text, expected] : kCases)
-    EXPECT_EQ(stands(phrase, text), expected) << phrase << ": " << text;
+    EXPECT_EQ(isIn(phrase, text), expected) << phrase << ": " << text;
 }
 
-TEST(Phrase, KeepsOffsetsOfWhatItPassesOver) {
+TEST(Phrase, KeepsOffsetsAfterPlaceholdersAndHandles) {
   const Words words("%{name}, @zk: los");
   ASSERT_EQ(words.size(), 1u);
   EXPECT_EQ(words.offsetOf(0), 14u);
