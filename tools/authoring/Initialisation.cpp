@@ -17,7 +17,8 @@ namespace {
 
 constexpr const char* kEntries = R"([
   {"key": "Hello_name", "text": "Hello, %{name}!"},
-  {"key": "messages_new_messages", "text": "%{messages} new messages", "plural": true}
+  {"key": "messages_new_messages", "text": "%{messages} new messages", )"
+                                 R"("plural": {"zero": "No new messages", "one": "%{messages} new message"}}
 ]
 )";
 
@@ -33,14 +34,15 @@ constexpr const char* kEnglish = R"(/* English, the language that all others are
 
 constexpr const char* kReadme = R"(# {name}
 
-The texts of the program. `catalogue/entries.json` lists them with their English; `resources/` has one table a language.
+The texts of the program. `catalogue/entries.json` has the English texts; `resources/` has a table for each language.
 
-    zkstrings add 'Bye, %{{name}}!'     a new text; the program calls {call}Bye_name(name)
-    zkstrings add --count '%{{n}} stars' --one '%{{n}} star'      one with plural forms
-    zkstrings template de              begins the table of a language, here German
-    zkstrings check                    says what is wrong or missing in the tables
+    zkstrings add 'Bye, %{{name}}!'                            adds a text: {call}Bye_name(name)
+    zkstrings add --count '%{{n}} stars' --one '%{{n}} star'     adds a text with plural forms
+    zkstrings template de                                    creates the table of a language, here German
+    zkstrings check                                          reports errors and gaps in the tables
+    zkstrings generate                                       updates everything after an edit of entries.json or a merge
 
-In CMake: `zk_add_catalogue(TARGET {target} ROOT <this folder>)` makes a library of the functions.
+In CMake, `zk_add_catalogue(TARGET {target} ROOT <this folder>)` creates a library with the functions.
 )";
 
 std::string settingsFor(const CatalogueName& name) {
