@@ -27,7 +27,6 @@ namespace zk::tools {
 /// severity, rule, message, line and column.
 ///
 /// Throws `CommandFailed` as `pageOf` does.
-[[nodiscard]] std::string pageData(const std::string& root,
-                                   const std::vector<std::string>& sources = {});
+[[nodiscard]] std::string pageData(const std::string& root, const std::vector<std::string>& sources = {});
 
 }  // namespace zk::tools
