@@ -58,7 +58,7 @@ struct Closer {
 /// Whether `entry` of the directory at `path` is a directory. Sets `failure` if that is temporarily unknown.
 bool isDirectory(const dirent& entry, const std::string& path, std::error_code& failure) {
   if (entry.d_type != DT_UNKNOWN && entry.d_type != DT_LNK) return entry.d_type == DT_DIR;
-  struct stat status {};
+  struct stat status = {};
   if (stat((path + "/" + entry.d_name).c_str(), &status) == 0) return S_ISDIR(status.st_mode);
   if (isTemporary(lastFailure())) failure = lastFailure();
   return false;
@@ -93,7 +93,7 @@ std::optional<std::string> contentsOfFile(const std::string& path, std::error_co
   // Without O_NONBLOCK, opening a FIFO would wait for a writer.
   const Descriptor file(open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
   if (file.number() < 0) return fail(lastFailure());
-  struct stat status {};
+  struct stat status = {};
   if (fstat(file.number(), &status) != 0) return fail(lastFailure());
   if (!S_ISREG(status.st_mode)) return fail(make_error_code(std::errc::not_supported));
   if (status.st_size > kLargestFile) return fail(make_error_code(std::errc::file_too_large));

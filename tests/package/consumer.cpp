@@ -21,7 +21,7 @@ extern "C" void sayWhereItStops(int, siginfo_t* signal, void*) {
 
 // With an argument, first changes the working directory to it.
 int main(int argc, char** argv) {
-  struct sigaction action {};
+  struct sigaction action = {};
   action.sa_sigaction = sayWhereItStops;
   action.sa_flags = SA_SIGINFO;
   sigaction(SIGILL, &action, nullptr);

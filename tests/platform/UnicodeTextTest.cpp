@@ -35,9 +35,10 @@ std::string dividedByICU(const std::string& text) {
 }
 
 TEST(UnicodeText, ClustersEndWhereICUSees) {
-  testing::RandomTexts texts({"a",      "\r",     "\n",     "\u0001", "\u0301", "\u200D", "\u0903",
-                              "\u0600", "\u1100", "\u1161", "\u11A8", "\uAC00", "\uAC01", "🇩",
-                              "🎉",      "👩",      "🏽",   "©",      "\uFE0F", "é",      "日"});
+  testing::RandomTexts texts({"a",      "\r",         "\n",         "\u0001",     "\u0301",     "\u200D",
+                              "\u0903", "\u0600",     "\u1100",     "\u1161",     "\u11A8",     "\uAC00",
+                              "\uAC01", "\U0001F1E9", "\U0001F389", "\U0001F469", "\U0001F3FD", "©",
+                              "\uFE0F", "é",          "日"});
   for (int round = 0; round < 40000; ++round) {
     const std::string text = texts.next(10);
     std::string divided;
@@ -69,7 +70,8 @@ TEST(UnicodeText, UpperCasesByTheFullMapping) {
 
 TEST(UnicodeText, TellsLettersAndDigits) {
   for (const char32_t digit : U"7\u0663"sv) EXPECT_TRUE(isDecimalDigit(digit)) << std::uint32_t{digit};
-  for (const char32_t other : U"z日\u0301²_ 🎉"sv) EXPECT_FALSE(isDecimalDigit(other)) << std::uint32_t{other};
+  for (const char32_t other : U"z日\u0301²_ \U0001F389"sv)
+    EXPECT_FALSE(isDecimalDigit(other)) << std::uint32_t{other};
   for (const char32_t letter : U"z日\u03017\u0663"sv)
     EXPECT_TRUE(isLetterMarkOrDigit(letter)) << std::uint32_t{letter};
   for (const char32_t other : U"²_ 🎉"sv) EXPECT_FALSE(isLetterMarkOrDigit(other)) << std::uint32_t{other};

@@ -160,7 +160,7 @@ class StagedFile {
   StagedFile(const std::string& root, const FileChange& change, Folders& folders)
       : path_(change.path), target_(resolved(root, change.path)) {
     folders.make(target_.parent_path());
-    struct stat before {};
+    struct stat before = {};
     const bool exists = stat(target_.c_str(), &before) == 0;
     if (exists && (!S_ISREG(before.st_mode) || access(target_.c_str(), W_OK) != 0)) failToWrite(path_);
     new_.emplace(target_, path_, change.bytes).setAttributes(exists ? &before : nullptr);

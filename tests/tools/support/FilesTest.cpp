@@ -59,7 +59,7 @@ TEST(Files, KeepTheirPermissionsOwnersAndLinks) {
   EXPECT_TRUE(fs::is_symlink(project.path() + "/link"));
   EXPECT_EQ(readFile(project.path(), "real"), "new");
   EXPECT_EQ(fs::status(project.path() + "/real").permissions(), permissions);
-  struct stat real {};
+  struct stat real = {};
   ASSERT_EQ(stat((project.path() + "/real").c_str(), &real), 0);
   EXPECT_EQ(real.st_uid == 1234U && real.st_gid == 5678U, isRoot);
 }
