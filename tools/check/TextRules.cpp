@@ -5,6 +5,7 @@
 #include <ZKStrings/tools/support/Nearest.h>
 #include <ZKStrings/tools/texts/Placeholders.h>
 #include <ZKStrings/tools/texts/TextFeatures.h>
+#include <ZKStrings/tools/texts/TextPieces.h>
 #include <ZKStrings/tools/translation/TranslationState.h>
 
 #include <algorithm>
@@ -13,6 +14,7 @@
 #include <optional>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <fmt/format.h>
@@ -146,39 +148,19 @@ void findOtherEnglish(const Translation& translation, Findings& findings) {
                                               escaped(english.text), english.entry->key));
 }
 
-/// Whether each "<b>" is closed before the next one.
-bool areTagsBalanced(std::string_view text) {
-  bool isOpen = false;
-  for (std::size_t at = text.find('<'); at != std::string_view::npos; at = text.find('<', at + 1)) {
-    const std::string_view tag = text.substr(at);
-    const bool opens = tag.starts_with("<b>");
-    if (!opens && !tag.starts_with("</b>")) continue;
-    if (opens == isOpen) return false;
-    isOpen = opens;
-  }
-  return !isOpen;
-}
-
-bool areStarsBalanced(std::string_view text) {
-  return countOf(text, "*") % 2 == 0;
-}
-
-/// A kind of marks with which an app highlights a part of a text.
-struct MarkKind {
-  std::string_view name;
-  std::string_view opening;
-  bool (*areBalanced)(std::string_view text);
-};
-
-constexpr MarkKind kMarks[] = {{"<b> tags", "<b>", areTagsBalanced}, {"* marks", "*", areStarsBalanced}};
-
 void findMarks(const Translation& translation, Findings& findings) {
-  for (const auto& [name, opening, areBalanced] : kMarks) {
+  const std::vector<TextPiece> pieces = piecesOf(translation.entry.text);
+  const bool areUnpaired = std::any_of(pieces.begin(), pieces.end(), [](const TextPiece& piece) {
+    return piece.kind == TextPiece::Kind::placeholder && !piece.text.starts_with('%');
+  });
+  if (areUnpaired) {
+    findings.add(translation.entry, "the <b> tags or * marks are not in pairs; open and close each part");
+    return;
+  }
+  for (const auto& [name, opening] : {std::pair("<b> tags", "<b>"), std::pair("* marks", "*")}) {
     const std::size_t here = countOf(translation.entry.text, opening);
     const std::size_t english = countOf(translation.english.text, opening);
-    if (!areBalanced(translation.entry.text)) {
-      findings.add(translation.entry, fmt::format("the {} are not in pairs; open and close each part", name));
-    } else if (here < english) {
+    if (here < english) {
       findings.add(translation.entry,
                    fmt::format("there are fewer {} than in the English text; mark the same parts", name));
     } else if (here > 0 && english == 0) {
