@@ -122,9 +122,9 @@ need_packages() {
   echo "Installing ${missing[*]}" >&2
   local apt=("${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -q -o Acquire::Retries=0
     -o Acquire::http::Timeout=10 -o Acquire::https::Timeout=10 -o DPkg::Lock::Timeout=120)
-  quietly_matching '^E: ' "Reading the list of packages" build/packages.log "${apt[@]}" update
+  quietly_matching '^E: [^F]' "Reading the list of packages" build/packages.log "${apt[@]}" update
   need_cmake
-  quietly_matching '^E: ' "Installing packages" build/packages.log "${apt[@]}" install -y --no-install-recommends "${missing[@]}"
+  quietly_matching '^E: [^F]' "Installing packages" build/packages.log "${apt[@]}" install -y --no-install-recommends "${missing[@]}"
 }
 
 # Fetches the npm packages that a package.json names into a folder, unless they are there.
