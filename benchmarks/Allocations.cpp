@@ -1,5 +1,6 @@
 #include <ZKStrings/benchmarks/Allocations.h>
 
+#include <cstddef>
 #include <cstdlib>
 #include <new>
 

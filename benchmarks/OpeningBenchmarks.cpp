@@ -4,6 +4,7 @@
 #include <ZKStrings/benchmarks/Workload.h>
 
 #include <chrono>
+#include <cstddef>
 #include <filesystem>
 #include <fstream>
 #include <random>

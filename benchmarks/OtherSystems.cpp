@@ -1,6 +1,7 @@
 #include <ZKStrings/benchmarks/OtherSystems.h>
 
 #include <clocale>
+#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
@@ -8,6 +9,8 @@
 #include <functional>
 #include <map>
 #include <stdexcept>
+#include <string>
+#include <vector>
 
 #include <libintl.h>
 #include <unicode/msgfmt.h>

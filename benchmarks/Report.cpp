@@ -3,6 +3,8 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <string>
+#include <vector>
 
 namespace zk::benchmarks {
 

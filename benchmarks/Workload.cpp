@@ -2,10 +2,16 @@
 #include <ZKStrings/engine/LookupRules.h>
 #include <ZKStrings/platform/Bundle.h>
 
+#include <cstddef>
+#include <cstdint>
 #include <filesystem>
 #include <fstream>
 #include <map>
+#include <optional>
 #include <random>
+#include <string>
+#include <utility>
+#include <vector>
 
 #include <nlohmann/json.hpp>
 

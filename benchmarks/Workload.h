@@ -2,6 +2,7 @@
 
 #include <ZKStrings/engine/Substitutions.h>
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>

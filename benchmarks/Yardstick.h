@@ -3,6 +3,7 @@
 #include <ZKStrings/benchmarks/Workload.h>
 #include <ZKStrings/platform/text/Bytes.h>
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>

@@ -1,7 +1,11 @@
 #include <ZKStrings/catalogue/EntryText.h>
 #include <ZKStrings/engine/StringLookup.h>
 
+#include <cstdint>
+#include <initializer_list>
 #include <optional>
+#include <string>
+#include <string_view>
 
 namespace zk {
 

@@ -1,6 +1,10 @@
 #include <ZKStrings/catalogue/KeyRule.h>
 #include <ZKStrings/platform/text/UnicodeText.h>
 
+#include <cstddef>
+#include <string>
+#include <string_view>
+
 namespace zk {
 
 namespace {

@@ -4,8 +4,10 @@
 #include <ZKStrings/region/CurrentLanguage.h>
 
 #include <algorithm>
+#include <string>
 #include <string_view>
 #include <system_error>
+#include <vector>
 
 namespace zk {
 

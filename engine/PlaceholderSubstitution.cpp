@@ -3,6 +3,8 @@
 #include <ZKStrings/platform/text/TextSearch.h>
 
 #include <cstddef>
+#include <string>
+#include <string_view>
 
 namespace zk {
 

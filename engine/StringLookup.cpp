@@ -6,6 +6,11 @@
 #include <ZKStrings/platform/text/Bytes.h>
 #include <ZKStrings/region/Language.h>
 
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
 #include <system_error>
 
 namespace zk {

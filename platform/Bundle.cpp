@@ -6,12 +6,19 @@
 #include <ZKStrings/platform/text/Bytes.h>
 
 #include <algorithm>
+#include <atomic>
 #include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
 #include <map>
+#include <memory>
 #include <mutex>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <system_error>
+#include <typeinfo>
 #include <utility>
 #include <vector>
 

@@ -2,15 +2,21 @@
 #include <ZKStrings/platform/ServiceView.h>
 #include <ZKStrings/platform/system/ThreadPointer.h>
 
+#include <atomic>
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <functional>
+#include <memory>
 #include <mutex>
+#include <optional>
 #include <string>
+#include <string_view>
 #include <typeindex>
+#include <typeinfo>
 #include <unordered_map>
+#include <utility>
 
 #include <cxxabi.h>
 

@@ -1,6 +1,9 @@
 #include <ZKStrings/platform/ZKCommon.h>
 
+#include <memory>
 #include <mutex>
+#include <optional>
+#include <string>
 #include <utility>
 
 namespace zk {

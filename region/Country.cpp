@@ -2,6 +2,9 @@
 #include <ZKStrings/platform/text/UnicodeText.h>
 #include <ZKStrings/region/Country.h>
 
+#include <cstdint>
+#include <optional>
+#include <string>
 #include <string_view>
 
 namespace zk {

@@ -1,6 +1,7 @@
 #include <ZKStrings/platform/Resolver.h>
 #include <ZKStrings/region/CurrentLanguage.h>
 
+#include <memory>
 #include <optional>
 #include <type_traits>
 #include <typeinfo>

@@ -4,6 +4,8 @@
 #include <ZKStrings/region/Language.h>
 
 #include <algorithm>
+#include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
 

@@ -4,8 +4,15 @@
 #include <ZKStrings/platform/system/File.h>
 #include <ZKStrings/platform/text/Bytes.h>
 
+#include <cstddef>
+#include <cstdint>
 #include <limits>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <system_error>
 #include <utility>
+#include <vector>
 
 namespace zk {
 

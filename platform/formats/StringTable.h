@@ -2,6 +2,7 @@
 
 #include <ZKStrings/platform/CacheLines.h>
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>

@@ -4,7 +4,11 @@
 
 #include <algorithm>
 #include <cstring>
+#include <optional>
+#include <string>
+#include <string_view>
 #include <utility>
+#include <vector>
 
 namespace zk {
 

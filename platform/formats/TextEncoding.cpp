@@ -1,6 +1,9 @@
 #include <ZKStrings/platform/formats/TextEncoding.h>
 #include <ZKStrings/platform/text/UnicodeText.h>
 
+#include <cstddef>
+#include <optional>
+#include <string>
 #include <string_view>
 
 #include <unicode/utf.h>

@@ -9,6 +9,8 @@
 #include <cstring>
 #include <filesystem>
 #include <memory>
+#include <string>
+#include <system_error>
 
 #include <dlfcn.h>
 #include <sys/auxv.h>

@@ -5,7 +5,11 @@
 #include <cstddef>
 #include <iterator>
 #include <memory>
+#include <optional>
+#include <string>
 #include <string_view>
+#include <system_error>
+#include <vector>
 
 #include <dirent.h>
 #include <fcntl.h>

@@ -2,6 +2,8 @@
 #include <ZKStrings/platform/system/ResourceDirectory.h>
 
 #include <filesystem>
+#include <string>
+#include <system_error>
 
 namespace zk::internal {
 

@@ -3,8 +3,11 @@
 #include <ZKStrings/platform/text/UnicodeText.h>
 
 #include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <new>
+#include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 

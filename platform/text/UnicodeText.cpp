@@ -5,6 +5,9 @@
 #include <cstdint>
 #include <cstdlib>
 #include <new>
+#include <optional>
+#include <string>
+#include <string_view>
 
 #include <unicode/casemap.h>
 #include <unicode/ubrk.h>

@@ -4,6 +4,7 @@
 #include <ZKStrings/tools/project/Catalogue.h>
 #include <ZKStrings/tools/support/Files.h>
 
+#include <cstddef>
 #include <string>
 #include <vector>
 

@@ -9,8 +9,11 @@
 #include <ZKStrings/tests/TemporaryDirectory.h>
 
 #include <cstdint>
+#include <optional>
 #include <set>
 #include <string>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>

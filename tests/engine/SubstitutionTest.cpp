@@ -7,6 +7,7 @@
 #include <ZKStrings/tests/TemporaryDirectory.h>
 
 #include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <fstream>
 #include <map>

@@ -5,6 +5,9 @@
 #include <filesystem>
 #include <fstream>
 #include <new>
+#include <optional>
+#include <span>
+#include <string>
 #include <system_error>
 
 namespace zk::faults {

@@ -9,12 +9,17 @@
 
 #include <algorithm>
 #include <atomic>
+#include <cstddef>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <optional>
 #include <string>
+#include <string_view>
+#include <system_error>
 #include <thread>
+#include <utility>
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>

@@ -3,6 +3,7 @@
 
 #include <ZKStrings/ZKStrings.h>
 
+#include <cstddef>
 #include <iostream>
 #include <random>
 #include <string>

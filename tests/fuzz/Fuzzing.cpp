@@ -6,6 +6,9 @@
 #include <cstdlib>
 #include <cstring>
 #include <random>
+#include <string>
+#include <string_view>
+#include <vector>
 
 #include <time.h>
 

@@ -4,6 +4,8 @@
 #include <ZKStrings/tests/fuzz/Fuzzing.h>
 
 #include <algorithm>
+#include <cstddef>
+#include <cstdint>
 #include <map>
 #include <optional>
 #include <string>

@@ -3,8 +3,14 @@
 #include <ZKStrings/platform/system/CodeLocation.h>
 #include <ZKStrings/tests/TemporaryDirectory.h>
 
+#include <filesystem>
 #include <future>
+#include <optional>
 #include <set>
+#include <string>
+#include <string_view>
+#include <system_error>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>

@@ -2,10 +2,13 @@
 #include <ZKStrings/tests/TemporaryDirectory.h>
 
 #include <clocale>
+#include <cstddef>
+#include <cstdint>
 #include <cstdlib>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>

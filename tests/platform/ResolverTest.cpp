@@ -6,8 +6,11 @@
 #include <cstdint>
 #include <future>
 #include <memory>
+#include <optional>
 #include <stdexcept>
+#include <string_view>
 #include <thread>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>

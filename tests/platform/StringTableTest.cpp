@@ -6,8 +6,12 @@
 
 #include <cstdint>
 #include <cstdlib>
+#include <filesystem>
+#include <optional>
 #include <set>
 #include <string>
+#include <string_view>
+#include <system_error>
 #include <utility>
 #include <vector>
 

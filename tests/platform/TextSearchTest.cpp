@@ -4,6 +4,7 @@
 #include <ZKStrings/tests/Rows.h>
 
 #include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>

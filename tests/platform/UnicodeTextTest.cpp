@@ -1,9 +1,12 @@
 #include <ZKStrings/platform/text/UnicodeText.h>
 #include <ZKStrings/tests/RandomTexts.h>
 
+#include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include <gtest/gtest.h>
 #include <unicode/brkiter.h>

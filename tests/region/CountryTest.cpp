@@ -4,6 +4,7 @@
 #include <ZKStrings/tests/Rows.h>
 #include <ZKStrings/tests/TemporaryDirectory.h>
 
+#include <cstdint>
 #include <map>
 #include <string>
 #include <utility>

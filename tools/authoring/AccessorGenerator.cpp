@@ -2,6 +2,7 @@
 #include <ZKStrings/tools/project/Identifiers.h>
 
 #include <iterator>
+#include <string>
 #include <string_view>
 #include <vector>
 

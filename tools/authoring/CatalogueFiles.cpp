@@ -14,9 +14,12 @@
 #include <ZKStrings/tools/translation/Template.h>
 
 #include <algorithm>
+#include <cstddef>
 #include <filesystem>
 #include <iterator>
+#include <optional>
 #include <set>
+#include <string>
 #include <system_error>
 #include <utility>
 #include <vector>

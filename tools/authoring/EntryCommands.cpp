@@ -9,9 +9,12 @@
 #include <ZKStrings/tools/texts/TextFeatures.h>
 
 #include <algorithm>
+#include <cstddef>
 #include <iterator>
 #include <map>
+#include <optional>
 #include <stdexcept>
+#include <string>
 #include <string_view>
 #include <utility>
 #include <vector>

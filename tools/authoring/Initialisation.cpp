@@ -7,7 +7,9 @@
 
 #include <filesystem>
 #include <stdexcept>
+#include <string>
 #include <system_error>
+#include <vector>
 
 #include <fmt/format.h>
 

@@ -17,9 +17,12 @@
 #include <optional>
 #include <set>
 #include <span>
+#include <string>
+#include <string_view>
 #include <system_error>
 #include <tuple>
 #include <utility>
+#include <vector>
 
 #include <fmt/format.h>
 

@@ -8,10 +8,16 @@
 #include <ZKStrings/tools/texts/TextFeatures.h>
 
 #include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <filesystem>
 #include <map>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
 #include <system_error>
+#include <vector>
 
 #include <fmt/format.h>
 #include <fmt/ranges.h>

@@ -3,8 +3,10 @@
 #include <ZKStrings/tools/support/Characters.h>
 
 #include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <iterator>
+#include <string_view>
 
 #include <unicode/uchar.h>
 

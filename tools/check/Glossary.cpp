@@ -3,8 +3,11 @@
 #include <ZKStrings/tools/support/Json.h>
 
 #include <filesystem>
+#include <string>
+#include <string_view>
 #include <system_error>
 #include <utility>
+#include <vector>
 
 namespace zk::tools {
 

@@ -9,7 +9,9 @@
 #include <iterator>
 #include <map>
 #include <set>
+#include <span>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 

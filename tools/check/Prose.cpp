@@ -4,7 +4,11 @@
 #include <ZKStrings/tools/texts/TextFeatures.h>
 
 #include <algorithm>
+#include <cstddef>
 #include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
 
 #include <unicode/bytestream.h>
 #include <unicode/casemap.h>

@@ -1,6 +1,8 @@
 #include <ZKStrings/tools/command/HelpFormatter.h>
 #include <ZKStrings/tools/support/Terminal.h>
 
+#include <string>
+
 #include <fmt/format.h>
 
 namespace zk::tools {

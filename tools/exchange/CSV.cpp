@@ -7,7 +7,10 @@
 #include <algorithm>
 #include <cstddef>
 #include <iterator>
+#include <string>
+#include <string_view>
 #include <utility>
+#include <vector>
 
 #include <fmt/format.h>
 

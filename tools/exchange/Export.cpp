@@ -13,6 +13,8 @@
 #include <cstdint>
 #include <iterator>
 #include <stdexcept>
+#include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 

@@ -11,7 +11,10 @@
 #include <ZKStrings/tools/translation/Template.h>
 
 #include <algorithm>
+#include <cstddef>
+#include <functional>
 #include <map>
+#include <string>
 #include <string_view>
 #include <utility>
 

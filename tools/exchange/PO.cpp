@@ -9,6 +9,8 @@
 #include <cstddef>
 #include <iterator>
 #include <optional>
+#include <string>
+#include <string_view>
 #include <utility>
 
 #include <fmt/format.h>

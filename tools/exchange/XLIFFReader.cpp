@@ -7,6 +7,8 @@
 #include <functional>
 #include <iterator>
 #include <map>
+#include <string>
+#include <string_view>
 #include <utility>
 
 #include <fmt/format.h>

@@ -8,6 +8,8 @@
 #include <initializer_list>
 #include <map>
 #include <sstream>
+#include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 

@@ -9,6 +9,8 @@
 #include <algorithm>
 #include <cstddef>
 #include <filesystem>
+#include <string>
+#include <string_view>
 #include <system_error>
 #include <vector>
 

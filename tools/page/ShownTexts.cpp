@@ -5,6 +5,12 @@
 #include <ZKStrings/tools/support/Languages.h>
 #include <ZKStrings/tools/texts/Placeholders.h>
 
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+
 #include <fmt/format.h>
 
 namespace zk::tools {

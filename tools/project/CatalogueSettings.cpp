@@ -7,7 +7,10 @@
 #include <algorithm>
 #include <cstddef>
 #include <filesystem>
+#include <string>
+#include <string_view>
 #include <system_error>
+#include <vector>
 
 #include <fmt/format.h>
 

@@ -2,7 +2,11 @@
 #include <ZKStrings/tools/texts/Placeholders.h>
 
 #include <algorithm>
+#include <cstddef>
 #include <iterator>
+#include <string>
+#include <string_view>
+#include <vector>
 
 namespace zk::tools {
 

@@ -3,6 +3,11 @@
 #include <ZKStrings/tools/support/Characters.h>
 
 #include <algorithm>
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
 
 namespace zk::tools {
 

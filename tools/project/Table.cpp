@@ -7,10 +7,14 @@
 #include <ZKStrings/tools/support/Position.h>
 
 #include <algorithm>
+#include <cstddef>
 #include <iterator>
 #include <optional>
+#include <string>
+#include <string_view>
 #include <tuple>
 #include <utility>
+#include <vector>
 
 #include <fmt/format.h>
 

@@ -9,8 +9,10 @@
 #include <algorithm>
 #include <cstddef>
 #include <sstream>
+#include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>

@@ -1,8 +1,10 @@
 #include <ZKStrings/tools/check/Checker.h>
 #include <ZKStrings/tools/reference/Reference.h>
 
+#include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>

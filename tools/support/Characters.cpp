@@ -1,6 +1,9 @@
 #include <ZKStrings/tools/support/Characters.h>
 
+#include <cstddef>
 #include <cstdint>
+#include <string>
+#include <string_view>
 
 #include <fmt/format.h>
 

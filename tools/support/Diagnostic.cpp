@@ -4,9 +4,11 @@
 #include <cstdint>
 #include <cstdlib>
 #include <filesystem>
+#include <string>
 #include <string_view>
 #include <system_error>
 #include <utility>
+#include <vector>
 
 #include <fmt/color.h>
 #include <fmt/format.h>

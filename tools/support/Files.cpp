@@ -13,8 +13,11 @@
 #include <list>
 #include <optional>
 #include <set>
+#include <string>
+#include <string_view>
 #include <system_error>
 #include <utility>
+#include <vector>
 
 #include <fcntl.h>
 #include <fmt/format.h>

@@ -2,8 +2,14 @@
 #include <ZKStrings/tools/support/Json.h>
 
 #include <algorithm>
+#include <cstddef>
+#include <cstdint>
 #include <set>
+#include <string>
+#include <string_view>
 #include <utility>
+#include <variant>
+#include <vector>
 
 #include <fmt/format.h>
 #include <fmt/ranges.h>

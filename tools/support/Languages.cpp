@@ -11,7 +11,10 @@
 #include <iterator>
 #include <map>
 #include <stdexcept>
+#include <string>
+#include <string_view>
 #include <system_error>
+#include <vector>
 
 #include <fmt/format.h>
 #include <unicode/uloc.h>

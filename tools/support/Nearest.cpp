@@ -4,6 +4,10 @@
 #include <algorithm>
 #include <cstddef>
 #include <numeric>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
 
 #include <fmt/format.h>
 

@@ -2,6 +2,9 @@
 #include <ZKStrings/tools/support/Position.h>
 
 #include <algorithm>
+#include <cstddef>
+#include <string_view>
+#include <vector>
 
 namespace zk::tools {
 

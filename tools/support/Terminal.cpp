@@ -2,7 +2,10 @@
 #include <ZKStrings/tools/support/Terminal.h>
 
 #include <algorithm>
+#include <cstdio>
 #include <cstdlib>
+#include <string>
+#include <string_view>
 
 #include <unistd.h>
 

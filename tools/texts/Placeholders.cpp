@@ -1,8 +1,11 @@
 #include <ZKStrings/tools/texts/Placeholders.h>
 
 #include <algorithm>
+#include <cstddef>
 #include <iterator>
 #include <optional>
+#include <string_view>
+#include <vector>
 
 namespace zk::tools {
 

@@ -1,8 +1,11 @@
 #include <ZKStrings/tools/texts/Placeholders.h>
 #include <ZKStrings/tools/texts/TextPieces.h>
 
+#include <cstddef>
 #include <map>
+#include <string_view>
 #include <utility>
+#include <vector>
 
 namespace zk::tools {
 

@@ -5,7 +5,10 @@
 #include <ZKStrings/tools/translation/TranslationState.h>
 
 #include <algorithm>
+#include <cstddef>
+#include <string>
 #include <string_view>
+#include <vector>
 
 #include <fmt/format.h>
 #include <fmt/ranges.h>

@@ -6,7 +6,12 @@
 #include <ZKStrings/tools/translation/TableEditor.h>
 
 #include <algorithm>
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
 #include <utility>
+#include <vector>
 
 namespace zk::tools {
 

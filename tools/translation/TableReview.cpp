@@ -3,7 +3,10 @@
 #include <ZKStrings/tools/translation/Template.h>
 #include <ZKStrings/tools/translation/TranslationState.h>
 
+#include <cstddef>
+#include <functional>
 #include <optional>
+#include <set>
 #include <string>
 
 namespace zk::tools {

@@ -6,6 +6,8 @@
 #include <ZKStrings/tools/translation/Template.h>
 
 #include <stdexcept>
+#include <string>
+#include <string_view>
 #include <utility>
 
 #include <fmt/format.h>

@@ -5,8 +5,11 @@
 #include <ZKStrings/tools/translation/Template.h>
 #include <ZKStrings/tools/translation/TranslationState.h>
 
+#include <cstddef>
 #include <filesystem>
 #include <stdexcept>
+#include <string>
+#include <string_view>
 #include <system_error>
 #include <utility>
 

@@ -1,5 +1,7 @@
 #include <ZKStrings/tools/check/Prose.h>
 
+#include <cstddef>
+
 #include <gtest/gtest.h>
 
 namespace {

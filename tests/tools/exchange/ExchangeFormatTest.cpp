@@ -3,6 +3,7 @@
 #include <ZKStrings/tools/exchange/Export.h>
 #include <ZKStrings/tools/support/Languages.h>
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 

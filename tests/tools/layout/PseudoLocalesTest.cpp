@@ -6,7 +6,10 @@
 #include <ZKStrings/tools/texts/TextFeatures.h>
 
 #include <algorithm>
+#include <cstddef>
 #include <filesystem>
+#include <string>
+#include <string_view>
 
 #include <gtest/gtest.h>
 

@@ -3,6 +3,7 @@
 #include <ZKStrings/tools/support/Files.h>
 
 #include <csignal>
+#include <cstddef>
 #include <filesystem>
 #include <string>
 #include <utility>

@@ -1,6 +1,9 @@
 #include <ZKStrings/tools/texts/TextPieces.h>
 
+#include <cstddef>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include <gtest/gtest.h>
 
