@@ -103,7 +103,7 @@ class Importer {
     }
     const std::string reason = force_ ? "" : whyStale(unit, english, entry, present);
     if (!reason.empty()) return refuse(unit, reason);
-    const std::string_view previousEnglish = isOutdated ? unit.source : "";
+    const std::string_view previousEnglish = isOutdated ? std::string_view(unit.source) : "";
     imported_.emplace(unit.key, &unit);
     if (!entry) {
       const std::string mark = setsState ? markFor(state, previousEnglish) + "\n" : "";
