@@ -17,7 +17,7 @@ namespace zk::tools {
 namespace {
 
 constexpr const char* kPage = "build/texts.html";
-constexpr const char* kPseudoResources = "/build/pseudo/share/ZKStrings";
+constexpr const char* kPseudoResources = "build/pseudo/share/ZKStrings";
 
 void addPageCommand(CLI::App& app, const RootFinder& inRoot) {
   struct Arguments {
@@ -51,7 +51,7 @@ void addPseudoCommand(CLI::App& app, const RootFinder& inRoot) {
   command->footer("Example: zkstrings pseudo -o build/share/ZKStrings");
   command->callback([directory, inRoot] {
     const std::string root = inRoot();
-    if (directory->empty()) *directory = root + kPseudoResources;
+    if (directory->empty()) *directory = pathInProject(root, kPseudoResources);
     writePseudoLocales(root, std::filesystem::current_path() / *directory);
     say("Wrote xa, xb and xk into {}. An app that prefers one of them shows it.\n", *directory);
   });

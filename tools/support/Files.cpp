@@ -143,25 +143,11 @@ class TemporaryFile {
   std::string name_;
 };
 
-/// The file that `path` leads to, without symbolic links. Throws if a link leads out of `root`.
-fs::path resolved(const std::string& root, const std::string& path) {
-  std::error_code failure;
-  const fs::path target = fs::weakly_canonical(fs::path(root) / path, failure);
-  if (failure) failToWrite(path);
-  if (root.empty()) return target;
-  fs::path folder = fs::weakly_canonical(root, failure);
-  if (!folder.has_filename()) folder = folder.parent_path();  // the name ended in a slash
-  if (std::mismatch(folder.begin(), folder.end(), target.begin(), target.end()).first != folder.end())
-    fail(path, fmt::format("a symbolic link leads out of the project, to {}; replace the link with a file",
-                           target.string()));
-  return target;
-}
-
 /// A file that is to change: its new contents and its old ones, in temporary files.
 class StagedFile {
  public:
   StagedFile(const std::string& root, const FileChange& change, Folders& folders)
-      : path_(change.path), target_(resolved(root, change.path)) {
+      : path_(change.path), target_(pathInProject(root, change.path)) {
     folders.make(target_.parent_path());
     struct stat before = {};
     const bool exists = stat(target_.c_str(), &before) == 0;
@@ -211,6 +197,19 @@ std::string rootAt(const std::string& directory) {
   std::error_code failure;
   if (fs::exists(fs::path(directory) / kMark, failure)) return directory;
   fail(kMark, "no such file; --root needs the folder that has catalogue/");
+}
+
+std::string pathInProject(const std::string& root, const std::string& path) {
+  std::error_code failure;
+  const fs::path target = fs::weakly_canonical(fs::path(root) / path, failure);
+  if (failure) failToWrite(path);
+  if (root.empty()) return target.string();
+  fs::path folder = fs::weakly_canonical(root, failure);
+  if (!folder.has_filename()) folder = folder.parent_path();  // the name ended in a slash
+  if (std::mismatch(folder.begin(), folder.end(), target.begin(), target.end()).first != folder.end())
+    fail(path, fmt::format("a symbolic link leads out of the project, to {}; replace the link with a file",
+                           target.string()));
+  return target.string();
 }
 
 void lockProject(const std::string& root) {

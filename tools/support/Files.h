@@ -13,6 +13,10 @@ namespace zk::tools {
 /// `directory`, if it is the root of a project. Throws `CommandFailed` if it has no catalogue.
 [[nodiscard]] std::string rootAt(const std::string& directory);
 
+/// The file or directory that `path` below `root` leads to, without symbolic links. Throws `CommandFailed` if a link leads
+/// out of `root`, unless `root` is empty.
+[[nodiscard]] std::string pathInProject(const std::string& root, const std::string& path);
+
 /// Keeps other commands from changing the project at `root` until this process ends, and removes the temporary files
 /// that a killed command has left there. Waits for a command that holds the lock, and says so on standard error.
 void lockProject(const std::string& root);
@@ -31,7 +35,7 @@ struct FileChange {
 /// the last files unchanged, so put the file last by which a repeated command sees that it has not finished.
 ///
 /// A file keeps its permissions and, as far as the system allows it, its owner and group. A symbolic link
-/// stays, and the file it points to is replaced. If `root` is not empty, that file must be below `root`.
+/// stays, and the file it points to is replaced, as far as `pathInProject` allows it.
 /// Throws `CommandFailed`, with the file's name, if a file cannot be written.
 void writeFiles(const std::string& root, const std::vector<FileChange>& changes);
 
