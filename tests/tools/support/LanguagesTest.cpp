@@ -1,3 +1,4 @@
+#include <ZKStrings/tests/Rows.h>
 #include <ZKStrings/tools/support/Languages.h>
 
 #include <string>
@@ -9,30 +10,10 @@ namespace zk::tools {
 namespace {
 
 TEST(Languages, HaveTheCodeThatTheWordMeans) {
-  const std::pair<const char*, const char*> cases[] = {
-      {"sv", "sv"},
-      {"swe", "sv"},
-      {"sv-SE", "sv"},
-      {"sv_SE.UTF-8", "sv"},
-      {"Swedish", "sv"},
-      {"svenska", "sv"},
-      {"estonian", "et"},
-      {"est", "et"},
-      {"fil", ""},
-      {"Filipino", ""},
-      {"EN", "en"},
-      {"zh-Hans-CN", "zh"},
-      {"nob", "nb"},
-      {"xx", ""},
-      {"", ""},
-      {"..", ""},
-      {"sv.lproj", "sv"},
-      {"/a/sv.lproj/", "sv"},
-      {"\xFF\xFE", ""},
-      {"resources/de.lproj/Localizable.strings", "de"},
-      {"norwegian bokmål", "nb"},
-  };
-  for (const auto& [word, code] : cases) EXPECT_EQ(languageCodeOf(word), code) << word;
+  for (const auto& [word, code] :
+       testing::rowsOf<std::string, std::string>("tools/support/LanguagesTest.json"))
+    EXPECT_EQ(languageCodeOf(word), code) << word;
+  EXPECT_EQ(languageCodeOf("\xFF\xFE"), "");
   EXPECT_EQ(languageCodeOf(std::string(100'000, 'a')), "");
 }
 

@@ -1,3 +1,4 @@
+#include <ZKStrings/tests/Rows.h>
 #include <ZKStrings/tools/texts/TextPieces.h>
 
 #include <cstddef>
@@ -23,27 +24,9 @@ std::string shown(std::string_view text) {
 }
 
 TEST(TextPieces, SeparateWordsFromCodes) {
-  struct Case {
-    const char* text;
-    const char* pieces;
-  };
-  constexpr Case kCases[] = {
-      {"", ""},
-      {"About", "|About"},
-      {"%{n} of %{n}", "|=%{n}| of |=%{n}"},
-      {"<b>Rules</b>, *now*", "|><b>|Rules|<</b>|, |>*|now|<*"},
-      {"<b>%{n}*x*</b>", "|><b>|=%{n}|>*|x|<*|<</b>"},
-      {"**", "|>*|<*"},
-      {"5 * 3", "|5 |=*| 3"},
-      {"</b>x<b>", "|=</b>|x|=<b>"},
-      {"<b>*x</b>*", "|=<b>|=*|x|=</b>|=*"},
-      {"<b>x", "|=<b>|x"},
-      {"<b><b><b><b><b><b><b><b><b></b></b></b></b></b></b></b></b></b>",
-       "|=<b>|=<b>|=<b>|=<b>|=<b>|=<b>|=<b>|=<b>|=<b>|=</b>|=</b>|=</b>|=</b>|=</b>|=</b>|=</b>|=</b>|=</b>"},
-      {"a < b > c <i>", "|a < b > c <i>"},
-      {"%{ n } {n} 100% %n", "|%{ n } {n} 100% %n"},
-  };
-  for (const auto& [text, pieces] : kCases) EXPECT_EQ(shown(text), pieces) << text;
+  for (const auto& [text, pieces] :
+       zk::testing::rowsOf<std::string, std::string>("tools/texts/TextPiecesTest.json"))
+    EXPECT_EQ(shown(text), pieces) << text;
 }
 
 TEST(TextPieces, NumberCodesAsInTheEnglishText) {

@@ -1,3 +1,4 @@
+#include <ZKStrings/tests/Rows.h>
 #include <ZKStrings/tools/translation/TranslationState.h>
 
 #include <string>
@@ -20,41 +21,12 @@ TranslationState stateOfEntry(const std::string& comments, const std::string& te
 }
 
 TEST(TranslationState, FollowsFromTextAndMark) {
-  constexpr const char* kUntranslated = "/* state: untranslated */";
-  constexpr const char* kNeedsReview = "// state: needs-review";
-  constexpr const char* kOff = "/* check: off untranslated */";
-  struct Case {
-    const char* comments;
-    const char* text;
-    const char* english;
-    TranslationState state;
-  };
-  constexpr Case kCases[] = {
-      {"", "Über uns", "About us", translated},
-      {"", "About us", "About us", untranslated},
-      {"", "Bonus", "Bonus", translated},
-      {"", "ZK Rewards", "ZK Rewards", untranslated},
-      {"", "ZK Trivia", "ZK Trivia", translated},
-      {"", "PayPal & App Store: %{shop}", "PayPal & App Store: %{shop}", translated},
-      {"", "Top 10", "Top 10", translated},
-      {"", "%{shown questions} Badges", "%{shown questions} Badges", untranslated},
-      {"", "%{badgeCount} Badges", "%{badgeCount} Badges", translated},
-      {"", "", "About", untranslated},
-      {"", " \n", "About", untranslated},
-      {kUntranslated, "Bonus", "Bonus", untranslated},
-      {kUntranslated, "Zulage", "Bonus", translated},
-      {kNeedsReview, "Zulage", "Bonus", needsReview},
-      {kNeedsReview, "Bonus", "Bonus", needsReview},
-      {kOff, "About us", "About us", translated},
-      {"/* state: untranslated */ // state: needs-review", "Zulage", "Bonus", needsReview},
-      {"/* state: needs-review */ // state: untranslated", "Bonus", "Bonus", untranslated},
-      {"/* state: done */ /* the state: untranslated */", "Bonus", "Bonus", translated},
-  };
-  for (const auto& [comments, text, english, state] : kCases) {
-    EXPECT_EQ(nameOf(stateOfEntry(comments, text, english)), nameOf(state)) << comments << " " << text;
-  }
+  for (const auto& [comments, text, english, state] :
+       zk::testing::rowsOf<std::string, std::string, std::string, std::string>(
+           "tools/translation/TranslationStateTest.json"))
+    EXPECT_EQ(nameOf(stateOfEntry(comments, text, english)), state) << comments << " " << text;
   EXPECT_EQ(stateOfEntry("", "About us", "About us", "Base"), translated);
-  EXPECT_EQ(stateOfEntry(kUntranslated, "About us", "About us", "Base"), translated);
+  EXPECT_EQ(stateOfEntry("/* state: untranslated */", "About us", "About us", "Base"), translated);
 }
 
 }  // namespace
