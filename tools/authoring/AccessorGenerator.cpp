@@ -117,7 +117,7 @@ std::string substitutionsOf(const Entry& entry) {
   return fmt::format("{{{}}}", fmt::join(pairs, ", "));
 }
 
-/// The call that gives the entry's text: the module's own is the shorter one, since it is made so often.
+/// The call that looks the entry's text up. The module's own is shorter, as there are so many.
 std::string lookupOf(const Entry& entry, const CatalogueName& catalogue) {
   const std::string texts = fmt::format("\"{}\", \"{}\"", literal(entry.key), literal(entry.text));
   const std::string substitutions = substitutionsOf(entry);

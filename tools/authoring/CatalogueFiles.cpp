@@ -30,8 +30,8 @@ namespace zk::tools {
 
 namespace {
 
-/// Gives each counted entry all its forms: those that it lacks are the text. If it has none, they are those of the
-/// English table, unless these are all the same, which is how a text without forms of its own looks there.
+/// Gives each counted entry all its forms. Forms that are not given are the text. If none is given, they are those of the
+/// English table, unless these are all the same: then the text has no special forms.
 void completeForms(Catalogue& catalogue, const Table& base) {
   for (Entry& entry : catalogue.entries()) {
     if (!entry.plural) continue;
@@ -90,7 +90,7 @@ std::string syncedBase(TableEditor& base, const EnglishTexts& english) {
   return TableEditor(base.edited(), base.table().file).sorted(english);
 }
 
-/// Reports keys that stand twice in a table, with different texts.
+/// Reports keys that are twice in a table, with different texts.
 void findUndecided(const Table& table, Diagnostics& diagnostics) {
   for (const TableEntry& entry : table.entries) {
     const TableEntry& last = *table.find(entry.key);

@@ -32,8 +32,8 @@ constexpr std::size_t kFormForOne = 1;
   throw std::invalid_argument(reason);
 }
 
-void refuseFaultIn(const Entry& entry) {
-  if (const std::string fault = Catalogue::faultIn(entry); !fault.empty()) refuse(fault);
+void refuseErrorIn(const Entry& entry) {
+  if (const std::string error = Catalogue::errorIn(entry); !error.empty()) refuse(error);
 }
 
 void refuseWrongBytes(const std::string& text) {
@@ -95,7 +95,7 @@ std::vector<Entry*> entriesOf(Catalogue& catalogue, const std::string& key) {
                      didYouMean(meant, fmt::format("see {} for those it has", Catalogue::kFile))));
 }
 
-/// The keys of the tables for `entry`, and what they are with the key `newKey`; all empty if that is.
+/// The keys of `entry` in the tables, and those that they become if its key becomes `newKey`; empty ones if that is empty.
 std::map<std::string, std::string> renamedKeys(const Entry& entry, const std::string& newKey) {
   std::map<std::string, std::string> keys;
   for (const std::string& key : entry.lookedUpKeys())
@@ -166,7 +166,7 @@ std::string addEntry(const std::string& root, const NewEntry& added) {
   refuseWrongKey(entry.key);
   if (entry.plural) setForms(entry, added.forms);
   keepKeyIfNeeded(entry);
-  refuseFaultIn(entry);
+  refuseErrorIn(entry);
   for (const Entry& present : catalogue.entries()) {
     if (present.key == entry.key && (present.plural == entry.plural || present.text != entry.text))
       refuse(fmt::format("the key \"{}\" is that of the text \"{}\"; give the new text another with --key",
@@ -194,7 +194,7 @@ std::size_t changeEntry(const std::string& root, const std::string& key, const E
     entry->comment = change.comment.value_or(entry->comment);
     entry->max = change.max.value_or(entry->max);
     keepKeyIfNeeded(*entry);
-    refuseFaultIn(*entry);
+    refuseErrorIn(*entry);
   }
   return writeCatalogue(root, catalogue, tables);
 }
@@ -214,7 +214,7 @@ void renameEntry(const std::string& root, const std::string& key, const std::str
     tables.renamed.merge(renamedKeys(*entry, newKey));
     entry->key = newKey;
     keepKeyIfNeeded(*entry);
-    refuseFaultIn(*entry);
+    refuseErrorIn(*entry);
   }
   catalogue.sort();
   writeCatalogue(root, catalogue, tables);

@@ -78,7 +78,7 @@ void refuseToReplace(const std::string& directory, const std::vector<FileChange>
 void initCatalogue(const std::string& directory, const CatalogueName& name) {
   if (name.name == CatalogueName::kModule)
     throw std::invalid_argument(fmt::format("the name {} is the module's own; choose another", name.name));
-  if (const std::string fault = name.fault(); !fault.empty()) throw std::invalid_argument(fault);
+  if (const std::string error = name.error(); !error.empty()) throw std::invalid_argument(error);
   const std::vector<FileChange> files = {{CatalogueSettings::kFile, settingsFor(name)},
                                          {tablePath(kBase), kEnglish},
                                          {"README.md", readmeFor(name)},

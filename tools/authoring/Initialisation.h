@@ -6,10 +6,9 @@
 
 namespace zk::tools {
 
-/// Writes a catalogue of one's own below `directory`, which is made if need be: two texts, one of them
-/// counted, their English table, its name, and a README that says how to go on. Throws `CommandFailed`,
-/// having written nothing, when there is a catalogue already or a file cannot be written, and
-/// `std::invalid_argument` when `name` cannot name one.
+/// Writes a new catalogue to `directory`, which is created if needed: two texts, one of them counted, their English
+/// table, the settings, and a README that explains the next steps. Throws `CommandFailed`, and writes nothing, if there is
+/// a catalogue already or a file cannot be written; `std::invalid_argument` if `name` cannot name a catalogue.
 void initCatalogue(const std::string& directory, const CatalogueName& name);
 
 }  // namespace zk::tools

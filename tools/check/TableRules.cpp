@@ -1,6 +1,7 @@
 #include <ZKStrings/tools/check/Checker.h>
 #include <ZKStrings/tools/check/TableRules.h>
 #include <ZKStrings/tools/project/EntryComments.h>
+#include <ZKStrings/tools/project/TextPlaces.h>
 #include <ZKStrings/tools/support/Languages.h>
 #include <ZKStrings/tools/support/Nearest.h>
 #include <ZKStrings/tools/texts/TextFeatures.h>

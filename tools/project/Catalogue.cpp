@@ -109,7 +109,7 @@ std::vector<Entry> readEntries(std::string_view json, const std::string& file, b
   return entries;
 }
 
-/// Says what is wrong with an entry by the rules of the catalogue, each with the mend.
+/// Reports the errors in an entry by itself.
 void checkEntry(const Entry& entry, const std::string& file, Diagnostics& diagnostics) {
   const auto fail = [&](std::string message) {
     diagnostics.push_back({Severity::error, file, entry.line, 1, "", std::move(message)});
@@ -140,7 +140,7 @@ void checkEntry(const Entry& entry, const std::string& file, Diagnostics& diagno
       fail(fmt::format("the placeholder \"%{{{}}}\" cannot name an argument; use letters and digits", name));
     }
     if (!seen.insert(name).second) {
-      fail(fmt::format("the placeholder \"%{{{}}}\" stands twice in one text; name the second otherwise",
+      fail(fmt::format("the placeholder \"%{{{}}}\" is twice in one text; give the second another name",
                        name));
     }
   }
@@ -162,7 +162,7 @@ void checkEntry(const Entry& entry, const std::string& file, Diagnostics& diagno
   }
 }
 
-/// What makes two accessors the same function for C++: the name and the types of the arguments.
+/// The name and the arguments of the accessor. C++ takes two accessors with the same ones for one function.
 std::string signatureOf(const Entry& entry) {
   return fmt::format("{}({}{})", identifierFor(entry.key), placeholderNames(entry.text).size(),
                      entry.plural ? ", count" : "");
@@ -269,7 +269,7 @@ Catalogue Catalogue::readEdited(const std::string& root, const std::function<boo
   return catalogue;
 }
 
-std::string Catalogue::faultIn(const Entry& entry) {
+std::string Catalogue::errorIn(const Entry& entry) {
   Diagnostics diagnostics;
   checkEntry(entry, kFile, diagnostics);
   return diagnostics.empty() ? "" : diagnostics.front().message;

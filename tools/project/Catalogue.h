@@ -27,13 +27,13 @@ struct Entry {
   std::string key;
   std::string text;  ///< the English default
   bool plural = false;
-  PluralForms forms = {};  ///< of a counted entry; if one is given, those that are not are `text`
+  PluralForms forms = {};  ///< of a counted entry; if one is given, the others are `text`
   Kept kept = Kept::nothing;
   std::string comment = {};  ///< for translators: where the text appears, what it means; may be empty
   std::size_t max = 0;       ///< the most characters that fit where the text appears; 0 for no limit
   std::size_t line = 0;      ///< in entries.json
 
-  /// What translators are told about the text: its comment, then its limit. May be empty.
+  /// The comment and the limit as one text for translators. May be empty.
   [[nodiscard]] std::string context() const;
   /// The keys under which tables have the text: its key, or those of its five plural forms.
   [[nodiscard]] std::vector<std::string> lookedUpKeys() const;
@@ -47,32 +47,32 @@ class Catalogue {
   [[nodiscard]] static Catalogue read(const std::string& root);
   /// Reads and checks the bytes of such a file, which diagnostics call `file`.
   [[nodiscard]] static Catalogue parse(std::string_view json, const std::string& file);
-  /// Reads entries.json as a person or a merge of two versions left it: sorts the entries, drops repeated ones,
-  /// ignores missing commas, and lets an entry keep its key if its text has changed. An entry whose key `isKnown`
-  /// does not accept is new. Throws `CommandFailed` if something else is wrong.
+  /// Reads entries.json as a person or a merge of two versions left it: sorts the entries, drops repeated ones
+  /// and ignores missing commas. An entry that `isKnown` accepts keeps its key although its text has changed. Throws
+  /// `CommandFailed` if something else is wrong.
   [[nodiscard]] static Catalogue readEdited(const std::string& root,
                                             const std::function<bool(const Entry&)>& isKnown);
 
-  /// What is wrong with `entry` by itself, and what to do; empty when nothing is.
-  [[nodiscard]] static std::string faultIn(const Entry& entry);
+  /// Returns the first error in `entry` itself, and what to do; empty if it has none.
+  [[nodiscard]] static std::string errorIn(const Entry& entry);
 
   [[nodiscard]] const std::vector<Entry>& entries() const { return entries_; }
   [[nodiscard]] std::vector<Entry>& entries() { return entries_; }
   [[nodiscard]] const CatalogueSettings& settings() const { return settings_; }
 
-  /// The keys that the module looks up: those of entries without a count, and the five plural forms of the
-  /// others, in catalogue order. `entry` is the one whose English text the form translates.
+  /// A key that the module looks up: that of an entry without a count, or of a plural form of `entry`.
   struct LookedUpKey {
     std::string key;
     const Entry* entry;
     std::string_view suffix;  ///< of a plural form, or empty
   };
+  /// All of them, in catalogue order.
   [[nodiscard]] std::vector<LookedUpKey> lookedUpKeys() const;
 
   /// Sorts the entries by key without regard to case. One that keeps its place stays after the one before it.
   void sort();
 
-  /// The text of entries.json that holds this catalogue.
+  /// The contents of entries.json for this catalogue.
   [[nodiscard]] std::string toJson() const;
 
   static constexpr const char* kFile = "catalogue/entries.json";
@@ -82,7 +82,7 @@ class Catalogue {
   CatalogueSettings settings_;
 };
 
-/// The text of the plural form `form` of `entry`; null if only the English table says it.
+/// Returns the text of the plural form with the index `form` of `entry`; null if only the English table has it.
 [[nodiscard]] const std::string* formOf(const Entry& entry, std::size_t form);
 
 /// Lets `entry` keep its key if the key is not the one that its text gets, and only then.

@@ -79,7 +79,7 @@ std::size_t sizeOfName(const std::string& name, Words::const_iterator begin, Wor
 
 }  // namespace
 
-std::string CatalogueName::fault() const {
+std::string CatalogueName::error() const {
   if (isModule()) return "";
   if (!isIdentifier(name))
     return fmt::format("the name \"{}\" cannot name a class; use letters, digits and _, as in Texts", name);
@@ -103,7 +103,7 @@ CatalogueSettings CatalogueSettings::parse(std::string_view json) {
   settings.name = {"", ""};
   const JsonValue object = JsonValue::parse(json, kFile);
   storeMembers(object, settings, kMembers);
-  if (const std::string fault = settings.name.fault(); !fault.empty()) object.fail(fault);
+  if (const std::string error = settings.name.error(); !error.empty()) object.fail(error);
   return settings;
 }
 

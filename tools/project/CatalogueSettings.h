@@ -25,7 +25,7 @@ struct CatalogueName {
   [[nodiscard]] std::string sourceFile() const { return "catalogue/" + name + ".cpp"; }
 
   /// Returns why C++ cannot use the name, and what to do; empty if it can.
-  [[nodiscard]] std::string fault() const;
+  [[nodiscard]] std::string error() const;
 };
 
 /// The settings of a catalogue, which catalogue/catalogue.json holds:

@@ -11,12 +11,12 @@
 
 namespace zk::tools {
 
-/// A key that the module looks up, and the English text that a translation of it says.
+/// A key that the module looks up, and its English text.
 struct EnglishText {
   std::string key;
   const Entry* entry;
   std::string_view suffix;  ///< of a plural form, or empty
-  std::string text;         ///< of the entry; of a form that only the English table says, from there
+  std::string text;         ///< from the entry, or from the English table if only that has the form
   const CatalogueSettings* settings;
 
   /// The names of the placeholders that a translation may use: those of the text, and of a plural form those
@@ -38,7 +38,7 @@ class EnglishTexts {
   EnglishTexts(const Catalogue& catalogue, const Table& base);
 
   [[nodiscard]] const std::vector<EnglishText>& all() const { return texts_; }
-  /// The text of `key`; null when the module never looks it up.
+  /// Returns the text of `key`; null if the module never looks it up.
   [[nodiscard]] const EnglishText* find(std::string_view key) const;
 
  private:

@@ -9,7 +9,7 @@
 
 namespace zk::tools {
 
-/// What the comments before an entry tell the tools. Such a comment is one word, a colon and what is told:
+/// Comments before an entry can have a meaning for the tools. They begin with a word and a colon:
 ///
 ///     /* English: "%{n} Coins"; placeholders: %{n} */
 ///     /* context: A button that opens the settings. At most 14 characters. */

@@ -5,12 +5,11 @@
 
 namespace zk::tools {
 
-/// Whether `word` is a name that C++ takes, of ASCII letters, digits and "_", and no reserved word.
+/// Whether `word` is an identifier of C++ with ASCII letters, digits and "_", and not a reserved word.
 [[nodiscard]] bool isIdentifier(std::string_view word);
 
-/// The name of the function or argument for `name`, a key or a placeholder: the same where C++ takes it. A
-/// reserved word gets an underscore; a key with other signs, as an entry may have kept it, is named by the
-/// rule for texts. Empty when it holds no letter or digit.
+/// Returns the name of the function or argument for `name`, a key or a placeholder. A reserved word of C++ gets an
+/// underscore, and other characters than letters and digits are replaced as in keys. Empty if there is no letter or digit.
 [[nodiscard]] std::string identifierFor(std::string_view name);
 
 }  // namespace zk::tools

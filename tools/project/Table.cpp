@@ -42,7 +42,7 @@ TableEntry entryFrom(const StringTableReader& reader, std::string_view text, std
     }
     return result;
   };
-  PositionFinder commentPositions = positions;  // some comments stand within the entry
+  PositionFinder commentPositions = positions;  // some comments are within the entry
   for (const Token& comment : reader.comments()) {
     if (comment.begin < commentsBegin) continue;
     const std::size_t closingMark = text[comment.begin - 1] == '*' ? 2 : 0;
@@ -65,18 +65,6 @@ TableEntry entryFrom(const StringTableReader& reader, std::string_view text, std
   entry.spelled = spelled(value);
   entry.lastLine = positions.at(value.end).line;
   return entry;
-}
-
-/// How many bytes the text has that is spelled so.
-std::size_t textSize(std::string_view spelled) {
-  std::string text(spelled);
-  return unescape(text.data(), text.size());
-}
-
-/// Where the next escape behind `begin` begins, or the end.
-std::size_t nextEscape(std::string_view spelled, std::size_t begin) {
-  const bool isEscape = spelled.substr(begin).starts_with('\\');
-  return std::min(spelled.find('\\', begin + (isEscape ? 2 : 0)), spelled.size());
 }
 
 /// The first place on each line where the bytes are not UTF-8.
@@ -102,29 +90,6 @@ bool isMarkedUtf16Or32(std::string_view bytes) {
 }
 
 }  // namespace
-
-TextPlaces::TextPlaces(const TableEntry& entry)
-    : spelled_(entry.spelled), positions_(spelled_, entry.textAt) {
-}
-
-void TextPlaces::readOn() {
-  const std::size_t begin = piece_.end;
-  const std::size_t end = nextEscape(spelled_, begin);
-  const std::size_t endOfTwo = nextEscape(spelled_, end);
-  const std::size_t size = textSize(spelled_.substr(begin, end - begin));
-  const std::size_t sizeOfTwo = textSize(spelled_.substr(begin, endOfTwo - begin));
-  // Two escapes that together stand for less than each by itself are one character, a surrogate pair.
-  const bool isPair = sizeOfTwo < size + textSize(spelled_.substr(end, endOfTwo - end));
-  piece_ = {begin, isPair ? endOfTwo : end};
-  text_ = {text_.end, text_.end + (isPair ? sizeOfTwo : size)};
-}
-
-Position TextPlaces::at(std::size_t offset) {
-  while (text_.end <= offset && piece_.end < spelled_.size()) readOn();
-  // Only what an escape stands for has another size than its spelling, and it comes first.
-  const std::size_t behind = text_.end - std::min(offset, text_.end);
-  return positions_.at(offset <= text_.begin ? piece_.begin : piece_.end - behind);
-}
 
 Table Table::read(const std::string& root, std::string_view language) {
   const std::string path = tablePath(language);
@@ -160,7 +125,7 @@ Table Table::parse(std::string bytes, std::string file) {
     if (bytes.starts_with(kByteOrderMark)) bytes.erase(0, kByteOrderMark.size());
     for (const Position at : illFormedPlaces(bytes))
       fail(at, kEncoding, "the bytes here are not UTF-8; save the file as UTF-8");
-    text = std::move(bytes);  // what else is wrong shows all the same
+    text = std::move(bytes);  // so that other errors are reported, too
   }
   PositionFinder positions(*text);
   StringTableReader reader(*text);

@@ -6,22 +6,21 @@
 
 namespace zk::tools {
 
-/// How far the translations of what the module looks up have come in a language's table.
+/// How many texts that the module looks up are translated in a language's table.
 struct Coverage {
   std::string language;
   std::size_t translated = 0;
   std::size_t needsReview = 0;
   std::size_t untranslated = 0;
   std::size_t missing = 0;
-  bool isWellFormed = true;  ///< the module reads nothing of a table that is not, so that all is missing
+  bool isWellFormed = true;  ///< if not, the module reads nothing of the table, so all texts are missing
 
-  /// Of the translated ones, rounded down, so that 100 means all.
+  /// The percentage of translated texts, rounded down, so 100 means all.
   [[nodiscard]] std::size_t percent() const;
 };
 
-/// The coverage of each language that has a directory in the project at `root`, sorted by name. A table that
-/// cannot be read has no text. Throws `CommandFailed` when the catalogue is wrong or resources/ cannot be
-/// listed.
+/// Returns the coverage of each language that has a directory in the project at `root`, sorted by name. A table that
+/// cannot be read has no texts. Throws `CommandFailed` if the catalogue is wrong or resources/ cannot be listed.
 [[nodiscard]] std::vector<Coverage> coverageOf(const std::string& root);
 
 /// A heading and one line for each language, aligned, with a bar, within 80 columns.

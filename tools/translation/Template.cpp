@@ -53,7 +53,7 @@ std::size_t writeTemplate(const std::string& root, const std::string& language) 
     throw std::invalid_argument(reason);
   std::error_code failure;
   if (std::filesystem::exists(std::filesystem::path(root) / path, failure)) {
-    fail(path, "the table is there already, and its texts would be lost; remove it first to begin anew");
+    fail(path, "the table exists already, and its texts would be lost; remove it first to start again");
   }
   const Catalogue catalogue = Catalogue::read(root);
   const EnglishTexts english(catalogue, Table::readWellFormed(root, kBase));

@@ -18,7 +18,7 @@ namespace {
 
 using Words = std::vector<std::string_view>;
 
-/// Whether an entry that says what the English text says is likely to be left over.
+/// Whether an entry with the English text is probably not translated yet.
 bool looksUntranslated(const TableEntry& entry, const CatalogueSettings& settings) {
   return wordsToRead(withoutPlaceholders(entry.text)).size() > 1 && !settings.isSameEverywhere(entry.text) &&
          !isSwitchedOff(entry, kUntranslatedRule);
