@@ -95,7 +95,7 @@ void Report::printRatios() {
       {"plain: en to de-DE", "plain/module, en", "plain/module", 1.1},
       {"plain: en-US to de-DE", "plain/module, en-US", "plain/module", 1.1},
       {"plain: zh-Hans-CN to de-DE", "plain/module, zh-Hans-CN", "plain/module", 1.1},
-      {"plain: not ASCII to de-DE", "plain/module, not ASCII", "plain/module", 2},
+      {"plain: not ASCII to de-DE", "plain/module, not ASCII", "plain/module", 8},
       {"plain: winner third to winner first", "plain/module, winner third", "plain/module", 1.3},
       {"Language{} to the JSON library's document", "Language/module",
        "Language/document of the JSON library", 0.75},

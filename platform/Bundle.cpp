@@ -117,7 +117,7 @@ class Bundle::Listing {
           typeWord(wordOf(type)),
           sizes(std::uint64_t{name.size()} << 32 | type.size()) {}
     [[nodiscard]] std::size_t place() const {
-      return static_cast<std::size_t>(hashOfWords(nameWord, typeWord) >> 32);
+      return static_cast<std::size_t>(hashOfWords(typeWord, nameWord) >> 32);
     }
     friend bool operator==(const Name&, const Name&) = default;
 

@@ -154,6 +154,10 @@ Hold::Hold(Entry& entry) : kept_(keptByThread) {
     service_ = kept_->service;
     return;
   }
+  resolve(entry, generation);
+}
+
+void Hold::resolve(Entry& entry, std::uint64_t generation) {
   const std::shared_ptr<Registration> registration = current(entry);
   owner_ = registration->service(entry);
   service_ = owner_.get();

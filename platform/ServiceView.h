@@ -33,6 +33,9 @@ class Hold {
   [[nodiscard]] const void* service() const { return service_; }
 
  private:
+  /// Not inlined, which keeps the usual case short.
+  [[gnu::noinline]] void resolve(Entry& entry, std::uint64_t generation);
+
   const void* service_ = nullptr;
   Kept* kept_;
   Service owner_{};

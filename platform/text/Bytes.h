@@ -51,13 +51,12 @@ inline std::uint64_t wordOf(const char* bytes, std::size_t size) {
 
 }  // namespace internal
 
-/// A hash of two words. The upper half is the better one.
+/// A hash of two words. Only its upper half depends on all their bits.
 constexpr std::uint64_t hashOfWords(std::uint64_t one, std::uint64_t other) {
-  const std::uint64_t hash = one * 0x9E3779B97F4A7C15 + other * 0xD1B54A32D192ED03;
-  return hash ^ hash >> 32;
+  return (one ^ one >> 32) * 0x9E3779B97F4A7C15 + (other ^ other >> 32) * 0xD1B54A32D192ED03;
 }
 
-/// A hash of `bytes`. The upper half is the better one. Hashes differ between machines and are never stored. Not inlined,
+/// A hash of `bytes`. Only its upper half depends on all of them. Hashes differ between machines and are never stored. Not inlined,
 /// so that the compiler can inline its callers, which need it only for long texts.
 [[gnu::noinline]] inline std::uint64_t hashOf(std::string_view bytes) {
   using internal::load;
