@@ -29,7 +29,7 @@ TEST(Files, AreAllChangedOrNone) {
   const zk::testing::TemporaryDirectory project;
   project.write("a", "old a");
   project.write("folder/inside", "x");
-  // What stands where a file should go, or where its folder should: a folder, a file.
+  // A folder in the place of a file, and a file in the place of a folder.
   for (const char* obstacle : {"folder", "a/below"}) {
     EXPECT_THROW(writeFiles(project.path(),
                             {{"a", "new a"}, {"deep/er/b", "new b"}, {"deep/c", "c"}, {obstacle, "d"}}),
@@ -38,7 +38,7 @@ TEST(Files, AreAllChangedOrNone) {
     EXPECT_EQ(filesIn(project.path()), 2u) << obstacle;
     EXPECT_FALSE(fs::exists(project.path() + "/deep")) << obstacle;
   }
-  // What shows only when others are in their places already: a folder that a later file needs.
+  // A conflict that shows only after other files are renamed: a folder that a later file needs.
   EXPECT_THROW(writeFiles(project.path(), {{"a", "new a"}, {"b", "new b"}, {"c", "c"}, {"c/d", "d"}}),
                CommandFailed);
   EXPECT_EQ(readFile(project.path(), "a"), "old a");
@@ -115,7 +115,7 @@ TEST(Files, AreAllChangedOrNoneWhenASignalEndsTheProcess) {
       const pid_t writer = fork();
       ASSERT_NE(writer, -1);
       if (writer == 0) {
-        std::signal(signal, SIG_DFL);  // a shell has what it starts in the background ignore some
+        std::signal(signal, SIG_DFL);  // a shell makes background commands ignore some signals
         for (std::string bytes;; bytes += 'x') writeFiles(project.path(), {{"a", bytes}, {"b", bytes}});
       }
       usleep(static_cast<useconds_t>(2000 + 100 * delay));
