@@ -2,6 +2,7 @@
 #include <ZKStrings/tests/Rows.h>
 #include <ZKStrings/tools/authoring/AccessorGenerator.h>
 #include <ZKStrings/tools/project/Catalogue.h>
+#include <ZKStrings/tools/project/EnglishTexts.h>
 #include <ZKStrings/tools/support/Files.h>
 
 #include <cstddef>
@@ -24,7 +25,11 @@ TEST(Catalogue, ItsFilesAreUpToDate) {
   EXPECT_EQ(readFile(kRoot, Catalogue::kFile), catalogue.toJson());
   const std::vector<Catalogue::LookedUpKey> keys = catalogue.lookedUpKeys();
   ASSERT_EQ(base.entries.size(), keys.size()) << "run zkstrings check";
-  for (std::size_t i = 0; i < keys.size(); ++i) EXPECT_EQ(base.entries[i].key, keys[i].key);
+  const EnglishTexts english(catalogue, Table{});
+  for (std::size_t i = 0; i < keys.size(); ++i) {
+    EXPECT_EQ(base.entries[i].key, keys[i].key);
+    EXPECT_EQ(base.entries[i].text, english.all()[i].text) << keys[i].key << ": run zkstrings generate";
+  }
 }
 
 TEST(Catalogue, RefusesAWrongEntryNamingItsLine) {
