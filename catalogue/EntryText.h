@@ -9,8 +9,8 @@
 
 namespace zk {
 
-/// `localizedString`, as the accessors call it. There are hundreds of accessors, and their code is most of the
-/// library: here they hand over what registers hold, and own nothing that must be destroyed afterwards.
+/// Call `localizedString` for an accessor. The code of the accessors is most of the library, so it is kept small: they pass
+/// registers and own nothing that must be destroyed.
 [[nodiscard]] std::string entryText(std::string_view key, std::string_view english);
 [[nodiscard]] std::string entryText(std::string_view key, std::string_view english, std::int64_t count);
 [[nodiscard]] std::string entryText(std::string_view key, std::string_view english,

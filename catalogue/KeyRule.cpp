@@ -9,7 +9,7 @@ namespace zk {
 
 namespace {
 
-/// The letter that stands for `character` behind a backslash in source code; 0 for those written as they are.
+/// The letter after the backslash that means `character` in source code; 0 if it is not escaped.
 char escapeLetter(std::string_view character) {
   if (character == "\n") return 'n';
   if (character == "\t") return 't';
@@ -27,19 +27,19 @@ std::string keyForText(std::string_view text) {
     key += character;
     ++length;
   };
-  bool isBehindGap = false;
+  bool isAfterGap = false;
   while (!text.empty()) {
     const CodePoint next = firstCodePoint(text);
     text.remove_prefix(next.bytes.size());
     const char escape = escapeLetter(next.bytes);
     const bool isKept = next.value && isLetterMarkOrDigit(*next.value);
-    if (!isKept) isBehindGap = true;  // also before the letter of an escape: there stands its backslash
+    if (!isKept) isAfterGap = true;  // even before the letter of an escape, because of its backslash
     if (!isKept && escape == 0) continue;
 
     const bool beginsWithDigit = key.empty() && isKept && isDecimalDigit(*next.value);
-    if (beginsWithDigit || (isBehindGap && !key.empty())) append("_");
+    if (beginsWithDigit || (isAfterGap && !key.empty())) append("_");
     append(isKept ? next.bytes : std::string_view(&escape, 1));
-    isBehindGap = false;
+    isAfterGap = false;
   }
   return key;
 }

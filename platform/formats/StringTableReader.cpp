@@ -25,19 +25,19 @@ bool isUnquoted(char c) {
 
 }  // namespace
 
-/// Where the line behind the one of `place` begins.
-std::size_t StringTableReader::lineBehind(std::size_t place) const {
+/// The beginning of the line after the one with `place`.
+std::size_t StringTableReader::lineAfter(std::size_t place) const {
   return std::min(text_.find('\n', place), text_.size() - 1) + 1;
 }
 
-/// `at_` stands where what cannot be read ends.
+/// Records an error. `at_` is after what cannot be read.
 bool StringTableReader::fail(std::size_t offset, std::string expected) {
   fault_ = Fault{offset, std::move(expected)};
   return false;
 }
 
-/// Skips a comment when one begins here; false when it has no end, and the rest of the text is skipped. Stands by
-/// itself, so that what guards its stack does not slow down the skipping of blanks.
+/// Skips a comment if one begins here. False if it is unterminated; the rest of the text is skipped then. Not inlined,
+/// because its stack protection would slow down the skipping of blanks.
 [[gnu::noinline]] bool StringTableReader::skipComment() {
   const std::string_view rest = text_.substr(at_);
   const bool isLine = rest.starts_with("//");
@@ -51,7 +51,7 @@ bool StringTableReader::fail(std::size_t offset, std::string expected) {
   return true;
 }
 
-/// Skips white space and comments; false when a comment has no end.
+/// Skips white space and comments. False if a comment is unterminated.
 inline bool StringTableReader::skipBlanks() {
   for (;;) {
     while (at_ < text_.size() && isBlank(text_[at_])) ++at_;
@@ -73,21 +73,21 @@ inline bool StringTableReader::readQuoted(Token& token) {
     token.hasEscapes = true;
     at_ += 2;
   }
-  at_ = lineBehind(quote);
+  at_ = lineAfter(quote);
   return fail(quote, "the closing quote of the text that begins here");
 }
 
 inline bool StringTableReader::readToken(Token& token, const char* expected) {
   if (at_ < text_.size() && text_[at_] == '"') return readQuoted(token);
   token = {at_, at_};
-  // A slash belongs to the token, but an asterisk never does: a comment may stand right behind.
+  // A slash belongs to the token, but an asterisk never does: a comment may follow directly.
   while (at_ < text_.size() && isUnquoted(text_[at_]) && text_.substr(at_, 2) != "/*") ++at_;
   token.end = at_;
   return token.begin < token.end || fail(at_, expected);
 }
 
-/// Reads "=" or ";" behind the token `after`. When another character stands there and the token runs over
-/// lines, it is that token's quote that was never closed.
+/// Reads "=" or ";" after the token `after`. If there is another character and the token runs over
+/// lines, the token's quote was never closed.
 inline bool StringTableReader::readMark(char mark, const Token& after) {
   const std::size_t tokenEnd = at_;
   if (!skipBlanks()) return false;
@@ -96,7 +96,7 @@ inline bool StringTableReader::readMark(char mark, const Token& after) {
     return true;
   }
   if (text_.substr(after.begin, after.end - after.begin).find('\n') != std::string_view::npos) {
-    at_ = lineBehind(after.begin);
+    at_ = lineAfter(after.begin);
     return fail(after.begin - 1, "the closing quote of the text that begins here on the same line");
   }
   return mark == '=' ? fail(at_, "\"=\" and the text of the key")
@@ -121,9 +121,9 @@ void StringTableReader::recover() {
     const std::string_view rest = text_.substr(std::min(text_.find_first_not_of(" \t", line), text_.size()));
     return rest.starts_with('"') || rest.starts_with("/*") || rest.starts_with("//");
   };
-  // Always behind the line on which the faulty entry began, so that each recovery gets on.
-  at_ = std::max(lineBegin(at_), lineBehind(entryBegin_));
-  while (at_ < text_.size() && !beginsEntry(at_)) at_ = lineBehind(at_);
+  // Always after the line on which the faulty entry began, so each recovery makes progress.
+  at_ = std::max(lineBegin(at_), lineAfter(entryBegin_));
+  while (at_ < text_.size() && !beginsEntry(at_)) at_ = lineAfter(at_);
 }
 
 namespace {
@@ -162,7 +162,7 @@ struct Escape {
   std::size_t size;
 };
 
-/// What the escape whose backslash stands before `text` means, and how many bytes of `text` belong to it;
+/// The meaning of the escape whose backslash is before `text`, and how many bytes of `text` belong to it;
 /// nothing for an unknown one.
 std::optional<Escape> escapeAt(std::string_view text) {
   constexpr std::string_view kLetters = "\"\\ntrabfv";

@@ -14,7 +14,7 @@ namespace zk {
 ///     "About" = "Über uns";     // quoted, with the escapes of `unescape`
 ///     Cancel = Abbrechen;       // unquoted: letters, digits and _ $ / : . -
 ///
-/// It copies and changes nothing: tokens are places in the text. One reader is used by one thread.
+/// It copies and changes nothing: tokens are places in the text. Requires: one thread uses a reader at a time.
 class StringTableReader {
  public:
   /// A key, a value or a comment: the bytes [begin, end) of the text, without quotes and comment marks.
@@ -24,7 +24,7 @@ class StringTableReader {
     bool hasEscapes = false;
   };
 
-  /// What keeps the text from being a table: what was expected at the byte `offset`.
+  /// Why the text is not a table: what was expected at the byte `offset`.
   struct Fault {
     std::size_t offset;
     std::string expected;
@@ -33,21 +33,21 @@ class StringTableReader {
   /// Reads `text`, UTF-8 without a byte-order mark, which must outlive the reader.
   explicit StringTableReader(std::string_view text) : text_(text) {}
 
-  /// Reads the next entry. False at the end of the text and at a fault.
+  /// Reads the next entry. False at the end of the text and at an error.
   [[nodiscard]] bool next();
 
-  /// After `next` gave true: the entry's parts, and the comments before it.
+  /// After `next` returned true: the entry's parts, and the comments before it.
   [[nodiscard]] const Token& key() const { return key_; }
   [[nodiscard]] const Token& value() const { return value_; }
   [[nodiscard]] const std::vector<Token>& comments() const { return comments_; }
-  /// And the whole of it, from the key's quote to the semicolon.
+  /// After `next` returned true: the whole entry, from the key's quote to the semicolon.
   [[nodiscard]] Token entry() const { return {entryBegin_, at_}; }
 
-  /// After `next` gave false: the fault, or nothing at the end of the text.
+  /// After `next` returned false: the error, or nothing at the end of the text.
   [[nodiscard]] const std::optional<Fault>& fault() const { return fault_; }
 
-  /// Forgets the fault and goes on with what looks like the next entry, for tools that show all faults at
-  /// once. What stands behind a comment without end belongs to the comment.
+  /// Clears the error and continues with what looks like the next entry, for tools that show all errors at
+  /// once. Everything after an unterminated comment belongs to the comment.
   void recover();
 
  private:
@@ -57,7 +57,7 @@ class StringTableReader {
   bool readQuoted(Token& token);
   bool readMark(char mark, const Token& after);
   bool fail(std::size_t offset, std::string expected);
-  [[nodiscard]] std::size_t lineBehind(std::size_t place) const;
+  [[nodiscard]] std::size_t lineAfter(std::size_t place) const;
 
   std::string_view text_;
   std::size_t at_ = 0;
@@ -68,14 +68,14 @@ class StringTableReader {
   std::optional<Fault> fault_{};
 };
 
-/// Replaces the escapes in the `size` bytes at `token` by what they stand for, which is never longer, and
-/// gives the new size. Escapes are a backslash and
+/// Replaces the escapes in the `size` bytes at `token` with the characters they mean, which are never longer, and
+/// returns the new size. Escapes are a backslash and
 ///
 ///     " \ n t r a b f v        the character, as in C
 ///     101                      one to three octal digits: a character up to U+00FF
-///     Ue9, U00e9, Ud83c\Udf89  one to four hexadecimal digits, or two surrogates; a lone one gives U+FFFD
+///     Ue9, U00e9, Ud83c\Udf89  one to four hexadecimal digits, or two surrogates; a lone one becomes U+FFFD
 ///
-/// Any other escaped character stands for itself; `unknown` receives the offsets of those backslashes.
+/// Any other escaped character means itself; `unknown` receives the offsets of those backslashes.
 std::size_t unescape(char* token, std::size_t size, std::vector<std::size_t>* unknown = nullptr);
 
 }  // namespace zk

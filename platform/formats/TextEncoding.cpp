@@ -24,7 +24,7 @@ struct Mark {
   Encoding encoding;
 };
 
-// The mark of UTF-32 begins with that of UTF-16, and so stands before it.
+// The mark of UTF-32 begins with that of UTF-16, so it comes first.
 constexpr Mark kMarks[] = {
     {kByteOrderMark, {1, false}}, {"\xFF\xFE\0\0"sv, {4, false}}, {"\0\0\xFE\xFF"sv, {4, true}},
     {"\xFF\xFE"sv, {2, false}},   {"\xFE\xFF"sv, {2, true}},

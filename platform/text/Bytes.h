@@ -41,7 +41,7 @@ inline std::uint64_t marksOf(char character, std::uint64_t word) {
   return (differences - kOnes) & ~differences & kHighBits;
 }
 
-/// The bytes of a text that has at most eight. With the size, the word tells such texts apart.
+/// The bytes of a text that has at most eight. Such texts of one size have different words.
 inline std::uint64_t wordOf(const char* bytes, std::size_t size) {
   const char* const last = bytes + size;
   if (size >= 4) return load<std::uint32_t>(bytes) | std::uint64_t{load<std::uint32_t>(last - 4)} << 32;
@@ -92,7 +92,7 @@ inline bool isAsciiWithout(std::string_view text, std::initializer_list<char> ex
 }
 
 /// Returns the place of the first wanted byte of `text` from `from` on; the size of `text`, or more, if there is
-/// none. `isWanted` tells it of a byte, `marksOfWord` of eight: the lowest bit it sets is in the first wanted byte.
+/// none. `isWanted` tests a byte, `marksOfWord` tests eight: the lowest bit it sets is in the first wanted byte.
 template <class MarksOfWord, class IsWanted>
 std::size_t findByte(std::string_view text, std::size_t from, MarksOfWord marksOfWord, IsWanted isWanted) {
   for (; from + 8 <= text.size(); from += 8) {

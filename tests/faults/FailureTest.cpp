@@ -24,8 +24,13 @@ constexpr Failure kFailures[] = {
     {Kind::systemCall, EIO, false},    {Kind::systemCall, EIO, true},     {Kind::systemCall, EACCES, false},
     {Kind::systemCall, EACCES, true},  {Kind::systemCall, EINTR, false},  {Kind::systemCall, EAGAIN, false},
     {Kind::shortRead, 0, false},       {Kind::shortRead, 0, true},        {Kind::allocation, ENOMEM, false},
-    {Kind::allocation, ENOMEM, true},
+    {Kind::allocation, ENOMEM, true},  {Kind::systemCall, ESTALE, false}, {Kind::systemCall, ESTALE, true},
+    {Kind::systemCall, EPERM, true},
 };
+
+bool isRefusal(const Failure& failure) {
+  return failure.number == EACCES || failure.number == EPERM;
+}
 
 /// Runs `operation` in this process while the call with `before` others before it fails, and then without failure.
 Outcome outcomeHere(const Operation& operation, const Failure& failure, int before) noexcept {
@@ -38,7 +43,7 @@ Outcome outcomeHere(const Operation& operation, const Failure& failure, int befo
   }
   const bool hasFailed = end();
   const auto isOutcome = [&](const char* outcome) { return hasFailed && *outcome && result == outcome; };
-  const bool isRefused = hasFailed && failure.number == EACCES;
+  const bool isRefused = hasFailed && isRefusal(failure);
   const bool hasThrown = failure.kind == Kind::allocation && isOutcome("bad_alloc");
   const bool isQuiet = isOutcome(operation.quiet) || (isRefused && isOutcome(operation.refused));
   if (result != operation.right && !isQuiet && !hasThrown) return wrong;
@@ -55,7 +60,7 @@ TEST_P(Failures, OfAnyCallPass) {
   const Failure& failure = GetParam();
   if (failure.kind == Kind::allocation && !canAllocationsFail())
     GTEST_SKIP() << "the sanitizer's allocations cannot be made to fail";
-  const bool mayTrap = failure.number == EACCES;  // when the resources are refused as a whole
+  const bool mayTrap = isRefusal(failure);  // when the resources are refused as a whole
   // Shared with the processes that try.
   struct Progress {
     int before, failures;
