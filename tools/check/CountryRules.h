@@ -26,8 +26,6 @@ struct CountryFile {
   [[nodiscard]] static bool isExpected(const std::string& root, bool isModule);
   /// Reads the list of the project at `root`.
   [[nodiscard]] static CountryFile read(const std::string& root);
-  /// Reads the list from the content of such a file.
-  [[nodiscard]] static CountryFile parse(const std::string& bytes);
 };
 
 [[nodiscard]] std::span<const RuleFor<CountryFile>> countryRules();

@@ -74,14 +74,10 @@ constexpr KnownMember<Glossary> kGlossaryMembers[] = {
 }  // namespace
 
 Glossary Glossary::read(const std::string& root) {
+  Glossary glossary;
   std::error_code failure;
   const bool isMissing = !std::filesystem::exists(std::filesystem::path(root) / kFile, failure) && !failure;
-  return isMissing ? Glossary{} : parse(readFile(root, kFile));
-}
-
-Glossary Glossary::parse(const std::string& json) {
-  Glossary glossary;
-  storeMembers(JsonValue::parse(json, kFile), glossary, kGlossaryMembers);
+  if (!isMissing) storeMembers(JsonValue::parse(readFile(root, kFile), kFile), glossary, kGlossaryMembers);
   return glossary;
 }
 

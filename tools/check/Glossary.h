@@ -45,8 +45,6 @@ struct Glossary {
   /// Reads the glossary of the project at `root`; without a file, it is empty. Throws `CommandFailed` with the place of
   /// the first error.
   [[nodiscard]] static Glossary read(const std::string& root);
-  /// Reads the glossary from the content of such a file.
-  [[nodiscard]] static Glossary parse(const std::string& json);
 
   /// Returns how `language` is written; the defaults if the glossary does not have it.
   [[nodiscard]] const LanguageStyle& styleOf(std::string_view language) const;

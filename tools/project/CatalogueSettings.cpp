@@ -94,14 +94,10 @@ std::string CatalogueName::error() const {
 
 CatalogueSettings CatalogueSettings::read(const std::string& root) {
   std::error_code failure;
-  const bool isMissing = !std::filesystem::exists(std::filesystem::path(root) / kFile, failure) && !failure;
-  return isMissing ? CatalogueSettings{} : parse(readFile(root, kFile));
-}
-
-CatalogueSettings CatalogueSettings::parse(std::string_view json) {
   CatalogueSettings settings;
+  if (!std::filesystem::exists(std::filesystem::path(root) / kFile, failure) && !failure) return settings;
   settings.name = {"", ""};
-  const JsonValue object = JsonValue::parse(json, kFile);
+  const JsonValue object = JsonValue::parse(readFile(root, kFile), kFile);
   storeMembers(object, settings, kMembers);
   if (const std::string error = settings.name.error(); !error.empty()) object.fail(error);
   return settings;

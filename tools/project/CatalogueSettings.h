@@ -65,8 +65,6 @@ struct CatalogueSettings {
 
   /// Reads the settings of the project at `root`. Throws `CommandFailed` if the file cannot be read or is wrong.
   [[nodiscard]] static CatalogueSettings read(const std::string& root);
-  /// Reads the settings from the content of such a file.
-  [[nodiscard]] static CatalogueSettings parse(std::string_view json);
 
   /// Returns whether `placeholder` is a number.
   [[nodiscard]] bool isNumber(std::string_view placeholder) const;
