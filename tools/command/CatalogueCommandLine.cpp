@@ -155,6 +155,25 @@ void addRemoveCommand(CLI::App& app, const RootFinder& inRoot) {
   });
 }
 
+}  // namespace
+
+void addSourcesOption(CLI::App& command, std::vector<std::string>& directories) {
+  command
+      .add_option("--sources", directories, "Add the places that use a text in this folder; can be repeated")
+      ->allow_extra_args(false)
+      ->type_name("DIR");
+}
+
+void addCatalogueCommands(CLI::App& app, const RootFinder& inRoot) {
+  addInitCommand(app);
+  addGenerateCommand(app, inRoot);
+  addKeyCommand(app);
+  addAddCommand(app, inRoot);
+  addChangeCommand(app, inRoot);
+  addRenameCommand(app, inRoot);
+  addRemoveCommand(app, inRoot);
+}
+
 void addUnusedCommand(CLI::App& app, const RootFinder& inRoot) {
   const auto directories = std::make_shared<std::vector<std::string>>();
   auto* const command = app.add_subcommand("unused", "List the texts that no source file uses");
@@ -175,26 +194,6 @@ void addUnusedCommand(CLI::App& app, const RootFinder& inRoot) {
     }
     print(stdout, fromWorkingDirectory(unused, root));
   });
-}
-
-}  // namespace
-
-void addSourcesOption(CLI::App& command, std::vector<std::string>& directories) {
-  command
-      .add_option("--sources", directories, "Add the places that use a text in this folder; can be repeated")
-      ->allow_extra_args(false)
-      ->type_name("DIR");
-}
-
-void addCatalogueCommands(CLI::App& app, const RootFinder& inRoot) {
-  addInitCommand(app);
-  addGenerateCommand(app, inRoot);
-  addKeyCommand(app);
-  addAddCommand(app, inRoot);
-  addChangeCommand(app, inRoot);
-  addRenameCommand(app, inRoot);
-  addRemoveCommand(app, inRoot);
-  addUnusedCommand(app, inRoot);
 }
 
 }  // namespace zk::tools

@@ -16,7 +16,7 @@ using RootFinder = std::function<std::string()>;
 /// These functions add subcommands to the command line `app`. A subcommand runs while the line is parsed, and prints its
 /// answer. It throws `CommandFailed` if something in the user's files is wrong.
 
-/// init, generate, key, add, change, rename, remove and unused.
+/// init, generate, key, add, change, rename and remove.
 void addCatalogueCommands(CLI::App& app, const RootFinder& inRoot);
 /// check. It throws if it finds an error, a warning under --strict, or a gap under --complete.
 void addCheckCommand(CLI::App& app, const RootFinder& inRoot);
@@ -27,6 +27,7 @@ void addUpdateCommand(CLI::App& app, const RootFinder& inRoot);
 void addExportCommand(CLI::App& app, const RootFinder& inRoot);
 /// import. It throws if it refuses a text of the file.
 void addImportCommand(CLI::App& app, const RootFinder& inRoot);
+void addUnusedCommand(CLI::App& app, const RootFinder& inRoot);
 /// page and pseudo.
 void addPageCommands(CLI::App& app, const RootFinder& inRoot);
 

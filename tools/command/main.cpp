@@ -82,6 +82,7 @@ int run(int argc, char** argv) {
   addUpdateCommand(app, aloneInRoot);
   addExportCommand(app, inRoot);
   addImportCommand(app, aloneInRoot);
+  addUnusedCommand(app, inRoot);
   addPageCommands(app, inRoot);
   for (CLI::App* const command : app.get_subcommands({})) command->fallthrough();
 
