@@ -10,7 +10,7 @@ echo "Layout"
 git ls-files '*.cpp' '*.h' | grep -v '^catalogue/ZKStrings\.' | xargs clang-format --dry-run -Werror
 
 echo "Scripts"
-git ls-files -z '*.sh' run test bench package reference .ci/run | xargs -0 shellcheck
+git ls-files -z '*.sh' run test bench package reference .ci/run .ci/release | xargs -0 shellcheck
 
 # Not the accessors, nor what includes them: it takes the emoji in their names for a broken file.
 echo "cppcheck"
