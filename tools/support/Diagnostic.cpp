@@ -48,10 +48,14 @@ const char* nameOf(Severity severity) {
 Diagnostics fromWorkingDirectory(Diagnostics diagnostics, const std::string& root) {
   namespace fs = std::filesystem;
   std::error_code failure;
+  const fs::path here = fs::current_path(failure);
+  const bool isInProject = !here.lexically_relative(root).string().starts_with("..");
   for (Diagnostic& diagnostic : diagnostics) {
     diagnostic.file = (fs::path(root) / diagnostic.file).lexically_normal();
-    const std::string near = fs::path(diagnostic.file).lexically_proximate(fs::current_path(failure));
-    if (near.size() < diagnostic.file.size()) diagnostic.file = near;
+    const std::string near = fs::path(diagnostic.file).lexically_proximate(here);
+    // A build runs the command in a folder that its user does not see.
+    const bool isClear = isInProject || !near.starts_with("..");
+    if (isClear && near.size() < diagnostic.file.size()) diagnostic.file = near;
   }
   return diagnostics;
 }
