@@ -225,8 +225,11 @@ std::string lineOf(const Entry& entry) {
 }  // namespace
 
 std::string Entry::context() const {
-  const std::string limit = max > 0 ? fmt::format("At most {} characters.", max) : "";
-  return comment + (comment.empty() || limit.empty() ? "" : " ") + limit;
+  if (max == 0) return comment;
+  const std::string limit = fmt::format("At most {} characters.", max);
+  if (comment.empty()) return limit;
+  return comment + (std::string_view(".!?").find(comment.back()) == std::string_view::npos ? ". " : " ") +
+         limit;
 }
 
 std::vector<std::string> Entry::lookedUpKeys() const {
