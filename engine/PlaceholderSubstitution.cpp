@@ -65,7 +65,7 @@ char* fillInAtOnce(char* to, std::string_view text, const Substitutions& substit
 
 }  // namespace
 
-std::string fillIn(std::string_view text, const Substitutions& substitutions) {
+std::string applySubstitutions(std::string_view text, const Substitutions& substitutions) {
   char filled[kRoom];
   if (char* const end = fillInAtOnce(filled, text, substitutions)) return {filled, end};
   std::string result(text);

@@ -7,16 +7,9 @@
 
 namespace zk {
 
-/// The same as `applySubstitutions`, if there are pairs.
-[[nodiscard]] std::string fillIn(std::string_view text, const Substitutions& substitutions);
-
 /// Returns `text` with each placeholder "%{name}" replaced by the text that `substitutions` has for its name, one pair
 /// after the other in their order. A value that contains the placeholder of a later pair is filled in as well. Other
 /// placeholders stay as they are. A placeholder cannot be escaped.
-[[nodiscard]] inline std::string applySubstitutions(std::string_view text,
-                                                    const Substitutions& substitutions) {
-  if (substitutions.begin() == substitutions.end()) return std::string(text);
-  return fillIn(text, substitutions);
-}
+[[nodiscard]] std::string applySubstitutions(std::string_view text, const Substitutions& substitutions);
 
 }  // namespace zk

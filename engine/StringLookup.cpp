@@ -47,7 +47,9 @@ std::string finishedText(const Bundle* resources, std::string_view suffixedKey, 
                          const Substitutions& substitutions) {
   const ServiceView<Language> language;
   const Bundle& chosen = chosenBundle(resources, language->preferredLanguages);
-  return applySubstitutions(chosen.localizedStringForKey(suffixedKey, defaultValue), substitutions);
+  const std::string_view text = chosen.localizedStringForKey(suffixedKey, defaultValue);
+  const bool isFinished = substitutions.begin() == substitutions.end();
+  return isFinished ? std::string(text) : applySubstitutions(text, substitutions);
 }
 
 }  // namespace
