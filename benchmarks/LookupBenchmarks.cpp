@@ -6,7 +6,6 @@
 #include <ZKStrings/benchmarks/Yardstick.h>
 
 #include <cstdlib>
-#include <functional>
 #include <iostream>
 #include <stdexcept>
 #include <string>

@@ -8,7 +8,6 @@
 #include <new>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 #include <unicode/normalizer2.h>

@@ -1,7 +1,6 @@
 #include <ZKStrings/tools/authoring/AccessorGenerator.h>
 #include <ZKStrings/tools/project/Identifiers.h>
 
-#include <iterator>
 #include <string>
 #include <string_view>
 #include <vector>

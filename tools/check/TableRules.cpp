@@ -12,7 +12,6 @@
 #include <cstddef>
 #include <map>
 #include <optional>
-#include <set>
 #include <span>
 #include <string>
 #include <string_view>

@@ -7,12 +7,14 @@
 #include <ZKStrings/tools/support/Characters.h>
 #include <ZKStrings/tools/support/Terminal.h>
 
+#include <charconv>
 #include <cstddef>
 #include <filesystem>
 #include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <system_error>
 #include <utility>
 #include <vector>
 
@@ -22,6 +24,8 @@
 namespace zk::tools {
 
 namespace {
+
+constexpr int kMostCharacters = 1'000'000;
 
 constexpr const char* kPlainHelp = "Take %s, {name} and the like as plain text";
 
@@ -97,7 +101,7 @@ void addAddCommand(CLI::App& app, const RootFinder& inRoot) {
   command->add_option("--key", entry->key, "The key (default: derived from the text)");
   command->add_option("--comment", entry->comment, "What translators need to know about the text");
   command->add_option("--max", entry->max, "The most characters that fit where the text appears")
-      ->check(CLI::NonNegativeNumber);
+      ->check(isNumberUpTo(kMostCharacters));
   command->add_flag("--plain", entry->isPlain, kPlainHelp);
   command->footer("Example: zkstrings add --count '%{gifts} gifts' --one '%{gifts} gift'");
   command->callback([entry, inRoot] {
@@ -121,7 +125,7 @@ void addChangeCommand(CLI::App& app, const RootFinder& inRoot) {
       ->excludes(text);
   command->add_option("--comment", change->comment, "What translators need to know; '' for nothing");
   command->add_option("--max", change->max, "The most characters that fit; 0 for no limit")
-      ->check(CLI::NonNegativeNumber);
+      ->check(isNumberUpTo(kMostCharacters));
   command->add_flag("--plain", change->isPlain, kPlainHelp);
   command->footer("Example: zkstrings change About 'About us'");
   command->callback([key, change, command, inRoot] {
@@ -156,6 +160,17 @@ void addRemoveCommand(CLI::App& app, const RootFinder& inRoot) {
 }
 
 }  // namespace
+
+CLI::Validator isNumberUpTo(int most) {
+  const auto refusal = [most](const std::string& value) -> std::string {
+    int number = -1;
+    const auto [end, error] = std::from_chars(value.data(), value.data() + value.size(), number);
+    const bool isNumber = error == std::errc() && end == value.data() + value.size();
+    if (isNumber && number >= 0 && number <= most) return "";
+    return fmt::format("\"{}\" is not a whole number from 0 to {}", value, most);
+  };
+  return {refusal, ""};
+}
 
 void addSourcesOption(CLI::App& command, std::vector<std::string>& directories) {
   command

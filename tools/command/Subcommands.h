@@ -6,7 +6,8 @@
 
 namespace CLI {
 class App;
-}
+class Validator;
+}  // namespace CLI
 
 namespace zk::tools {
 
@@ -33,5 +34,8 @@ void addPageCommands(CLI::App& app, const RootFinder& inRoot);
 
 /// Adds the option --sources, the folders in which a subcommand searches for the places that use a text.
 void addSourcesOption(CLI::App& command, std::vector<std::string>& directories);
+
+/// Refuses values of an option that are not whole numbers from 0 to `most`.
+CLI::Validator isNumberUpTo(int most);
 
 }  // namespace zk::tools

@@ -12,7 +12,6 @@
 #include <algorithm>
 #include <cstdio>
 #include <memory>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -147,7 +146,7 @@ void addCoverageCommand(CLI::App& app, const RootFinder& inRoot) {
   command
       ->add_option("--at-least", arguments->least,
                    "Fail if a language has fewer translated texts, in percent")
-      ->check(CLI::Range(0, 100))
+      ->check(isNumberUpTo(100))
       ->type_name("N");
   addFormat(*command, arguments->format);
   command->footer("Example: zkstrings coverage --at-least 95");

@@ -1,7 +1,6 @@
 #include <ZKStrings/tools/support/Characters.h>
 #include <ZKStrings/tools/support/Diagnostic.h>
 
-#include <cstdint>
 #include <cstdlib>
 #include <filesystem>
 #include <string>

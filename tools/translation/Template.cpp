@@ -11,7 +11,7 @@
 #include <string>
 #include <string_view>
 #include <system_error>
-#include <utility>
+#include <vector>
 
 #include <fmt/format.h>
 #include <fmt/ranges.h>

@@ -4,7 +4,6 @@
 #include <ZKStrings/tools/translation/TranslationState.h>
 
 #include <algorithm>
-#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
