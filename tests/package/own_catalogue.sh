@@ -46,7 +46,7 @@ expect "after a change of the catalogue" "[Go live!]  [End the show?]" "$work/bu
 
 sed -i 's/"Camera_number_is_on"/"Camera_is_on"/' "$entries"
 output=$("$cmake" --build "$work/build" 2>&1) && fail "a wrong catalogue is built"
-grep -qF "$entries:2:1: error: the key \"Camera_is_on\"" <<<"$output" || fail "the error is not reported: $output"
+grep -qF "texts/catalogue/entries.json:2:1: error: the key \"Camera_is_on\"" <<<"$output" || fail "the error is not reported: $output"
 
 sed -i 's/NAMESPACE console/NAMESPACE other/' "$work/app/CMakeLists.txt"
 output=$("$cmake" -S "$work/app" -B "$work/build" 2>&1) && fail "a namespace other than the catalogue's is accepted"
