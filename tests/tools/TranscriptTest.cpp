@@ -5,6 +5,7 @@
 #include <ZKStrings/tools/support/Position.h>
 
 #include <algorithm>
+#include <cstddef>
 #include <cstdlib>
 #include <filesystem>
 #include <string>
@@ -14,10 +15,13 @@
 #include <fmt/format.h>
 #include <gtest/gtest.h>
 
-// A transcript tells what the command answers in a terminal. Its lines are commands ("  $ "), which may go on ("  > "),
-// below each what it prints, with carriage returns as "\r", and its status where that is not 0 ("  [1]"), and, at the
-// margin, what is to be said about it. Each command has a shell of its own, in one copy of small-project/; what ships is
-// in $ZK_SHIPPED. With ZK_RECORD in the environment, the transcripts are written anew as well.
+// A transcript shows what the command answers in a terminal:
+//   - Lines with "  $ " are commands, which lines with "  > " continue.
+//   - The lines below a command are its output, with carriage returns as "\r". "  ..." continues a long line.
+//   - "  [1]" is its status, if that is not 0.
+//   - Lines without an indent are remarks.
+// Each command runs in a new shell that has the functions of transcript.sh, in one copy of small-project/. $ZK_SHIPPED is
+// the root of the source tree. With ZK_RECORD in the environment, the test also records the transcripts again.
 
 namespace {
 
@@ -28,6 +32,8 @@ namespace fs = std::filesystem;
 
 constexpr std::string_view kCommand = "  $ ";
 constexpr std::string_view kMore = "  > ";
+constexpr std::string_view kFold = "  ...";
+constexpr std::size_t kMaxLine = 110;
 
 std::vector<fs::path> transcripts() {
   std::vector<fs::path> paths;
@@ -37,25 +43,40 @@ std::vector<fs::path> transcripts() {
   return paths;
 }
 
-/// What `command` prints and its status, as a transcript shows them.
+/// `line` of an answer as a transcript shows it.
+std::string shownLine(std::string_view line) {
+  std::string shown;
+  std::string_view indent = "  ";
+  while (indent.size() + line.size() > kMaxLine) {
+    const std::size_t room = kMaxLine - indent.size();
+    const std::size_t blank = line.rfind(' ', room);
+    const std::size_t cut = blank == std::string_view::npos || blank < room / 2 ? room : blank;
+    shown += fmt::format("{}{}\n", indent, line.substr(0, cut));
+    line.remove_prefix(cut);
+    indent = kFold;
+  }
+  return shown += fmt::format("{}{}\n", indent, line);
+}
+
+/// The output and status of `command` as a transcript shows them.
 std::string shownAnswer(const std::string& folder, const std::string& command) {
   setenv("ZK_COMMAND", ZK_COMMAND, 1);
   setenv("ZK_FOLDER", folder.c_str(), 1);
   setenv("ZK_SHIPPED", ZK_PROJECT_ROOT, 1);
   Answer answer = outputOf(
-      "cd \"$ZK_FOLDER\" || exit; exec 2>&1; set -u; export LC_ALL=C\n"
-      "zkstrings() { \"$ZK_COMMAND\" \"$@\"; }\n" +
+      "cd \"$ZK_FOLDER\" || exit; exec 2>&1; set -u; export LC_ALL=C; . "
+      "\"$ZK_SHIPPED\"/tests/tools/transcript.sh\n" +
       command);
   zk::replaceOccurrences(answer.output, folder, "$PWD");
   zk::replaceOccurrences(answer.output, "\r", "\\r");
   std::string shown;
-  for (const std::string_view line : linesOf(answer.output)) shown += fmt::format("  {}\n", line);
+  for (const std::string_view line : linesOf(answer.output)) shown += shownLine(line);
   if (!answer.output.empty() && answer.output.back() != '\n') shown += "  (no line end)\n";
   if (answer.status != 0) shown += fmt::format("  [{}]\n", answer.status);
   return shown;
 }
 
-/// The transcript, with what its commands answer now.
+/// `transcript` with the current answers of its commands.
 std::string playedAgain(const std::string& transcript) {
   const TemporaryProject project;
   const std::string folder = fs::canonical(project.root());
