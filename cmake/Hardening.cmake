@@ -1,5 +1,8 @@
 # What makes a fault in the shipped programs hard to exploit: addresses that are bound at the start and read-only from
 # then on, guarded stacks, and checked copies. Each is left to the user's flags where these speak of it.
+if(WIN32)
+  return()  # MinGW's linker randomises addresses anyway; guarded stacks and checked copies would need another library
+endif()
 string(TOUPPER "CMAKE_CXX_FLAGS_${CMAKE_BUILD_TYPE}" flags_of_build_type)
 get_directory_property(directory_options COMPILE_OPTIONS)
 get_directory_property(directory_definitions COMPILE_DEFINITIONS)

@@ -23,6 +23,15 @@ set(public_headers
   region/CurrentLanguage.h
   region/Language.h)
 
+# The part of the platform with a form for each system.
+if(WIN32)
+  set(system_sources CodeLocation.cpp File.cpp Text.cpp UserSettings.cpp)
+  list(TRANSFORM system_sources PREPEND platform/system/windows/)
+else()
+  set(system_sources CodeLocation.cpp File.cpp UserSettings.cpp)
+  list(TRANSFORM system_sources PREPEND platform/system/posix/)
+endif()
+
 add_library(zk_objects OBJECT
   catalogue/EntryText.cpp
   catalogue/ZKStrings.cpp
@@ -33,8 +42,7 @@ add_library(zk_objects OBJECT
   engine/Substitutions.cpp
   platform/Bundle.cpp
   platform/Export.cpp
-  platform/system/CodeLocation.cpp
-  platform/system/File.cpp
+  ${system_sources}
   platform/system/ResourceDirectory.cpp
   platform/system/ThreadPointer.cpp
   platform/formats/Json.cpp
@@ -72,7 +80,10 @@ if(NOT BUILD_SHARED_LIBS)
   target_link_libraries(ZKStrings PRIVATE ICU::data)  # a program without shared libraries has to name it
 endif()
 set_target_properties(ZKStrings PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR} LINKER_LANGUAGE CXX)
-if(BUILD_SHARED_LIBS)
+if(BUILD_SHARED_LIBS AND WIN32)
+  set_target_properties(ZKStrings PROPERTIES PREFIX "")
+  target_compile_definitions(ZKStrings INTERFACE ZK_IMPORTS)
+elseif(BUILD_SHARED_LIBS)
   # Hidden visibility does not reach the instances of the standard library's templates.
   target_link_options(ZKStrings PRIVATE -Wl,--version-script=${PROJECT_SOURCE_DIR}/cmake/ExportedNames.map -Wl,--no-undefined
     -Wl,-Bsymbolic-functions)

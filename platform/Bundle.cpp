@@ -36,11 +36,6 @@ std::mutex& opening() {
   return mutex;
 }
 
-/// Whether `name` names an entry of a directory.
-bool isFileName(std::string_view name) {
-  return !name.empty() && name != "." && name != ".." && name.find_first_of({"/\0", 2}) == name.npos;
-}
-
 }  // namespace
 
 ResourcePath::ResourcePath(std::string path, bool isDirectory)
@@ -222,8 +217,7 @@ std::optional<std::string> Bundle::URLForResource(std::string_view name, std::st
   const auto fileName = std::string(name).append(".").append(extension);
   if (path_.empty() || name.empty() || !isFileName(fileName)) return std::nullopt;
   std::string path = path_ + "/" + fileName;
-  std::error_code notThere;
-  if (!fs::exists(path, notThere)) return std::nullopt;
+  if (!pathExists(path)) return std::nullopt;
   return path;
 }
 

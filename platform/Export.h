@@ -7,8 +7,15 @@
 #include "a newer C++ than this"  // no such file: ends the compilation here, before the errors that would follow
 #endif
 
-/// Marks a name that the shared library shows to its users; all other names stay inside it.
+/// Marks a name that the shared library exports. All other names stay inside it. For users of the Windows DLL, CMake and
+/// pkg-config define ZK_IMPORTS.
+#if !defined(_WIN32)
 #define ZK_EXPORT [[gnu::visibility("default")]]
+#elif defined(ZK_IMPORTS)
+#define ZK_EXPORT [[gnu::dllimport]]
+#else
+#define ZK_EXPORT [[gnu::dllexport]]
+#endif
 
 /// Marks a function whose result refers to its object, or a parameter that the result refers to: where the
 /// compiler can tell (Clang), it warns of a result that is kept for longer.

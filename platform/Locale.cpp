@@ -1,4 +1,5 @@
 #include <ZKStrings/platform/Locale.h>
+#include <ZKStrings/platform/system/UserSettings.h>
 
 #include <algorithm>
 #include <cstdlib>
@@ -65,6 +66,9 @@ LocaleSettings settingsFromEnvironment() {
   for (const char* variable : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
     locale = environment(variable);
     if (!locale.empty()) break;
+  }
+  if (locale.empty()) {
+    if (std::optional<LocaleSettings> settings = systemSettings()) return *settings;
   }
   const std::optional<std::string> identifier = identifierOf(locale);
   if (!identifier) return {std::string(kDefaultIdentifier), {std::string(kDefaultIdentifier)}};

@@ -112,14 +112,6 @@ Entry& entryFor(const std::type_info& type, std::optional<std::string_view> name
   return entries.try_emplace(key, type, key.second).first->second;
 }
 
-ResolverOptions registerIn(Entry& entry, std::shared_ptr<Registration> registration) noexcept {
-  std::shared_ptr<Registration> replaced = registration;  // released after the lock
-  const std::lock_guard lock(entry.mutex);
-  entry.registration.swap(replaced);
-  entry.generation.fetch_add(1, std::memory_order_release);
-  return ResolverOptions(entry, std::move(registration));
-}
-
 Service resolveFrom(Entry& entry) {
   return current(entry)->service(entry);
 }
@@ -129,8 +121,17 @@ namespace {
 // What this thread keeps. A plain pointer needs no construction, so reading it is cheap and safe at any time.
 thread_local constinit Kept* keptByThread = nullptr;
 
-void freeAllKept(void*) {
+void freeAllKept(void* first);
+
+const ThreadPointer& firstKeptAtThreadEnd() {
+  static const ThreadPointer& pointer = *new ThreadPointer(freeAllKept);
+  return pointer;
+}
+
+void freeAllKept(void* first) {
+  keptByThread = static_cast<Kept*>(first);  // some systems have reset it by now
   while (keptByThread) delete std::exchange(keptByThread, keptByThread->next);
+  static_cast<void>(firstKeptAtThreadEnd().set(nullptr));  // needs no room
 }
 
 /// The place where this thread keeps the service of `entry`; null if it cannot keep any.
@@ -138,10 +139,9 @@ Kept* placeFor(const Entry& entry) {
   for (Kept* kept = keptByThread; kept; kept = kept->next) {
     if (kept->entry == &entry) return kept;
   }
-  static const ThreadPointer& atThreadEnd = *new ThreadPointer(freeAllKept);
-  if (!atThreadEnd.set(&keptByThread)) return nullptr;
-  keptByThread = new Kept{&entry, nullptr, 0, 0, nullptr, keptByThread};
-  return keptByThread;
+  std::unique_ptr<Kept> kept(new Kept{&entry, nullptr, 0, 0, nullptr, keptByThread});
+  if (!firstKeptAtThreadEnd().set(kept.get())) return nullptr;
+  return keptByThread = kept.release();
 }
 
 }  // namespace
@@ -175,7 +175,10 @@ void Hold::resolve(Entry& entry, std::uint64_t generation) {
 
 ResolverOptions::ResolverOptions(internal::Entry& entry,
                                  std::shared_ptr<internal::Registration> registration) noexcept
-    : entry_(entry), registration_(std::move(registration)) {
+    : entry_(entry), registration_(registration) {
+  const std::lock_guard lock(entry.mutex);
+  entry.registration.swap(registration);  // releases the replaced one after the lock
+  entry.generation.fetch_add(1, std::memory_order_release);
 }
 
 ResolverOptions& ResolverOptions::scope(ResolverScope scope) {

@@ -22,8 +22,6 @@ enum class ResolverScope {
   application,   ///< Until the process ends: only the first resolve of a registration calls the factory.
 };
 
-class ResolverOptions;
-
 namespace internal {
 
 struct Entry;
@@ -73,9 +71,6 @@ class RegistrationOf final : public Registration {
 /// The entry for a type and a name, which lives until the process ends.
 [[nodiscard]] ZK_EXPORT Entry& entryFor(const std::type_info& type, std::optional<std::string_view> name);
 
-/// Makes `registration` the current one of `entry`. Allocates nothing.
-ZK_EXPORT ResolverOptions registerIn(Entry& entry, std::shared_ptr<Registration> registration) noexcept;
-
 [[nodiscard]] ZK_EXPORT Service resolveFrom(Entry& entry);
 
 }  // namespace internal
@@ -87,11 +82,10 @@ class ZK_EXPORT ResolverOptions {
   /// thread may see before this call.
   ResolverOptions& scope(ResolverScope scope);
 
- private:
-  friend ResolverOptions internal::registerIn(internal::Entry&,
-                                              std::shared_ptr<internal::Registration>) noexcept;
+  /// For `Resolver::register_`: makes `registration` the current one of `entry`. Allocates nothing.
   ResolverOptions(internal::Entry& entry, std::shared_ptr<internal::Registration> registration) noexcept;
 
+ private:
   internal::Entry& entry_;
   std::shared_ptr<internal::Registration> registration_;
 };
@@ -121,8 +115,7 @@ class ZK_EXPORT Resolver {
   template <class Service, class Make>
   static ResolverOptions register_(Make factory, std::optional<std::string_view> name = std::nullopt) {
     using Registration = internal::RegistrationOf<Service, Make>;
-    return internal::registerIn(internal::entryFor(typeid(Service), name),
-                                std::make_shared<Registration>(std::move(factory)));
+    return {internal::entryFor(typeid(Service), name), std::make_shared<Registration>(std::move(factory))};
   }
 
   /// Returns a copy of the service registered for the type `Service` and `name`.

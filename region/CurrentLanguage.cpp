@@ -48,7 +48,7 @@ LanguageAccess::~LanguageAccess() {
   *captured_ = std::move(language_);
   // Nothing here allocates: the entry exists since the access began.
   zk::internal::Entry& entry = zk::internal::entryFor(typeid(Language), std::nullopt);
-  zk::internal::registerIn(entry, std::move(writeBack_)).scope(ResolverScope::application);
+  ResolverOptions(entry, std::move(writeBack_)).scope(ResolverScope::application);
 }
 
 }  // namespace zk::Current

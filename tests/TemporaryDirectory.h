@@ -1,8 +1,8 @@
 #pragma once
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <random>
 #include <string>
 #include <string_view>
 
@@ -12,8 +12,11 @@ namespace zk::testing {
 class TemporaryDirectory {
  public:
   TemporaryDirectory() {
-    std::string name = (std::filesystem::temp_directory_path() / "zkstrings-XXXXXX").string();
-    path_ = mkdtemp(name.data());
+    static std::random_device random;
+    const std::filesystem::path above = std::filesystem::temp_directory_path();
+    do {
+      path_ = (above / ("zkstrings-" + std::to_string(random()))).generic_string();
+    } while (!std::filesystem::create_directory(path_));
   }
   TemporaryDirectory(const TemporaryDirectory&) = delete;
   TemporaryDirectory& operator=(const TemporaryDirectory&) = delete;

@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <system_error>
 #include <vector>
 
@@ -13,6 +14,18 @@ namespace zk {
 
 /// Whether the call failed for lack of permission.
 [[nodiscard]] bool isRefusal(const std::error_code& failure);
+
+/// Whether `name` is a single file name: it cannot lead to another directory.
+[[nodiscard]] bool isFileName(std::string_view name);
+
+/// Returns `path` without "." and "..", which are not looked up, so a link before ".." is removed with it.
+[[nodiscard]] std::string normalPath(const std::string& path);
+
+/// Whether a file or directory is at `path`.
+[[nodiscard]] bool pathExists(const std::string& path);
+
+/// Whether a directory or a link to one is at `path`. If not, `failure` is the reason; it is cleared otherwise.
+[[nodiscard]] bool directoryExists(const std::string& path, std::error_code& failure);
 
 /// Returns all bytes of the regular file at `path`. Returns nothing if there is no such file, if it cannot be
 /// read, if it is larger than 256 MiB, and if it is not a regular file (a directory, FIFO or device is refused

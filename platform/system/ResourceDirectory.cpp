@@ -14,9 +14,9 @@ namespace fs = std::filesystem;
 /// The nearest of `places`, seen from the directory of the code's file.
 std::string resourcesSeenFrom(fs::path directory, const ResourcePlaces& places, std::error_code& failure) {
   constexpr int kLevels = 3;
-  const auto isThere = [&](const fs::path& candidate) { return fs::is_directory(candidate, failure); };
+  const auto isThere = [&](const fs::path& candidate) { return directoryExists(candidate.string(), failure); };
   // An absolute place replaces the directory.
-  const fs::path installed = (directory / places.installed).lexically_normal();
+  const fs::path installed = normalPath((directory / places.installed).string());
   for (int level = 0; level < kLevels; ++level, directory = directory.parent_path()) {
     const fs::path candidate = directory / places.above;
     if (isThere(candidate)) return candidate.string();
@@ -36,7 +36,7 @@ std::string resourceDirectory(const std::string& codeFile, const ResourcePlaces&
                               std::error_code& failure) {
   failure.clear();
   if (codeFile.empty()) return {};
-  const fs::path asLoaded = fs::path(codeFile).lexically_normal();
+  const fs::path asLoaded = normalPath(codeFile);
   std::string found = resourcesSeenFrom(asLoaded.parent_path(), places, failure);
   if (!found.empty() || isTemporary(failure)) return found;
 

@@ -7,5 +7,6 @@ case "${1:-}" in
   riscv64) echo riscv64-linux-gnu ;;
   s390x) echo s390x-linux-gnu ;;
   musl) echo x86_64-linux-musl ;;
+  windows) echo x86_64-w64-mingw32 ;;
   *) exit 1 ;;
 esac

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Compiles the module's tests for another machine or for the C library musl, and runs them as it would, in
+# Compiles the module's tests for another machine, the C library musl or Windows, and runs them as it would, in
 # build/machines/ARCH.
 #   test.sh ARCH [GTEST_ARGUMENT...]
 set -euo pipefail
@@ -16,20 +16,26 @@ log=build/machines/$arch.log
 mkdir -p build/machines
 architecture=$arch
 build_gtest=ON
+examples=OFF
+targets=(zk_module_tests)
 packages=(nlohmann-json3-dev libcli11-dev libfmt-dev libpugixml-dev)
 case $arch in
   # Debian has none of its libraries for musl, but their headers and sources.
   musl) architecture=amd64; packages+=(src:icu) ;;
+  windows)
+    architecture=amd64 examples=ON targets+=(ZKStrings tour)
+    packages=(nlohmann-json3-dev libcli11-dev src:icu src:fmtlib src:pugixml)
+    ;;
   # This release's linker crashes at trixie's archives.
   riscv64) packages+=(libc6-dev libstdc++6 libicu-dev) ;;
   *) build_gtest=OFF; packages+=(libc6-dev libstdc++6 libicu-dev libgtest-dev) ;;
 esac
 toolchain=(-DCMAKE_TOOLCHAIN_FILE="$PWD/tests/machines/toolchain.cmake" -DZK_TARGET="$target" -DZK_ROOT="$root")
 
-build_icu() {
-  local icu=tests/machines/icu build=build/machines/icu
-  remove_stranger "$build" "$PWD/$icu"
-  cmake -G Ninja -S "$icu" -B "$build" -DCMAKE_BUILD_TYPE=Release "${toolchain[@]}" &&
+build_libraries() {
+  local libraries=tests/machines/libraries build=build/machines/$arch.libraries
+  remove_stranger "$build" "$PWD/$libraries"
+  cmake -G Ninja -S "$libraries" -B "$build" -DCMAKE_BUILD_TYPE=Release "${toolchain[@]}" &&
     cmake --build "$build" && cmake --install "$build" --prefix "$root/usr"
 }
 
@@ -37,16 +43,19 @@ quietly "Fetching the libraries of $arch" "$log" tests/machines/make_root.sh "$a
 if [ "$arch" = musl ]; then
   export ZIG_GLOBAL_CACHE_DIR=$PWD/build/machines/zig/cache
   fetch_from_npm "Fetching the compiler for $arch" tests/machines/package.json build/machines/zig
-  quietly "Building ICU for $arch" "$log" build_icu
+fi
+if [ "$arch" = musl ] || [ "$arch" = windows ]; then
+  quietly "Building libraries for $arch" "$log" build_libraries
 fi
 remove_stranger "$folder"
 quietly "Configuring for $arch" "$log" cmake -G Ninja -B "$folder" -DCMAKE_BUILD_TYPE=Debug \
-  -DCMAKE_CXX_FLAGS_DEBUG=-O1 "${toolchain[@]}" -DZK_WERROR=ON -DZK_EXAMPLES=OFF -DZK_BUILD_GTEST="$build_gtest"
-quietly "Building for $arch" "$log" cmake --build "$folder" --target zk_module_tests
+  -DCMAKE_CXX_FLAGS_DEBUG=-O1 "${toolchain[@]}" -DZK_WERROR=ON -DZK_EXAMPLES="$examples" -DZK_BUILD_GTEST="$build_gtest"
+quietly "Building for $arch" "$log" cmake --build "$folder" --target "${targets[@]}"
 
-command=("$folder/bin/zk_module_tests" --gtest_brief=1)
-if [ "$arch" != i386 ] && [ "$arch" != musl ]; then
-  # When a process ends, the emulator speaks as well, and it cannot start the test anew.
-  command=("qemu-${target%%-*}" -L "$root" "${command[@]}" --gtest_filter='-*DeathTest*')
-fi
-"${command[@]}" "$@"
+tests=$folder/bin/zk_module_tests
+case $arch in
+  i386 | musl) "$tests" --gtest_brief=1 "$@" ;;
+  windows) tests/machines/test_windows.sh "$folder" "$@" ;;
+  # When a process ends, the emulator prints messages too, and it cannot start the test again.
+  *) "qemu-${target%%-*}" -L "$root" "$tests" --gtest_brief=1 --gtest_filter='-*DeathTest*' "$@" ;;
+esac

@@ -17,6 +17,17 @@ if(ZK_TARGET MATCHES "musl$")
   return()
 endif()
 
+if(ZK_TARGET MATCHES "mingw32$")
+  set(CMAKE_SYSTEM_NAME Windows)
+  set(CMAKE_C_COMPILER ${ZK_TARGET}-gcc-posix)  # for GoogleTest
+  set(CMAKE_CXX_COMPILER ${ZK_TARGET}-g++-posix)
+  set(CMAKE_RC_COMPILER ${ZK_TARGET}-windres)
+  set(CMAKE_CXX_FLAGS_INIT -DU_STATIC_IMPLEMENTATION)  # ICU's own name for linking it statically
+  set(CMAKE_CROSSCOMPILING_EMULATOR /usr/lib/wine/wine64)  # "wine" complains if it cannot run 32-bit programs
+  set(CMAKE_GTEST_DISCOVER_TESTS_DISCOVERY_MODE PRE_TEST)
+  return()
+endif()
+
 set(CMAKE_CXX_COMPILER ${ZK_TARGET}-g++)
 set(CMAKE_SYSROOT ${ZK_ROOT})
 set(CMAKE_LIBRARY_ARCHITECTURE ${ZK_TARGET})

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstddef>
+#include <filesystem>
 #include <iterator>
 #include <memory>
 #include <optional>
@@ -79,6 +80,23 @@ bool isTemporary(const std::error_code& failure) {
 
 bool isRefusal(const std::error_code& failure) {
   return failure == std::errc::permission_denied || failure == std::errc::operation_not_permitted;
+}
+
+bool isFileName(std::string_view name) {
+  return !name.empty() && name != "." && name != ".." && name.find_first_of({"/\0", 2}) == name.npos;
+}
+
+std::string normalPath(const std::string& path) {
+  return std::filesystem::path(path).lexically_normal().string();
+}
+
+bool pathExists(const std::string& path) {
+  std::error_code unused;
+  return std::filesystem::exists(path, unused);
+}
+
+bool directoryExists(const std::string& path, std::error_code& failure) {
+  return std::filesystem::is_directory(path, failure);
 }
 
 std::optional<std::string> contentsOfFile(const std::string& path) {
