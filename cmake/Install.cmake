@@ -4,6 +4,7 @@ include(CMakePackageConfigHelpers)
 set(package_directory ${CMAKE_INSTALL_LIBDIR}/cmake/ZKStrings)
 
 install(TARGETS ZKStrings EXPORT ZKStringsTargets
+  RUNTIME COMPONENT runtime  # the DLL
   LIBRARY COMPONENT runtime NAMELINK_COMPONENT development
   ARCHIVE COMPONENT development
   FILE_SET HEADERS COMPONENT development)
@@ -26,6 +27,8 @@ foreach(directory IN ITEMS LIBDIR INCLUDEDIR DATADIR)
 endforeach()
 if(NOT BUILD_SHARED_LIBS)
   set(pkgconfig_requires icu-uc)
+elseif(WIN32)
+  set(pkgconfig_cflags -DZK_IMPORTS)
 endif()
 configure_file(cmake/zkstrings.pc.in ${PROJECT_BINARY_DIR}/zkstrings.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/zkstrings.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT development)
