@@ -14,7 +14,9 @@ namespace fs = std::filesystem;
 /// The nearest of `places`, seen from the directory of the code's file.
 std::string resourcesSeenFrom(fs::path directory, const ResourcePlaces& places, std::error_code& failure) {
   constexpr int kLevels = 3;
-  const auto isThere = [&](const fs::path& candidate) { return directoryExists(candidate.string(), failure); };
+  const auto isThere = [&](const fs::path& candidate) {
+    return directoryExists(candidate.string(), failure);
+  };
   // An absolute place replaces the directory.
   const fs::path installed = normalPath((directory / places.installed).string());
   for (int level = 0; level < kLevels; ++level, directory = directory.parent_path()) {

@@ -86,7 +86,8 @@ TEST(StringTable, AHashDependsOnEveryByte) {
 TEST(StringTable, WhatIsNoReadableFileHoldsNothing) {
   const TemporaryDirectory directory;
   const std::string table = directory.write("table", "\"a\" = \"b\";");
-  for (const std::string& path : {directory.path(), directory.path() + "/missing", table + "\0.strings"s, ""s})
+  for (const std::string& path :
+       {directory.path(), directory.path() + "/missing", table + "\0.strings"s, ""s})
     EXPECT_EQ(textIn(path), std::nullopt) << path;
 }
 

@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <filesystem>
 #include <iterator>
+#include <utility>
 
 #include <windows.h>
 
@@ -48,11 +49,13 @@ bool readInto(std::string& bytes, HANDLE file) {
 
 bool isTemporary(const std::error_code& failure) {
   constexpr int kTemporary[] = {
-      ERROR_TOO_MANY_OPEN_FILES, ERROR_NOT_ENOUGH_MEMORY,   ERROR_OUTOFMEMORY,         ERROR_NO_SYSTEM_RESOURCES,
-      ERROR_SHARING_VIOLATION,   ERROR_LOCK_VIOLATION,      ERROR_COMMITMENT_LIMIT,    ERROR_WORKING_SET_QUOTA,
-      ERROR_READ_FAULT,          ERROR_IO_DEVICE,           ERROR_NOT_READY,           ERROR_BUSY,
-      ERROR_SEM_TIMEOUT,         ERROR_NETNAME_DELETED,     ERROR_UNEXP_NET_ERR,       ERROR_NETWORK_BUSY,
-      ERROR_OPERATION_ABORTED,   ERROR_NETWORK_UNREACHABLE, ERROR_CONNECTION_ABORTED,
+      ERROR_TOO_MANY_OPEN_FILES, ERROR_NOT_ENOUGH_MEMORY, ERROR_OUTOFMEMORY,
+      ERROR_NO_SYSTEM_RESOURCES, ERROR_SHARING_VIOLATION, ERROR_LOCK_VIOLATION,
+      ERROR_COMMITMENT_LIMIT,    ERROR_WORKING_SET_QUOTA, ERROR_READ_FAULT,
+      ERROR_IO_DEVICE,           ERROR_NOT_READY,         ERROR_BUSY,
+      ERROR_SEM_TIMEOUT,         ERROR_NETNAME_DELETED,   ERROR_UNEXP_NET_ERR,
+      ERROR_NETWORK_BUSY,        ERROR_OPERATION_ABORTED, ERROR_NETWORK_UNREACHABLE,
+      ERROR_CONNECTION_ABORTED,
   };
   return failure.category() == std::system_category() &&
          std::find(std::begin(kTemporary), std::end(kTemporary), failure.value()) != std::end(kTemporary);

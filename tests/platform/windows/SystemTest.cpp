@@ -24,7 +24,8 @@ using testing::TemporaryDirectory;
 /// limits for its path.
 class TableDirectory {
  public:
-  explicit TableDirectory(std::string path) : path_(std::move(path)), table_(systemPath(path_ + "/Localizable.strings")) {
+  explicit TableDirectory(std::string path)
+      : path_(std::move(path)), table_(systemPath(path_ + "/Localizable.strings")) {
     CreateDirectoryW(systemPath(path_).c_str(), nullptr);
     const HANDLE file = CreateFileW(table_.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
     constexpr std::string_view kTable = "\"a\" = \"b\";\r\n";
@@ -57,7 +58,9 @@ TEST(System, GivesSystemCallsAbsolutePathsWithoutLimits) {
       {"//server/share/a", LR"(\\?\UNC\server\share\a)"},
       {R"(\\?\C:\a)", LR"(\\?\C:\a)"},
       {R"(\\.\pipe\a)", LR"(\\.\pipe\a)"},
-      {"C:/тексты/\xFF", LR"(\\?\C:\тексты\)" L"\uFFFD"},
+      {"C:/тексты/\xFF",
+       LR"(\\?\C:\тексты\)"
+       L"\uFFFD"},
   };
   for (const auto& [path, expected] : cases) EXPECT_TRUE(systemPath(std::string(path)) == expected) << path;
   EXPECT_TRUE(systemPath("a").ends_with(LR"(\a)") && systemPath("a").starts_with(LR"(\\?\)"));
@@ -108,8 +111,8 @@ TEST(System, ReadsWhatAnotherProgramHasOpen) {
   const TemporaryDirectory directory;
   const std::string path = directory.write("file", "text");
   const auto open = [&](DWORD shared) {
-    return CreateFileW(systemPath(path).c_str(), GENERIC_READ | GENERIC_WRITE, shared, nullptr, OPEN_EXISTING, 0,
-                       nullptr);
+    return CreateFileW(systemPath(path).c_str(), GENERIC_READ | GENERIC_WRITE, shared, nullptr, OPEN_EXISTING,
+                       0, nullptr);
   };
   const HANDLE editor = open(FILE_SHARE_READ | FILE_SHARE_WRITE);
   EXPECT_EQ(contentsOfFile(path), "text");
