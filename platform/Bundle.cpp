@@ -10,7 +10,6 @@
 #include <bit>
 #include <cstddef>
 #include <cstdint>
-#include <filesystem>
 #include <map>
 #include <memory>
 #include <mutex>
@@ -25,8 +24,6 @@
 namespace zk {
 
 namespace {
-
-namespace fs = std::filesystem;
 
 using BundlesByPath = std::map<std::string, std::unique_ptr<const Bundle>>;
 
@@ -153,7 +150,7 @@ const Bundle& Bundle::bundleOfCode(const std::type_info& type, const internal::R
 
 const Bundle& Bundle::mainBundle() {
   std::error_code failure;
-  return openOrThrow(fs::path(executablePath(failure)).parent_path().string(), failure);
+  return openOrThrow(nativePath(executablePath(failure)).parent_path().string(), failure);
 }
 
 /// The bundle at `path`. Throws if `failure` or the failure to open it is temporary.

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <ZKStrings/platform/system/File.h>
+
 #include <filesystem>
 #include <fstream>
 #include <random>
@@ -26,10 +28,11 @@ class TemporaryDirectory {
 
   /// Writes a file, with the directories that lead to it, and gives its full path.
   std::string write(const std::string& name, std::string_view bytes) const {
-    const std::filesystem::path file = std::filesystem::path(path_) / name;
+    const std::string path = path_ + "/" + name;
+    const std::filesystem::path file = nativePath(path);
     std::filesystem::create_directories(file.parent_path());
     std::ofstream(file, std::ios::binary) << bytes;
-    return file.string();
+    return path;
   }
 
  private:

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -17,6 +18,9 @@ namespace zk {
 
 /// Whether `name` is a single file name: it cannot lead to another directory.
 [[nodiscard]] bool isFileName(std::string_view name);
+
+/// Converts `path` from UTF-8 for the standard library, which takes other strings for UTF-8 only on some systems.
+[[nodiscard]] std::filesystem::path nativePath(const std::string& path);
 
 /// Returns `path` without "." and "..", which are not looked up, so a link before ".." is removed with it.
 [[nodiscard]] std::string normalPath(const std::string& path);

@@ -14,17 +14,14 @@ namespace fs = std::filesystem;
 /// The nearest of `places`, seen from the directory of the code's file.
 std::string resourcesSeenFrom(fs::path directory, const ResourcePlaces& places, std::error_code& failure) {
   constexpr int kLevels = 3;
-  const auto isThere = [&](const fs::path& candidate) {
-    return directoryExists(candidate.string(), failure);
-  };
   // An absolute place replaces the directory.
-  const fs::path installed = normalPath((directory / places.installed).string());
+  const std::string installed = normalPath((directory / places.installed).string());
   for (int level = 0; level < kLevels; ++level, directory = directory.parent_path()) {
-    const fs::path candidate = directory / places.above;
-    if (isThere(candidate)) return candidate.string();
+    std::string candidate = (directory / places.above).string();
+    if (directoryExists(candidate, failure)) return candidate;
     if (isTemporary(failure)) return {};
   }
-  return !places.installed.empty() && isThere(installed) ? installed.string() : std::string();
+  return !places.installed.empty() && directoryExists(installed, failure) ? installed : std::string();
 }
 
 }  // namespace
@@ -38,11 +35,11 @@ std::string resourceDirectory(const std::string& codeFile, const ResourcePlaces&
                               std::error_code& failure) {
   failure.clear();
   if (codeFile.empty()) return {};
-  const fs::path asLoaded = normalPath(codeFile);
+  const fs::path asLoaded = nativePath(normalPath(codeFile));
   std::string found = resourcesSeenFrom(asLoaded.parent_path(), places, failure);
   if (!found.empty() || isTemporary(failure)) return found;
 
-  const fs::path withoutLinks = fs::canonical(codeFile, failure);
+  const fs::path withoutLinks = fs::canonical(nativePath(codeFile), failure);
   if (failure || withoutLinks == asLoaded) return {};
   return resourcesSeenFrom(withoutLinks.parent_path(), places, failure);
 }

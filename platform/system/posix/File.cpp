@@ -86,6 +86,10 @@ bool isFileName(std::string_view name) {
   return !name.empty() && name != "." && name != ".." && name.find_first_of({"/\0", 2}) == name.npos;
 }
 
+std::filesystem::path nativePath(const std::string& path) {
+  return path;
+}
+
 std::string normalPath(const std::string& path) {
   return std::filesystem::path(path).lexically_normal().string();
 }

@@ -69,6 +69,10 @@ bool isFileName(std::string_view name) {
   return !name.empty() && name != "." && name != ".." && name.find_first_of({"/\\:\0", 4}) == name.npos;
 }
 
+std::filesystem::path nativePath(const std::string& path) {
+  return toUTF16(path);
+}
+
 std::string normalPath(const std::string& path) {
   const std::wstring wide = toUTF16(path);
   std::wstring normal(GetFullPathNameW(wide.c_str(), 0, nullptr, nullptr), L'\0');
