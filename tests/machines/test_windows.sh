@@ -2,7 +2,7 @@
 # Runs under Wine what test.sh has built for Windows, and builds and runs programs that use the installed module.
 #   test_windows.sh BUILD_DIRECTORY [GTEST_ARGUMENT...]
 set -euo pipefail
-build=$1
+build=$(realpath "$1")
 shift
 compiler=x86_64-w64-mingw32-g++-posix
 export WINEPREFIX=$PWD/build/machines/wine WINEDEBUG=-all
