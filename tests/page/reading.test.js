@@ -53,7 +53,7 @@ test("Filters leave the matching texts", async () => {
     ],
     [{ "#language": German, "#state": "m" }, ["badgeCount_Badges"]],
     [{ "#language": German, "#state": "u" }, ["First_line_nSecond_line"]],
-    [{ "#language": German, "#state": "r" }, ["Be_quick"]],
+    [{ "#language": German, "#state": "n" }, ["Be_quick"]],
     [{ "#language": German, "#state": "gap" }, ["badgeCount_Badges", "Be_quick", "First_line_nSecond_line"]],
     [
       { "#language": German, "#state": "finding", "#family": "formatted" },

@@ -45,20 +45,6 @@ Json formsData() {
   return forms;
 }
 
-char letterOf(TranslationState state) {
-  switch (state) {
-    case TranslationState::missing:
-      return 'm';
-    case TranslationState::untranslated:
-      return 'u';
-    case TranslationState::needsReview:
-      return 'r';
-    case TranslationState::translated:
-      break;
-  }
-  return 't';
-}
-
 class DataMaker {
  public:
   DataMaker(const std::string& root, const std::vector<std::string>& sources)
@@ -111,7 +97,7 @@ class DataMaker {
       texts.push_back(shown_.markedText(english));
       characters.push_back(charactersIn(shown_.text(english)));
       const TableEntry* const entry = table.diagnostics.empty() ? table.find(english.key) : nullptr;
-      states += letterOf(stateOf(language, entry, english));
+      states += nameOf(stateOf(language, entry, english)).front();
       const std::optional<std::string> before = entry ? quotedIn(*entry, kState) : std::nullopt;
       if (before) previous.push_back({states.size() - 1, *before});
     }

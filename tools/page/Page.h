@@ -21,7 +21,7 @@ namespace zk::tools {
 ///
 /// English is the first language. "texts", "characters" and "states" have an element for each key that the
 /// engine looks up, in catalogue order: the finished text, whose values are marked as `ShownTexts` marks them; its
-/// length in characters; one letter for missing (m), untranslated (u), needs review (r) or translated (t). An
+/// length in characters; one letter for missing (m), untranslated (u), needs review (n) or translated (t). An
 /// element of "previous" is an array of the index of a key and the English text that its translation was made
 /// from, if that has changed. A finding is an array of the index of its key (null for the table as a whole),
 /// severity, rule, message, line and column.

@@ -51,7 +51,7 @@ function isMissing(entry, language) {
 function stateTags(entry, language) {
   const states = new Set();
   someText(entry, (text) => void states.add(language.states[text]));
-  return ["m", "u", "r"]
+  return ["m", "u", "n"]
     .filter((state) => states.has(state))
     .map((state) => element("span", { className: `tag state-${state}` }, STATE_NAMES[state]));
 }

@@ -1,7 +1,7 @@
 // The progress of each language, as bars at the top.
 
 function coverageOf(language) {
-  const counts = { t: 0, r: 0, u: 0, m: 0 };
+  const counts = { t: 0, n: 0, u: 0, m: 0 };
   for (const state of language.states) ++counts[state];
   const all = language.states.length;
   return { counts, all, percent: all === 0 ? 100 : Math.floor((counts.t * 100) / all) };

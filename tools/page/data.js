@@ -4,7 +4,7 @@ const languages = data.languages;
 const english = languages[0];
 const translations = languages.slice(1);
 
-const STATE_NAMES = { m: "missing", u: "untranslated", r: "needs review", t: "translated" };
+const STATE_NAMES = { m: "missing", u: "untranslated", n: "needs review", t: "translated" };
 
 languages.forEach((language, index) => {
   language.index = index;

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <numeric>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -21,43 +22,30 @@ namespace {
 constexpr std::size_t kBarWidth = 15;
 constexpr std::string_view kHeading = "language";
 
-std::size_t& countOf(TranslationState state, Coverage& coverage) {
-  switch (state) {
-    case TranslationState::missing:
-      return coverage.missing;
-    case TranslationState::untranslated:
-      return coverage.untranslated;
-    case TranslationState::needsReview:
-      return coverage.needsReview;
-    case TranslationState::translated:
-      break;
-  }
-  return coverage.translated;
-}
-
 Coverage coverageOf(const std::string& language, const Table& table, const EnglishTexts& english) {
   Coverage coverage{language};
   coverage.isWellFormed = table.diagnostics.empty();
   for (const EnglishText& text : english.all()) {
     const TableEntry* const entry = coverage.isWellFormed ? table.find(text.key) : nullptr;
-    ++countOf(stateOf(language, entry, text), coverage);
+    ++coverage.counts[static_cast<std::size_t>(stateOf(language, entry, text))];
   }
   return coverage;
 }
 
 std::string lineOf(const Coverage& coverage, std::size_t nameWidth) {
+  const auto [missing, untranslated, needsReview, translated] = coverage.counts;
   const std::size_t filled = coverage.percent() * kBarWidth / 100;
   const std::string bar = fmt::format("{:#<{}}{:-<{}}", "", filled, "", kBarWidth - filled);
-  return fmt::format("{:<{}}{:>12}{:>10}{:>14}{:>9}{:>6}%  {}\n", coverage.language, nameWidth,
-                     coverage.translated, coverage.needsReview, coverage.untranslated, coverage.missing,
-                     coverage.percent(), coverage.isWellFormed ? bar : "see check");
+  return fmt::format("{:<{}}{:>12}{:>10}{:>14}{:>9}{:>6}%  {}\n", coverage.language, nameWidth, translated,
+                     needsReview, untranslated, missing, coverage.percent(),
+                     coverage.isWellFormed ? bar : "see check");
 }
 
 }  // namespace
 
 std::size_t Coverage::percent() const {
-  const std::size_t all = translated + needsReview + untranslated + missing;
-  return all == 0 ? 100 : translated * 100 / all;
+  const std::size_t all = std::accumulate(counts.begin(), counts.end(), std::size_t{0});
+  return all == 0 ? 100 : counts.back() * 100 / all;
 }
 
 std::vector<Coverage> coverageOf(const std::string& root) {
@@ -82,10 +70,10 @@ std::string formatted(const std::vector<Coverage>& languages) {
 std::string toJson(const std::vector<Coverage>& languages) {
   std::vector<std::string> objects;
   for (const Coverage& coverage : languages) {
+    const auto [missing, untranslated, needsReview, translated] = coverage.counts;
     const nlohmann::ordered_json object = {
-        {"language", coverage.language},       {"translated", coverage.translated},
-        {"needsReview", coverage.needsReview}, {"untranslated", coverage.untranslated},
-        {"missing", coverage.missing},         {"percent", coverage.percent()},
+        {"language", coverage.language},      {"translated", translated}, {"needsReview", needsReview},
+        {"untranslated", untranslated},       {"missing", missing},       {"percent", coverage.percent()},
         {"wellFormed", coverage.isWellFormed}};
     objects.push_back(object.dump(-1, ' ', false, nlohmann::ordered_json::error_handler_t::replace));
   }

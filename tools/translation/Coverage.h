@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <string>
 #include <vector>
@@ -9,10 +10,7 @@ namespace zk::tools {
 /// How many texts that the module looks up are translated in a language's table.
 struct Coverage {
   std::string language;
-  std::size_t translated = 0;
-  std::size_t needsReview = 0;
-  std::size_t untranslated = 0;
-  std::size_t missing = 0;
+  std::array<std::size_t, 4> counts = {};  ///< by `TranslationState`
   bool isWellFormed = true;  ///< if not, the module reads nothing of the table, so all texts are missing
 
   /// The percentage of translated texts, rounded down, so 100 means all.

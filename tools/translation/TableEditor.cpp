@@ -85,27 +85,22 @@ std::optional<TableEditor::Span> TableEditor::blankLineBefore(std::size_t line) 
   return Span{blanksBegin(end), line};
 }
 
-TableEditor::InsertionPlace TableEditor::placeAfter(const TableEntry* entry) const {
+void TableEditor::insertAfter(const TableEntry* entry, std::string_view lines) {
   const TableEntry* const first = table_.entries.empty() ? nullptr : &table_.entries.front();
   const TableEntry* const neighbour = entry ? entry : first;
-  if (!neighbour) return {text_.size(), false};
-  const std::size_t place = entry ? endOfLine(text_, *entry) : beginWithComments(*neighbour);
+  const std::size_t place = entry   ? endOfLine(text_, *entry)
+                            : first ? beginWithComments(*first)
+                                    : text_.size();
   // The blank line before the first entry ends the file's head, so the second entry shows what separates entries.
   const TableEntry* const second =
       neighbour == first && table_.entries.size() > 1 ? &table_.entries[1] : neighbour;
-  return {place, blankLineBefore(beginWithComments(*second)).has_value()};
-}
-
-void TableEditor::insertAfter(const TableEntry* entry, std::string_view lines) {
-  const auto [known, isNew] = places_.try_emplace(entry);
-  if (isNew) known->second = placeAfter(entry);
-  const auto [offset, isAmongBlankLines] = known->second;
-  auto& [end, inserted] = edits_[{offset, Kind::insertion}];
-  end = offset;
-  if (inserted.empty() && offset > 0 && text_[offset - 1] != '\n') inserted = "\n";
-  if (isAmongBlankLines && entry) inserted += "\n";
+  const std::string separator = second && blankLineBefore(beginWithComments(*second)) ? "\n" : "";
+  auto& [end, inserted] = edits_[{place, Kind::insertion}];
+  end = place;
+  if (inserted.empty() && place > 0 && text_[place - 1] != '\n') inserted = "\n";
+  inserted += entry ? separator : "";
   inserted += lines;
-  if (isAmongBlankLines && !entry) inserted += "\n";
+  inserted += entry ? "" : separator;
 }
 
 void TableEditor::replaceKey(const TableEntry& entry, std::string_view key) {

@@ -66,10 +66,6 @@ class TableEditor {
     std::size_t end;
     std::string replacement;
   };
-  struct InsertionPlace {
-    std::size_t offset;
-    bool isAmongBlankLines;
-  };
 
   void replace(Span span, std::string replacement) {
     edits_[{span.begin, Kind::replacement}] = {span.end, std::move(replacement)};
@@ -79,12 +75,10 @@ class TableEditor {
   [[nodiscard]] Span withLines(Span span) const;
   [[nodiscard]] std::size_t beginWithComments(const TableEntry& entry) const;
   [[nodiscard]] std::optional<Span> blankLineBefore(std::size_t line) const;
-  [[nodiscard]] InsertionPlace placeAfter(const TableEntry* entry) const;
 
   std::string mark_;  // the byte-order mark, if there is one
   std::string text_;  // what follows it
   Table table_;
-  std::map<const TableEntry*, InsertionPlace> places_;  // of the insertions after an entry
   std::map<std::pair<std::size_t, Kind>, Edit> edits_;  // by begin
 };
 

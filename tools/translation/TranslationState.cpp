@@ -4,18 +4,16 @@
 #include <ZKStrings/tools/translation/TranslationState.h>
 
 #include <algorithm>
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include <fmt/format.h>
 
 namespace zk::tools {
 
 namespace {
-
-using Words = std::vector<std::string_view>;
 
 /// Whether an entry with the English text is probably not translated yet.
 bool looksUntranslated(const TableEntry& entry, const CatalogueSettings& settings) {
@@ -26,17 +24,8 @@ bool looksUntranslated(const TableEntry& entry, const CatalogueSettings& setting
 }  // namespace
 
 std::string_view nameOf(TranslationState state) {
-  switch (state) {
-    case TranslationState::missing:
-      return "missing";
-    case TranslationState::untranslated:
-      return "untranslated";
-    case TranslationState::needsReview:
-      return "needs-review";
-    case TranslationState::translated:
-      break;
-  }
-  return "translated";
+  constexpr std::string_view kNames[] = {"missing", "untranslated", "needs-review", "translated"};
+  return kNames[static_cast<std::size_t>(state)];
 }
 
 TranslationState stateOf(std::string_view language, const TableEntry* entry, const EnglishText& english) {

@@ -7,11 +7,11 @@ namespace {
 using zk::tools::Coverage;
 
 TEST(Coverage, IsComplete100PercentOnly) {
-  EXPECT_EQ((Coverage{"de", 1000}).percent(), 100u);
-  EXPECT_EQ((Coverage{"de", 999, 1}).percent(), 99u);
-  EXPECT_EQ((Coverage{"de", 999, 0, 1}).percent(), 99u);
-  EXPECT_EQ((Coverage{"de", 999, 0, 0, 1}).percent(), 99u);
-  EXPECT_EQ((Coverage{"de", 0, 0, 0, 1}).percent(), 0u);
+  EXPECT_EQ((Coverage{"de", {0, 0, 0, 1000}}).percent(), 100u);
+  EXPECT_EQ((Coverage{"de", {0, 0, 1, 999}}).percent(), 99u);
+  EXPECT_EQ((Coverage{"de", {0, 1, 0, 999}}).percent(), 99u);
+  EXPECT_EQ((Coverage{"de", {1, 0, 0, 999}}).percent(), 99u);
+  EXPECT_EQ((Coverage{"de", {1, 0, 0, 0}}).percent(), 0u);
 }
 
 }  // namespace
