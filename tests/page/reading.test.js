@@ -122,7 +122,7 @@ test("A card shows one text in every language and plural form", async () => {
 test("A card shows the text's comment and limit, and the English text before a change", async () => {
   const page = await open(browser, small, { address: "#Be_quick" });
   const context = await page.textContent("#card .context");
-  assert.strictEqual(context, 'A shout at the end. <img src=x onerror="broken = 9"> At most 12 characters.');
+  assert.strictEqual(context, 'A shout at the end. <img src=x onerror="broken = 9">. At most 12 characters.');
   assert.match(await page.innerText(".language:has([lang=de]) header"), /needs review/);
   assert.strictEqual(await page.textContent(".previous"), "The English was “Be <b>swift</b>!”");
 });
