@@ -32,8 +32,7 @@ function headOf(entry) {
 }
 
 function lengthTag(entry, language) {
-  let most = -Infinity;
-  someText(entry, (text) => void (most = Math.max(most, excess(language, text))));
+  const most = Math.max(...entry.texts.map((text) => excess(language, text)));
   const sign = most > 0 ? "+" : most < 0 ? "−" : "±";
   const length = element(
     "span",
@@ -45,12 +44,11 @@ function lengthTag(entry, language) {
 }
 
 function isMissing(entry, language) {
-  return !someText(entry, (text) => language.states[text] !== "m");
+  return entry.texts.every((text) => language.states[text] === "m");
 }
 
 function stateTags(entry, language) {
-  const states = new Set();
-  someText(entry, (text) => void states.add(language.states[text]));
+  const states = new Set(entry.texts.map((text) => language.states[text]));
   return ["m", "u", "n"]
     .filter((state) => states.has(state))
     .map((state) => element("span", { className: `tag state-${state}` }, STATE_NAMES[state]));
@@ -70,7 +68,7 @@ function languageHead(entry, language) {
 function formRow(entry, language, form) {
   const { name, counts, example } = data.forms[form];
   const text = element("td");
-  showText(text, language, entry.first + form);
+  showText(text, language, entry.texts[form]);
   const title = `${name}: ${counts}`;
   return element("tr", {}, element("th", { scope: "row", title }, String(example)), text);
 }
@@ -78,7 +76,7 @@ function formRow(entry, language, form) {
 function textsOf(entry, language) {
   if (!entry.counted) {
     const text = element("p");
-    showText(text, language, entry.first);
+    showText(text, language, entry.texts[0]);
     return text;
   }
   const table = element("table", { attributes: { "aria-label": `${language.english}, by count` } });
@@ -88,12 +86,8 @@ function textsOf(entry, language) {
 }
 
 function languageBlock(entry, language) {
-  const findings = [];
-  const previous = new Set();
-  someText(entry, (text) => {
-    findings.push(...(language.findingsByText.get(text) ?? []));
-    if (language.previous.has(text)) previous.add(language.previous.get(text));
-  });
+  const findings = entry.texts.flatMap((text) => language.findingsByText.get(text) ?? []);
+  const previous = new Set(entry.texts.flatMap((text) => language.previous.get(text) ?? []));
   return element(
     "article",
     { className: "language" },

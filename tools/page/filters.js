@@ -43,8 +43,7 @@ function filtered() {
   const isShown = (entry) =>
     isFamily(entry, family) &&
     asked.some((language) =>
-      someText(
-        entry,
+      entry.texts.some(
         (text) =>
           isInState(language, text, state) && (longer === undefined || excess(language, text) >= longer),
       ),
@@ -54,8 +53,4 @@ function filtered() {
 
 function isAnyFilterSet() {
   return Object.values(controls).some((control) => control.value !== "");
-}
-
-function resetFilters() {
-  for (const control of Object.values(controls)) control.value = "";
 }

@@ -10,7 +10,7 @@ let openLink;
 function rowOf(entry) {
   if (entry.row) return entry.row;
   const text = element("span");
-  showText(text, english, entry.last);
+  showText(text, english, entry.texts.at(-1));
   entry.translation = element("span", { hidden: true });
   entry.link = element(
     "a",
@@ -33,7 +33,7 @@ function showTranslation(entry) {
   entry.shownLanguage = listedLanguage;
   entry.translation.hidden = !listedLanguage;
   if (!listedLanguage) return;
-  showText(entry.translation, listedLanguage, entry.last);
+  showText(entry.translation, listedLanguage, entry.texts.at(-1));
 }
 
 function findingItem({ severity, rule, message, place }) {

@@ -62,7 +62,7 @@ controls.language.addEventListener("input", () => openEntry && openCard(openEntr
 document.getElementById("filters").addEventListener("input", updateList);
 document.getElementById("filters").addEventListener("submit", (event) => event.preventDefault());
 document.getElementById("reset").addEventListener("click", () => {
-  resetFilters();
+  controls.search.form.reset();
   updateList();
   controls.search.focus();
 });

@@ -21,7 +21,7 @@ function searchable(entry) {
   const texts = new Set();
   const templates = new Set();
   for (const language of languages) {
-    for (let text = entry.first; text <= entry.last; ++text) {
+    for (const text of entry.texts) {
       const marked = language.texts[text];
       const finished = marked.replace(VALUE, "$2");
       texts.add(folded(finished));
