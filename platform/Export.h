@@ -17,6 +17,13 @@
 #define ZK_EXPORT [[gnu::dllexport]]
 #endif
 
+/// Marks the accessors of another catalogue. They belong to the program or library that links them, not to the module.
+#if defined(_WIN32)
+#define ZK_EXPORT_ACCESSORS
+#else
+#define ZK_EXPORT_ACCESSORS ZK_EXPORT
+#endif
+
 /// Marks a function whose result refers to its object, or a parameter that the result refers to: where the
 /// compiler can tell (Clang), it warns of a result that is kept for longer.
 #if __has_cpp_attribute(clang::lifetimebound)

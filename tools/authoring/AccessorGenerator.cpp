@@ -31,7 +31,7 @@ constexpr const char* kHeaderBegin = R"(#pragma once
 /// the English text.
 ///
 {example}/// Any thread may call any accessor, once `zk::Current::language` has been assigned.
-struct ZK_EXPORT {name} {{
+struct {export} {name} {{
   {name}() = delete;
 )";
 
@@ -81,6 +81,7 @@ std::string begin(const char* format, const CatalogueName& catalogue) {
   const std::string opening =
       catalogue.nameSpace.empty() ? "" : fmt::format("\nnamespace {} {{\n", catalogue.nameSpace);
   return fmt::format(fmt::runtime(format), fmt::arg("notice", kNotice), fmt::arg("name", catalogue.name),
+                     fmt::arg("export", catalogue.isModule() ? "ZK_EXPORT" : "ZK_EXPORT_ACCESSORS"),
                      fmt::arg("opening", opening),
                      fmt::arg("example", catalogue.isModule() ? kModuleExample : ""));
 }
