@@ -91,7 +91,7 @@ void runImport(const std::string& root, const ImportArguments& arguments) {
     if (count > 0) counts.push_back(fmt::format("{} {}", count, what));
   }
   if (counts.empty()) counts.emplace_back("nothing to import");
-  say("{}: {}\n", tablePath(translations.language), fmt::join(counts, ", "));
+  say("{}: {}\n", fromWorkingDirectory(tablePath(translations.language), root), fmt::join(counts, ", "));
   if (done.refused > 0) throw CommandFailed{};
 }
 

@@ -174,8 +174,9 @@ void addTemplateCommand(CLI::App& app, const RootFinder& inRoot) {
     if (const std::string code = languageCodeOf(*language);
         !code.empty() && language->find_first_of("-_./@") == std::string::npos)
       *language = code;
-    const std::size_t texts = writeTemplate(inRoot(), *language);
-    say("Wrote {} with {} texts to translate.\n", tablePath(*language), texts);
+    const std::string root = inRoot();
+    const std::size_t texts = writeTemplate(root, *language);
+    say("Wrote {} with {} texts to translate.\n", fromWorkingDirectory(tablePath(*language), root), texts);
   });
 }
 
@@ -197,7 +198,8 @@ void addUpdateCommand(CLI::App& app, const RootFinder& inRoot) {
     const std::string language = existingLanguage(root, arguments->language);
     const TableUpdate update = updateTable(root, language, arguments->prunes);
     print(stdout, fromWorkingDirectory(update.notLookedUp, root));
-    say("{}: {}\n", tablePath(language), update.isChange ? summaryOf(update) : "up to date, nothing changed");
+    say("{}: {}\n", fromWorkingDirectory(tablePath(language), root),
+        update.isChange ? summaryOf(update) : "up to date, nothing changed");
   });
 }
 

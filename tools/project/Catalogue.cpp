@@ -146,7 +146,7 @@ void checkEntry(const Entry& entry, const std::string& file, Diagnostics& diagno
   }
   for (const PlaceholderUse& use : placeholderUses(entry.text)) {
     if (use.isRight || !use.spelled.starts_with("%{")) continue;
-    fail(fmt::format("\"{}\" is no placeholder; write %{{name}}, with letters and digits in the braces",
+    fail(fmt::format("\"{}\" is not a placeholder; write %{{name}}, with letters and digits in the braces",
                      use.spelled));
   }
   for (const std::optional<std::string>& form : entry.forms) {
@@ -171,6 +171,7 @@ std::string signatureOf(const Entry& entry) {
 void checkTogether(const std::vector<Entry>& entries, const std::string& file, Diagnostics& diagnostics) {
   std::map<std::string, const Entry*> accessors;
   std::map<std::string_view, const Entry*> texts;
+  std::map<std::string, const Entry*> inTables;
   const Entry* previous = nullptr;
   for (const Entry& entry : entries) {
     const auto fail = [&](std::string message) {
@@ -185,6 +186,13 @@ void checkTogether(const std::vector<Entry>& entries, const std::string& file, D
     } else if (!isNew) {
       fail(fmt::format("the accessor \"{}\" is already in line {}; keep one of the two",
                        identifierFor(entry.key), same->second->line));
+    }
+    for (const std::string& key : entry.lookedUpKeys()) {
+      const Entry& other = *inTables.try_emplace(key, &entry).first->second;
+      if (other.key == entry.key) continue;
+      fail(fmt::format(
+          "\"{}\" and \"{}\" in line {} have the same key \"{}\" in the tables; give one of them another key",
+          entry.key, other.key, other.line, key));
     }
     if (entry.kept == Entry::Kept::place) continue;
     if (previous && lowerCased(entry.key) < lowerCased(previous->key)) {

@@ -44,18 +44,19 @@ const char* nameOf(Severity severity) {
   return styleOf(severity).name;
 }
 
-Diagnostics fromWorkingDirectory(Diagnostics diagnostics, const std::string& root) {
+std::string fromWorkingDirectory(const std::string& file, const std::string& root) {
   namespace fs = std::filesystem;
   std::error_code failure;
   const fs::path here = fs::current_path(failure);
-  const bool isInProject = !here.lexically_relative(root).string().starts_with("..");
-  for (Diagnostic& diagnostic : diagnostics) {
-    diagnostic.file = (fs::path(root) / diagnostic.file).lexically_normal();
-    const std::string near = fs::path(diagnostic.file).lexically_proximate(here);
-    // A build runs the command in a folder that its user does not see.
-    const bool isClear = isInProject || !near.starts_with("..");
-    if (isClear && near.size() < diagnostic.file.size()) diagnostic.file = near;
-  }
+  const fs::path path = (fs::path(root) / file).lexically_normal();
+  const std::string near = path.lexically_proximate(here);
+  // A build runs the command in a folder that its user does not see.
+  const bool isClear = !near.starts_with("..") || !here.lexically_relative(root).string().starts_with("..");
+  return isClear && near.size() < path.string().size() ? near : path.string();
+}
+
+Diagnostics fromWorkingDirectory(Diagnostics diagnostics, const std::string& root) {
+  for (Diagnostic& diagnostic : diagnostics) diagnostic.file = fromWorkingDirectory(diagnostic.file, root);
   return diagnostics;
 }
 

@@ -26,8 +26,11 @@ struct Diagnostic {
 
 using Diagnostics = std::vector<Diagnostic>;
 
-/// Returns the diagnostics of the project at `root` with file names relative to the working directory, as terminals,
-/// editors and CI expect them.
+/// Returns the name of a file of the project at `root`, relative to the working directory, as terminals, editors and CI
+/// expect it.
+[[nodiscard]] std::string fromWorkingDirectory(const std::string& file, const std::string& root);
+
+/// Returns the diagnostics of the project at `root` with such names.
 [[nodiscard]] Diagnostics fromWorkingDirectory(Diagnostics diagnostics, const std::string& root);
 
 /// The diagnostic as one line, "file:line:column: error: message [rule]", in colours if `coloured`.

@@ -139,7 +139,7 @@ std::string whyNeverChosen(std::string_view language) {
       "the module never uses \"{}.lproj\", since its name is not a two-letter language code; {}", language,
       code == "en"   ? "write the English texts in Base.lproj"
       : code.empty() ? "only languages with an ISO 639-1 code can have a table"
-                     : fmt::format("rename it to {}.lproj", code));
+                     : fmt::format("use {}.lproj", code));
 }
 
 }  // namespace zk::tools
