@@ -17,7 +17,7 @@ struct TextLanguage {
   TextDirection direction;  ///< The direction of its texts.
 };
 
-/// Returns the languages in which texts can come out, sorted by code, for a language picker:
+/// Returns the languages that have texts, sorted by code, for a language picker:
 ///
 ///     for (const zk::TextLanguage& language : zk::availableLanguages()) picker.add(language.code);
 ///     ...
@@ -27,22 +27,22 @@ struct TextLanguage {
 /// if memory runs out.
 [[nodiscard]] ZK_EXPORT std::vector<TextLanguage> availableLanguages();
 
-/// Returns the languages of a catalogue with its own resources, as `localizedString` looks them up in `resources`;
-/// null means that they temporarily cannot be found. Thread-safe.
+/// Returns the languages of a catalogue with its own resources, which are in `resources`. Returns an empty list if
+/// `resources` is null, which means that they temporarily cannot be found. Thread-safe.
 [[nodiscard]] ZK_EXPORT std::vector<TextLanguage> availableLanguages(const Bundle* resources);
 
-/// Returns the language in which texts come out: the first available one that `Current::language` prefers, or else
+/// Returns the language of the texts: the first available one that `Current::language` prefers, or else
 /// English.
 ///
 ///     window.setMirrored(zk::chosenLanguage().direction == zk::TextDirection::rtl);
 ///
-/// A text that the chosen language's table does not have comes out in English all the same. Returns English while the
+/// Texts that are missing from the table of the chosen language are in English. Returns English while the
 /// resources temporarily cannot be opened. Thread-safe. Throws std::bad_alloc if memory runs out. Stops the process
 /// if a lookup would: if `Current::language` was not assigned, and if Base.lproj is needed but missing.
 [[nodiscard]] ZK_EXPORT TextLanguage chosenLanguage();
 
-/// Returns the chosen language of a catalogue with its own resources, as `localizedString` looks them up in
-/// `resources`; null means that they temporarily cannot be found. Thread-safe.
+/// Returns the chosen language of a catalogue with its own resources, which are in `resources`. Returns English if
+/// `resources` is null, which means that they temporarily cannot be found. Thread-safe.
 [[nodiscard]] ZK_EXPORT TextLanguage chosenLanguage(const Bundle* resources);
 
 }  // namespace zk

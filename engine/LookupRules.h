@@ -10,7 +10,7 @@
 
 namespace zk {
 
-/// Returns the suffix of a key for `count`. The same in every language, whatever its grammar.
+/// Returns the suffix of a key for `count`. It does not depend on the language.
 [[nodiscard]] constexpr std::string_view pluralSuffix(std::int64_t count) {
   switch (count) {
     case 0:
@@ -34,17 +34,17 @@ namespace zk {
 
 // A debugger shows the names of these functions, even if the library is stripped.
 
-/// Stops the process: Base.lproj is missing among the module's resources, or there are no resources at all.
+/// Stops the process, because the module's resources do not contain Base.lproj or were not found at all.
 [[noreturn, gnu::cold, gnu::noinline]] ZK_EXPORT void baseLprojIsMissingAmongTheResources();
 
-/// Stops the process: the directory of a language existed, but not any more at the next step.
+/// Stops the process, because the directory of a language was removed between two steps of a lookup.
 [[noreturn, gnu::cold, gnu::noinline]] ZK_EXPORT void languageDirectoryHasVanished();
 
-/// Returns the bundle of the language directory that `preferredLanguages` chooses among the resources of `bundle`: that
-/// of the first entry whose directory exists and opens, or else Base.lproj. Stops the process if Base.lproj is needed,
-/// but missing or not a directory, and if a directory vanishes between two steps.
+/// Returns the bundle of the language directory that `preferredLanguages` chooses in `bundle`: the directory of the
+/// first entry that exists and opens, or else Base.lproj. Stops the process if Base.lproj is needed, but missing or
+/// not a directory, and if a directory vanishes between two steps.
 ///
-/// `PlatformBundle` is the platform's bundle, or a test's with the same operations. Nothing is remembered between
+/// `PlatformBundle` is `Bundle`, or a test class with the same operations. Nothing is remembered between
 /// calls: an entry's directory is looked up once to see that it exists and once to open it, and for the winner both
 /// steps are repeated.
 template <class PlatformBundle>

@@ -29,15 +29,15 @@ namespace zk {
 /// cannot be opened.
 ///
 /// Thread-safe. Throws std::bad_alloc if memory runs out. Stops the process if `Current::language` was not assigned
-/// (after one line on standard error), and if Base.lproj is needed but missing among the module's resources (in a
+/// (after one line on standard error), and if Base.lproj is needed but missing from the module's resources (in a
 /// function whose name says so).
 [[nodiscard]] ZK_EXPORT std::string localizedString(std::string_view key, std::string_view defaultValue,
                                                     std::optional<std::int64_t> count,
                                                     const Substitutions& substitutions);
 
 /// Returns the finished text of one entry of a catalogue with its own resources. `resources` is a directory with language
-/// directories such as Base.lproj and de.lproj; null means that it temporarily cannot be found, and returns the English
-/// text. Otherwise like `localizedString` without `resources`.
+/// directories such as Base.lproj and de.lproj; null means that it temporarily cannot be found, and then the English
+/// text is returned. Otherwise like `localizedString` without `resources`.
 ///
 ///     const zk::Bundle& texts = zk::Bundle::bundleForClass(typeid(MyTexts), "MyTexts");
 ///     zk::localizedString(&texts, "Hello", "Hello", std::nullopt, {})

@@ -59,8 +59,8 @@ class ZK_EXPORT Substitutions {
 
   /// Constructs an empty dictionary: every placeholder stays as it is.
   Substitutions() : size_(0) {}
-  /// Constructs a dictionary of up to five pairs in braces, in their order. Not from a `std::initializer_list`: the compiler
-  /// could not warn about texts that are destroyed too early.
+  /// Constructs a dictionary of up to five pairs in braces, in their order. The pairs are parameters, not a
+  /// `std::initializer_list`, so the compiler can warn about texts that are destroyed too early.
   Substitutions(Pair first ZK_REFERRED_TO, Pair second ZK_REFERRED_TO = {}, Pair third ZK_REFERRED_TO = {},
                 Pair fourth ZK_REFERRED_TO = {}, Pair fifth ZK_REFERRED_TO = {})
       : size_(0) {

@@ -47,8 +47,8 @@ class ZK_EXPORT alignas(kCacheLine) Bundle {
   [[nodiscard]] static const Bundle& bundleForClass(const std::type_info& type);
 
   /// Returns the bundle of other code with its own resources: the nearest directory `share/NAME` at or above the
-  /// directory of the file that defines the type `type`, at most two levels up. `name` is a single name; for
-  /// others, such as "" or "a/b", returns a bundle without resources.
+  /// directory of the file that defines the type `type`, at most two levels up. `name` is the name of one directory.
+  /// For any other text, such as "" or "a/b", returns a bundle without resources.
   ///
   ///     const zk::Bundle& texts = zk::Bundle::bundleForClass(typeid(MyTexts), "MyTexts");
   ///
@@ -137,10 +137,10 @@ class ZK_EXPORT alignas(kCacheLine) ResourcePath {
   [[nodiscard]] const StringTable* openTable() const;
 
   const std::string path_;
-  std::string_view name_{};  // of the file: what is before the last dot, or empty
-  std::string_view type_{};  // and what is after it
+  std::string_view name_{};  // of the file name: the part before the last dot, or empty
+  std::string_view type_{};  // of the file name: the part after the last dot, or empty
   const bool isDirectory_;
-  // What has been opened at this path, so that opening it again needs no search.
+  // The bundle and the table that were opened at this path. Opening them again needs no search.
   mutable std::atomic<const Bundle*> bundle_{nullptr};
   mutable std::atomic<const StringTable*> table_{nullptr};
 };

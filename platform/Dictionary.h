@@ -44,7 +44,7 @@ class Dictionary {
   std::vector<Member> members_;
 };
 
-/// An integer type that is a number, not a truth value or a character.
+/// Any integer type except `bool` and the character types.
 template <class Type>
 concept IntegerNumber = std::integral<Type> && !std::same_as<Type, bool> && !std::same_as<Type, char> &&
                         !std::same_as<Type, wchar_t> && !std::same_as<Type, char8_t> &&
@@ -62,7 +62,7 @@ class Value {
   Value(std::nullptr_t) {}
   /// Constructs a boolean. A pointer or a number does not become one.
   Value(std::same_as<bool> auto value) : value_(value) {}
-  /// Constructs an integer. One beyond `std::int64_t` becomes the nearest `double`, as in JSON.
+  /// Constructs an integer. An integer outside the range of `std::int64_t` becomes the nearest `double`, as in JSON.
   Value(IntegerNumber auto value) {
     if (std::in_range<std::int64_t>(value)) {
       value_ = static_cast<std::int64_t>(value);
@@ -70,7 +70,7 @@ class Value {
       value_ = static_cast<double>(value);
     }
   }
-  /// Constructs a number that is not an integer, even if it has no fraction.
+  /// Constructs a floating-point number, even if it has no fraction.
   Value(std::floating_point auto value) : value_(static_cast<double>(value)) {}
   /// Constructs a text, in UTF-8.
   Value(const char* value) : value_(std::string(value)) {}

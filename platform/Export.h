@@ -7,7 +7,7 @@
 #include "a newer C++ than this"  // no such file: ends the compilation here, before the errors that would follow
 #endif
 
-/// Marks a name that the shared library exports. All other names stay inside it. For users of the Windows DLL, CMake and
+/// Marks a name that the shared library exports. All other names are hidden. For users of the Windows DLL, CMake and
 /// pkg-config define ZK_IMPORTS.
 #if !defined(_WIN32)
 #define ZK_EXPORT [[gnu::visibility("default")]]
@@ -24,16 +24,17 @@
 #define ZK_EXPORT_ACCESSORS ZK_EXPORT
 #endif
 
-/// Marks a function whose result refers to its object, or a parameter that the result refers to: where the
-/// compiler can tell (Clang), it warns of a result that is kept for longer.
+/// Marks a function whose result refers to its object, or a parameter that the result refers to. Clang then warns if
+/// the result is kept for longer.
 #if __has_cpp_attribute(clang::lifetimebound)
 #define ZK_REFERRED_TO [[clang::lifetimebound]]
 #else
 #define ZK_REFERRED_TO
 #endif
 
-// The layout of public types depends on the standard library and its mode. A program in another mode than the module's
-// must not link: it needs a function that the module does not have, and whose name explains why.
+// The layout of public types depends on the standard library and its mode. A program that is built in another mode
+// than the module must not link: it needs a function that the module does not have. The name of that function
+// explains why.
 #if defined(_LIBCPP_VERSION)
 #define ZK_STANDARD_LIBRARY ZKStringsMustBeBuiltWithLibcxxLikeThisProgram
 #elif defined(_GLIBCXX_DEBUG)

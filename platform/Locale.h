@@ -41,8 +41,8 @@ class ZK_EXPORT Locale {
   [[nodiscard]] static SharedArray<std::string> preferredLanguages();
 
   /// Makes `settings` the source of the locale and the preferred languages, for a host with its own settings (a phone, a
-  /// desktop). It is called on every query, on the querying thread, and its result is used unchanged. An empty function
-  /// restores the environment as the source.
+  /// desktop). The function is called on every query, on the querying thread, and its result is used unchanged. An
+  /// empty function restores the environment as the source.
   ///
   ///     zk::Locale::readSettingsFrom([] { return zk::LocaleSettings{"fr-CA", {"fr-CA", "en-CA"}}; });
   static void readSettingsFrom(std::function<LocaleSettings()> settings);

@@ -35,7 +35,7 @@ class ZK_EXPORT Registration {
   Registration& operator=(const Registration&) = delete;
   virtual ~Registration();
 
-  /// A new service or the one that is kept, depending on the scope. `entry` is what was resolved.
+  /// Returns a new service or the kept one, depending on the scope. `entry` is the entry that is being resolved.
   [[nodiscard]] Service service(Entry& entry);
 
   std::atomic<ResolverScope> scope{ResolverScope::everyResolve};
@@ -78,8 +78,8 @@ class RegistrationOf final : public Registration {
 /// The options of one registration, returned by `Resolver::register_`.
 class ZK_EXPORT ResolverOptions {
  public:
-  /// Sets how long the factory's result is kept. A new registration has the scope `everyResolve`, which another
-  /// thread may see before this call.
+  /// Sets how long the factory's result is kept. Until this call, the scope is `everyResolve`, even for other
+  /// threads.
   ResolverOptions& scope(ResolverScope scope);
 
   /// For `Resolver::register_`: makes `registration` the current one of `entry`. Allocates nothing.

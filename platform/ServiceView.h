@@ -21,7 +21,7 @@ struct alignas(128) Kept {
   Kept* next;
 };
 
-/// Keeps a service alive: through what the thread keeps, or else by a reference of its own.
+/// Keeps a service alive: the one that the thread keeps, or else one that this object owns.
 class Hold {
  public:
   explicit Hold(Entry& entry);
@@ -33,7 +33,7 @@ class Hold {
   [[nodiscard]] const void* service() const { return service_; }
 
  private:
-  /// Not inlined, which keeps the usual case short.
+  /// Not inlined, to keep the common case short.
   [[gnu::noinline]] void resolve(Entry& entry, std::uint64_t generation);
 
   const void* service_ = nullptr;

@@ -28,7 +28,7 @@ class SharedArray {
   SharedArray() = default;
   /// Constructs a list of the elements in braces.
   SharedArray(std::initializer_list<Element> elements) : SharedArray(std::vector<Element>(elements)) {}
-  /// Constructs a list of the elements of a vector, each of them moved.
+  /// Constructs a list by moving the elements of a vector.
   SharedArray(std::vector<Element> elements)
       : elements_(std::allocate_shared<const Elements>(CacheLineAllocator<Elements>(),
                                                        std::make_move_iterator(elements.begin()),
@@ -56,7 +56,8 @@ class SharedArray {
     return elements_ == other.elements_;
   }
 
-  /// Adds `element` at the end. Copies all elements, so its cost grows with the size: make several changes with `edit`.
+  /// Adds `element` at the end. Copies all elements, so the cost grows with the size. Use `edit` to make several
+  /// changes at once.
   void append(Element element) {
     edit([&](std::vector<Element>& elements) { elements.push_back(std::move(element)); });
   }

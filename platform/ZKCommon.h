@@ -14,7 +14,7 @@ namespace zk {
 class ZK_EXPORT NetworkReaching {
  public:
   virtual ~NetworkReaching();
-  /// Returns the code of the country that the current network connection shows, or nothing if it is not known. Called on
+  /// Returns the country code that the network connection reports, or nothing if it is not known. Called on
   /// the thread that calls `Language::country`.
   [[nodiscard]] virtual std::optional<std::string> networkCountryCode() const = 0;
 };
@@ -30,9 +30,9 @@ class ZK_EXPORT ReachabilityProperty {
   /// Makes `service` the app's reachability service. A null pointer restores the state before the first assignment.
   const ReachabilityProperty& operator=(std::shared_ptr<const NetworkReaching> service) const;
 
-  /// Returns the app's service; before one is assigned, a service that does not know the country. Never null.
+  /// Returns the app's service. Before one is assigned, returns a service that does not know the country. Never null.
   [[nodiscard]] operator std::shared_ptr<const NetworkReaching>() const { return service(); }
-  /// Gives access to the app's service, to call it. Never null.
+  /// Returns the app's service, to call its functions. Never null.
   [[nodiscard]] std::shared_ptr<const NetworkReaching> operator->() const { return service(); }
 
  private:

@@ -27,15 +27,15 @@ class ZK_EXPORT Country {
   Country(const Country&) = default;
   Country& operator=(const Country&) = default;
 
-  /// The name, as the country list has it.
+  /// The name, as in the country list.
   [[nodiscard]] const std::string& name() const { return name_; }
   /// The international dialling code, without the plus sign: 44 for the United Kingdom.
   [[nodiscard]] std::int64_t phoneCode() const { return phoneCode_; }
-  /// The ISO 3166-1 code, in upper or lower case, as the country list has it.
+  /// The ISO 3166-1 code, in upper or lower case, as in the country list.
   [[nodiscard]] const std::string& ISO() const { return ISO_; }
 
   /// The flag: the letters of `ISO`, in upper case, as regional indicators. Other characters are shifted by the same
-  /// distance, and left out if the result is not a character.
+  /// distance, and left out if the result is not a Unicode character.
   [[nodiscard]] std::string emoji() const;
   /// The flag and the name, such as "🇬🇧 United Kingdom".
   [[nodiscard]] std::string titleFormatted() const;

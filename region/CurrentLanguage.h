@@ -32,8 +32,8 @@ class ZK_EXPORT LanguageAccess {
   friend class LanguageProperty;
   Language language_;
   bool isAlwaysWrittenBack_ = false;
-  std::shared_ptr<zk::internal::Registration> writeBack_{};  // what is registered if the copy is written back
-  Language* captured_ = nullptr;  // in `writeBack_`: the language as it was resolved
+  std::shared_ptr<zk::internal::Registration> writeBack_{};  // registered when the copy is written back
+  Language* captured_ = nullptr;  // in `writeBack_`: the resolved language
 };
 
 /// The type of `Current::language`.
@@ -50,7 +50,7 @@ class ZK_EXPORT LanguageProperty {
   /// Returns a copy of the current language.
   [[nodiscard]] operator Language() const { return get(); }
 
-  /// Gives access to one field until the end of the full expression.
+  /// Returns access to the fields until the end of the full expression.
   [[nodiscard]] LanguageAccess operator->() const { return {}; }
 
   /// Calls `change(Language&)` on a copy of the current language, and writes the copy back, even if `change` did not
@@ -82,8 +82,8 @@ class ZK_EXPORT LanguageProperty {
 ///
 /// Thread-safe. A change with `->` or `change` is written back when it ends, and then replaces what another thread
 /// has assigned in the meantime. Make only one change in one full expression: if there are several, only the one that
-/// ends last remains. Reading next to a change is safe, as in
-/// `language->preferredLanguages = {language->preferredLanguages[0], "en"}`.
+/// ends last takes effect. Reading in the same expression as a change is safe, as in `language->preferredLanguages =
+/// {language->preferredLanguages[0], "en"}`.
 ///
 /// A thread that looks up texts keeps the language that it used until its next lookup. A plug-in that assigned or
 /// changed the language must stay loaded.

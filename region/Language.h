@@ -39,8 +39,8 @@ struct ZK_EXPORT Language {
   /// "zh-Hans-CN", "en" for "en". Returns nothing if there is no such part.
   [[nodiscard]] std::optional<std::string> preferredLanguageCountry() const;
 
-  /// Returns the first two of exactly three such parts ("zh-Hans" for "zh-Hans-CN"), or the first of exactly two ("en"
-  /// for "en-US"). Returns nothing if there are fewer or more: "en" has no code.
+  /// Returns the first preferred language without its last hyphen-separated part: "zh-Hans" for "zh-Hans-CN", "en"
+  /// for "en-US". Returns nothing unless it has exactly two or three parts: "en" has no code.
   [[nodiscard]] std::optional<std::string> preferredLanguageCode() const;
 };
 

@@ -31,7 +31,7 @@ class alignas(kCacheLine) StringTable {
  private:
   struct Slot {
     std::uint32_t hash;
-    // The key is the `keySize` bytes of `text_` from `key` on. The value likewise.
+    // The key is the `keySize` bytes of `text_` from `key` on. The value is stored in the same way.
     std::uint32_t key, keySize;
     std::uint32_t value, valueSize;
   };

@@ -14,7 +14,7 @@ namespace zk {
 ///     "About" = "Über uns";     // quoted, with the escapes of `unescape`
 ///     Cancel = Abbrechen;       // unquoted: letters, digits and _ $ / : . -
 ///
-/// It copies and changes nothing: tokens are places in the text. Requires: one thread uses a reader at a time.
+/// It does not copy or change the text: a token is a range of it. Requires: one thread uses a reader at a time.
 class StringTableReader {
  public:
   /// A key, a value or a comment: the bytes [begin, end) of the text, without quotes and comment marks.

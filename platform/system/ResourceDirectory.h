@@ -14,9 +14,9 @@ struct ResourcePlaces {
 /// The places of this module's resources, as the module was configured to be installed.
 [[nodiscard]] const ResourcePlaces& modulePlaces();
 
-/// Returns the directory with the resources of the code in `codeFile`, an absolute path: the nearest of `places`,
-/// seen from that path as it is, or else from that path without links. Returns an empty path if there is none, or
-/// if `codeFile` is empty; `failure` is then the reason.
+/// Returns the directory with the resources of the code in `codeFile`, an absolute path: the nearest of `places`. The
+/// search starts at that path as it is, and then at that path without links. Returns an empty path if there is none,
+/// or if `codeFile` is empty; `failure` is then the reason.
 [[nodiscard]] std::string resourceDirectory(const std::string& codeFile, const ResourcePlaces& places,
                                             std::error_code& failure);
 

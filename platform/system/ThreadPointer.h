@@ -2,8 +2,8 @@
 
 namespace zk {
 
-/// A pointer that each thread sets for itself. `free` receives it when the thread ends, however late it was set
-/// and even if `free` causes it to be set again. Never destroyed, like the system's own record of it.
+/// A pointer that each thread sets for itself. `free` receives it when the thread ends, even if it was set very late,
+/// or by `free` itself. The object is never destroyed.
 class ThreadPointer {
  public:
   explicit ThreadPointer(void (*free)(void*));

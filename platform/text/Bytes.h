@@ -56,8 +56,9 @@ constexpr std::uint64_t hashOfWords(std::uint64_t one, std::uint64_t other) {
   return (one ^ one >> 32) * 0x9E3779B97F4A7C15 + (other ^ other >> 32) * 0xD1B54A32D192ED03;
 }
 
-/// A hash of `bytes`. Only its upper half depends on all of them. Hashes differ between machines and are never stored. Not inlined,
-/// so that the compiler can inline its callers, which need it only for long texts.
+/// A hash of `bytes`. Only its upper half depends on all of them. Hashes differ between machines and are never
+/// stored. Not inlined, because its callers need it only for long texts and are then small enough to be inlined
+/// themselves.
 [[gnu::noinline]] inline std::uint64_t hashOf(std::string_view bytes) {
   using internal::load;
   const char* at = bytes.data();

@@ -52,7 +52,7 @@ namespace internal {
 
 /// The size in bytes of the first user-perceived character of `text`, which is not empty.
 [[nodiscard]] std::size_t firstClusterSize(std::string_view text);
-/// The same as `firstTwoCharacters`.
+/// Returns the first two characters of `text`, which may be any text.
 [[nodiscard]] std::string_view firstTwoClusters(std::string_view text);
 
 /// Throws std::bad_alloc if memory is short. Called before a step for which ICU allocates once: if memory runs out
