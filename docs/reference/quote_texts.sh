@@ -1,6 +1,6 @@
 #!/bin/sh
-# Prints a header for Doxygen with the English texts in its comments as code, so that what they hold is no markup. The
-# first is the entry's summary.
+# Prints a header for Doxygen with the English texts in its comments as code, so Doxygen does not read them as markup.
+# The first text becomes the summary of its entry.
 sed -E '
   /^ *\/\/\/ (- [^"]*: )?"/s/"(.*)"$/`"\1"`/
   s/^( *\/\/\/) (`.*)/\1 \\brief \2/
