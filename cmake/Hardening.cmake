@@ -1,7 +1,7 @@
-# What makes a fault in the shipped programs hard to exploit: addresses that are bound at the start and read-only from
-# then on, guarded stacks, and checked copies. Each is left to the user's flags where these speak of it.
+# Makes bugs in the shipped programs hard to exploit: symbols are bound at the start and read-only afterwards, stacks
+# are guarded, and copies are checked. If the user's flags set one of these, it is left alone.
 if(WIN32)
-  return()  # MinGW's linker randomises addresses anyway; guarded stacks and checked copies would need another library
+  return()  # MinGW's linker randomises addresses by default; the other options would need another library
 endif()
 string(TOUPPER "CMAKE_CXX_FLAGS_${CMAKE_BUILD_TYPE}" flags_of_build_type)
 get_directory_property(directory_options COMPILE_OPTIONS)
@@ -13,7 +13,7 @@ set(link_flags "${CMAKE_CXX_FLAGS} ${CMAKE_SHARED_LINKER_FLAGS} ${CMAKE_EXE_LINK
 if(NOT compile_flags MATCHES "stack-protector")
   target_compile_options(zk_compile_options INTERFACE -fstack-protector-strong)
 endif()
-# Copies can be checked in optimised code only, and sanitizers check them on their own.
+# Copies can be checked only in optimised code. Sanitizers check copies themselves.
 if(NOT compile_flags MATCHES "_FORTIFY_SOURCE" AND NOT ZK_SANITIZE)
   set(optimised $<CONFIG:Release,RelWithDebInfo,MinSizeRel>)
   target_compile_options(zk_compile_options INTERFACE

@@ -1,5 +1,5 @@
-# The installation: the components runtime (what programs need), development (what building them needs) and tools. It may
-# be moved as a whole, so that nothing in it names its place.
+# Installs three components: runtime (for running programs), development (for building them) and tools. The
+# installation can be moved as a whole, so no file in it contains its path.
 include(CMakePackageConfigHelpers)
 set(package_directory ${CMAKE_INSTALL_LIBDIR}/cmake/ZKStrings)
 
@@ -19,7 +19,7 @@ write_basic_package_version_file(${PROJECT_BINARY_DIR}/ZKStringsConfigVersion.cm
 install(FILES ${PROJECT_BINARY_DIR}/ZKStringsConfig.cmake ${PROJECT_BINARY_DIR}/ZKStringsConfigVersion.cmake
   cmake/ZKStringsResources.cmake cmake/ZKStringsCatalogue.cmake DESTINATION ${package_directory} COMPONENT development)
 
-# For pkg-config, which finds the installation from its file's own place.
+# pkg-config finds the installation relative to this file.
 set(pkgconfig_directory ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig)
 file(RELATIVE_PATH prefix_above ${pkgconfig_directory} ${CMAKE_INSTALL_PREFIX})
 foreach(directory IN ITEMS LIBDIR INCLUDEDIR DATADIR)

@@ -1,12 +1,12 @@
-# The build tree has the shape of an installation, so that the module finds its resources in both by the same
-# relative path: bin/ and lib/ beside share/ZKStrings.
+# The build tree has the same layout as an installation, with bin/, lib/ and share/ZKStrings, so the module finds its
+# resources in both by the same relative path.
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib)
 set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib)
-set(CMAKE_BUILD_RPATH_USE_ORIGIN ON)  # a copy of bin/ and lib/ is whole
+set(CMAKE_BUILD_RPATH_USE_ORIGIN ON)  # a copy of bin/ and lib/ uses its own library
 
-# The resources' place at or above the directory of the module's file, and their place in the installation as it is
-# configured, seen from the library's directory.
+# The path of the resources, relative to a directory at or above that of the module's file, and their configured
+# installation path, relative to the library's directory.
 if(IS_ABSOLUTE "${CMAKE_INSTALL_DATADIR}")
   set(resources_above share/ZKStrings)
   set(resources_installed ${CMAKE_INSTALL_DATADIR}/ZKStrings)
@@ -23,5 +23,5 @@ cmake_path(GET resources_above PARENT_PATH above)
 file(MAKE_DIRECTORY ${PROJECT_BINARY_DIR}/${above} ${PROJECT_BINARY_DIR}/include)
 file(CREATE_LINK ${PROJECT_SOURCE_DIR}/resources ${PROJECT_BINARY_DIR}/${resources_above} SYMBOLIC)
 
-# All headers are included as <ZKStrings/...>, in the tree as by users.
+# All headers are included as <ZKStrings/...>, both in the tree and by users.
 file(CREATE_LINK ${PROJECT_SOURCE_DIR} ${PROJECT_BINARY_DIR}/include/ZKStrings SYMBOLIC)

@@ -1,4 +1,5 @@
-# The module: its objects, once, and the library made of them. Tests link the objects, to reach what the shared library hides.
+# The module: its object files, and the library made of them. Tests link the object files, because the shared library
+# hides most functions.
 find_package(ICU REQUIRED COMPONENTS uc data)
 find_package(nlohmann_json 3.11 REQUIRED)
 
@@ -62,9 +63,9 @@ target_include_directories(zk_objects PUBLIC ${PROJECT_BINARY_DIR}/include)
 target_link_libraries(zk_objects PRIVATE zk_compile_options ICU::uc nlohmann_json::nlohmann_json)
 set_source_files_properties(platform/system/ResourceDirectory.cpp PROPERTIES COMPILE_DEFINITIONS
   "ZK_RESOURCES_ABOVE=\"${resources_above}\";ZK_RESOURCES_INSTALLED=\"${resources_installed}\"")
-# Accessors write to no buffers, so that guarding their stacks would only make each a third longer.
+# Accessors write to no buffers, so guarding their stacks would only make each a third longer.
 set_source_files_properties(catalogue/ZKStrings.cpp PROPERTIES COMPILE_OPTIONS -fno-stack-protector)
-# Nobody replaces the module's functions from outside, so that they may be called directly and inlined.
+# Programs do not replace the module's functions, so they may be called directly and inlined.
 target_compile_options(zk_objects PRIVATE -fno-semantic-interposition)
 
 add_library(ZKStrings)
@@ -77,7 +78,7 @@ target_sources(ZKStrings PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_BINARY_DIR}
 target_compile_features(ZKStrings PUBLIC cxx_std_20)
 target_link_libraries(ZKStrings PRIVATE $<BUILD_INTERFACE:zk_compile_options> ICU::uc)
 if(NOT BUILD_SHARED_LIBS)
-  target_link_libraries(ZKStrings PRIVATE ICU::data)  # a program without shared libraries has to name it
+  target_link_libraries(ZKStrings PRIVATE ICU::data)  # needed by programs without shared libraries
 endif()
 set_target_properties(ZKStrings PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR} LINKER_LANGUAGE CXX)
 if(BUILD_SHARED_LIBS AND WIN32)
@@ -87,13 +88,13 @@ elseif(BUILD_SHARED_LIBS)
   # Hidden visibility does not reach the instances of the standard library's templates.
   target_link_options(ZKStrings PRIVATE -Wl,--version-script=${PROJECT_SOURCE_DIR}/cmake/ExportedNames.map -Wl,--no-undefined
     -Wl,-Bsymbolic-functions)
-  # What a thread keeps is freed by the library when the thread ends, however late.
+  # The library frees each thread's memory when the thread ends, so it must stay loaded.
   target_link_options(ZKStrings PRIVATE -Wl,-z,nodelete)
   set_target_properties(ZKStrings PROPERTIES LINK_DEPENDS ${PROJECT_SOURCE_DIR}/cmake/ExportedNames.map)
 endif()
 
-# A lookup crosses several files; inlined across them it is a sixth faster. A static library stays as it is, since its
-# users may have another compiler.
+# A lookup calls functions in several files, and inlining them makes it a sixth faster. A static library is not
+# optimised in this way, because its users may have another compiler.
 include(CheckIPOSupported)
 check_ipo_supported(RESULT can_inline_across_files OUTPUT reason)
 if(BUILD_SHARED_LIBS AND can_inline_across_files AND NOT ZK_SANITIZE)
@@ -102,7 +103,7 @@ if(BUILD_SHARED_LIBS AND can_inline_across_files AND NOT ZK_SANITIZE)
   target_link_options(zk_compile_options INTERFACE $<$<CXX_COMPILER_ID:GNU>:-flto-partition=one>)
 endif()
 
-# The module as tools and tests link it: with its inner names.
+# The module for tools and tests, which use its hidden functions.
 add_library(zk_module_for_development INTERFACE)
 target_sources(zk_module_for_development INTERFACE $<TARGET_OBJECTS:zk_objects>)
 target_include_directories(zk_module_for_development INTERFACE ${PROJECT_BINARY_DIR}/include)

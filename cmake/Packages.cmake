@@ -12,7 +12,7 @@ set(CPACK_DEBIAN_PACKAGE_MAINTAINER ${ZK_MAINTAINER})
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 
-# Which packages the library and the command need is read from the files themselves.
+# dpkg-shlibdeps finds the packages that the library and the command need.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(library_package libzkstrings${PROJECT_VERSION_MAJOR})
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME ${library_package})
@@ -33,7 +33,7 @@ set(CPACK_COMPONENT_RUNTIME_DESCRIPTION "${what_it_is}\n.\nThis package has the 
 set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION "${what_it_is}\n.\nThis package has what building programs with it needs.")
 set(CPACK_COMPONENT_TOOLS_DESCRIPTION "${what_it_is}\n.\nThis package has the command that adds texts and checks translations.")
 
-# What every Debian package has: its copyright and its history.
+# Every Debian package has a copyright file and a changelog.
 string(TIMESTAMP date "%a, %d %b %Y %H:%M:%S +0000" UTC)
 configure_file(cmake/debian/changelog.in ${PROJECT_BINARY_DIR}/changelog @ONLY)
 execute_process(COMMAND gzip --best --no-name --force ${PROJECT_BINARY_DIR}/changelog COMMAND_ERROR_IS_FATAL ANY)

@@ -1,4 +1,4 @@
-# What find_package gives an app, for one that builds the module as a part of itself.
+# Defines for a project that includes this one what find_package defines.
 set_property(GLOBAL PROPERTY ZKSTRINGS_RESOURCES ${PROJECT_SOURCE_DIR}/resources)
 set_property(GLOBAL PROPERTY ZKSTRINGS_RESOURCES_PLACE ${resources_above})
 include(cmake/ZKStringsResources.cmake)

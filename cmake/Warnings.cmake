@@ -1,7 +1,7 @@
-# How all targets of this project are compiled.
+# Sets the options with which all targets of this project are compiled.
 add_library(zk_compile_options INTERFACE)
 target_compile_features(zk_compile_options INTERFACE cxx_std_20)
-# Where files are otherwise refused whose number or size is too large for 32 bits.
+# On 32-bit systems, support files whose number or size does not fit into 32 bits.
 if(CMAKE_SIZEOF_VOID_P EQUAL 4)
   target_compile_definitions(zk_compile_options INTERFACE _FILE_OFFSET_BITS=64)
 endif()
@@ -13,7 +13,7 @@ if(ZK_WERROR)
   target_compile_options(zk_compile_options INTERFACE -Werror)
 endif()
 if(ZK_SANITIZE)
-  # What sanitizers insert makes GCC see uninitialised members where there are none.
+  # Code that sanitizers insert makes GCC report uninitialised members wrongly.
   target_compile_options(zk_compile_options INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
   target_compile_options(zk_compile_options INTERFACE -fsanitize=${ZK_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
   target_link_options(zk_compile_options INTERFACE -fsanitize=${ZK_SANITIZE})

@@ -2,7 +2,7 @@
 #
 # Adds the static library <target> with the accessors of the catalogue in <folder>, which `zkstrings init` creates. A program
 # that links it includes "<name>.h". <name> and <namespace> are those in catalogue/catalogue.json; if they are
-# given here as well, they must be the same. Each catalogue of a project needs a name of its own.
+# given here as well, they must be the same. Each catalogue of a project needs a different name.
 #
 # The accessors are regenerated whenever the catalogue or its English table changes; an error in them fails the build, with
 # file, line and column. They find their tables in share/<project>-<name>, in the directory of the program or shared

@@ -1,10 +1,11 @@
 # zkstrings_add_resources(<target> [DESTINATION <directory>])
 #
-# Gives the executable <target> the module's resources. A program that links ZKStrings statically needs them: the module
+# Adds the module's resources to the executable <target>. A program that links ZKStrings statically needs them: the module
 # looks for share/ZKStrings at or above the program's own directory, two levels up at most.
 #
-# In the build folder they are linked beside the program, so that it runs from there. An installation gets a copy: at its
-# root, for a program in bin/, or in DESTINATION, which is best the directory that the program itself is installed in.
+# In the build folder, the resources are linked next to the program, so it runs there. An installation copies them to
+# its root, for a program in bin/, or to DESTINATION, which should be the directory that the program itself is
+# installed in.
 function(zkstrings_add_resources target)
   cmake_parse_arguments(PARSE_ARGV 1 arg "" "DESTINATION" "")
   if(arg_UNPARSED_ARGUMENTS OR arg_KEYWORDS_MISSING_VALUES)

@@ -1,4 +1,4 @@
-# What the commands ./run, ./test and ./bench share; sourced by them in the project's folder.
+# Functions that the commands in the project's folder share. They source this file there.
 # shellcheck shell=bash
 
 # Prints the comment at the top of the command as its help.
@@ -6,15 +6,15 @@ show_help() {
   sed -n '2,/^[^#]/{s/^# \{0,1\}//p;}' "$1"
 }
 
-# Ends the command with a message and the status of a wrong use.
+# Prints a message about wrong usage and exits with status 2.
 refuse() {
   echo "$1" >&2
   echo "Try: $2 --help" >&2
   exit 2
 }
 
-# Runs a command with its output in a log. If it fails, ends this command with the last lines of the log that match a
-# pattern. On a terminal one line shows the progress.
+# Runs a command and writes its output to a log. If it fails, prints the last lines of the log that match a pattern
+# and exits. On a terminal, shows the progress in one line.
 #   quietly "Building" build/run.log COMMAND [ARGUMENT...]
 #   quietly_matching PATTERN "Building" build/run.log COMMAND [ARGUMENT...]
 quietly() {
@@ -58,17 +58,17 @@ show_progress() {
   done
 }
 
-# Installs what the command needs, and keeps other commands out.
+# Installs the packages that the command needs, and takes the lock of this checkout.
 #   begin PACKAGE...
 begin() {
   mkdir -p build 2>/dev/null || true
   need_writable build/.lock
   need_packages "$@"
   need_cmake
-  keep_others_out
+  take_lock
 }
 
-# Ends the command with an explanation if it cannot write the file.
+# Exits with an explanation if the file cannot be written.
 need_writable() {
   { : >>"$1"; } 2>/dev/null && return
   echo "Cannot write $PWD/$1. If another user has built here, remove the folder build; otherwise copy the project to a" \
@@ -76,7 +76,7 @@ need_writable() {
   exit 1
 }
 
-# Ends the command if CMake, installed or about to be, is too old.
+# Exits if CMake is too old, whether it is installed or about to be installed.
 need_cmake() {
   local needed version
   needed=$(sed -n 's/^cmake_minimum_required(VERSION \(.*\))$/\1/p' CMakeLists.txt)
@@ -86,20 +86,20 @@ need_cmake() {
   exit 1
 }
 
-# Waits until no other command of this checkout is running, and keeps others out until the command ends or calls
-# let_others_in.
-keep_others_out() {
+# Waits until no other command is running in this checkout. Keeps the lock until the command ends or calls
+# release_lock.
+take_lock() {
   exec {lock}>build/.lock
   flock --nonblock "$lock" && return
-  echo "Another command is at work in this folder; waiting for it." >&2
+  echo "Another command is running in this folder; waiting for it to end." >&2
   flock "$lock"
 }
 
-let_others_in() {
+release_lock() {
   exec {lock}>&-
 }
 
-# Installs the Debian packages among the arguments that are not there yet, or says which ones to ask for.
+# Installs the given Debian packages that are missing. If it cannot, prints the command that installs them and exits.
 need_packages() {
   command -v dpkg-query >/dev/null || return 0
   local package missing=()
@@ -112,7 +112,7 @@ need_packages() {
   local as_root=()
   if [ "$(id -u)" -ne 0 ]; then
     if ! command -v sudo >/dev/null || { ! [ -t 0 ] && ! sudo -n true 2>/dev/null; }; then
-      echo "Packages are missing; ask for: apt-get install ${missing[*]}" >&2
+      echo "Packages are missing; install them with: apt-get install ${missing[*]}" >&2
       exit 1
     fi
     echo "Packages are missing; sudo may ask for your password to install them: ${missing[*]}" >&2
@@ -127,7 +127,7 @@ need_packages() {
   quietly_matching '^E: [^F]' "Installing packages" build/packages.log "${apt[@]}" install -y --no-install-recommends "${missing[@]}"
 }
 
-# Fetches the npm packages that a package.json names into a folder, unless they are there.
+# Installs the npm packages of a package.json into a folder, unless they are installed there.
 #   fetch_from_npm "Fetching the browser's driver" PACKAGE_JSON FOLDER
 fetch_from_npm() {
   cmp -s "$2" "$3/installed.json" && return
@@ -137,25 +137,26 @@ fetch_from_npm() {
   cp "$2" "$3/installed.json"
 }
 
-# Configures and builds a preset, in a build folder that belongs to this folder and no other.
+# Configures and builds a preset in build/PRESET.
 #   build_preset PRESET [CMAKE_OPTION...]
 build_preset() {
   local preset=$1 folder=build/$1
   shift
-  remove_stranger "$folder"
+  remove_moved_build "$folder"
   quietly "Configuring $preset" "build/$preset.log" cmake --preset "$preset" "$@"
   quietly "Building $preset" "build/$preset.log" cmake --build --preset "$preset"
 }
 
-# A build folder that was copied or moved with its checkout still builds, and runs, what lies in the old place.
-#   remove_stranger FOLDER [SOURCES]
-remove_stranger() {
+# Removes a build folder that was configured for another place. If a checkout is copied or moved, its build folders
+# still use the files in the old place.
+#   remove_moved_build FOLDER [SOURCES]
+remove_moved_build() {
   local cache=$1/CMakeCache.txt home
   [ -f "$cache" ] || return 0
   home=$(sed -n 's/^CMAKE_HOME_DIRECTORY:INTERNAL=//p' "$cache")
   if [ "$home" = "${2:-$PWD}" ] && [ "$(sed -n 's/^CMAKE_CACHEFILE_DIR:INTERNAL=//p' "$cache")" = "$PWD/$1" ]; then
     return
   fi
-  echo "$1 was made for another folder ($home); making it anew." >&2
+  echo "$1 was configured for another folder ($home); building it again." >&2
   rm -rf "$1"
 }

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# Shows by the system's own record which files the module asks for: none before its first use, none of its resources for
-# the app's bundle, its directory once when threads race for it, and none beside its resources whatever name is given.
+# Traces the system calls of the module, and checks which files it asks for: none before its first use, none of its
+# resources for the app's bundle, its directory only once even if threads race for it, and none outside its resources,
+# whatever name is given.
 #   traced_files.sh PROGRAM RESOURCES
 set -euo pipefail
 program=$1 resources=$2
@@ -35,9 +36,9 @@ opened=$(grep -c "openat([^\"]*\"$resources\".*O_DIRECTORY" "$trace" || true)
 [ "$opened" -eq 1 ] || fail "The resources were listed" "$opened times"
 
 inherited=$(grep -F "\"$resources" "$trace" | grep 'open\(at\)\?(' | grep -v O_CLOEXEC || true)
-[ -z "$inherited" ] || fail "Opened so that the programs that an app starts have it too" "$inherited"
+[ -z "$inherited" ] || fail "Opened without O_CLOEXEC" "$inherited"
 
-[ "$(paths names | wc -l)" -ge 20 ] || fail "The trace holds too little" "$(paths names)"
+[ "$(paths names | wc -l)" -ge 20 ] || fail "The trace is incomplete" "$(paths names)"
 outside=$(paths names | grep -v "^$resources/[^/]*\(/[^/]*\)\?$" || true)
 outside+=$(paths names | grep -e '/\.\.\?\(/\|$\)' || true)
 [ -z "$outside" ] || fail "Asked for outside of $resources" "$(sort <<<"$outside" | uniq -c | head -n 20)"

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Lets each fuzzer of a build folder invent inputs for some seconds, from the seeds and what earlier runs have collected
-# in corpus/ there. Ends with status 1 when one has found something; findings/ has the input then.
+# Runs each fuzzer of a build folder for some seconds, with the seeds and the inputs that earlier runs have collected
+# in corpus/ there. Exits with status 1 if a fuzzer has found a bug. The input is then in findings/.
 #   run.sh BUILD_FOLDER SECONDS
 set -euo pipefail
 
@@ -8,9 +8,9 @@ build=$1 seconds=$2
 tests=$(dirname "${BASH_SOURCE[0]}")
 findings=$build/findings
 status=0
-# In CI a change is to be judged, and not the luck of a draw.
+# A fixed seed in CI, so the result depends only on the change.
 [ -n "${CI:-}" ] && seed=1 || seed=0
-# In memory, if it can be: nearly every input is a file.
+# Temporary files are in memory if possible, because nearly every input is a file.
 memory=/dev/shm
 [ -w "$memory" ] || memory=${TMPDIR:-/tmp}
 TMPDIR=$(mktemp -d "$memory/zkstrings-fuzz-XXXXXX")
@@ -18,7 +18,7 @@ export TMPDIR
 trap 'rm -rf "$TMPDIR"' EXIT
 trap 'exit 1' INT TERM
 
-# Inputs are up to 16 KB long, from short ones on.
+# Inputs start short and grow up to 16 KB.
 fuzz() {
   local corpus=$build/corpus/$1
   mkdir -p "$corpus"
@@ -31,11 +31,11 @@ mkdir -p "$findings"
 for fuzzer in "$build"/bin/fuzz_*; do
   subject=${fuzzer##*/fuzz_}
   if fuzz "$subject"; then
-    echo "$subject: $(sed -n 's/^stat::number_of_executed_units: *//p' "$build/$subject.log") inputs, nothing found"
+    echo "$subject: $(sed -n 's/^stat::number_of_executed_units: *//p' "$build/$subject.log") inputs, no bug found"
   else
     status=1
     grep -E '^fuzzer: |^SUMMARY: |^==[0-9]+== ERROR|Test unit written to' "$build/$subject.log" || tail -n 20 "$build/$subject.log"
-    echo "$subject: found something; $build/$subject.log tells more, and $fuzzer FILE tries a file again"
+    echo "$subject: found a bug; see $build/$subject.log, and run $fuzzer FILE to repeat it"
   fi
 done
 exit "$status"

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Prints how compilers call a machine, or fails for one that is not known.
+# Prints the compilers' name of a machine. Fails if the machine is not known.
 case "${1:-}" in
   arm64) echo aarch64-linux-gnu ;;
   armhf) echo arm-linux-gnueabihf ;;

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Unpacks another machine's libraries from Debian, for compilers and emulators of this one; installs nothing.
+# Unpacks Debian's libraries for another machine into a folder. Installs nothing on this machine.
 #   make_root.sh ARCH FOLDER PACKAGE...
 # They are of this machine's release, or of trixie, the first with riscv64. A source package, as in src:icu, is
 # unpacked to usr/src without Debian's changes.
@@ -27,7 +27,7 @@ for package in "$@"; do
 done
 echo "deb $mirror $release main" >"$work/sources.list"
 [ ${#sources[@]} -eq 0 ] || echo "deb-src $mirror $release main" >>"$work/sources.list"
-# An apt of its own, for which nothing is installed yet.
+# A separate apt configuration, in which no package is installed.
 options=(-q -o "APT::Architecture=$arch" -o "APT::Architectures::=$arch" -o APT::Install-Recommends=false
   -o "Dir::State::Lists=$work/lists" -o "Dir::State::status=$work/status" -o "Dir::Cache=$work"
   -o "Dir::Cache::archives=$work/archives" -o "Dir::Etc::SourceList=$work/sources.list" -o Dir::Etc::SourceParts=-
@@ -37,7 +37,7 @@ apt-get "${options[@]}" update
 apt-get "${options[@]}" --yes --download-only install "${binaries[@]}"
 for package in "$work"/archives/*.deb; do
   case $package in
-    # The compiler brings the headers of its own C library, which may be another version.
+    # The compiler has its own headers of the C library, which may be of another version.
     */libc6-dev_* | */linux-libc-dev_*) dpkg --fsys-tarfile "$package" | tar -x -C "$root" --exclude=./usr/include ;;
     *) dpkg -x "$package" "$root" ;;
   esac

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Compiles the module's tests for another machine, the C library musl or Windows, and runs them as it would, in
-# build/machines/ARCH.
+# Compiles the module's tests for another machine, the C library musl or Windows, in build/machines/ARCH, and runs them
+# in an emulator.
 #   test.sh ARCH [GTEST_ARGUMENT...]
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/../.."
@@ -20,7 +20,7 @@ examples=OFF
 targets=(zk_module_tests)
 packages=(nlohmann-json3-dev libcli11-dev libfmt-dev libpugixml-dev)
 case $arch in
-  # Debian has none of its libraries for musl, but their headers and sources.
+  # Debian has no libraries for musl, so ICU is built from its source.
   musl) architecture=amd64; packages+=(src:icu) ;;
   windows)
     architecture=amd64 examples=ON targets+=(ZKStrings tour)
@@ -34,7 +34,7 @@ toolchain=(-DCMAKE_TOOLCHAIN_FILE="$PWD/tests/machines/toolchain.cmake" -DZK_TAR
 
 build_libraries() {
   local libraries=tests/machines/libraries build=build/machines/$arch.libraries
-  remove_stranger "$build" "$PWD/$libraries"
+  remove_moved_build "$build" "$PWD/$libraries"
   cmake -G Ninja -S "$libraries" -B "$build" -DCMAKE_BUILD_TYPE=Release "${toolchain[@]}" &&
     cmake --build "$build" && cmake --install "$build" --prefix "$root/usr"
 }
@@ -47,7 +47,7 @@ fi
 if [ "$arch" = musl ] || [ "$arch" = windows ]; then
   quietly "Building libraries for $arch" "$log" build_libraries
 fi
-remove_stranger "$folder"
+remove_moved_build "$folder"
 quietly "Configuring for $arch" "$log" cmake -G Ninja -B "$folder" -DCMAKE_BUILD_TYPE=Debug \
   -DCMAKE_CXX_FLAGS_DEBUG=-O1 "${toolchain[@]}" -DZK_WERROR=ON -DZK_EXAMPLES="$examples" -DZK_BUILD_GTEST="$build_gtest"
 quietly "Building for $arch" "$log" cmake --build "$folder" --target "${targets[@]}"
@@ -56,6 +56,6 @@ tests=$folder/bin/zk_module_tests
 case $arch in
   i386 | musl) "$tests" --gtest_brief=1 "$@" ;;
   windows) tests/machines/test_windows.sh "$folder" "$@" ;;
-  # When a process ends, the emulator prints messages too, and it cannot start the test again.
+  # Death tests fail in the emulator: it prints messages of its own and cannot run the test again.
   *) "qemu-${target%%-*}" -L "$root" "$tests" --gtest_brief=1 --gtest_filter='-*DeathTest*' "$@" ;;
 esac

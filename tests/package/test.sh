@@ -89,7 +89,7 @@ expect "files that are called like the resources" "$text" loaded_from "$work/lin
 rm "$work/links/share/ZKStrings"
 cp -r "$moved/share/ZKStrings" "$work/links/share"
 echo "[]" >"$work/links/share/ZKStrings/countries.json"
-expect "a link beside resources of its own" "Über uns, 0 countries" loaded_from "$work/links/lib"
+expect "a link with other resources next to it" "Über uns, 0 countries" loaded_from "$work/links/lib"
 
 # Loaded by a relative path, and asked for the first text after the working directory has changed.
 relative() { cd "$moved" && loaded_from "$lib" /; }

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Looks over the sources without running them: their layout, the scripts, and what clang-tidy and cppcheck find. Needs the compile
+# Checks the sources with clang-format, shellcheck, cppcheck and clang-tidy. Needs the compile
 # commands and the generated sources of a build folder.
 #   test.sh BUILD_FOLDER
 set -euo pipefail
@@ -12,7 +12,7 @@ git ls-files '*.cpp' '*.h' | grep -v '^catalogue/ZKStrings\.' | xargs clang-form
 echo "Scripts"
 git ls-files -z '*.sh' run test bench package reference .ci/run .ci/release | xargs -0 shellcheck
 
-# Not the accessors, nor what includes them: it takes the emoji in their names for a broken file.
+# Without the accessors and the files that include them: cppcheck does not accept the emoji in their names.
 echo "cppcheck"
 cppcheck --quiet --std=c++20 --language=c++ -j "$(nproc)" --enable=warning,performance,portability \
   --suppressions-list=tests/static/cppcheck.txt --error-exitcode=1 \

@@ -7,7 +7,7 @@ set -euo pipefail
 own=$(. /etc/os-release && echo "${VERSION_CODENAME:-}")
 address=${ZK_MIRROR:-$(apt-get indextargets --format '$(RELEASE) $(SITE)' 'Created-By: Packages' |
   awk -v own="$own" '$1 == own {print $2; exit}')}
-[ -n "$address" ] || { echo "apt knows no archive of this machine's release \"$own\"; set ZK_MIRROR" >&2; exit 1; }
+[ -n "$address" ] || { echo "apt has no archive of this machine's release \"$own\"; set ZK_MIRROR" >&2; exit 1; }
 [ -z "${ZK_MIRROR:-}" ] || { echo "$address"; exit; }
 case $1 in
   noble) echo "${address%/*}/ubuntu" ;;

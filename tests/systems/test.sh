@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Tries the commands of the README in a bare system of another release, as root and as an ordinary user, and a program that
-# uses the Debian packages made there. The bare system is made once, in build/systems/RELEASE; each run starts from a copy
-# of it and of what is committed. Needs root, debootstrap and the network.
+# Runs the README's commands in a bare system of another release, as root and as an ordinary user. Then builds a
+# program with the Debian packages that were made there. The bare system is created once, in build/systems/RELEASE.
+# Each run uses a copy of it and of the committed files. Needs root, debootstrap and the network.
 #   test.sh RELEASE
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/../.."
@@ -20,7 +20,7 @@ make_bare_system() {
     { tail -n 5 "$log" >&2; fail "debootstrap cannot make it from $mirror; set ZK_MIRROR to an archive that has it"; }
   echo "deb $mirror $release $components" >"$bare.new/etc/apt/sources.list"
   cp /etc/hosts "$bare.new/etc"
-  # A machine that reads from an archive of the past does not ask how old it is.
+  # If this machine accepts an outdated archive, so does the bare system.
   apt-config dump Acquire::Check-Valid-Until >"$bare.new/etc/apt/apt.conf.d/90valid"
   mv "$bare.new" "$bare"
 }
@@ -30,7 +30,7 @@ copy_bare_system() {
   cp -a "$bare" "$root"
 }
 
-# Runs a command in the copy, with what a container has mounted.
+# Runs a command in the copy, with the file systems that a container mounts.
 #   inside USER FOLDER COMMAND...
 inside() {
   unshare --mount --pid --fork --kill-child bash -ec '

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Kills commands at each file that they put in place. Then no file may be empty, and the same command, run again, must
-# leave the project as if it had never been killed. Ends with status 77 where programs may not be traced.
+# Kills each command before each rename of a file. After that, no file may be empty, and running the command again
+# must have the same result as if it had not been killed. Exits with status 77 if programs may not be traced.
 #   killed.sh COMMAND PROJECT
 set -euo pipefail
 command=$1 project=$2

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Checks the manual page as man shows it, and completes command lines in bash and in zsh as a user does. Ends with status
-# 77 if one of these programs is missing.
+# Checks the manual page as man shows it, and the completion of command lines in bash and zsh. Exits with status 77 if
+# one of these programs is missing.
 #   reference.sh COMMAND MANUAL SOURCE_DIRECTORY
 set -euo pipefail
 command=$1 manual=$2 source=$3
