@@ -93,11 +93,16 @@ class CSVReader {
     Translations translations{*language, {}};
     while (at_ < text_.size()) {
       const Position at = positions.at(at_);
-      const Row row = takeRow();
+      Row row = takeRow();
+      while (!row.empty() && row.back().empty()) row.pop_back();
+      if (row.empty()) continue;
+      if (row.size() > titles_.size()) {
+        fail(file_, at,
+             fmt::format("the line has more cells than the first line; put a text with \"{}\" in quotes",
+                         separator_));
+      }
       // Rows may be shorter than the row of titles.
       const auto cellOf = [&](std::size_t column) { return column < row.size() ? row[column] : ""; };
-      const auto isEmpty = [](const std::string& text) { return text.empty(); };
-      if (std::all_of(row.begin(), row.end(), isEmpty)) continue;
       translations.units.push_back(
           {cellOf(key), cellOf(english), cellOf(target), stateFrom(cellOf(state)), cellOf(notes), "", at});
     }
