@@ -176,9 +176,8 @@ std::optional<Escape> escapeAt(std::string_view text) {
   if (unit.digits == 0) return std::nullopt;
   if (isLead(unit.value) && text.substr(5, 2) == "\\U") {
     const Number trail = numberAt(text.substr(7), 16, 4);
-    if (trail.digits == 4 && isTrail(trail.value)) {
+    if (isTrail(trail.value))
       return Escape{0x10000 + ((unit.value - 0xD800) << 10) + (trail.value - 0xDC00), 11};
-    }
   }
   return Escape{isLead(unit.value) || isTrail(unit.value) ? U'\uFFFD' : unit.value, 1 + unit.digits};
 }

@@ -52,6 +52,7 @@ TEST(StringTable, ResolvesEscapes) {
       {R"(\Ud83c\Udf8 \Ud83c\U9)", "\uFFFD\u0DF8 \uFFFD\t"},
       {R"(\Ud7ff\Udc00\Udbff\Udfff)", "\uD7FF\uFFFD\U0010FFFF"},
       {R"(\q\Ug\é\U)", "qUgéU"},
+      {R"(\777\8\U00FC)", "ÿ8ü"},
   };
   const TemporaryDirectory directory;
   for (const auto& [spelled, text] : cases)

@@ -1,3 +1,4 @@
+#include <ZKStrings/tests/Rows.h>
 #include <ZKStrings/tests/TemporaryDirectory.h>
 #include <ZKStrings/tools/exchange/ExchangeFormat.h>
 #include <ZKStrings/tools/exchange/Export.h>
@@ -43,33 +44,8 @@ void expectSame(const Translations& sent, const Translations& back, const std::s
 }
 
 TEST(ExchangeFormat, ReadsWhatItWrites) {
-  constexpr const char* kTexts[] = {
-      "Info",
-      "  two blanks at both ends  ",
-      "one\nline\n\nand more\n",
-      "\ttab",
-      "\"quoted\", 'too' \\n \\ & < > &amp; <i>",
-      "%{a}%{b} <b>x</b> *y*",
-      "</b>%{a}*",
-      "=1+1",
-      "+49",
-      "@zk",
-      "-",
-      "'=1",
-      "''@",
-      "'tis",
-      "＝１",
-      "a,b;c\td",
-      "msgid \"x\"",
-      "ü 日本語 עברית 🎉 e\u0301 \u200E+1",
-      "]]> <!-- -->",
-      "\"\u0301 &\u0301 <\u0301 \\\u0301",
-      "one\n=1+1\n'-2;+3;\t@4",
-      "'\n=1",
-      "\"+1\"\n\"'\"-",
-  };
   Translations sent{"de", {}};
-  for (const char* const text : kTexts) {
+  for (const auto& [text] : zk::testing::rowsOf<std::string>("tools/exchange/ExchangeFormatTest.json")) {
     const std::string key = fmt::format("key {}, \"x\" & <ü>", sent.units.size());
     const std::string english = fmt::format("English of {}", text);
     sent.units.push_back({key, english, text, TranslationState::translated, "A \"note\"\nand -- a line."});

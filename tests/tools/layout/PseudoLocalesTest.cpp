@@ -1,3 +1,4 @@
+#include <ZKStrings/tests/Rows.h>
 #include <ZKStrings/tests/TemporaryDirectory.h>
 #include <ZKStrings/tools/check/Checker.h>
 #include <ZKStrings/tools/layout/PseudoLocales.h>
@@ -20,41 +21,15 @@ using zk::testing::TemporaryDirectory;
 
 namespace fs = std::filesystem;
 
-std::string accented(const std::string& text, std::string_view suffix = "") {
-  const Entry entry{"key", text, !suffix.empty()};
-  return accentedText({"key", &entry, suffix, text, nullptr});
-}
-
-std::string mirrored(const std::string& text, std::string_view suffix = "") {
-  const Entry entry{"key", text, !suffix.empty()};
-  return mirroredText({"key", &entry, suffix, text, nullptr});
-}
-
-TEST(PseudoLocales, AccentAndLengthenLettersOnly) {
-  struct Case {
-    const char* english;
-    const char* accented;
-  };
-  constexpr Case kCases[] = {
-      {"About", "⟦ÅÅƀööûţţ⟧"},
-      {"Kick %{username}?", "⟦ĶĶîççķ %{username}?⟧"},
-      {"<b>Rules</b>", "⟦<b>ŔŔûļļéšš</b>⟧"},
-      {"*Be quick!*\nBuy two.", "⟦*ƁƁé ǫǫûîîçķķ!*\nƁûûý ţţŵöö.⟧"},
-      {"Download on ", "⟦ĐĐöŵŵñļļöååđ ööñ⟧ "},
-      {"TV", "⟦ŢŢṼ⟧"},
-      {"1:1", "⟦1:1⟧"},
-      {"%{a}/%{b}", "⟦%{a}/%{b}⟧"},
-      {" ", " ⟦⟧"},
-  };
-  for (const auto& [english, expected] : kCases) EXPECT_EQ(accented(english), expected) << english;
-  EXPECT_EQ(accented("%{n} Coins", "_few"), "⟦%{n} ÇÇöîîñšš ·few⟧");
-}
-
-TEST(PseudoLocales, ReverseEachWord) {
-  EXPECT_EQ(mirrored("Kick %{username}"), "\u200F\u202EKick\u202C %{username}\u200F");
-  EXPECT_EQ(mirrored("<b>A</b>  b\nc "),
-            "\u200F<b>\u202EA\u202C</b>  \u202Eb\u202C\u200F\n\u200F\u202Ec\u202C\u200F ");
-  EXPECT_EQ(mirrored("%{n} Coins", "_one"), "\u200F%{n} \u202ECoins\u202C \u202E·one\u202C\u200F");
+TEST(PseudoLocales, ChangeLettersOnly) {
+  using Text = std::string;
+  for (const auto& [text, suffix, accented, mirrored] :
+       zk::testing::rowsOf<Text, Text, Text, Text>("tools/layout/PseudoLocalesTest.json")) {
+    const Entry entry{"key", text, !suffix.empty()};
+    const EnglishText english{"key", &entry, suffix, text, nullptr};
+    EXPECT_EQ(accentedText(english), accented);
+    EXPECT_EQ(mirroredText(english), mirrored);
+  }
 }
 
 /// The project's resources and the pseudo-locales, as an app sees them.
