@@ -111,20 +111,6 @@ std::vector<FileChange> accessorFiles(const CatalogueName& name, const Catalogue
   return {{name.headerFile(), std::move(accessors.header)}, {name.sourceFile(), std::move(accessors.source)}};
 }
 
-/// Whether the project at `root` keeps its accessors with the catalogue: the module does; another may leave them to
-/// its build.
-bool keepsAccessors(const std::string& root, const CatalogueName& name) {
-  std::error_code failure;
-  return name.isModule() || std::filesystem::exists(std::filesystem::path(root) / name.headerFile(), failure);
-}
-
-/// The catalogue as its file holds it. Throws `CommandFailed` if it breaks a rule.
-std::string checkedJson(const Catalogue& catalogue) {
-  std::string json = catalogue.toJson();
-  static_cast<void>(Catalogue::parse(json, Catalogue::kFile));
-  return json;
-}
-
 }  // namespace
 
 Catalogue readToChange(const std::string& root) {
@@ -134,7 +120,8 @@ Catalogue readToChange(const std::string& root) {
 }
 
 std::size_t writeCatalogue(const std::string& root, const Catalogue& catalogue, const TableChange& change) {
-  std::string json = checkedJson(catalogue);
+  std::string json = catalogue.toJson();
+  static_cast<void>(Catalogue::parse(json, Catalogue::kFile));  // throws if it breaks a rule
   TableEditor base = changed(root, std::string(kBase), change);
   const EnglishTexts english(catalogue, base.table());
   std::vector<FileChange> files;
@@ -156,7 +143,11 @@ std::size_t writeCatalogue(const std::string& root, const Catalogue& catalogue, 
   const std::string baseBytes = syncedBase(base, english);
   files.push_back({tablePath(kBase), baseBytes});
   const CatalogueName name = CatalogueSettings::read(root).name;
-  if (change.generates || keepsAccessors(root, name)) {
+  std::error_code failure;
+  // Another catalogue than the module's may leave its accessors to the build.
+  const bool keepsAccessors =
+      name.isModule() || std::filesystem::exists(std::filesystem::path(root) / name.headerFile(), failure);
+  if (change.generates || keepsAccessors) {
     auto accessors = accessorFiles(name, catalogue, Table::parse(baseBytes, tablePath(kBase)));
     std::move(accessors.begin(), accessors.end(), std::back_inserter(files));
   }

@@ -32,7 +32,9 @@ constexpr std::size_t kFormForOne = 1;
   throw std::invalid_argument(reason);
 }
 
-void refuseErrorIn(const Entry& entry) {
+/// Completes `entry` after a change of its text or key, and refuses what cannot be right.
+void finish(Entry& entry) {
+  keepKeyIfNeeded(entry);
   if (const std::string error = Catalogue::errorIn(entry); !error.empty()) refuse(error);
 }
 
@@ -54,12 +56,8 @@ void refuseForeignPlaceholders(const std::string& text) {
       foreign));
 }
 
-bool isAnyGiven(const PluralForms& forms) {
-  return std::any_of(forms.begin(), forms.end(), [](const auto& form) { return form.has_value(); });
-}
-
 void refuseWrongTexts(const std::string& text, bool isCounted, const PluralForms& forms, bool isPlain) {
-  if (!isCounted && isAnyGiven(forms))
+  if (!isCounted && forms != PluralForms{})
     refuse("a text without a count has no plural forms; leave them out, or give it a count with --count");
   refuseWrongBytes(text);
   if (!isPlain) refuseForeignPlaceholders(text);
@@ -155,18 +153,16 @@ std::string keyOf(const std::string& text) {
   return key;
 }
 
-std::string addEntry(const std::string& root, const NewEntry& added) {
+std::string addEntry(const std::string& root, const Entry& added, bool isPlain) {
   Catalogue catalogue = readToChange(root);
-  refuseWrongTexts(added.text, added.plural, added.forms, added.isPlain);
-  Entry entry{added.key.empty() ? keyForText(added.text) : added.key, added.text, added.plural};
-  entry.comment = added.comment;
-  entry.max = added.max;
+  refuseWrongTexts(added.text, added.plural, added.forms, isPlain);
+  Entry entry = added;
+  if (entry.key.empty()) entry.key = keyForText(entry.text);
   if (entry.text.empty()) refuse("the text is empty; give one");
   if (entry.key.empty()) refuse("the text has no letter or digit to make a key of; give it one with --key");
   refuseWrongKey(entry.key);
   if (entry.plural) setForms(entry, added.forms);
-  keepKeyIfNeeded(entry);
-  refuseErrorIn(entry);
+  finish(entry);
   for (const Entry& present : catalogue.entries()) {
     if (present.key == entry.key && (present.plural == entry.plural || present.text != entry.text))
       refuse(fmt::format("the key \"{}\" is that of the text \"{}\"; give the new text another with --key",
@@ -193,8 +189,7 @@ std::size_t changeEntry(const std::string& root, const std::string& key, const E
     if (change.plural) addCount(*entry, change.forms, tables);
     entry->comment = change.comment.value_or(entry->comment);
     entry->max = change.max.value_or(entry->max);
-    keepKeyIfNeeded(*entry);
-    refuseErrorIn(*entry);
+    finish(*entry);
   }
   return writeCatalogue(root, catalogue, tables);
 }
@@ -213,8 +208,7 @@ void renameEntry(const std::string& root, const std::string& key, const std::str
   for (Entry* const entry : entries) {
     tables.renamed.merge(renamedKeys(*entry, newKey));
     entry->key = newKey;
-    keepKeyIfNeeded(*entry);
-    refuseErrorIn(*entry);
+    finish(*entry);
   }
   catalogue.sort();
   writeCatalogue(root, catalogue, tables);

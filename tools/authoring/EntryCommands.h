@@ -8,18 +8,6 @@
 
 namespace zk::tools {
 
-/// A text to be added.
-struct NewEntry {
-  std::string text = {};  ///< the English default
-  bool plural = false;
-  /// With a count: the form for one at least; others that are not given are the text itself.
-  PluralForms forms = {};
-  std::string key = {};  ///< empty for the key that the text gets
-  std::string comment = {};
-  std::size_t max = 0;
-  bool isPlain = false;  ///< whether placeholders of other systems, as in "%s", are meant as text
-};
-
 /// What to change about a text. What is not given stays.
 struct EntryChange {
   std::optional<std::string> text = {};
@@ -29,7 +17,7 @@ struct EntryChange {
   std::optional<std::size_t> max = {};
   std::string placeholder = {};  ///< "value=player" renames "%{value}"
   bool keepsMeaning = false;     ///< whether translations are still right
-  bool isPlain = false;
+  bool isPlain = false;          ///< as in `addEntry`
 };
 
 /// Returns the key that `text` gets. Throws `std::invalid_argument`, with what is wrong, if it gets none.
@@ -38,8 +26,10 @@ std::string keyOf(const std::string& text);
 // All these change all files that hold the text, or none. They throw `CommandFailed` if a file is wrong or cannot be
 // written, and `std::invalid_argument`, with what is wrong and what to do, if the text or the key cannot be taken.
 
-/// Adds the text to the project at `root`: to the catalogue, to the English table, and to the accessors. Returns its key.
-std::string addEntry(const std::string& root, const NewEntry& added);
+/// Adds the text to the project at `root`: to the catalogue, to the English table, and to the accessors. Returns its
+/// key: that of `added`, or the one that the text gets. Of a counted text, `added` has the form for one at least; the
+/// others may be the text itself. With `isPlain`, placeholders of other systems, as in "%s", are taken as text.
+std::string addEntry(const std::string& root, const Entry& added, bool isPlain);
 
 /// Changes the text of `key`. A plural form that was the old text becomes the new one. Translations of what has changed
 /// are marked for review, unless the meaning is the same; returns their number. If a text gets a count, its translations

@@ -2,6 +2,7 @@
 #include <ZKStrings/tools/authoring/Initialisation.h>
 #include <ZKStrings/tools/project/Catalogue.h>
 #include <ZKStrings/tools/project/Table.h>
+#include <ZKStrings/tools/support/Characters.h>
 #include <ZKStrings/tools/support/Files.h>
 #include <ZKStrings/tools/support/Languages.h>
 
@@ -47,17 +48,10 @@ The texts of the program. `catalogue/entries.json` has the English texts; `resou
 In CMake, `zk_add_catalogue(TARGET {target} ROOT <this folder>)` creates a library with the functions.
 )";
 
-std::string settingsFor(const CatalogueName& name) {
-  return fmt::format("{{\"name\": \"{}\", \"namespace\": \"{}\"}}\n", name.name, name.nameSpace);
-}
-
 std::string readmeFor(const CatalogueName& name) {
   const std::string scope = name.nameSpace.empty() ? "" : name.nameSpace + "::";
-  std::string target = name.name;
-  for (char& letter : target)
-    letter = letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter + 32) : letter;
-  return fmt::format(fmt::runtime(kReadme), fmt::arg("name", name.name), fmt::arg("target", target),
-                     fmt::arg("call", scope + name.name + "::"));
+  return fmt::format(fmt::runtime(kReadme), fmt::arg("name", name.name),
+                     fmt::arg("target", lowerCased(name.name)), fmt::arg("call", scope + name.name + "::"));
 }
 
 /// Throws if one of the files of a new catalogue exists with other contents. A killed command leaves the same ones.
@@ -79,7 +73,9 @@ void initCatalogue(const std::string& directory, const CatalogueName& name) {
   if (name.name == CatalogueName::kModule)
     throw std::invalid_argument(fmt::format("the name {} is the module's own; choose another", name.name));
   if (const std::string error = name.error(); !error.empty()) throw std::invalid_argument(error);
-  const std::vector<FileChange> files = {{CatalogueSettings::kFile, settingsFor(name)},
+  const std::string settings =
+      fmt::format("{{\"name\": \"{}\", \"namespace\": \"{}\"}}\n", name.name, name.nameSpace);
+  const std::vector<FileChange> files = {{CatalogueSettings::kFile, settings},
                                          {tablePath(kBase), kEnglish},
                                          {"README.md", readmeFor(name)},
                                          {Catalogue::kFile, kEntries}};

@@ -93,7 +93,8 @@ void addKeyCommand(CLI::App& app) {
 }
 
 void addAddCommand(CLI::App& app, const RootFinder& inRoot) {
-  const auto entry = std::make_shared<NewEntry>();
+  const auto entry = std::make_shared<Entry>();
+  const auto isPlain = std::make_shared<bool>(false);
   auto* const command = app.add_subcommand("add", "Add a text and its accessor");
   command->add_option("text", entry->text, "The English text; %{name}, \\n for a line break")->required();
   command->add_flag("--count", entry->plural, "The text has plural forms; needs at least --one");
@@ -102,11 +103,11 @@ void addAddCommand(CLI::App& app, const RootFinder& inRoot) {
   command->add_option("--comment", entry->comment, "What translators need to know about the text");
   command->add_option("--max", entry->max, "The most characters that fit where the text appears")
       ->check(isNumberUpTo(kMostCharacters));
-  command->add_flag("--plain", entry->isPlain, kPlainHelp);
+  command->add_flag("--plain", *isPlain, kPlainHelp);
   command->footer("Example: zkstrings add --count '%{gifts} gifts' --one '%{gifts} gift'");
-  command->callback([entry, inRoot] {
+  command->callback([entry, isPlain, inRoot] {
     entry->text = withLineBreaks(entry->text);
-    say("Added {}.\n", addEntry(inRoot(), *entry));
+    say("Added {}.\n", addEntry(inRoot(), *entry, *isPlain));
   });
 }
 

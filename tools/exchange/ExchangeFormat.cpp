@@ -1,6 +1,5 @@
 #include <ZKStrings/platform/formats/TextEncoding.h>
 #include <ZKStrings/tools/exchange/ExchangeFormat.h>
-#include <ZKStrings/tools/exchange/Formats.h>
 #include <ZKStrings/tools/project/Table.h>
 #include <ZKStrings/tools/support/Characters.h>
 #include <ZKStrings/tools/support/Diagnostic.h>

@@ -1,4 +1,4 @@
-#include <ZKStrings/tools/exchange/Formats.h>
+#include <ZKStrings/tools/exchange/ExchangeFormat.h>
 #include <ZKStrings/tools/support/Characters.h>
 #include <ZKStrings/tools/support/Diagnostic.h>
 
@@ -157,8 +157,11 @@ class XLIFFReader {
     if (localName(root.name()) != "xliff" || !(version.starts_with("1.") || version.starts_with("2.")))
       refuse(root, "the document is not XLIFF 1.2 or 2.0; export it as one of them");
     setLanguage(root, "trgLang");
-    Walker walker(*this);
-    root.traverse(walker);
+    // This visits all elements without recursion.
+    root.find_node([&](pugi::xml_node node) {
+      readElement(node);
+      return false;
+    });
     return std::move(translations_);
   }
 
@@ -170,18 +173,12 @@ class XLIFFReader {
     Texts byId;  ///< the codes that were read
   };
 
-  /// Visits all elements without recursion.
-  struct Walker : pugi::xml_tree_walker {
-    explicit Walker(XLIFFReader& owner) : reader(owner) {}
-    bool for_each(pugi::xml_node& node) override {
-      const std::string_view name = localName(node.name());
-      if (name == "file") reader.setLanguage(node, "target-language");
-      if (name == "trans-unit") reader.readUnit12(node);
-      if (name == "unit") reader.readUnit20(node);
-      return true;
-    }
-    XLIFFReader& reader;
-  };
+  void readElement(pugi::xml_node element) {
+    const std::string_view name = localName(element.name());
+    if (name == "file") setLanguage(element, "target-language");
+    if (name == "trans-unit") readUnit12(element);
+    if (name == "unit") readUnit20(element);
+  }
 
   [[noreturn]] void refuse(std::size_t offset, std::string message) const {
     fail(file_, positionOf(text_, offset), std::move(message));

@@ -1,4 +1,4 @@
-#include <ZKStrings/tools/exchange/Formats.h>
+#include <ZKStrings/tools/exchange/ExchangeFormat.h>
 #include <ZKStrings/tools/project/Table.h>
 #include <ZKStrings/tools/texts/TextPieces.h>
 

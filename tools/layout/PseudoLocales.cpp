@@ -51,21 +51,21 @@ std::string accented(char letter) {
   return {letter};
 }
 
-bool isLetter(char byte) {
-  return (byte >= 'a' && byte <= 'z') || (byte >= 'A' && byte <= 'Z');
-}
-
 /// `text` with accents, and with every second letter doubled.
 std::string accentedAndLonger(std::string_view text) {
   std::string result;
   bool isDoubled = false;
   for (const TextPiece& piece : piecesOf(text)) {
-    if (piece.kind != Kind::words) result += piece.text;
-    if (piece.kind != Kind::words) continue;
-    for (const char letter : piece.text) {
-      result += accented(letter);
-      if (isLetter(letter)) isDoubled = !isDoubled;
-      if (isLetter(letter) && isDoubled) result += accented(letter);
+    if (piece.kind != Kind::words) {
+      result += piece.text;
+      continue;
+    }
+    for (const char character : piece.text) {
+      const std::string letter = accented(character);
+      const bool isLetter = letter.size() > 1;
+      isDoubled = isDoubled != isLetter;
+      result += letter;
+      if (isLetter && isDoubled) result += letter;
     }
   }
   return result;
@@ -100,15 +100,12 @@ std::string tableOf(const EnglishTexts& english, std::string (*make)(const Engli
 void refuseShipped(const fs::path& resources, const std::string& directory) {
   std::error_code failure;
   const fs::path shipped = fs::canonical(resources, failure);
-  for (fs::path folder = fs::weakly_canonical(fs::absolute(directory), failure); !failure;
-       folder = folder.parent_path()) {
-    if (folder == shipped) {
-      fail(directory,
-           "these resources are shipped and must not contain pseudo-locales; name the folder of "
-           "another build or installation");
-    }
-    if (folder == folder.parent_path()) return;
-  }
+  if (failure) return;
+  const fs::path folder = fs::weakly_canonical(fs::absolute(directory), failure).lexically_relative(shipped);
+  if (!failure && !folder.empty() && *folder.begin() != "..")  // empty on another drive
+    fail(directory,
+         "these resources are shipped and must not contain pseudo-locales; name the folder of "
+         "another build or installation");
 }
 
 /// Copies of the files in `resources`, below `folder`.

@@ -6,6 +6,7 @@
 #include <ZKStrings/tools/page/PageParts.h>
 #include <ZKStrings/tools/page/ShownTexts.h>
 #include <ZKStrings/tools/project/EntryComments.h>
+#include <ZKStrings/tools/support/Characters.h>
 #include <ZKStrings/tools/support/Languages.h>
 #include <ZKStrings/tools/texts/TextFeatures.h>
 #include <ZKStrings/tools/translation/TranslationState.h>
@@ -45,6 +46,20 @@ Json formsData() {
   return forms;
 }
 
+/// Makes the data that the script of the page reads:
+///
+///     {"app": "My App",
+///      "forms": [{"name": "few", "counts": "3 to 5", "example": 4}, …],
+///      "entries": [{"key", "context", "counted", "formatted", "call"}, …],
+///      "languages": [{"tag", "english", "native", "isRightToLeft", "file", "isWellFormed",
+///                     "texts", "characters", "states", "previous", "findings"}, …]}
+///
+/// English is the first language. "texts", "characters" and "states" have an element for each key that the
+/// engine looks up, in catalogue order: the finished text, whose values are marked as `ShownTexts` marks them; its
+/// length in characters; one letter for missing (m), untranslated (u), needs review (n) or translated (t). An
+/// element of "previous" is an array of the index of a key and the English text that its translation was made
+/// from, if that has changed. A finding is an array of the index of its key (null for the table as a whole),
+/// severity, rule, message, line and column.
 class DataMaker {
  public:
   DataMaker(const std::string& root, const std::vector<std::string>& sources)
@@ -94,8 +109,8 @@ class DataMaker {
     Json previous = Json::array();
     shown_.choose(language);
     for (const EnglishText& english : english_.all()) {
-      texts.push_back(shown_.markedText(english));
-      characters.push_back(charactersIn(shown_.text(english)));
+      texts.push_back(shown_.text(english, true));
+      characters.push_back(charactersIn(shown_.text(english, false)));
       const TableEntry* const entry = table.diagnostics.empty() ? table.find(english.key) : nullptr;
       states += nameOf(stateOf(language, entry, english)).front();
       const std::optional<std::string> before = entry ? quotedIn(*entry, kState) : std::nullopt;
@@ -138,21 +153,11 @@ class DataMaker {
 
 }  // namespace
 
-std::string pageData(const std::string& root, const std::vector<std::string>& sources) {
-  return DataMaker(root, sources).all().dump(-1, ' ', false, Json::error_handler_t::replace);
-}
-
 std::string pageOf(const std::string& root, const std::vector<std::string>& sources) {
-  std::string page(kPageBeforeData);
-  for (const char byte : pageData(root, sources)) {
-    // Escaped, so that no text can end the data or begin a comment in it. JSON has this sign in strings only.
-    if (byte == '<') {
-      page += "\\u003c";
-    } else {
-      page += byte;
-    }
-  }
-  return page.append(kPageAfterData);
+  const std::string data =
+      DataMaker(root, sources).all().dump(-1, ' ', false, Json::error_handler_t::replace);
+  // Without this sign, which JSON has in strings only, no text can end the data or begin a comment in it.
+  return std::string(kPageBeforeData).append(replaceAll(data, "<", "\\u003c")).append(kPageAfterData);
 }
 
 }  // namespace zk::tools

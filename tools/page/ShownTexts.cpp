@@ -47,15 +47,11 @@ void ShownTexts::choose(std::string_view language) const {
   Current::language = chosen;
 }
 
-std::string ShownTexts::text(const EnglishText& english) const {
-  const std::optional<std::int64_t> count = exampleCount(english);
-  return filledIn(english, count, valuesFor(english, count, false));
-}
-
-std::string ShownTexts::markedText(const EnglishText& english) const {
+std::string ShownTexts::text(const EnglishText& english, bool isMarked) const {
   const std::optional<std::int64_t> count = exampleCount(english);
   Values values = valuesFor(english, count, false);
-  for (auto& [name, value] : values) value = fmt::format("\uFDD0{}\uFDD1{}\uFDD2", name, value);
+  for (auto& [name, value] : values)
+    if (isMarked) value = fmt::format("\uFDD0{}\uFDD1{}\uFDD2", name, value);
   return filledIn(english, count, values);
 }
 

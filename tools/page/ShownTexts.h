@@ -23,11 +23,9 @@ class ShownTexts {
   /// Sets the language of the texts, "Base" or a code, for the whole process.
   void choose(std::string_view language) const;
 
-  /// The text of the key of `english` in the chosen language.
-  [[nodiscard]] std::string text(const EnglishText& english) const;
-  /// The same text with each value as U+FDD0, the placeholder's name, U+FDD1, the value, U+FDD2. Unicode reserves
-  /// these noncharacters for internal use.
-  [[nodiscard]] std::string markedText(const EnglishText& english) const;
+  /// The text of the key of `english` in the chosen language. With `isMarked`, each value is U+FDD0, the placeholder's
+  /// name, U+FDD1, the value, U+FDD2. Unicode reserves these noncharacters for internal use.
+  [[nodiscard]] std::string text(const EnglishText& english, bool isMarked) const;
 
  private:
   using Values = std::vector<std::pair<std::string, std::string>>;

@@ -1,4 +1,4 @@
-// The data that `zkstrings page` put into the page. Page.h describes its form.
+// The data that `zkstrings page` put into the page. Page.cpp describes its form.
 const data = JSON.parse(document.getElementById("data").textContent);
 const languages = data.languages;
 const english = languages[0];

@@ -38,14 +38,6 @@ std::string untranslatedEntry(const EnglishText& english) {
          tableLine(english.key, english.text);
 }
 
-std::string templateFor(std::string_view language, const EnglishTexts& english) {
-  std::string table = fmt::format(
-      "/* Language {}. Translate the texts after the equals signs; keep keys and placeholders. */\n",
-      language);
-  for (const EnglishText& text : english.all()) table += "\n" + untranslatedEntry(text);
-  return table;
-}
-
 std::size_t writeTemplate(const std::string& root, const std::string& language) {
   if (language.empty()) throw std::invalid_argument("the language is empty; give its ISO 639-1 code");
   const std::string path = tablePath(language);
@@ -57,7 +49,11 @@ std::size_t writeTemplate(const std::string& root, const std::string& language) 
   }
   const Catalogue catalogue = Catalogue::read(root);
   const EnglishTexts english(catalogue, Table::readWellFormed(root, kBase));
-  writeFile(root, path, templateFor(language, english));
+  std::string table = fmt::format(
+      "/* Language {}. Translate the texts after the equals signs; keep keys and placeholders. */\n",
+      language);
+  for (const EnglishText& text : english.all()) table += "\n" + untranslatedEntry(text);
+  writeFile(root, path, table);
   return english.all().size();
 }
 

@@ -4,7 +4,6 @@
 
 #include <cstddef>
 #include <string>
-#include <string_view>
 
 namespace zk::tools {
 
@@ -18,11 +17,8 @@ namespace zk::tools {
 /// it has words to translate.
 [[nodiscard]] std::string untranslatedEntry(const EnglishText& english);
 
-/// The table for a new language: every key that the module looks up, in catalogue order, as an untranslated entry.
-[[nodiscard]] std::string templateFor(std::string_view language, const EnglishTexts& english);
-
-/// Writes that table to the project at `root` and returns the number of its texts. Throws `CommandFailed`, and writes
-/// nothing, if the language has a table already, if the module would never choose its directory, or if the catalogue or
+/// Writes the table of a new language to the project at `root`: every key that the module looks up, in catalogue order,
+/// as an untranslated entry. Returns the number of its texts. Throws `CommandFailed`, and writes nothing, if the language has a table already, if the module would never choose its directory, or if the catalogue or
 /// the English table is wrong; `std::invalid_argument` if `language` is empty.
 std::size_t writeTemplate(const std::string& root, const std::string& language);
 
