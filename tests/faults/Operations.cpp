@@ -187,7 +187,8 @@ const Operation kAll[] = {
     {.name = "upper case",
      .act =
          [] {
-           return Country::fromDictionary({{"name", "A"}, {"phoneCode", 1}, {"iso", "äß"}})->emoji();
+           const auto country = Country::fromDictionary({{"name", "A"}, {"phoneCode", 1}, {"iso", "äß"}});
+           return country->emoji();
          },
      .right = "\U0001F269\U0001F1F8\U0001F1F8"},
     {.name = "JSON",
