@@ -77,13 +77,9 @@ void addAliases(const std::vector<Token>& tokens, std::set<std::string>& names) 
   }
 }
 
-struct SourceFile {
-  std::string path;
-  std::string code;
-};
-
-std::vector<SourceFile> sourceFilesIn(const std::vector<std::string>& directories) {
-  std::vector<SourceFile> files;
+/// The code of the source files in `directories`, by path.
+std::map<std::string, std::string> sourceFilesIn(const std::vector<std::string>& directories) {
+  std::map<std::string, std::string> files;
   for (const std::string& directory : directories) {
     std::error_code failure;
     fs::recursive_directory_iterator at(directory, failure);
@@ -98,14 +94,12 @@ std::vector<SourceFile> sourceFilesIn(const std::vector<std::string>& directorie
       if (!at->is_regular_file(failure)) continue;
       std::string code = readFile("", path.string());
       if (code.find(kGeneratedNotice) == std::string::npos)
-        files.push_back({path.lexically_normal().string(), std::move(code)});
+        files.emplace(path.lexically_normal().string(), std::move(code));
     }
   }
   if (files.empty())
     throw std::invalid_argument(
         fmt::format("no C++ source file in {}; check the folder", fmt::join(directories, ", ")));
-  std::sort(files.begin(), files.end(),
-            [](const SourceFile& a, const SourceFile& b) { return a.path < b.path; });
   return files;
 }
 
@@ -120,18 +114,16 @@ Uses::Uses(const std::vector<std::string>& directories, const Catalogue& catalog
   for (const Entry& entry : catalogue.entries())
     keys.emplace(accessors.emplace_back(accessorOf(entry, name)), entry.key);
 
-  const std::vector<SourceFile> files = sourceFilesIn(directories);
-  std::vector<std::vector<Token>> tokens;
+  const std::map<std::string, std::string> files = sourceFilesIn(directories);
+  std::map<std::string_view, std::vector<Token>> tokensByPath;
   std::set<std::string> names = {name.name};
-  for (const SourceFile& file : files) addAliases(tokens.emplace_back(tokensOf(file.code)), names);
-  for (std::size_t file = 0; file < files.size(); ++file) {
-    for (std::size_t i = 2; i < tokens[file].size(); ++i) {
-      const auto [text, line] = tokens[file][i];
-      if (tokens[file][i - 1].text != "::" || !names.contains(std::string(tokens[file][i - 2].text)))
-        continue;
+  for (const auto& [path, code] : files) addAliases(tokensByPath[path] = tokensOf(code), names);
+  for (const auto& [path, tokens] : tokensByPath) {
+    for (std::size_t i = 2; i < tokens.size(); ++i) {
+      const auto [text, line] = tokens[i];
+      if (tokens[i - 1].text != "::" || !names.contains(std::string(tokens[i - 2].text))) continue;
       const auto key = keys.find(text);
-      if (key != keys.end())
-        places_[std::string(key->second)].push_back(fmt::format("{}:{}", files[file].path, line));
+      if (key != keys.end()) places_[std::string(key->second)].push_back(fmt::format("{}:{}", path, line));
     }
   }
 }

@@ -1,5 +1,6 @@
 // The card of one text: the text in every language, with its state and findings.
 const card = document.getElementById("card");
+const help = document.getElementById("help");
 
 function copyButton(source, what) {
   const button = element("button", { type: "button", className: "copy" }, "Copy");
@@ -110,26 +111,5 @@ function showUnknown(address) {
     element("a", { className: "back", href: "#" }, "All texts"),
     element("h2", { tabIndex: -1, id: "card-title" }, "No such text"),
     element("p", {}, `No text has the key “${address}”. It may be misspelled, or the text was removed.`),
-  );
-}
-
-function showHelp() {
-  const keys = [
-    ["/", "search"],
-    ["↑ ↓", "next or previous text"],
-    ["Enter", "open a text"],
-    ["Esc", "back"],
-  ];
-  const rows = keys.flatMap(([key, use]) => [
-    element("dt", {}, element("kbd", {}, key)),
-    element("dd", {}, use),
-  ]);
-  card.replaceChildren(
-    element(
-      "div",
-      { className: "help" },
-      element("p", {}, "Choose a text to see it in every language."),
-      element("dl", {}, ...rows),
-    ),
   );
 }

@@ -15,7 +15,7 @@ function openAddress() {
   document.title = openEntry ? `${openEntry.key} – ${pageTitle}` : pageTitle;
   if (openEntry) openCard(openEntry);
   else if (address !== "") showUnknown(address);
-  else showHelp();
+  else card.replaceChildren(help);
   markOpenEntry(openEntry);
   const isBrowsing = list.contains(document.activeElement) && list.checkVisibility();
   if (address !== "" && !isBrowsing) document.getElementById("card-title").focus();
