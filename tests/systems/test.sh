@@ -47,7 +47,7 @@ inside() {
 step() {
   local start=$SECONDS
   inside "$@" >"$log" 2>&1 || { tail -n 40 "$log" >&2; fail "\"${*:3}\" failed as ${1%:*}; the system is in $root"; }
-  if grep -rn 'warning: ' "$log" "$root/$project"/build/*.log >&2; then fail "\"${*:3}\" warns as ${1%:*}"; fi
+  if grep -rns 'warning: ' "$log" "$root/$project"/build/*.log >&2; then fail "\"${*:3}\" warns as ${1%:*}"; fi
   printf '%-10s %-8s %-60s %4d s\n' "$release" "${1%:*}" "${*:3}" "$((SECONDS - start))"
 }
 
@@ -64,6 +64,7 @@ for command in ./run ./test; do
   step tester:tester "/$project" "$command"
 done
 
+rm -rf "$bare.packages"
 mv "$root/$project/build/package" "$bare.packages"
 copy_bare_system
 mv "$bare.packages" "$root/packages"
