@@ -53,6 +53,7 @@ class ZK_EXPORT Substitutions {
    private:
     friend class Substitutions;
     static constexpr char kAbsent = 0;
+    // NOLINTNEXTLINE(bugprone-string-constructor): the address marks the pair as absent
     constexpr Pair() : name(&kAbsent, 0), text() {}
     [[nodiscard]] constexpr bool isAbsent() const { return name.data() == &kAbsent; }
   };
