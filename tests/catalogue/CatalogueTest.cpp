@@ -23,12 +23,12 @@ TEST(Catalogue, ItsFilesAreUpToDate) {
   EXPECT_TRUE(readFile(kRoot, CatalogueName().headerFile()) == fresh.header) << "run zkstrings generate";
   EXPECT_TRUE(readFile(kRoot, CatalogueName().sourceFile()) == fresh.source) << "run zkstrings generate";
   EXPECT_EQ(readFile(kRoot, Catalogue::kFile), catalogue.toJson());
-  const std::vector<Catalogue::LookedUpKey> keys = catalogue.lookedUpKeys();
-  ASSERT_EQ(base.entries.size(), keys.size()) << "run zkstrings check";
   const EnglishTexts english(catalogue, Table{});
-  for (std::size_t i = 0; i < keys.size(); ++i) {
-    EXPECT_EQ(base.entries[i].key, keys[i].key);
-    EXPECT_EQ(base.entries[i].text, english.all()[i].text) << keys[i].key << ": run zkstrings generate";
+  ASSERT_EQ(base.entries.size(), english.all().size()) << "run zkstrings check";
+  for (std::size_t i = 0; i < base.entries.size(); ++i) {
+    EXPECT_EQ(base.entries[i].key, english.all()[i].key);
+    EXPECT_EQ(base.entries[i].text, english.all()[i].text)
+        << base.entries[i].key << ": run zkstrings generate";
   }
 }
 

@@ -1,9 +1,7 @@
 #include <ZKStrings/tools/check/Checker.h>
 #include <ZKStrings/tools/check/CountryRules.h>
 #include <ZKStrings/tools/check/Glossary.h>
-#include <ZKStrings/tools/check/LanguageRules.h>
-#include <ZKStrings/tools/check/TableRules.h>
-#include <ZKStrings/tools/check/TextRules.h>
+#include <ZKStrings/tools/check/Rules.h>
 #include <ZKStrings/tools/project/Catalogue.h>
 #include <ZKStrings/tools/project/EnglishTexts.h>
 #include <ZKStrings/tools/project/EntryComments.h>

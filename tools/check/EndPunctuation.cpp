@@ -96,25 +96,10 @@ Ending endingOf(std::string_view text, std::string_view language) {
 }
 
 std::string_view nameOf(Ending ending) {
-  switch (ending) {
-    case Ending::none:
-      break;
-    case Ending::stop:
-      return "a full stop";
-    case Ending::question:
-      return "a question mark";
-    case Ending::exclamation:
-      return "an exclamation mark";
-    case Ending::ellipsis:
-      return "an ellipsis";
-    case Ending::colon:
-      return "a colon";
-    case Ending::semicolon:
-      return "a semicolon";
-    case Ending::comma:
-      return "a comma";
-  }
-  return "no punctuation";
+  constexpr std::string_view kNames[] = {"no punctuation",      "a full stop", "a question mark",
+                                         "an exclamation mark", "an ellipsis", "a colon",
+                                         "a semicolon",         "a comma"};
+  return kNames[static_cast<std::size_t>(ending)];
 }
 
 }  // namespace zk::tools

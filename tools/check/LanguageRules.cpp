@@ -1,6 +1,6 @@
 #include <ZKStrings/platform/text/UnicodeText.h>
-#include <ZKStrings/tools/check/LanguageRules.h>
 #include <ZKStrings/tools/check/Prose.h>
+#include <ZKStrings/tools/check/Rules.h>
 #include <ZKStrings/tools/project/TextPlaces.h>
 #include <ZKStrings/tools/support/Characters.h>
 #include <ZKStrings/tools/support/Languages.h>

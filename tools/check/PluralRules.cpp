@@ -1,5 +1,5 @@
 #include <ZKStrings/tools/check/Prose.h>
-#include <ZKStrings/tools/check/TableRules.h>
+#include <ZKStrings/tools/check/Rules.h>
 #include <ZKStrings/tools/support/Languages.h>
 #include <ZKStrings/tools/texts/Placeholders.h>
 #include <ZKStrings/tools/texts/TextFeatures.h>

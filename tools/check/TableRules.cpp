@@ -1,5 +1,5 @@
 #include <ZKStrings/tools/check/Checker.h>
-#include <ZKStrings/tools/check/TableRules.h>
+#include <ZKStrings/tools/check/Rules.h>
 #include <ZKStrings/tools/project/EntryComments.h>
 #include <ZKStrings/tools/project/TextPlaces.h>
 #include <ZKStrings/tools/support/Languages.h>

@@ -1,5 +1,5 @@
 #include <ZKStrings/tools/check/EndPunctuation.h>
-#include <ZKStrings/tools/check/TextRules.h>
+#include <ZKStrings/tools/check/Rules.h>
 #include <ZKStrings/tools/project/TextPlaces.h>
 #include <ZKStrings/tools/support/Characters.h>
 #include <ZKStrings/tools/support/Languages.h>

@@ -1,4 +1,3 @@
-#include <ZKStrings/tools/command/HelpFormatter.h>
 #include <ZKStrings/tools/command/Subcommands.h>
 #include <ZKStrings/tools/reference/Reference.h>
 #include <ZKStrings/tools/support/Diagnostic.h>
@@ -27,6 +26,21 @@ using namespace zk::tools;
 /// The exit statuses, the same in each subcommand. The manual page lists them.
 constexpr int kWrongFiles = 1;
 constexpr int kWrongUsage = 2;
+
+/// Breaks the lines of --help at words, to fit the width of a terminal.
+class HelpFormatter : public CLI::Formatter {
+ public:
+  std::string make_description(const CLI::App* command) const override {
+    return wrapped(CLI::Formatter::make_description(command), kTerminalWidth);
+  }
+  std::string make_subcommand(const CLI::App* command) const override {
+    return fmt::format("  {:<{}}{}\n", command->get_display_name(true), column_width_ - 2,
+                       wrapped(command->get_description(), kTerminalWidth - column_width_, column_width_));
+  }
+  std::string make_option_desc(const CLI::Option* option) const override {
+    return wrapped(CLI::Formatter::make_option_desc(option), kTerminalWidth - column_width_);
+  }
+};
 
 void complain(std::string_view message) {
   print(stderr, fmt::format("{}\n", message));

@@ -286,16 +286,6 @@ std::string Catalogue::errorIn(const Entry& entry) {
   return diagnostics.empty() ? "" : diagnostics.front().message;
 }
 
-std::vector<Catalogue::LookedUpKey> Catalogue::lookedUpKeys() const {
-  std::vector<LookedUpKey> keys;
-  for (const Entry& entry : entries_) {
-    const PluralForm* form = kPluralForms;
-    for (const std::string& key : entry.lookedUpKeys())
-      keys.push_back({key, &entry, entry.plural ? form++->suffix : ""});
-  }
-  return keys;
-}
-
 void Catalogue::sort() {
   std::vector<std::pair<std::string, Entry>> sorted;
   std::string rank;

@@ -60,15 +60,6 @@ class Catalogue {
   [[nodiscard]] std::vector<Entry>& entries() { return entries_; }
   [[nodiscard]] const CatalogueSettings& settings() const { return settings_; }
 
-  /// A key that the module looks up: that of an entry without a count, or of a plural form of `entry`.
-  struct LookedUpKey {
-    std::string key;
-    const Entry* entry;
-    std::string_view suffix;  ///< of a plural form, or empty
-  };
-  /// All of them, in catalogue order.
-  [[nodiscard]] std::vector<LookedUpKey> lookedUpKeys() const;
-
   /// Sorts the entries by key without regard to case. One that keeps its place stays after the one before it.
   void sort();
 

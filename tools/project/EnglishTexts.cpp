@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <iterator>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -12,13 +11,9 @@ namespace zk::tools {
 
 namespace {
 
-std::string englishOf(const std::string& key, const Entry& entry, std::string_view suffix,
-                      const Table& base) {
-  if (suffix.empty()) return entry.text;
-  const auto* const form = std::find_if(std::begin(kPluralForms), std::end(kPluralForms),
-                                        [&](const PluralForm& known) { return known.suffix == suffix; });
-  if (const std::string* const given = formOf(entry, static_cast<std::size_t>(form - kPluralForms)))
-    return *given;
+std::string englishOf(const std::string& key, const Entry& entry, std::size_t form, const Table& base) {
+  if (!entry.plural) return entry.text;
+  if (const std::string* const given = formOf(entry, form)) return *given;
   const TableEntry* const inBase = base.find(key);
   return inBase ? inBase->text : entry.text;
 }
@@ -49,9 +44,14 @@ std::string_view EnglishText::dispensable() const {
 }
 
 EnglishTexts::EnglishTexts(const Catalogue& catalogue, const Table& base) {
-  for (auto& [key, entry, suffix] : catalogue.lookedUpKeys()) {
-    if (!places_.emplace(key, texts_.size()).second) continue;
-    texts_.push_back({key, entry, suffix, englishOf(key, *entry, suffix, base), &catalogue.settings()});
+  for (const Entry& entry : catalogue.entries()) {
+    const std::vector<std::string> keys = entry.lookedUpKeys();
+    for (std::size_t form = 0; form < keys.size(); ++form) {
+      const std::string& key = keys[form];
+      if (!places_.emplace(key, texts_.size()).second) continue;
+      const std::string_view suffix = entry.plural ? kPluralForms[form].suffix : "";
+      texts_.push_back({key, &entry, suffix, englishOf(key, entry, form, base), &catalogue.settings()});
+    }
   }
 }
 

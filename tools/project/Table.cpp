@@ -182,24 +182,13 @@ std::string tablePath(std::string_view language) {
 }
 
 std::string escaped(std::string_view text) {
+  constexpr std::string_view kSpecial = "\"\\\n\t";
+  constexpr std::string_view kLetters = "\"\\nt";
   std::string result;
   for (const char character : text) {
-    switch (character) {
-      case '"':
-        result += "\\\"";
-        break;
-      case '\\':
-        result += "\\\\";
-        break;
-      case '\n':
-        result += "\\n";
-        break;
-      case '\t':
-        result += "\\t";
-        break;
-      default:
-        result += character;
-    }
+    const std::size_t special = kSpecial.find(character);
+    if (special != kSpecial.npos) result += '\\';
+    result += special == kSpecial.npos ? character : kLetters[special];
   }
   return result;
 }

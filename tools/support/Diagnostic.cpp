@@ -1,7 +1,7 @@
 #include <ZKStrings/tools/support/Characters.h>
 #include <ZKStrings/tools/support/Diagnostic.h>
 
-#include <cstdlib>
+#include <cstddef>
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -13,7 +13,6 @@
 #include <fmt/format.h>
 #include <fmt/ranges.h>
 #include <nlohmann/json.hpp>
-#include <unistd.h>
 
 namespace zk::tools {
 
@@ -24,24 +23,16 @@ struct Style {
   fmt::terminal_color colour;
 };
 
-Style styleOf(Severity severity) {
-  switch (severity) {
-    case Severity::error:
-      return {"error", fmt::terminal_color::red};
-    case Severity::warning:
-      return {"warning", fmt::terminal_color::magenta};
-    case Severity::gap:
-      return {"gap", fmt::terminal_color::blue};
-    case Severity::note:
-      break;
-  }
-  return {"note", fmt::terminal_color::cyan};
-}
+/// In the order of `Severity`.
+constexpr Style kStyles[] = {{"error", fmt::terminal_color::red},
+                             {"warning", fmt::terminal_color::magenta},
+                             {"gap", fmt::terminal_color::blue},
+                             {"note", fmt::terminal_color::cyan}};
 
 }  // namespace
 
 const char* nameOf(Severity severity) {
-  return styleOf(severity).name;
+  return kStyles[static_cast<std::size_t>(severity)].name;
 }
 
 std::string fromWorkingDirectory(const std::string& file, const std::string& root) {
@@ -61,7 +52,7 @@ Diagnostics fromWorkingDirectory(Diagnostics diagnostics, const std::string& roo
 }
 
 std::string formatted(const Diagnostic& diagnostic, bool coloured) {
-  const auto [name, colour] = styleOf(diagnostic.severity);
+  const auto [name, colour] = kStyles[static_cast<std::size_t>(diagnostic.severity)];
   const auto in = [&](fmt::text_style wanted) { return coloured ? wanted : fmt::text_style(); };
   std::string line = fmt::format(in(fmt::emphasis::bold), "{}:{}:{}: ", withoutControls(diagnostic.file),
                                  diagnostic.line, diagnostic.column);

@@ -26,4 +26,19 @@ struct CheckedTable {
 /// catalogue.
 [[nodiscard]] std::span<const RuleFor<CheckedTable>> pluralRules();
 
+/// A text of a table that is not blank, and the English text of the same key. For an entry of the English table, that
+/// is the text of the catalogue.
+struct Translation {
+  std::string_view language;
+  const TableEntry& entry;
+  const EnglishText& english;
+  const Glossary& glossary;
+};
+
+/// The rules that compare a text with the English one: placeholders, marks, white space, punctuation, numbers, length.
+[[nodiscard]] std::span<const RuleFor<Translation>> textRules();
+
+/// The rules for the language of a text: the glossary's terms, words and typography.
+[[nodiscard]] std::span<const RuleFor<Translation>> languageRules();
+
 }  // namespace zk::tools
