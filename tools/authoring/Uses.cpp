@@ -1,5 +1,6 @@
 #include <ZKStrings/tools/authoring/AccessorGenerator.h>
 #include <ZKStrings/tools/authoring/Uses.h>
+#include <ZKStrings/tools/support/Characters.h>
 #include <ZKStrings/tools/support/Files.h>
 
 #include <algorithm>
@@ -32,9 +33,7 @@ struct Token {
 };
 
 bool isNamePart(char character) {
-  return character == '_' || (character >= '0' && character <= '9') ||
-         (character >= 'A' && character <= 'Z') || (character >= 'a' && character <= 'z') ||
-         static_cast<unsigned char>(character) >= 0x80;
+  return character == '_' || isAsciiLetterOrDigit(character) || static_cast<unsigned char>(character) >= 0x80;
 }
 
 /// How many bytes at the beginning of `code` are a comment or a literal; 0 if it begins with something else.

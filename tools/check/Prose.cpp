@@ -28,10 +28,6 @@ void blankOutAll(std::string& text, std::string_view part) {
   }
 }
 
-bool isAsciiLetterOrDigit(char c) {
-  return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9');
-}
-
 /// Whether `run`, ASCII without white space, is a handle or an address: "@zk", "help@zk.example",
 /// "zk.example/x".
 bool isAddress(std::string_view run) {

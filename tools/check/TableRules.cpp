@@ -8,7 +8,6 @@
 #include <ZKStrings/tools/translation/TranslationState.h>
 
 #include <algorithm>
-#include <array>
 #include <cstddef>
 #include <map>
 #include <optional>

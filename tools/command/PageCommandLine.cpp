@@ -10,7 +10,6 @@
 #include <vector>
 
 #include <CLI/CLI.hpp>
-#include <fmt/format.h>
 
 namespace zk::tools {
 

@@ -1,9 +1,7 @@
 #include <ZKStrings/tools/check/Checker.h>
 #include <ZKStrings/tools/command/Subcommands.h>
 #include <ZKStrings/tools/project/Table.h>
-#include <ZKStrings/tools/support/Characters.h>
 #include <ZKStrings/tools/support/Languages.h>
-#include <ZKStrings/tools/support/Nearest.h>
 #include <ZKStrings/tools/support/Terminal.h>
 #include <ZKStrings/tools/translation/Coverage.h>
 #include <ZKStrings/tools/translation/TableUpdate.h>

@@ -9,7 +9,6 @@
 #include <ZKStrings/tools/texts/TextFeatures.h>
 
 #include <algorithm>
-#include <array>
 #include <cstddef>
 #include <functional>
 #include <map>

@@ -30,13 +30,9 @@ bool isReserved(std::string_view name) {
   return std::find(std::begin(kReserved), std::end(kReserved), name) != std::end(kReserved);
 }
 
-bool isDigit(char character) {
-  return character >= '0' && character <= '9';
-}
-
 /// Whether `name` has letters, marks, digits and "_" alone, and no digit at its beginning.
 bool hasSignsOfNames(std::string_view name) {
-  if (name.empty() || isDigit(name.front())) return false;
+  if (name.empty() || (name.front() >= '0' && name.front() <= '9')) return false;
   for (const CodePoint next : CodePoints(name)) {
     if (next.bytes != "_" && !(next.value && isLetterMarkOrDigit(*next.value))) return false;
   }

@@ -36,6 +36,10 @@ class CodePoints {
   return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80;
 }
 
+[[nodiscard]] constexpr bool isAsciiLetterOrDigit(char c) {
+  return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9');
+}
+
 /// The number of code points in a UTF-8 text. A byte that is not UTF-8 counts as one.
 [[nodiscard]] std::size_t lengthOf(std::string_view text);
 

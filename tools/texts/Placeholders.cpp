@@ -1,3 +1,4 @@
+#include <ZKStrings/tools/support/Characters.h>
 #include <ZKStrings/tools/texts/Placeholders.h>
 
 #include <algorithm>
@@ -11,19 +12,15 @@ namespace zk::tools {
 
 namespace {
 
-bool isNameCharacter(char c) {
-  return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9');
-}
-
 /// Of any script; what else is not ASCII passes as well, and is then the name of no argument.
 bool isLetterOrDigit(char c) {
-  return isNameCharacter(c) || static_cast<unsigned char>(c) >= 0x80;
+  return isAsciiLetterOrDigit(c) || static_cast<unsigned char>(c) >= 0x80;
 }
 
 /// The first run of ASCII letters and digits in `text`.
 std::string_view nameIn(std::string_view text) {
-  const auto* const begin = std::find_if(text.begin(), text.end(), isNameCharacter);
-  const auto* const end = std::find_if_not(begin, text.end(), isNameCharacter);
+  const auto* const begin = std::find_if(text.begin(), text.end(), isAsciiLetterOrDigit);
+  const auto* const end = std::find_if_not(begin, text.end(), isAsciiLetterOrDigit);
   return {begin, end};
 }
 
@@ -64,7 +61,7 @@ std::optional<PlaceholderUse> useAtBegin(std::string_view text) {
   const std::size_t brace = kOpening.sizeAt(text.substr(percent));
   const std::string_view rest = text.substr(percent + brace);
   if (brace == 0) {
-    const bool hasName = percent > 0 && !rest.empty() && isNameCharacter(rest[0]);
+    const bool hasName = percent > 0 && !rest.empty() && isAsciiLetterOrDigit(rest[0]);
     if (!hasName) return std::nullopt;
     const std::string_view name = nameIn(rest);
     return PlaceholderUse{0, text.substr(0, percent + name.size()), name, false, false};

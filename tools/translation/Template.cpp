@@ -1,5 +1,4 @@
 #include <ZKStrings/tools/project/EntryComments.h>
-#include <ZKStrings/tools/support/Characters.h>
 #include <ZKStrings/tools/support/Files.h>
 #include <ZKStrings/tools/support/Languages.h>
 #include <ZKStrings/tools/translation/Template.h>
