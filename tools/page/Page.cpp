@@ -11,7 +11,6 @@
 #include <ZKStrings/tools/texts/TextFeatures.h>
 #include <ZKStrings/tools/translation/TranslationState.h>
 
-#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>

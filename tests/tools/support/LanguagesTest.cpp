@@ -2,7 +2,6 @@
 #include <ZKStrings/tools/support/Languages.h>
 
 #include <string>
-#include <utility>
 
 #include <gtest/gtest.h>
 
