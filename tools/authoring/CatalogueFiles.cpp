@@ -11,7 +11,6 @@
 #include <ZKStrings/tools/texts/TextFeatures.h>
 #include <ZKStrings/tools/translation/TableEditor.h>
 #include <ZKStrings/tools/translation/TableUpdate.h>
-#include <ZKStrings/tools/translation/Template.h>
 
 #include <algorithm>
 #include <cstddef>

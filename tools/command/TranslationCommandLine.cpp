@@ -5,7 +5,6 @@
 #include <ZKStrings/tools/support/Terminal.h>
 #include <ZKStrings/tools/translation/Coverage.h>
 #include <ZKStrings/tools/translation/TableUpdate.h>
-#include <ZKStrings/tools/translation/Template.h>
 
 #include <algorithm>
 #include <cstdio>

@@ -8,7 +8,7 @@
 #include <ZKStrings/tools/support/Languages.h>
 #include <ZKStrings/tools/texts/TextFeatures.h>
 #include <ZKStrings/tools/translation/TableEditor.h>
-#include <ZKStrings/tools/translation/Template.h>
+#include <ZKStrings/tools/translation/TableUpdate.h>
 
 #include <algorithm>
 #include <cstddef>

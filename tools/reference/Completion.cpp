@@ -21,14 +21,8 @@ namespace zk::tools {
 
 namespace {
 
-struct Candidate {
-  std::string word;
-  std::string explanation;
-};
-
-bool isPositional(const CLI::Option* option) {
-  return option->get_positional();
-}
+/// A word and its explanation.
+using Candidate = std::pair<std::string, std::string>;
 
 bool isNamed(const CLI::Option* option) {
   return option->nonpositional();
@@ -99,23 +93,24 @@ std::vector<Candidate> candidatesAfter(const CLI::App& app, const std::vector<st
   if (!awaitsValue && begun.starts_with('-')) {
     for (const CLI::Option* const option : optionsOf(app, *command)) {
       for (const std::string& name : option->get_lnames())
-        candidates.push_back({"--" + name, option->get_description()});
+        candidates.emplace_back("--" + name, option->get_description());
     }
     return candidates;
   }
   if (!awaitsValue && command == &app) {
     if (arguments > 0) return {};  // an unknown subcommand
     for (const CLI::App* const subcommand : app.get_subcommands({}))
-      candidates.push_back({subcommand->get_name(), subcommand->get_description()});
+      candidates.emplace_back(subcommand->get_name(), subcommand->get_description());
     return candidates;
   }
-  const std::vector<const CLI::Option*> all = command->get_options(isPositional);
+  const std::vector<const CLI::Option*> all =
+      command->get_options([](const CLI::Option* option) { return option->get_positional(); });
   const bool isRepeated = !all.empty() && all.back()->get_items_expected_max() > 1;
   if (!awaitsValue && (arguments < all.size() || isRepeated))
     awaitsValue = all[std::min(arguments, all.size() - 1)];
   if (!awaitsValue) return {};
   for (std::string& word : wordsOf(awaitsValue->get_type_name(), line))
-    candidates.push_back({std::move(word), ""});
+    candidates.emplace_back(std::move(word), "");
   return candidates;
 }
 

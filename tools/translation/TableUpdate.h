@@ -11,6 +11,18 @@
 
 namespace zk::tools {
 
+/// The comment that explains a text to its translators: the English text and its placeholders.
+[[nodiscard]] std::string explanationOf(const EnglishText& english);
+
+/// The comment with the context of a text, or an empty text: `/* context: At most 14 characters. */`.
+[[nodiscard]] std::string contextOf(const EnglishText& english);
+
+/// Writes the table for a new language into the project at `root`, and returns the number of its texts: it has every key
+/// that the module looks up, in catalogue order, with the English text. Throws `CommandFailed`, and writes nothing, if the
+/// language has a table already, or if the catalogue or the English table is wrong; `std::invalid_argument` if the module
+/// would never choose the language, or if `language` is empty.
+std::size_t writeTemplate(const std::string& root, const std::string& language);
+
 /// Marks the entries of a translation for review whose English text is not the one that they were made from: the one
 /// recorded before the entry, or else the one of `base`, the English table as it was until now. Entries that are still
 /// in English get the new text, and comments with the English text and the context are kept up to date. Nothing is
