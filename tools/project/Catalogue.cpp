@@ -115,10 +115,10 @@ void checkEntry(const Entry& entry, const std::string& file, Diagnostics& diagno
   };
   const std::string ruled = keyForText(entry.text);
   if (entry.kept == Entry::Kept::nothing && entry.key != ruled) {
-    fail(
-        fmt::format("the key \"{}\" is not the one that its text gets; give a new text the key \"{}\", and "
-                    "change the text of an existing key with zkstrings change",
-                    entry.key, ruled));
+    fail(fmt::format(
+        "the key \"{}\" does not follow from its text; if you changed the text, run zkstrings generate; "
+        "if the text is new, its key is \"{}\"",
+        entry.key, ruled));
   }
   if (entry.kept == Entry::Kept::key && entry.key == ruled) {
     fail(fmt::format("the key \"{}\" follows the rule; remove \"kept\"", entry.key));
