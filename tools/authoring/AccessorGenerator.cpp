@@ -12,9 +12,10 @@ namespace zk::tools {
 
 namespace {
 
-const std::string kNotice = std::string(kGeneratedNotice) +
-                            " Do not edit: change the catalogue instead.\n"
-                            "// clang-format off\n";
+std::string notice() {
+  return fmt::format("{} Do not edit: change the catalogue instead.\n// clang-format off\n",
+                     kGeneratedNotice);
+}
 
 constexpr const char* kHeaderBegin = R"(#pragma once
 
@@ -80,7 +81,7 @@ struct {name}Resources {{
 std::string begin(const char* format, const CatalogueName& catalogue) {
   const std::string opening =
       catalogue.nameSpace.empty() ? "" : fmt::format("\nnamespace {} {{\n", catalogue.nameSpace);
-  return fmt::format(fmt::runtime(format), fmt::arg("notice", kNotice), fmt::arg("name", catalogue.name),
+  return fmt::format(fmt::runtime(format), fmt::arg("notice", notice()), fmt::arg("name", catalogue.name),
                      fmt::arg("export", catalogue.isModule() ? "ZK_EXPORT" : "ZK_EXPORT_ACCESSORS"),
                      fmt::arg("opening", opening),
                      fmt::arg("example", catalogue.isModule() ? kModuleExample : ""));
