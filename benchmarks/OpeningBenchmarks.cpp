@@ -32,7 +32,7 @@ std::string contents(const std::string& path) {
   return bytes;
 }
 
-/// Puts a table into a directory that was never opened before. It is read from the system's cache then.
+/// Writes a table to a new directory. The table is then read from the system's cache.
 std::string freshDirectory(const std::string& table) {
   static int number = 0;
   const std::string path = workDirectory() + "/opened-" + std::to_string(number++);
@@ -41,7 +41,7 @@ std::string freshDirectory(const std::string& table) {
   return path;
 }
 
-/// Opening a table as its first text does: the bundle, the file, the index.
+/// Opens a table as the first lookup does: the bundle, the file, the index.
 void openTable(benchmark::State& state, const std::string& table) {
   std::size_t held = 0;
   for (auto _ : state) {
@@ -61,7 +61,7 @@ void openTable(benchmark::State& state, const std::string& table) {
   state.counters[kTimesPerIteration] = 1;
 }
 
-/// Reading a file of the same size into memory that is kept, as the table keeps it.
+/// Reads a file of the same size into memory that is kept, as a table's memory is.
 void readTable(benchmark::State& state, const std::string& table) {
   static auto& kept = *new std::vector<std::string>;
   for (auto _ : state) {

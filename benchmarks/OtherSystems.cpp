@@ -27,7 +27,7 @@ void execute(const std::string& command) {
   if (std::system(command.c_str()) != 0) throw std::runtime_error("this command failed: " + command);
 }
 
-/// `text` with each placeholder replaced by what `spell` gives for its place among the entry's placeholders.
+/// `text` with each placeholder replaced with the result of `spell` for its index among the entry's placeholders.
 std::string respelled(const std::string& key, std::string text,
                       const std::function<std::string(std::size_t)>& spell) {
   static const auto& names = *[] {
@@ -67,8 +67,8 @@ std::string doubled(std::string text, char character) {
   return text;
 }
 
-/// Sets a locale for messages that is made here. glibc ignores LANGUAGE in the C locale, newer releases in C.UTF-8
-/// too, and a machine need not have another locale.
+/// Creates and sets a locale for messages. glibc ignores LANGUAGE in the C locale, and newer releases also in
+/// C.UTF-8. A machine need not have another locale.
 void useOwnLocale() {
   const std::string directory = workDirectory() + "/locales";
   std::filesystem::create_directories(directory);

@@ -15,7 +15,7 @@ namespace zk::benchmarks {
 
 namespace {
 
-/// Starts the program `name` beside this one and waits for its end.
+/// Runs the program `name` in this program's directory until it ends.
 void runToEnd(const std::string& name) {
   static const std::string directory =
       std::filesystem::read_symlink("/proc/self/exe").parent_path().string() + "/";
@@ -39,7 +39,7 @@ void registerProcessBenchmarks() {
         name,
         [=](benchmark::State& state) {
           for (auto _ : state) {
-            runToEnd(other);  // in turns, so that neither finds the machine warmed up by itself
+            runToEnd(other);  // alternating, so both programs find the caches in the same state
             const auto begin = std::chrono::steady_clock::now();
             runToEnd(program);
             state.SetIterationTime(

@@ -7,15 +7,15 @@
 
 namespace zk::benchmarks {
 
-// Counters by which a benchmark tells the report more than its time.
+// Counters that a benchmark reports in addition to its time.
 
-/// How many times it did its thing in one iteration.
+/// Operations per iteration.
 inline constexpr const char* kTimesPerIteration = "per iteration";
-/// Each time.
+/// Heap allocations per operation.
 inline constexpr const char* kAllocations = "allocations";
-/// Of the text that it worked on.
+/// Bytes of text processed per operation.
 inline constexpr const char* kBytes = "bytes";
-/// Of memory that it left behind.
+/// Bytes of memory still allocated after an operation.
 inline constexpr const char* kHeldBytes = "held bytes";
 
 template <class Function>

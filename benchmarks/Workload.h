@@ -11,22 +11,22 @@
 
 namespace zk::benchmarks {
 
-/// One text that a benchmark asks for.
+/// One text that a benchmark looks up.
 struct Request {
   std::string key;
   std::string defaultValue;
   std::optional<std::int64_t> count;
-  std::string lookedUpKey;  ///< the key with the count's suffix, for systems that are given it ready
+  std::string lookedUpKey;  ///< the key with the count's suffix, for systems that need it complete
   std::vector<std::string> names;
   std::vector<std::string> values;
 };
 
 using Requests = std::vector<const Request*>;
 
-/// Which entries of the catalogue a sequence of requests takes.
+/// The entries of the catalogue from which requests are taken.
 enum class Kind { plain, counted, oneSubstitution, threeSubstitutions };
 
-/// 4,096 requests for entries of one kind in random order, the same at every call and in every run.
+/// 4,096 requests for entries of one kind in random order, the same on every call and in every run.
 [[nodiscard]] const Requests& requests(Kind kind);
 
 inline constexpr std::size_t kRequests = 4096;

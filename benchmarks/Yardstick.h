@@ -10,7 +10,7 @@
 
 namespace zk::benchmarks {
 
-/// The least that any lookup must do: a flat hash table of views, the text copied into a `std::string`.
+/// The minimum that every lookup must do: search a flat hash table of views, and copy the text into a `std::string`.
 class Yardstick {
  public:
   explicit Yardstick(const std::vector<Pair>& pairs) : slots_(pairs.size() * 2) {
@@ -21,7 +21,7 @@ class Yardstick {
     return std::string(slots_[placeOf(key)].text);
   }
 
-  /// The same with the placeholders filled in, in one pass into one string that has room for all of it.
+  /// Returns the text with its placeholders filled in, in one pass into a string with reserved room.
   [[nodiscard]] std::string find(std::string_view key, const std::vector<std::string>& names,
                                  const std::vector<std::string>& values) const {
     const std::string_view text = slots_[placeOf(key)].text;

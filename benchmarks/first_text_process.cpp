@@ -1,4 +1,4 @@
-// What an app pays before its first text: the settings with the country list, and the opening of one table.
+// The work of an app before its first text: it reads the settings with the country list, and opens one table.
 #include <ZKStrings/ZKStrings.h>
 
 int main() {

@@ -17,7 +17,7 @@ namespace zk {
 
 namespace {
 
-/// A key and its plural suffix: on the stack if they are as short as keys are, or else on the heap.
+/// A key with its plural suffix, on the stack if it fits there, or else on the heap.
 class SuffixedKey {
  public:
   SuffixedKey(std::string_view key, std::string_view suffix) : size_(key.size() + suffix.size()) {

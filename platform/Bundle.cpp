@@ -74,7 +74,7 @@ class Bundle::Listing {
     for (const DirectoryEntry& entry : entries) {
       std::unique_ptr<const ResourcePath> resource(
           new ResourcePath(path + "/" + entry.name, entry.isDirectory));
-      if (resource->name_.empty()) continue;  // never asked for
+      if (resource->name_.empty()) continue;  // cannot be looked up
       const Name name(resource->name_, resource->type_);
       std::size_t at = name.place() & last_;
       while (slots_[at].path) at = (at + 1) & last_;
@@ -101,7 +101,7 @@ class Bundle::Listing {
   }
 
  private:
-  /// A name and a type in a few words, which tell short ones apart.
+  /// A name and a type in a few machine words. Short names that differ have different words.
   struct Name {
     Name() = default;
     Name(std::string_view name, std::string_view type)

@@ -27,7 +27,7 @@ std::string_view environment(const char* name) {
   return value ? value : "";
 }
 
-/// The script that the modifier stands for, for example "Latn" for "latin"; empty for other modifiers.
+/// The script that the modifier means, for example "Latn" for "latin"; empty for other modifiers.
 std::string_view scriptOf(std::string_view modifier) {
   for (const auto& [name, script] : kScripts) {
     if (name == modifier) return script;
@@ -60,7 +60,7 @@ std::optional<std::string> identifierOf(std::string_view posixName) {
   return identifier;
 }
 
-/// The settings that the process environment spells.
+/// The settings from the process environment.
 LocaleSettings settingsFromEnvironment() {
   std::string_view locale;
   for (const char* variable : {"LC_ALL", "LC_MESSAGES", "LANG"}) {

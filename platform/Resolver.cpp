@@ -35,7 +35,7 @@ struct alignas(kCacheLine) Entry {
   std::mutex mutex{};
   std::shared_ptr<Registration> registration{};  // guarded by `mutex`
   std::recursive_mutex
-      making{};  // held while a factory runs whose result will be kept, and which may come back here
+      making{};  // held while a factory of the application scope runs; recursive, because the factory may resolve again
 };
 
 namespace {
@@ -118,7 +118,8 @@ Service resolveFrom(Entry& entry) {
 
 namespace {
 
-// What this thread keeps. A plain pointer needs no construction, so reading it is cheap and safe at any time.
+// The services that this thread keeps. A plain pointer needs no construction, so reading it is cheap and safe at any
+// time.
 thread_local constinit Kept* keptByThread = nullptr;
 
 void freeAllKept(void* first);
@@ -183,7 +184,7 @@ ResolverOptions::ResolverOptions(internal::Entry& entry,
 
 ResolverOptions& ResolverOptions::scope(ResolverScope scope) {
   registration_->scope = scope;
-  // What threads keep was kept under the old scope.
+  // Services that threads keep were kept under the old scope.
   entry_.generation.fetch_add(1, std::memory_order_release);
   return *this;
 }

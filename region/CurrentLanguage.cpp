@@ -46,7 +46,7 @@ LanguageAccess::LanguageAccess() : language_(language.get()) {
 LanguageAccess::~LanguageAccess() {
   if (!isAlwaysWrittenBack_ && areUnchanged(language_, *captured_)) return;
   *captured_ = std::move(language_);
-  // Nothing here allocates: the entry exists since the access began.
+  // This allocates nothing, because the entry was created when the access began.
   zk::internal::Entry& entry = zk::internal::entryFor(typeid(Language), std::nullopt);
   ResolverOptions(entry, std::move(writeBack_)).scope(ResolverScope::application);
 }

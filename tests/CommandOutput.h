@@ -9,13 +9,13 @@
 
 namespace zk::testing {
 
-/// What a command answered: its exit status and what it printed.
+/// The exit status and the output of a command.
 struct Answer {
   int status;
   std::string output;
 };
 
-/// What the shell's command `command` answers.
+/// Runs `command` in a shell.
 inline Answer outputOf(const std::string& command) {
   std::FILE* const pipe = popen(command.c_str(), "r");
   std::string output;

@@ -9,8 +9,8 @@
 
 namespace zk::testing {
 
-/// The rows of a table of cases that lies beside its test, such as "platform/LocaleTest.json": a list of lists, each with
-/// one value for each of `Columns`.
+/// Returns the rows of a table of cases in a file next to its test, such as "platform/LocaleTest.json": a list of
+/// lists, each with one value for each of `Columns`.
 template <class... Columns>
 std::vector<std::tuple<Columns...>> rowsOf(const std::string& table) {
   std::ifstream file(std::string(ZK_PROJECT_ROOT) + "/tests/" + table);

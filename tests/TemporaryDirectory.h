@@ -10,7 +10,7 @@
 
 namespace zk::testing {
 
-/// A directory that is there as long as the object.
+/// A directory that exists as long as the object.
 class TemporaryDirectory {
  public:
   TemporaryDirectory() {
@@ -26,7 +26,7 @@ class TemporaryDirectory {
 
   [[nodiscard]] const std::string& path() const { return path_; }
 
-  /// Writes a file, with the directories that lead to it, and gives its full path.
+  /// Writes a file, creates its directories, and returns its full path.
   std::string write(const std::string& name, std::string_view bytes) const {
     const std::string path = path_ + "/" + name;
     const std::filesystem::path file = nativePath(path);

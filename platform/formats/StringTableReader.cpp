@@ -121,7 +121,7 @@ void StringTableReader::recover() {
     const std::string_view rest = text_.substr(std::min(text_.find_first_not_of(" \t", line), text_.size()));
     return rest.starts_with('"') || rest.starts_with("/*") || rest.starts_with("//");
   };
-  // Always after the line on which the faulty entry began, so each recovery makes progress.
+  // Continues after the line on which the entry with the error began, so each recovery makes progress.
   at_ = std::max(lineBegin(at_), lineAfter(entryBegin_));
   while (at_ < text_.size() && !beginsEntry(at_)) at_ = lineAfter(at_);
 }

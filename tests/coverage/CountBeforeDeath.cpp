@@ -5,7 +5,7 @@
 
 extern "C" void __gcov_dump();
 
-/// Lets the children of tests write down which lines they have run, however they end.
+/// Makes the child processes of tests record the lines that they have run, however the processes end.
 namespace {
 
 void writeCounts(int signal) {
@@ -19,7 +19,7 @@ void writeCounts(int signal) {
 
 }  // namespace
 
-// Stands before the C library's.
+// Replaces the function of the C library.
 extern "C" void _exit(int status) {
   __gcov_dump();
   syscall(SYS_exit_group, status);

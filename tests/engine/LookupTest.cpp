@@ -91,7 +91,7 @@ TEST(Languages, OfTheModule) {
   EXPECT_TRUE(availableLanguages(nullptr).empty());
 }
 
-/// Stands in for the platform's bundle, writes down what is asked of it, and can change its mind.
+/// A fake bundle that records the calls, and whose results can change between calls.
 struct StandInBundle {
   using Path = std::string;
   const Path* pathForResource(std::string_view name, std::string_view type) const {

@@ -17,8 +17,8 @@ void __libc_free(void* memory) noexcept;
 
 namespace {
 
-/// What is known to be free: the block by which the module makes sure of memory for ICU, which never recovers from
-/// a shortage in the midst of its first use. What ICU allocates next is had from it.
+/// The size of the block that the module has just freed, to make sure that ICU has memory for its first use. ICU's
+/// next allocations come from that block.
 std::size_t room = 0;
 
 bool isICU(const void* caller) {
@@ -34,7 +34,7 @@ bool failsNow(std::size_t size, const void* caller) {
 
 }  // namespace
 
-// These take the place of the C library's, for all libraries of this program.
+// These replace the functions of the C library, for all libraries of this program.
 extern "C" {
 
 void* malloc(std::size_t size) noexcept {

@@ -1,5 +1,5 @@
-// What the module does while calls of the system or allocations fail: each use of it gives the right text, its
-// documented quiet outcome or std::bad_alloc, and when the failure is over, all is as if it had never been.
+// Tests the module while system calls or allocations fail: each operation returns the right text, returns its
+// documented result or throws std::bad_alloc. After the failure, all results are right.
 
 #include <ZKStrings/tests/TemporaryDirectory.h>
 #include <ZKStrings/tests/faults/Failures.h>
@@ -17,7 +17,7 @@
 namespace zk::faults {
 namespace {
 
-// EINTR does not last: a call that is interrupted for ever never ends.
+// EINTR does not last, because a call that is always interrupted never ends.
 constexpr Failure kFailures[] = {
     {Kind::systemCall, EMFILE, false}, {Kind::systemCall, EMFILE, true},  {Kind::systemCall, ENFILE, false},
     {Kind::systemCall, ENFILE, true},  {Kind::systemCall, ENOMEM, false}, {Kind::systemCall, ENOMEM, true},
@@ -32,7 +32,7 @@ bool isRefusal(const Failure& failure) {
   return failure.number == EACCES || failure.number == EPERM;
 }
 
-/// Runs `operation` in this process while the call with `before` others before it fails, and then without failure.
+/// Runs `operation` in this process. First the call after `before` other calls fails, then no call fails.
 Outcome outcomeHere(const Operation& operation, const Failure& failure, int before) noexcept {
   operation.prepare();
   std::string result = "bad_alloc";
@@ -60,8 +60,8 @@ TEST_P(Failures, OfAnyCallPass) {
   const Failure& failure = GetParam();
   if (failure.kind == Kind::allocation && !canAllocationsFail())
     GTEST_SKIP() << "the sanitizer's allocations cannot be made to fail";
-  const bool mayTrap = isRefusal(failure);  // when the resources are refused as a whole
-  // Shared with the processes that try.
+  const bool mayTrap = isRefusal(failure);  // if there is no permission to read the resources
+  // Shared with the child processes.
   struct Progress {
     int before, failures;
   };

@@ -56,13 +56,13 @@ bool isRoomLeft() {
 
 namespace {
 
-/// What the C library's function `name` gives.
+/// Returns the result of the C library's function `name`.
 template <class Result, class... Arguments>
 Result call(const char* name, Arguments... arguments) {
   return reinterpret_cast<Result (*)(Arguments...)>(dlsym(RTLD_NEXT, name))(arguments...);
 }
 
-/// The same, or `failure`.
+/// Returns the result of the C library's function `name`, or `failure` if the call has to fail.
 template <class Result, class... Arguments>
 Result callOrFail(const char* name, Result failure, Arguments... arguments) {
   return failsNow(Kind::systemCall) ? failure : call<Result>(name, arguments...);
@@ -75,7 +75,7 @@ Result callOrFail(const char* name, Result failure, Arguments... arguments) {
 using zk::faults::call;
 using zk::faults::callOrFail;
 
-// These stand before the C library's, for all libraries of this program.
+// These replace the functions of the C library, for all libraries of this program.
 extern "C" {
 
 int open(const char* path, int flags, ...) {

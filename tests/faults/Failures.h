@@ -2,30 +2,30 @@
 
 namespace zk::faults {
 
-/// What this program can make fail: calls of the system that reach for descriptors, files and directories;
-/// allocations, by `new` as by `malloc`; and reading, which then gives less than it was asked for. The module and
-/// all libraries that it uses go through it.
+/// The calls that this program can make fail, for the module and all libraries that it uses: system calls for
+/// descriptors, files and directories; allocations, with `new` and with `malloc`; and reads, which then return less
+/// than requested.
 enum class Kind { systemCall, allocation, shortRead };
 
 struct Failure {
   Kind kind;
-  int number;  ///< what errno says then
-  bool lasts;  ///< whether all later ones fail too
+  int number;  ///< the value of errno
+  bool lasts;  ///< whether all later calls of that kind fail, too
 };
 
-/// From now on the call of the kind of `failure` that has `before` others before it fails.
+/// Makes a later call of the kind of `failure` fail: the one after `before` others.
 void begin(const Failure& failure, int before);
 
-/// Ends the failure, and says whether any call has failed.
+/// Ends the failure. Returns whether any call has failed.
 bool end();
 
-/// Whether the call that is about to be made has to fail; sets errno if so.
+/// Whether the next call has to fail. Sets errno if so.
 [[nodiscard]] bool failsNow(Kind kind);
 
-/// From now on also allocations fail that fit into the memory that was freed a moment ago.
+/// Makes allocations fail even if they fit into memory that was just freed.
 void leaveNoRoom();
 
-/// Whether they do.
+/// Whether allocations may use memory that was just freed.
 [[nodiscard]] bool isRoomLeft();
 
 }  // namespace zk::faults

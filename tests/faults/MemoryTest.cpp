@@ -1,4 +1,4 @@
-// What the module does when memory is truly exhausted, and where ICU, which sets up its tables once, is refused any.
+// Tests the module when memory has really run out, and when ICU's only attempt to set up its tables fails.
 
 #include <ZKStrings/tests/TemporaryDirectory.h>
 #include <ZKStrings/tests/faults/Failures.h>
@@ -17,7 +17,7 @@
 namespace zk::faults {
 namespace {
 
-/// Takes all memory of the process but for a block of `size` bytes, and gives it back at its end.
+/// Allocates all memory of the process except a block of `size` bytes. Frees it in the destructor.
 class ExhaustedMemory {
  public:
   explicit ExhaustedMemory(std::size_t size) {
@@ -72,8 +72,8 @@ TEST(Memory, ThatIsExhaustedHarmsNothing) {
   EXPECT_GT(failures, 30);
 }
 
-// Where memory is refused right behind the block that the module has just seen to be free, ICU remembers that. Texts
-// that need its tables are not to be had then, and no other one is harmed.
+// If allocations fail right after the module's check for free memory, ICU never tries again. Texts that need its
+// tables then throw, and no other text is affected.
 TEST(Memory, ThatIsRefusedToICUAtItsFirstUseIsMissedByTextsThatNeedIt) {
   if (!canAllocationsFail()) GTEST_SKIP() << "the sanitizer's allocations cannot be made to fail";
   const testing::TemporaryDirectory directory;

@@ -49,7 +49,7 @@ void useGerman() {
   static_cast<void>(about());
 }
 
-/// What the first preferred language is after `change`, which is to be made or to throw without effect.
+/// Returns the first preferred language after `change`, which must either succeed or throw without effect.
 template <class Change>
 std::string firstLanguageAfter(Change change) {
   const Language before = Current::language;
@@ -212,7 +212,7 @@ std::span<const Operation> operationsIn(const std::string& directory) {
   writeTable(directory + "/real", "\"a\" = \"text\";");
   for (const char* base : {"/Base.lproj", "/gone/Base.lproj"})
     writeTable(directory + base, "\"a\" = \"base\";");
-  // A link, so that its kind takes another call.
+  // A link, whose kind takes another system call.
   fs::create_directory_symlink("real", directory + "/de.lproj");
   return kAll;
 }

@@ -23,10 +23,10 @@ struct Operation {
   const char* refused = "";  ///< the other permitted result after EACCES, then and later
 };
 
-/// All of them, with `directory` for bundles of their own; it is to be empty.
+/// Returns all operations. They create their own bundles in `directory`, which must be empty.
 [[nodiscard]] std::span<const Operation> operationsIn(const std::string& directory);
 
-/// Whether the texts of the module and of the bundle in that directory are what they should be.
+/// Whether the texts of the module and of the bundle in `directory` are right.
 [[nodiscard]] bool isAllRight();
 
 }  // namespace zk::faults

@@ -20,8 +20,8 @@ enum Outcome {
   crashed,
 };
 
-/// The outcome of `act` in a process of its own, which must end within a minute. `mayTrap` tells whether the module may
-/// stop it.
+/// Runs `act` in a child process, which must end within a minute, and returns the outcome. `mayTrap` is whether the
+/// module may stop the process.
 template <class Act>
 Outcome outcomeElsewhere(Act act, bool mayTrap = false) {
   constexpr unsigned kSeconds = 60;
@@ -37,7 +37,7 @@ Outcome outcomeElsewhere(Act act, bool mayTrap = false) {
   return mayTrap && isTrapped ? handled : crashed;
 }
 
-/// Whether allocations can be made to fail here; sanitizers have an allocator of their own.
+/// Whether allocations can be made to fail. Sanitizers have their own allocator.
 [[nodiscard]] inline bool canAllocationsFail() {
   begin({Kind::allocation, ENOMEM, false}, 0);
   void* const volatile memory = std::malloc(1);

@@ -1,5 +1,4 @@
-// What the module makes of resources that are not what they should be: never a hang, a crash or a leak, but the
-// outcome that the documents promise.
+// Tests the module with damaged resources: it must return the documented result, and never hang, crash or leak.
 
 #include <ZKStrings/engine/StringLookup.h>
 #include <ZKStrings/platform/Bundle.h>
@@ -55,7 +54,7 @@ std::string contents(const std::string& path) {
 constexpr unsigned kSecondsForAll = 120;
 constexpr std::size_t kMany = 64 << 20;
 
-/// Blanks before what the file holds, or many files beside what the directory holds.
+/// Adds many blanks at the beginning of the file, or many files to the directory.
 void makeEnormous(const std::string& path) {
   if (!fs::is_directory(path)) return makeFile(path, std::string(kMany, ' ') + contents(path));
   for (int i = 0; i < 2000; ++i) std::ofstream(path + "/" + std::to_string(i) + ".strings");
@@ -126,7 +125,7 @@ const Shape kShapes[] = {
     {.name = "unreadable", .change = [](const std::string& path) { chmod(path.c_str(), 0); }},
 };
 
-/// A resource directory as it should be, but for what becomes of one path in it. Anybody may read it.
+/// A correct resource directory, except for one path in it. Everybody may read it.
 class Resources {
  public:
   Resources() : Resources("", [](const std::string&) {}) {}
@@ -164,7 +163,7 @@ std::ptrdiff_t openDescriptors() {
   return std::distance(fs::directory_iterator("/proc/self/fd"), {});
 }
 
-/// As long as it lives, the process may read only what anybody may. False when it cannot be so.
+/// Takes the permissions of root from the process during its lifetime. False if that is not possible.
 class OrdinaryUser {
  public:
   OrdinaryUser() : was_(geteuid()) {
@@ -184,7 +183,7 @@ class OrdinaryUser {
 class FilesDeathTest : public ::testing::TestWithParam<Shape> {
  protected:
   void SetUp() override {
-    alarm(kSecondsForAll);  // for what hangs
+    alarm(kSecondsForAll);  // ends a test that hangs
     Current::language = Language{};
   }
   void TearDown() override { alarm(0); }
@@ -224,11 +223,11 @@ std::string nameOf(const ::testing::TestParamInfo<Shape>& info) {
 
 INSTANTIATE_TEST_SUITE_P(Resource, FilesDeathTest, ::testing::ValuesIn(kShapes), nameOf);
 
-/// Puts `bytes` in the place of what the file holds.
+/// Replaces the contents of the file with `bytes`.
 using Replace = void (*)(const std::string& path, const std::string& bytes);
 
-// Read while it is written, a file holds what it held before or after, or nothing; when it is replaced as a whole,
-// never nothing.
+// A file that is read while it is written has its old contents, its new contents or none. If it is replaced as a
+// whole, it always has contents.
 TEST(Files, MayChangeWhileTheyAreRead) {
   const std::pair<Replace, bool> ways[] = {
       {[](const std::string& path, const std::string& bytes) {
@@ -262,7 +261,7 @@ TEST(Files, MayChangeWhileTheyAreRead) {
       for (int round = 0; !done; ++round) write(round);
     });
     for (int round = 0; round < 300; ++round) {
-      // Under a name of its own, the directory is opened once more.
+      // Under another name, the directory is opened again.
       const std::string name = resources.path() + "/" + std::to_string(round);
       fs::create_directory_symlink(resources.path() + "/de.lproj", name);
       const std::string text(Bundle::initWithPath(name)->localizedStringForKey("a", "nothing"));

@@ -1,5 +1,5 @@
-// Uses the module step by step, with names from outside that try to leave its resources, for traced_files.sh to see which
-// files each step asks the system for. A step begins where the program asks for the file "step:" and its name.
+// Uses the module step by step, with hostile names that try to leave its resources. traced_files.sh checks which
+// files each step opens. A step begins when the program opens the file "step:" with the step's name.
 
 #include <ZKStrings/ZKStrings.h>
 
@@ -44,7 +44,7 @@ std::vector<std::string> identifiers() {
   constexpr int kCount = 5000;
   constexpr std::size_t kMegabyte = 1 << 20;
   std::vector<std::string> all;
-  std::mt19937 random;  // the same at each run
+  std::mt19937 random;  // the same in each run
   const auto part = [&] { return kParts[random() % std::size(kParts)]; };
   for (int i = 0; i < kCount; ++i) {
     std::string& identifier = all.emplace_back();
@@ -58,7 +58,8 @@ std::vector<std::string> identifiers() {
   return all;
 }
 
-/// How many of the identifiers give a text as it should be: that of any language of the module's, or English.
+/// Returns how many of the identifiers result in a right text: that of one of the module's languages, or the English
+/// one.
 std::size_t rightTexts(const std::vector<std::string>& all) {
   std::size_t right = 0;
   for (const std::string& identifier : all) {

@@ -14,7 +14,7 @@
 
 #include <nlohmann/json.hpp>
 
-/// What `zkstrings check` says to a project whose files are the parts of the input.
+/// Runs `zkstrings check` on a project whose files are the parts of the input.
 
 namespace zk::fuzzing {
 

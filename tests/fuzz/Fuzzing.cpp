@@ -20,7 +20,7 @@ namespace {
 
 constexpr char kSeparator = '\x1E';
 
-// Far above what is measured under the sanitizers, and far below what work costs that grows by the square.
+// Far above the time measured with sanitizers, and far below that of quadratic algorithms.
 constexpr double kSecondsForAny = 0.2;
 constexpr double kSecondsForByte = 50e-6;
 
@@ -30,7 +30,7 @@ double processorSeconds() {
   return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
 }
 
-/// Fills the room behind the input with copies of one piece of it, which slow code shows by.
+/// Fills the room after the input with copies of one piece of it, because repetition reveals slow code.
 std::size_t repeatPiece(std::uint8_t* data, std::size_t size, std::size_t room, std::minstd_rand& random) {
   const std::size_t begin = random() % size;
   const std::size_t piece = 1 + random() % (size - begin);

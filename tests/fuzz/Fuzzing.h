@@ -8,18 +8,18 @@
 /// What the fuzzers share. A fuzzer defines `test`; libFuzzer keeps each input for which the process stops.
 namespace zk::fuzzing {
 
-/// Tries one input: whatever bytes the fuzzer comes up with.
+/// Tests one input, which may be any bytes.
 void test(std::string_view input);
 
-/// Stops the process with a message when something that must hold does not.
+/// Stops the process with a message unless a condition is true.
 void require(bool holds, std::string_view what);
 
-/// `count` parts of an input, which ASCII's record separator (1E) divides. Those that are not there are
-/// empty; the last has all that is left.
+/// Returns `count` parts of an input, separated by ASCII's record separator (1E). Missing parts are empty. The last
+/// part has all the rest.
 [[nodiscard]] std::vector<std::string> partsOf(std::string_view input, std::size_t count);
 
-/// Counts the processor's time, other programs' left out, of what must not take longer than what it works on
-/// is long. Stops the process at the end of a scope that took too long for `bytes`.
+/// Limits the processor time of code whose cost must not grow faster than its input. Stops the process at the end of
+/// a scope that took too long for `bytes`.
 ///
 ///     const TimeLimit limit(file.size());
 class TimeLimit {

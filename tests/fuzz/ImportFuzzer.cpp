@@ -22,7 +22,7 @@ using namespace zk::tools;
 using testing::TemporaryDirectory;
 using testing::TemporaryProject;
 
-/// Returns whether `work` refuses nothing. It must end in time.
+/// Returns whether `work` accepts its input. It must end in time.
 template <class Work>
 bool succeeds(std::size_t bytes, Work work) {
   const TimeLimit limit(bytes);

@@ -9,7 +9,7 @@
 
 namespace {
 
-/// Says in which function the process was stopped.
+/// Prints the function in which the process was stopped.
 extern "C" void sayWhereItStops(int, siginfo_t* signal, void*) {
   Dl_info place{};
   if (dladdr(signal->si_addr, &place) == 0 || !place.dli_sname) _exit(2);

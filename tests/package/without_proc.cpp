@@ -1,6 +1,6 @@
-// Loaded before a program, shows it a system without /proc. With WITHOUT_NAMES in the environment, nothing
-// else tells the program either where its files are, and looking for resources at the root of the file system
-// ends it.
+// Preloaded into a program, simulates a system without /proc. With WITHOUT_NAMES in the environment, the program
+// cannot find its files in any other way either. Searching the root of the file system for resources ends the
+// program.
 
 #include <cerrno>
 #include <cstdio>

@@ -1,4 +1,4 @@
-// What writers, translators and testers do with the page.
+// Tests what writers, translators and testers do with the page.
 const assert = require("node:assert");
 const { before, after, test } = require("node:test");
 const { ROOT, PROJECT, makePage, startBrowser, open, listedKeys } = require("./support.js");

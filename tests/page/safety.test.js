@@ -1,4 +1,4 @@
-// Texts are shown, whatever they contain, and never run.
+// Tests that texts are shown, whatever they contain, and never run.
 const assert = require("node:assert");
 const { before, after, test } = require("node:test");
 const { PROJECT, makePage, dataOf, unmarked, startBrowser, open } = require("./support.js");

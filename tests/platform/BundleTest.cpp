@@ -67,8 +67,8 @@ TEST(Bundle, OfCodeHasTheResourcesBesideIt) {
   EXPECT_NE(bundle().pathForResource("Base", "lproj"), nullptr);
   EXPECT_EQ(&bundle(), &bundle());
   EXPECT_EQ(&mainBundle(), &mainBundle());
-  // This type belongs to the standard library, which has no texts of ours beside it, unless it is a part of this
-  // program, as in a static one.
+  // This type belongs to the standard library, which has none of our resources next to it, unless it is part of this
+  // program, as in a static program.
   std::error_code failure;
   const std::string own = fileHolding(typeid(TemporaryDirectory).name(), failure);
   const bool isPart = fileHolding(typeid(int).name(), failure) == own;
@@ -76,7 +76,7 @@ TEST(Bundle, OfCodeHasTheResourcesBesideIt) {
   EXPECT_EQ(&none, &Bundle::bundleForClass(typeid(int)));
   EXPECT_EQ(none.path(), isPart ? bundle().path() : "");
   EXPECT_EQ(none.pathForResource("Base", "lproj") != nullptr, isPart);
-  // Resources of one's own have a single name.
+  // The name of other resources must be a single name.
   for (const char* name : {"", ".", "..", "a/b", "../share/ZKStrings", "nothing there"})
     EXPECT_EQ(Bundle::bundleForClass(typeid(TemporaryDirectory), name).path(), "") << name;
   EXPECT_NE(Bundle::bundleForClass(typeid(TemporaryDirectory), "ZKStrings").path(), "");

@@ -94,7 +94,7 @@ TEST(Json, ReadsFragmentsAndNumbersOfEverySize) {
     EXPECT_TRUE(parseJson(number)->as<double>()) << number;
 }
 
-// It would take minutes if the work grew by the square.
+// This would take minutes if the cost were quadratic.
 TEST(Json, LongNumbersAreReadOnce) {
   const std::string digits(1000000, '9');
   EXPECT_TRUE(parseJson("[0." + digits + ", 1e-" + digits + "]"));
@@ -102,7 +102,7 @@ TEST(Json, LongNumbersAreReadOnce) {
   EXPECT_FALSE(parseJson("[" + std::string(1000000, '0') + "]"));
 }
 
-/// The process's locale has a decimal comma, as most have; made here, since machines need not have one.
+/// Sets a locale with a decimal comma. It is created here, because a machine need not have one.
 TEST(Json, NumbersHaveAPointWhateverTheLocale) {
   const testing::TemporaryDirectory directory;
   directory.write("source", "LC_NUMERIC\ndecimal_point \",\"\nthousands_sep \"\"\nEND LC_NUMERIC\n");
@@ -110,7 +110,7 @@ TEST(Json, NumbersHaveAPointWhateverTheLocale) {
   // localedef fails because categories are missing, but writes the locale.
   const int ignored = std::system("cd \"$LOCPATH\" && localedef --no-archive -ci source ./comma >log 2>&1");
   static_cast<void>(ignored);
-  // Some C libraries take any name and have a point all the same.
+  // Some C libraries accept any name and still use a point.
   const bool isMade = std::setlocale(LC_NUMERIC, "comma") && std::localeconv()->decimal_point == ","s;
   const std::string numbers = parsed("[1.25, 7]");
   const std::string pointAfterwards = std::localeconv()->decimal_point;

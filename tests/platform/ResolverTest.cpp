@@ -20,7 +20,7 @@ namespace zk {
 namespace {
 
 template <int>
-struct Service {  // a type of its own for each test, since the registry lives as long as the process
+struct Service {  // a different type in each test, because the registry lives as long as the process
   int value;
 };
 
@@ -34,7 +34,7 @@ int viewed() {
   return ServiceView<Service<kNumber>>()->value;
 }
 
-/// Registers a factory for the scope of the application that gives what `value` does.
+/// Registers a factory with the application scope that returns the result of `value`.
 template <int kNumber, class Value>
 void registerOne(Value value) {
   Resolver::register_<Service<kNumber>>([value = std::move(value)] {
@@ -110,7 +110,7 @@ TEST(Resolver, AThreadGivesUpWhatItKeptWhenItEnds) {
   const auto view = [](void*) { EXPECT_EQ(**ServiceView<Shared>(), 1); };
   std::thread(view, nullptr).join();
   EXPECT_EQ(counted.use_count(), before);
-  // Also when its first view comes at its very end.
+  // Even if the first view is opened while the thread ends.
   pthread_key_t atThreadEnd{};
   ASSERT_EQ(pthread_key_create(&atThreadEnd, view), 0);
   std::thread([&] { pthread_setspecific(atThreadEnd, &atThreadEnd); }).join();
@@ -120,7 +120,7 @@ TEST(Resolver, AThreadGivesUpWhatItKeptWhenItEnds) {
   EXPECT_EQ(counted.use_count(), 1);
 }
 
-/// Reads its own type when it goes, as a service that logs might.
+/// Resolves its own type in its destructor, as a service that logs might.
 struct ReadsItself {
   explicit ReadsItself(int shown) : value(shown) {}
   ReadsItself(const ReadsItself&) = delete;

@@ -27,7 +27,7 @@ std::string replaced(std::string text, std::string_view target, std::string_view
 
 TEST(TextSearch, ReplacesCanonicallyEquivalentOccurrences) {
   auto rows = testing::rowsOf<std::string, std::string, std::string>("platform/TextSearchTest.json");
-  // What is not UTF-8 cannot stand in JSON.
+  // JSON cannot contain bytes that are not UTF-8.
   rows.emplace_back("\xFF%{x}\xFF", "%{x}", "\xFF#\xFF");
   rows.emplace_back("a\xFF\xC3z", "\xFF\xC3", "a#z");
   rows.emplace_back("é\xFF", "\xC3", "é\xFF");
@@ -84,7 +84,7 @@ std::string repeated(std::string_view piece, std::size_t times = 250000) {
   return text;
 }
 
-// Each of these would take minutes if the work grew by the square.
+// Each of these would take minutes if the cost were quadratic.
 TEST(TextSearch, LongTextsThatDeferEveryDecisionAreSearched) {
   const std::string marks = repeated("\u0301\u0316");
   const std::string sorted = repeated("\u0316") + repeated("\u0301");

@@ -25,7 +25,7 @@ TEST(UnicodeText, FirstTwoCharactersAreUserPerceivedAndBytesThatAreNotUtf8Charac
   for (const auto& [text, size] : cases) EXPECT_EQ(firstTwoCharacters(text), text.substr(0, size)) << text;
 }
 
-/// The text with a | behind each cluster.
+/// Returns the text with a | after each cluster.
 std::string dividedByICU(const std::string& text) {
   UErrorCode status = U_ZERO_ERROR;
   const icu::UnicodeString whole = icu::UnicodeString::fromUTF8(text);

@@ -64,7 +64,7 @@ std::string namesIn(const std::string& file) {
 }
 
 TEST(CountryList, ReadsWhatTheFileHolds) {
-  // Of JSON as it is; of what is none or what JSON libraries refuse, as a text.
+  // A JSON value, or a text if it is not JSON or if JSON libraries refuse it.
   for (const auto& [content, names] : testing::rowsOf<nlohmann::json, std::string>("region/CountryTest.json"))
     EXPECT_EQ(namesIn(content.is_string() ? content.get<std::string>() : content.dump()), names) << content;
   EXPECT_EQ(namesIn("[{\"name\": \"\xFF\", \"phoneCode\": 1, \"iso\": \"AA\"}]"), "");

@@ -120,7 +120,7 @@ class Soak {
       Current::language.change([&](Language& now) { now.preferredLanguages = list; });
     }
     done_ = number;
-    // In the pauses only one language is right.
+    // During the pauses, only one language is right.
     if (number % kBurst == 0) std::this_thread::sleep_for(std::chrono::microseconds(100));
   }
 

@@ -9,7 +9,7 @@
 
 namespace zk::testing {
 
-/// A copy of small-project/, in a directory of its own that goes with the object.
+/// A copy of small-project/ in a temporary directory, which is removed with the object.
 class TemporaryProject {
  public:
   static constexpr const char* kCatalogue = "catalogue/entries.json";

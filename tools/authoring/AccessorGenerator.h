@@ -9,22 +9,23 @@
 
 namespace zk::tools {
 
-/// The generated sources: what the header and the source file of a `CatalogueName` hold.
+/// The contents of the generated header and source file.
 struct Accessors {
   std::string header;
   std::string source;
 };
 
-/// One accessor for each entry, in the class that `name` says. The comments of counted entries show their
-/// plural forms, which `base`, the English table, holds.
+/// Generates one accessor for each entry, in the class `name`. The comments of counted entries show their plural
+/// forms from `base`, the English table.
 [[nodiscard]] Accessors generateAccessors(const Catalogue& catalogue, const Table& base,
                                           const CatalogueName& name);
 
-/// How generated files begin.
+/// The first line of generated files.
 inline constexpr std::string_view kGeneratedNotice =
     "// Generated from catalogue/entries.json by `zkstrings generate`.";
 
-/// The name of the accessor of `entry`. One that is named like the class would be its constructor and gets an underscore.
+/// The name of the accessor of `entry`. If it would be the name of the class, and so of the constructor, an
+/// underscore is appended.
 [[nodiscard]] std::string accessorOf(const Entry& entry, const CatalogueName& name);
 
 /// The call of the accessor of `entry`: "zk::ZKStrings::badgeCount_Badges(badgeCount, count)".

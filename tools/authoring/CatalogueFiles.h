@@ -10,7 +10,7 @@
 
 namespace zk::tools {
 
-/// What a command does to the tables, besides bringing them in line with the catalogue.
+/// The changes that a command makes to the tables, in addition to updating them from the catalogue.
 struct TableChange {
   /// New keys by old ones; an empty new key removes the entry.
   std::map<std::string, std::string> renamed = {};
@@ -31,19 +31,19 @@ struct TableChange {
 /// catalogue or the English table is wrong.
 [[nodiscard]] Catalogue readToChange(const std::string& root);
 
-/// Writes the catalogue of the project at `root` and brings the rest in line with it, all files or none: the English
-/// table says what the catalogue says, translations of texts that have changed are marked for review, and the accessors
-/// are generated where the project keeps them. Returns the number of translations that need review now. Throws
-/// `CommandFailed` if one of the files breaks a rule or cannot be written.
+/// Writes the catalogue of the project at `root` and all files that depend on it, or none of them: updates the
+/// English table, marks translations of changed texts for review, and generates the accessors if the project keeps
+/// them. Returns the number of translations that need review now. Throws `CommandFailed` if one of the files breaks a
+/// rule or cannot be written.
 std::size_t writeCatalogue(const std::string& root, const Catalogue& catalogue,
                            const TableChange& change = {});
 
-/// Does so for the catalogue as a person or a merge of two versions left it, and puts it and all tables in order.
-/// Throws `CommandFailed` with what it cannot decide, such as one key with two texts.
+/// Does the same after somebody has edited or merged the catalogue, and sorts the catalogue and all tables. Throws
+/// `CommandFailed` with the conflicts that it cannot resolve, such as one key with two texts.
 std::size_t generate(const std::string& root);
 
 /// Writes only the accessors, into the directory `output`, for a build that keeps them there. Throws `CommandFailed`,
-/// with files named from `root`, if the catalogue is wrong or the English table does not say what it says.
+/// with files named from `root`, if the catalogue is wrong or the English table differs from it.
 void generateInto(const std::string& output, const std::string& root);
 
 }  // namespace zk::tools

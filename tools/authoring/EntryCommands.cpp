@@ -67,7 +67,7 @@ void refuseWrongTexts(const std::string& text, bool isCounted, const PluralForms
   }
 }
 
-/// Gives a counted entry `forms`; those that are not given are its text.
+/// Sets the plural forms of a counted entry. Missing forms are the same as its text.
 void setForms(Entry& entry, const PluralForms& forms) {
   if (!forms[kFormForOne]) refuse("a counted text needs its form for one; add --one 'TEXT'");
   for (std::size_t i = 0; i < forms.size(); ++i) entry.forms[i] = forms[i].value_or(entry.text);
@@ -135,7 +135,7 @@ void renamePlaceholder(Entry& entry, const std::string& renaming, TableChange& t
     if (form) form = replaceAll(*form, tables.oldPlaceholder, tables.newPlaceholder);
 }
 
-/// Gives a text a count. Its translations become the form for many.
+/// Adds a count to a text. Its translations become the form for many.
 void addCount(Entry& entry, const PluralForms& forms, TableChange& tables) {
   entry.plural = true;
   setForms(entry, forms);

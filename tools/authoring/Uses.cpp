@@ -66,7 +66,7 @@ std::vector<Token> tokensOf(std::string_view code) {
   return tokens;
 }
 
-/// Adds the aliases that `tokens` give to one of `names`: in "using T = zk::ZKStrings;", T.
+/// Adds the aliases that `tokens` declare for one of `names`: in "using T = zk::ZKStrings;", T.
 void addAliases(const std::vector<Token>& tokens, std::set<std::string>& names) {
   for (std::size_t i = 0; i + 3 < tokens.size(); ++i) {
     if (tokens[i].text != "using" || tokens[i + 2].text != "=") continue;

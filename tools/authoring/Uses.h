@@ -8,13 +8,13 @@
 
 namespace zk::tools {
 
-/// Where the sources of a program call the accessors of a catalogue.
+/// The places where a program calls the accessors of a catalogue.
 class Uses {
  public:
   /// Searches the source files (C++, Objective-C++) of the folders `directories` for calls of the accessors of
-  /// `catalogue`: their names after the name of the class, or after an alias that one of the files gives it with
-  /// `using Alias = ...;`. Comments, strings and generated accessors do not count. Throws `std::invalid_argument` if the
-  /// folders have no source file; no folders have no uses.
+  /// `catalogue`: their names after the name of the class, or after an alias that one of the files declares with
+  /// `using Alias = ...;`. Comments, strings and generated accessors do not count. Throws `std::invalid_argument` if
+  /// the folders have no source file; no folders have no uses.
   Uses(const std::vector<std::string>& directories, const Catalogue& catalogue);
 
   /// The places that call the accessor of `entry`, with or without a count: "src/menu.cpp:12".

@@ -33,7 +33,7 @@ struct EnglishText {
 /// The English texts of all keys that the module looks up, in catalogue order.
 class EnglishTexts {
  public:
-  /// `catalogue` must outlive the texts. If an entry gives no plural forms, they are those of `base`, the English
+  /// `catalogue` must outlive the texts. If an entry has no plural forms, they are those of `base`, the English
   /// table; a form that `base` lacks has the text of its entry.
   EnglishTexts(const Catalogue& catalogue, const Table& base);
 

@@ -19,7 +19,7 @@ struct PlaceholderUse {
   bool isRight;           ///< whether it is "%{name}", with only letters and digits in the braces
 };
 
-/// Returns all of them in `text`, in order.
+/// Returns all placeholders and misspelt ones in `text`, in order.
 [[nodiscard]] std::vector<PlaceholderUse> placeholderUses(std::string_view text);
 
 }  // namespace zk::tools

@@ -39,7 +39,7 @@ class TableEditor {
   void insertAfter(const TableEntry* entry, std::string_view lines);
   void replaceKey(const TableEntry& entry, std::string_view key);
   void replaceText(const TableEntry& entry, std::string_view text);
-  /// Replaces `from`, as in "%{value}", by `to` in the text of the entry and in the comments before it.
+  /// Replaces `from`, such as "%{value}", with `to` in the text of the entry and in the comments before it.
   void replacePlaceholder(const TableEntry& entry, std::string_view from, std::string_view to);
   /// Replaces the comment before the entry that begins with `name` ("context:") by `comment`, or adds it on a line of
   /// its own. Removes it if `comment` is empty.

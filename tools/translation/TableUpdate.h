@@ -31,18 +31,18 @@ std::size_t writeTemplate(const std::string& root, const std::string& language);
 std::size_t markChanged(TableEditor& editor, const EnglishTexts& english, const Table& base,
                         bool keepsMeaning = false, const std::set<std::string, std::less<>>& reviewed = {});
 
-/// What an update has done to a table.
+/// The changes that an update has made to a table.
 struct TableUpdate {
   std::size_t added = 0;     ///< texts, in English
   std::size_t marked = 0;    ///< entries, as untranslated
   std::size_t unmarked = 0;  ///< entries that are translated now
   std::size_t reviews = 0;   ///< entries marked for review, as their English text has changed
   std::size_t removed = 0;   ///< entries that nothing looks up
-  bool isChange = false;     ///< whether anything has changed, if only comments
+  bool isChange = false;     ///< whether anything has changed, even if only comments
   Diagnostics notLookedUp;   ///< the entries that nothing looks up and that are still there
 };
 
-/// Brings the table of `language` of the project at `root` up to date: adds the missing texts in the catalogue's order,
+/// Updates the table of `language` in the project at `root`: adds the missing texts in the catalogue's order,
 /// marks texts that are still in English as untranslated and those whose English has changed for review, and refreshes
 /// the comments with the English text and the context. Removes the entries that nothing looks up if `prunes`. Everything
 /// else stays as it is. Throws `CommandFailed`, and changes nothing, if the language has no table, if the table, the

@@ -8,7 +8,7 @@
 
 namespace zk::tools {
 
-/// How far the translation of one text has come.
+/// The progress of the translation of one text.
 enum class TranslationState {
   missing,       ///< the table has no entry for it
   untranslated,  ///< the entry is empty or still in English

@@ -1,4 +1,4 @@
-// What only POSIX systems have.
+// Tests for POSIX systems only.
 
 #include <ZKStrings/engine/BundleGlobals.h>
 #include <ZKStrings/platform/Locale.h>

@@ -1,4 +1,4 @@
-// What only Windows has.
+// Tests for Windows only.
 
 #include <ZKStrings/engine/BundleGlobals.h>
 #include <ZKStrings/platform/Bundle.h>

@@ -28,7 +28,7 @@ TEST(Files, AreAllChangedOrNone) {
   const zk::testing::TemporaryDirectory project;
   project.write("a", "old a");
   project.write("folder/inside", "x");
-  // A folder in the place of a file, and a file in the place of a folder.
+  // A folder instead of a file, and a file instead of a folder.
   for (const char* obstacle : {"folder", "a/below"}) {
     EXPECT_THROW(writeFiles(project.path(),
                             {{"a", "new a"}, {"deep/er/b", "new b"}, {"deep/c", "c"}, {obstacle, "d"}}),
