@@ -56,7 +56,7 @@ StringTable StringTable::inFile(const std::string& path, std::error_code& failur
     entries.push_back(
         {hash, narrow(reader.key().begin), narrow(keySize), narrow(reader.value().begin), narrow(valueSize)});
   }
-  if (reader.fault()) return StringTable();
+  if (reader.error()) return StringTable();
   return StringTable(*std::move(text), entries);
 }
 

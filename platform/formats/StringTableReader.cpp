@@ -32,7 +32,7 @@ std::size_t StringTableReader::lineAfter(std::size_t place) const {
 
 /// Records an error. `at_` is after what cannot be read.
 bool StringTableReader::fail(std::size_t offset, std::string expected) {
-  fault_ = Fault{offset, std::move(expected)};
+  error_ = Error{offset, std::move(expected)};
   return false;
 }
 
@@ -105,7 +105,7 @@ inline bool StringTableReader::readMark(char mark, const Token& after) {
 
 bool StringTableReader::next() {
   comments_.clear();
-  if (fault_) return false;
+  if (error_) return false;
   const bool areBlanksRead = skipBlanks();
   entryBegin_ = at_;
   if (!areBlanksRead || at_ == text_.size()) return false;
@@ -114,7 +114,7 @@ bool StringTableReader::next() {
 }
 
 void StringTableReader::recover() {
-  fault_.reset();
+  error_.reset();
   if (at_ == text_.size()) return;
   const auto lineBegin = [&](std::size_t place) { return place == 0 ? 0 : text_.rfind('\n', place - 1) + 1; };
   const auto beginsEntry = [&](std::size_t line) {

@@ -25,7 +25,7 @@ class StringTableReader {
   };
 
   /// Why the text is not a table: what was expected at the byte `offset`.
-  struct Fault {
+  struct Error {
     std::size_t offset;
     std::string expected;
   };
@@ -44,7 +44,7 @@ class StringTableReader {
   [[nodiscard]] Token entry() const { return {entryBegin_, at_}; }
 
   /// After `next` returned false: the error, or nothing at the end of the text.
-  [[nodiscard]] const std::optional<Fault>& fault() const { return fault_; }
+  [[nodiscard]] const std::optional<Error>& error() const { return error_; }
 
   /// Clears the error and continues with what looks like the next entry, for tools that show all errors at
   /// once. Everything after an unterminated comment belongs to the comment.
@@ -65,7 +65,7 @@ class StringTableReader {
   Token key_{};
   Token value_{};
   std::vector<Token> comments_{};
-  std::optional<Fault> fault_{};
+  std::optional<Error> error_{};
 };
 
 /// Replaces the escapes in the `size` bytes at `token` with the characters they mean, which are never longer, and

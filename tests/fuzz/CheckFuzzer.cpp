@@ -41,7 +41,7 @@ void tryDiagnostics(Diagnostics diagnostics) {
   require(nlohmann::json::accept(toJson(diagnostics)), "this is not JSON: " + toJson(diagnostics));
 }
 
-bool isTableAtFault(const Diagnostic& diagnostic, const std::string& file) {
+bool concernsTable(const Diagnostic& diagnostic, const std::string& file) {
   return diagnostic.file == file &&
          (diagnostic.rule == Table::kSyntax || diagnostic.rule == Table::kEncoding);
 }
@@ -51,12 +51,12 @@ void tryTable(const std::string& root, const std::string& language, const Diagno
   const Table table = Table::read(root, language);
   std::error_code unused;
   const StringTable read = StringTable::inFile(root + "/" + tablePath(language), unused);
-  const bool isFaulty = std::any_of(
+  const bool hasErrors = std::any_of(
       diagnostics.begin(), diagnostics.end(),
-      [&](const Diagnostic& diagnostic) { return isTableAtFault(diagnostic, tablePath(language)); });
+      [&](const Diagnostic& diagnostic) { return concernsTable(diagnostic, tablePath(language)); });
   for (const auto& [key, place] : table.places) {
-    require(read.find(key).has_value() != isFaulty, "check and the module disagree about " + key);
-    require(isFaulty || read.find(key) == table.entries[place].text, "they read another text of " + key);
+    require(read.find(key).has_value() != hasErrors, "check and the module disagree about " + key);
+    require(hasErrors || read.find(key) == table.entries[place].text, "they read another text of " + key);
   }
 }
 

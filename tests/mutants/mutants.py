@@ -1,11 +1,11 @@
 #!/usr/bin/env python3
-"""Puts small faults into the code, one at a time, and tells which ones no test notices.
+"""Plants small bugs in the code, one at a time, and prints those that no test finds.
 
     tests/mutants/mutants.py --count 50 --seed 7 --under engine,region,platform
     tests/mutants/mutants.py --count 50 --under tools
 
-Works in a copy of the tree in build/mutants/. A survivor is printed with its place, and is either a change that
-changes nothing that anybody could see, or a hole in the tests.
+Works in a copy of the tree in build/mutants/. A change that no test finds is printed with its place. Either it does
+not change the behaviour, or a test is missing.
 """
 
 import argparse
@@ -18,21 +18,21 @@ import subprocess
 import sys
 import time
 
-sys.dont_write_bytecode = True  # nothing is left among the sources
-import faults  # noqa: E402
+sys.dont_write_bytecode = True  # leave no files among the sources
+import mutations  # noqa: E402
 
 PROJECT = pathlib.Path(__file__).resolve().parents[2]
 FOLDER = PROJECT / "build/mutants"
 TREE = FOLDER / "tree"
 BUILD = FOLDER / "build"
 MEMORY = 4 << 30
-# Of the tools, and of the module: what notices most comes first.
+# The tests of the tools and of the module. Those that find most bugs come first.
 TOOLS_TESTS = ["zk_tools_tests"]
 MODULE_TESTS = ["zk_module_tests", "zk_file_tests", "zk_failure_tests", "zk_tools_tests"]
 
 
 def copy_tree():
-    """Brings the copy up to date, and leaves what has not changed as it is, so that it is not built again."""
+    """Updates the copy. Unchanged files keep their times, so they are not compiled again."""
     listed = subprocess.run(["git", "ls-files", "-z", "--cached", "--others", "--exclude-standard"],
                             cwd=PROJECT, check=True, capture_output=True).stdout.decode().split("\0")
     for name in filter(None, listed):
@@ -52,7 +52,7 @@ def build(test):
 
 
 def passes(test, seconds):
-    """Whether it passes within the time; a test that hangs or takes all memory fails."""
+    """Returns whether the test passes in this time. A test that hangs or uses too much memory fails."""
     scratch = FOLDER / "scratch"
     shutil.rmtree(scratch, ignore_errors=True)
     scratch.mkdir()
@@ -71,7 +71,7 @@ def passes(test, seconds):
 
 
 def prepare(tests):
-    """Builds the copy without a fault, and gives the time that each test may take with one."""
+    """Builds the copy without a mutation, and returns the time limit of each test."""
     copy_tree()
     subprocess.run(["cmake", "-G", "Ninja", "-S", TREE, "-B", BUILD, "-DCMAKE_CXX_FLAGS=-O1 -w", "-DZK_EXAMPLES=OFF"],
                    check=True, stdout=subprocess.DEVNULL)
@@ -82,15 +82,15 @@ def prepare(tests):
             sys.exit(built.stdout[-4000:])
         start = time.monotonic()
         if not passes(test, 600):
-            sys.exit(f"{test} fails without a fault as well.")
+            sys.exit(f"{test} also fails without a mutation.")
         limits[test] = 10 + 5 * (time.monotonic() - start)
     return limits
 
 
-def outcome_of(fault, limits):
-    path = TREE / fault.path
+def outcome_of(mutation, limits):
+    path = TREE / mutation.path
     original = path.read_text()
-    path.write_text(fault.applied_to(original))
+    path.write_text(mutation.applied_to(original))
     try:
         for test, seconds in limits.items():
             if build(test).returncode != 0:
@@ -104,26 +104,26 @@ def outcome_of(fault, limits):
 
 def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
-    parser.add_argument("--count", type=int, default=20, help="how many faults, without those that do not compile")
-    parser.add_argument("--seed", type=int, default=1, help="the same seed puts the same faults into the same code")
-    parser.add_argument("--under", default="engine,region,platform", help="folders, or files, with commas between them")
+    parser.add_argument("--count", type=int, default=20, help="the number of mutations, except those that do not compile")
+    parser.add_argument("--seed", type=int, default=1, help="the same seed makes the same mutations of the same code")
+    parser.add_argument("--under", default="engine,region,platform", help="folders or files, separated by commas")
     options = parser.parse_args()
 
     folders = options.under.split(",")
     for folder in folders:
         if not (PROJECT / folder).exists():
-            parser.error(f"argument --under: there is no {folder}")
+            parser.error(f"argument --under: {folder} does not exist")
     os.nice(10)
     limits = prepare(TOOLS_TESTS if folders[0].startswith("tools") else MODULE_TESTS)
     outcomes = collections.Counter()
     try:
-        for fault in faults.drawn(TREE, folders, random.Random(options.seed)):
+        for mutation in mutations.random_mutations(TREE, folders, random.Random(options.seed)):
             if outcomes["caught"] + outcomes["survived"] == options.count:
                 break
-            outcome = outcome_of(fault, limits)
+            outcome = outcome_of(mutation, limits)
             outcomes[outcome] += 1
             if outcome == "survived":
-                print(f"{fault}\n", flush=True)
+                print(f"{mutation}\n", flush=True)
     except KeyboardInterrupt:
         pass
     print(", ".join(f"{number} {outcome}" for outcome, number in sorted(outcomes.items())))

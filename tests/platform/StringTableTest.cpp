@@ -103,10 +103,10 @@ TEST(StringTableReader, SaysWhatWasExpectedWhereAndGoesOn) {
         keys.push_back(table.substr(reader.key().begin, reader.key().end - reader.key().begin));
     };
     readAll();
-    ASSERT_TRUE(reader.fault()) << text;
-    EXPECT_TRUE(text.substr(reader.fault()->offset).starts_with(beginOfRest)) << text;
-    EXPECT_NE(reader.fault()->expected.find(expected), std::string::npos) << reader.fault()->expected;
-    while (reader.fault()) {
+    ASSERT_TRUE(reader.error()) << text;
+    EXPECT_TRUE(text.substr(reader.error()->offset).starts_with(beginOfRest)) << text;
+    EXPECT_NE(reader.error()->expected.find(expected), std::string::npos) << reader.error()->expected;
+    while (reader.error()) {
       reader.recover();
       readAll();
     }

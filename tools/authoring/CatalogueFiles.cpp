@@ -138,7 +138,8 @@ std::size_t writeCatalogue(const std::string& root, const Catalogue& catalogue, 
   }
   if (!undecided.empty()) throw CommandFailed{std::move(undecided)};
 
-  // An interrupted command is finished by another call: translations change before the English that they follow.
+  // If the command is interrupted, the next call finishes its work, because translations change before the English
+  // texts.
   const std::string baseBytes = syncedBase(base, english);
   files.push_back({tablePath(kBase), baseBytes});
   const CatalogueName name = CatalogueSettings::read(root).name;

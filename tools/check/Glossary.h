@@ -35,7 +35,7 @@ struct LanguageStyle {
   bool sentenceStops = true;               ///< whether sentences end with a full stop or a question mark
 };
 
-/// What the translators have agreed on.
+/// The terms and styles that the translators have agreed on.
 struct Glossary {
   static constexpr const char* kFile = "resources/glossary.json";
 

@@ -116,14 +116,14 @@ void addChangeCommand(CLI::App& app, const RootFinder& inRoot) {
   auto* const command = app.add_subcommand("change", "Change a text, but not its key");
   command->add_option("key", *key, "The text's key")->required()->type_name("KEY");
   auto* const text = command->add_option("text", change->text, "The new English text; \\n is a line break");
-  command->add_flag("--same-meaning", change->keepsMeaning, "Leave translations alone: they are still right")
+  command->add_flag("--same-meaning", change->keepsMeaning, "Do not mark translations for review")
       ->needs(text);
   addForms(*command, change->forms);
-  command->add_flag("--count", change->plural, "Make it a text with plural forms; needs at least --one");
+  command->add_flag("--count", change->plural, "Add plural forms; needs at least --one");
   command->add_option("--placeholder", change->placeholder, "Rename a placeholder in all tables")
       ->type_name("OLD=NEW")
       ->excludes(text);
-  command->add_option("--comment", change->comment, "What translators need to know; '' for nothing");
+  command->add_option("--comment", change->comment, "What translators need to know; '' removes it");
   command->add_option("--max", change->max, "The most characters that fit; 0 for no limit")
       ->check(isNumberUpTo(kMostCharacters));
   command->add_flag("--plain", change->isPlain, kPlainHelp);
@@ -138,7 +138,7 @@ void addChangeCommand(CLI::App& app, const RootFinder& inRoot) {
 
 void addRenameCommand(CLI::App& app, const RootFinder& inRoot) {
   const auto keys = std::make_shared<std::pair<std::string, std::string>>();
-  auto* const command = app.add_subcommand("rename", "Give a text another key; translations stay");
+  auto* const command = app.add_subcommand("rename", "Change the key of a text in all tables");
   command->add_option("key", keys->first, "The text's key")->required()->type_name("KEY");
   command->add_option("new_key", keys->second, "Its new key")->required()->type_name("NEW_KEY");
   command->footer("Example: zkstrings rename About About_the_app");
@@ -174,7 +174,7 @@ CLI::Validator isNumberUpTo(int most) {
 
 void addSourcesOption(CLI::App& command, std::vector<std::string>& directories) {
   command
-      .add_option("--sources", directories, "Add the places that use a text in this folder; can be repeated")
+      .add_option("--sources", directories, "Add the places in this folder that use a text; can be repeated")
       ->allow_extra_args(false)
       ->type_name("DIR");
 }

@@ -46,7 +46,7 @@ void complain(std::string_view message) {
   print(stderr, fmt::format("{}\n", message));
 }
 
-/// What is wrong with a command line that names an unknown subcommand, or an empty string.
+/// The message about an unknown subcommand; empty if there is none.
 std::string unknownCommand(const CLI::App& app) {
   const std::vector<std::string> words = app.remaining();
   if (!app.get_subcommands().empty() || words.empty()) return "";
@@ -56,7 +56,7 @@ std::string unknownCommand(const CLI::App& app) {
                      didYouMean(nearest(words.front(), names), "zkstrings --help lists the commands"));
 }
 
-/// Prints the help that was asked for, or what is wrong with the command line. Returns the exit status.
+/// Prints the requested help, or a message about the command line. Returns the exit status.
 int exit(const CLI::App& app, const CLI::ParseError& reason) {
   std::ostringstream out;
   std::ostringstream err;
@@ -67,8 +67,8 @@ int exit(const CLI::App& app, const CLI::ParseError& reason) {
   return isWrong ? kWrongUsage : 0;
 }
 
-/// Prints the manual page for "man", or for "complete WORD..." the words that complete the last one. The build and the
-/// scripts for shells ask for them as `zkstrings reference ...`, which no help mentions.
+/// Prints the manual page for "man", or for "complete WORD..." the words that complete the last one. The build and
+/// the shells' completion scripts run this as `zkstrings reference ...`, which is not in the help.
 void printReference(const CLI::App& app, const std::vector<std::string>& words) {
   const bool isComplete = words.front() == "complete";
   std::fputs((isComplete ? completionOf(app, {words.begin() + 1, words.end()}) : manPageOf(app)).c_str(),
@@ -82,7 +82,7 @@ int run(int argc, char** argv) {
   app.set_version_flag("--version", "zkstrings " ZK_VERSION);
   app.require_subcommand(1);
   std::string root;
-  app.add_option("--root", root, "The project's folder (default: the nearest one upward)")->type_name("DIR");
+  app.add_option("--root", root, "The project's folder (default: the nearest one at or above the current folder)")->type_name("DIR");
   const auto inRoot = [&] { return root = root.empty() ? findRoot() : rootAt(root); };
   const auto aloneInRoot = [&] {
     lockProject(inRoot());

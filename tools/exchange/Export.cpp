@@ -47,7 +47,7 @@ bool hasMarks(const EnglishText& english) {
                      [](const TextPiece& piece) { return piece.kind == TextPiece::Kind::opening; });
 }
 
-/// What a translator who sees only `english` must know.
+/// The notes for a translator who sees only `english`.
 std::vector<std::string> notesOn(const EnglishText& english) {
   std::vector<std::string> notes;
   if (std::string context = english.entry->context(); !context.empty()) notes.push_back(std::move(context));

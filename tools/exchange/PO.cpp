@@ -90,7 +90,8 @@ std::string entryOf(const TranslationUnit& unit) {
          statement("msgstr", unit.target);
 }
 
-/// Takes an escape, whose backslash is gone, off `text`. Nothing if it has no meaning.
+/// Removes an escape, of which the backslash is already removed, from the beginning of `text` and returns its
+/// meaning. Returns nothing if it is unknown.
 std::optional<char> takeEscape(std::string_view& text) {
   constexpr std::string_view kNames = "abfnrtv\\\"";
   constexpr std::string_view kCharacters = "\a\b\f\n\r\t\v\\\"";

@@ -35,7 +35,7 @@ constexpr std::string_view kEndOfOverride = "\u202C";
 
 using Kind = TextPiece::Kind;
 
-/// Applies `make` to `text` without the white space at its ends, and puts the white space back.
+/// Applies `make` to `text` without the white space at its ends, which is kept.
 template <class Make>
 std::string withinSpaces(std::string_view text, const Make& make) {
   constexpr std::string_view kSpaces = " \t\n";

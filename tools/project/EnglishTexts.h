@@ -19,8 +19,8 @@ struct EnglishText {
   std::string text;         ///< from the entry, or from the English table if only that has the form
   const CatalogueSettings* settings;
 
-  /// The names of the placeholders that a translation may use: those of the text, and of a plural form those
-  /// of its entry besides.
+  /// The names of the placeholders that a translation may use: those of the text and, for a plural form, those of its
+  /// entry.
   [[nodiscard]] std::vector<std::string_view> placeholders() const;
   /// The placeholder for the count: the first one for a number, or else the entry's only one if it has no example
   /// value. Empty if there is none, or if the text is not a plural form.

@@ -11,8 +11,8 @@ namespace zk::tools {
 
 namespace {
 
-/// What cannot be the name of an accessor: the reserved words, and the two names that the module's class
-/// itself needs.
+/// The words that cannot be the name of an accessor: reserved words, and two names that the module's class itself
+/// needs.
 constexpr std::string_view kReserved[] = {
     "Text",     "ZKStrings", "alignas",  "alignof",   "and",     "and_eq",    "asm",      "auto",
     "bitand",   "bitor",     "bool",     "break",     "case",    "catch",     "char",     "class",

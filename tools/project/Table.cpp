@@ -125,7 +125,7 @@ Table Table::parse(std::string bytes, std::string file) {
     if (bytes.starts_with(kByteOrderMark)) bytes.erase(0, kByteOrderMark.size());
     for (const Position at : illFormedPlaces(bytes))
       fail(at, kEncoding, "the bytes here are not UTF-8; save the file as UTF-8");
-    text = std::move(bytes);  // so that other errors are reported, too
+    text = std::move(bytes);  // to report other errors, too
   }
   PositionFinder positions(*text);
   StringTableReader reader(*text);
@@ -135,9 +135,9 @@ Table Table::parse(std::string bytes, std::string file) {
       table.entries.push_back(entryFrom(reader, *text, commentsBegin, positions));
       table.places.insert_or_assign(table.entries.back().key, table.entries.size() - 1);
     }
-    if (!reader.fault()) break;
-    fail(positions.at(reader.fault()->offset), kSyntax,
-         fmt::format("expected {}; write \"key\" = \"text\";", reader.fault()->expected));
+    if (!reader.error()) break;
+    fail(positions.at(reader.error()->offset), kSyntax,
+         fmt::format("expected {}; write \"key\" = \"text\";", reader.error()->expected));
     reader.recover();
   }
   if (table.diagnostics.empty()) return table;

@@ -41,8 +41,8 @@ void TextPlaces::readOn() {
 Position TextPlaces::at(std::size_t offset) {
   while (text_.end <= offset && piece_.end < spelled_.size()) readOn();
   // Only an escape has another size than the character that it spells, and it is at the beginning.
-  const std::size_t behind = text_.end - std::min(offset, text_.end);
-  return positions_.at(offset <= text_.begin ? piece_.begin : piece_.end - behind);
+  const std::size_t bytesAfter = text_.end - std::min(offset, text_.end);
+  return positions_.at(offset <= text_.begin ? piece_.begin : piece_.end - bytesAfter);
 }
 
 }  // namespace zk::tools

@@ -14,7 +14,7 @@ class TextPlaces {
   /// `entry` must outlive the places.
   explicit TextPlaces(const TableEntry& entry);
   /// The place of the character at the byte `offset` of the text; of the text's end for an offset beyond it.
-  /// Offsets are asked for in rising order.
+  /// Offsets must be queried in rising order.
   [[nodiscard]] Position at(std::size_t offset);
 
  private:

@@ -9,7 +9,7 @@
 
 namespace zk::tools {
 
-/// How grave a diagnostic is, from the worst down. A gap is a text that is not translated yet, which is not an error.
+/// The severity of a diagnostic, the worst first. A gap is a text that is not translated yet, which is not an error.
 enum class Severity { error, warning, gap, note };
 
 [[nodiscard]] const char* nameOf(Severity severity);
@@ -20,7 +20,7 @@ struct Diagnostic {
   std::string file;        ///< relative to the project's root, or absolute if it is not a file of the project
   std::size_t line = 1;    ///< from 1
   std::size_t column = 1;  ///< from 1, in characters
-  std::string rule;        ///< the name that turns the rule off; empty if nothing does
+  std::string rule;        ///< the name that turns the rule off; empty if it cannot be turned off
   std::string message;     ///< what is wrong; what to do
 };
 

@@ -33,7 +33,7 @@ namespace {
 
 constexpr const char* kMark = "catalogue/entries.json";
 
-/// Follows the name of a file in that of its temporary files, before six random characters. .gitignore and the rules
+/// The name of a temporary file is that of its file, this text, and six random characters. .gitignore and the rules
 /// for installations (cmake/) name it too.
 constexpr std::string_view kTemporary = ".zkstrings-";
 constexpr std::string_view kRandom = "XXXXXX";
@@ -57,7 +57,7 @@ void removeTemporaryFiles(const fs::path& folder) {
   fail(path, "the file cannot be written; check its permissions and its folder's, and the disk space");
 }
 
-/// While it lives, the signals by which users and systems end a process wait.
+/// Blocks, during its lifetime, the signals with which users and systems end a process.
 class SignalsHeldBack {
  public:
   SignalsHeldBack() {
@@ -123,7 +123,7 @@ class TemporaryFile {
   /// Takes the owner, group and permissions of `file`, or those of a new file if it is null.
   void setAttributes(const struct stat* file) const {
     if (file) {
-      static_cast<void>(!chown(name_.c_str(), file->st_uid, file->st_gid));  // only root may do so always
+      static_cast<void>(!chown(name_.c_str(), file->st_uid, file->st_gid));  // only root may always do this
       chmod(name_.c_str(), file->st_mode & 07777U);
     } else {
       const mode_t mask = umask(0);

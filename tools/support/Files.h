@@ -32,7 +32,7 @@ struct FileChange {
 
 /// Replaces all of the files or none, even if a signal interrupts the command: the new contents are written to temporary
 /// files, which are then renamed, in the order of `changes`. A process that is killed (SIGKILL) in between leaves
-/// the last files unchanged, so put the file last by which a repeated command sees that it has not finished.
+/// the last files unchanged, so put the file last that shows a repeated command that it has not finished.
 ///
 /// A file keeps its permissions and, as far as the system allows it, its owner and group. A symbolic link
 /// stays, and the file it points to is replaced, as far as `pathInProject` allows it.

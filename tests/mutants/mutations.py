@@ -1,11 +1,11 @@
-"""The small faults that could stand in a source: where, and what stands there instead."""
+"""Finds the places of a source that can be changed into small bugs, and the changes."""
 
 import dataclasses
 import re
 
 SOURCES = ("*.cpp", "*.h")
 
-# What stands there, as a pattern, and what may stand there instead.
+# Patterns of code, and the code that may replace them.
 REPLACEMENTS = [
     (r"(?<= )==(?= )", ["!="]),
     (r"(?<= )!=(?= )", ["=="]),
@@ -23,7 +23,7 @@ REPLACEMENTS = [
     (r"(?<=\bif \()(?=[\w*.:]+(?:\([^()]*\))?\))", ["!"]),
 ]
 NUMBER = re.compile(r"(?<![\w.'])(0x[0-9A-Fa-f]+|\d+)(?![\w.'])")
-# A statement of one line that is a call, an assignment or a jump, and no declaration.
+# A statement in one line that is a call, an assignment or a jump, but not a declaration.
 STATEMENT = re.compile(r"^\s*(?:if \(.*\) |else |for \(.*\) |while \(.*\) )?"
                        r"((?:\+\+|--|\*)?[\w:.\[\]]+(?:->\w+|\(\*?\w*\)\.\w+)*"
                        r"(?:<[\w:]+>)?(?:\(.*\)|\+\+|--|\s[-+|&^]?=\s.*)?;)\s*$")
@@ -31,7 +31,7 @@ KEPT = re.compile(r"^\s*(#|static_assert|using |namespace|template|\[\[|extern|f
 
 
 @dataclasses.dataclass(frozen=True)
-class Fault:
+class Mutation:
     path: str
     line: int  # from 1
     begin: int  # in the line
@@ -57,7 +57,7 @@ def blank(match):
 
 
 def without_texts(line):
-    """The line with what is no code blanked: literals of text and what a comment says."""
+    """Returns the line with blanks in place of its text literals and comments."""
     line = re.sub(r'"(?:\\.|[^"\\])*"|\'(?:\\.|[^\'\\])+\'', lambda m: '"' + " " * (len(m.group()) - 2) + '"', line)
     return re.sub(r"//.*", blank, line)
 
@@ -69,18 +69,18 @@ def in_line(path, number, line):
     for pattern, others in REPLACEMENTS:
         for match in re.finditer(pattern, code):
             for other in others:
-                yield Fault(path, number, match.start(), match.end(), other, line)
+                yield Mutation(path, number, match.start(), match.end(), other, line)
     for match in NUMBER.finditer(code):
         value = int(match.group(), 0)
         for other in {value + 1, max(value - 1, 0)} - {value}:
-            yield Fault(path, number, match.start(), match.end(), str(other), line)
+            yield Mutation(path, number, match.start(), match.end(), str(other), line)
     statement = STATEMENT.match(code)
     if statement and not statement.group(1).startswith(("return ", "public", "default")):
-        yield Fault(path, number, statement.start(1), statement.end(1), ";", line)
+        yield Mutation(path, number, statement.start(1), statement.end(1), ";", line)
 
 
-def drawn(tree, folders, generator):
-    """One fault of each line of the sources in the folders that could have one, in an order by chance."""
+def random_mutations(tree, folders, generator):
+    """Returns one mutation for each line in the folders that can have one, in random order."""
     files = set()
     for folder in folders:
         place = tree / folder
@@ -88,6 +88,6 @@ def drawn(tree, folders, generator):
     of_lines = [list(in_line(str(file.relative_to(tree)), number, line))
                 for file in sorted(files)
                 for number, line in enumerate(file.read_text().split("\n"), 1)]
-    drawn_faults = [generator.choice(of_line) for of_line in of_lines if of_line]
-    generator.shuffle(drawn_faults)
-    return drawn_faults
+    mutations = [generator.choice(of_line) for of_line in of_lines if of_line]
+    generator.shuffle(mutations)
+    return mutations
