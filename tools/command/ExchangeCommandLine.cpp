@@ -114,7 +114,8 @@ void addExportCommand(CLI::App& app, const RootFinder& inRoot) {
                    "The XLIFF version: 1.2, which all programs read, or 2.0 (default: 1.2)")
       ->check(CLI::IsMember({"1.2", "2.0"}))
       ->type_name("VERSION");
-  command->add_flag("--missing", arguments->onlyOpen, "Only texts that are not translated or need review");
+  command->add_flag("--missing", arguments->onlyOpen,
+                    "Export only texts that are not translated or need review");
   addSourcesOption(*command, arguments->sources);
   command->footer("Example: zkstrings export de --missing -o de.xlf");
   command->callback([arguments, inRoot] { runExport(inRoot(), *arguments); });

@@ -82,7 +82,9 @@ int run(int argc, char** argv) {
   app.set_version_flag("--version", "zkstrings " ZK_VERSION);
   app.require_subcommand(1);
   std::string root;
-  app.add_option("--root", root, "The project's folder (default: the nearest one at or above the current folder)")->type_name("DIR");
+  app.add_option("--root", root,
+                 "The project's folder (default: the nearest one at or above the current folder)")
+      ->type_name("DIR");
   const auto inRoot = [&] { return root = root.empty() ? findRoot() : rootAt(root); };
   const auto aloneInRoot = [&] {
     lockProject(inRoot());
