@@ -46,7 +46,7 @@ std::string respelled(const std::string& key, std::string text,
   return text;
 }
 
-/// `text` with each of `characters` behind a backslash, and line breaks as \n.
+/// `text` with a backslash before each of `characters`, and line breaks as \n.
 std::string escaped(const std::string& text, const std::string& characters) {
   std::string result;
   for (const char character : text) {

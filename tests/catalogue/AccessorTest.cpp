@@ -23,7 +23,7 @@ constexpr bool takesANumberForAText =
 // clang-format on
 static_assert(!takesANumberForAText<ZKStrings>);
 
-TEST(Accessor, GivesTheTextOfItsEntry) {
+TEST(Accessor, ReturnsTheTextOfItsEntry) {
   Current::language = Language{};
   Current::language->preferredLanguages = {"en-US"};
   const std::pair<std::string, std::string> cases[] = {

@@ -32,7 +32,7 @@ TEST(Lookup, SuffixFollowsTheCount) {
     EXPECT_EQ(pluralSuffix(count), "_many") << count;
 }
 
-TEST(Lookup, ACatalogueOfItsOwnFollowsTheSameLanguage) {
+TEST(Lookup, OtherCataloguesFollowTheSameLanguage) {
   const TemporaryDirectory directory;
   directory.write("Base.lproj/Localizable.strings", "\"Hi_one\" = \"%{n} hi\";");
   directory.write("de.lproj/Localizable.strings", "\"Hi_few\" = \"%{n} Hallos\";");
@@ -92,15 +92,15 @@ TEST(Languages, OfTheModule) {
 }
 
 /// A fake bundle that records the calls, and whose results can change between calls.
-struct StandInBundle {
+struct FakeBundle {
   using Path = std::string;
   const Path* pathForResource(std::string_view name, std::string_view type) const {
     asked += std::string(name) + "." + std::string(type) + " ";
     const auto found = directories.find(std::string(name));
     return found != directories.end() && paths-- > 0 ? &*found : nullptr;
   }
-  static const StandInBundle* initWithPath(const Path& path) {
-    static const StandInBundle opened;
+  static const FakeBundle* initWithPath(const Path& path) {
+    static const FakeBundle opened;
     asked += "open:" + path + " ";
     return path != "it" && openings-- > 0 ? &opened : nullptr;
   }
@@ -111,16 +111,16 @@ struct StandInBundle {
 
 TEST(Lookup, MakesExactlyThePlatformCallsThatItMust) {
   using Identifiers = std::vector<std::string>;
-  StandInBundle::paths = StandInBundle::openings = 1000;
+  FakeBundle::paths = FakeBundle::openings = 1000;
   for (const auto& [preferred, asked] :
        testing::rowsOf<Identifiers, std::string>("engine/LanguageChoiceTest.json")) {
-    StandInBundle::asked.clear();
-    static_cast<void>(chosenLanguageBundle(StandInBundle(), preferred));
-    EXPECT_EQ(StandInBundle::asked, asked) << (preferred.empty() ? "none" : preferred[0]);
+    FakeBundle::asked.clear();
+    static_cast<void>(chosenLanguageBundle(FakeBundle(), preferred));
+    EXPECT_EQ(FakeBundle::asked, asked) << (preferred.empty() ? "none" : preferred[0]);
   }
 }
 
-TEST(LookupDeathTest, StopsWithoutBaseAndWhenThePlatformChangesItsMind) {
+TEST(LookupDeathTest, StopsWithoutBaseAndIfADirectoryVanishes) {
   const TemporaryDirectory noBase;
   noBase.write("de.lproj/Localizable.strings", "");
   noBase.write("Base.lproj", "no directory");
@@ -129,9 +129,9 @@ TEST(LookupDeathTest, StopsWithoutBaseAndWhenThePlatformChangesItsMind) {
   EXPECT_EQ(chosenLanguageBundle(bundle, {"de"}).path(), noBase.path() + "/de.lproj");
   const std::pair<int, int> availabilities[] = {{1, 9}, {2, 9}, {9, 1}};
   for (const auto& [paths, openings] : availabilities) {
-    StandInBundle::paths = paths;
-    StandInBundle::openings = openings;
-    EXPECT_DEATH(static_cast<void>(chosenLanguageBundle(StandInBundle(), {"fr"})), "^$")
+    FakeBundle::paths = paths;
+    FakeBundle::openings = openings;
+    EXPECT_DEATH(static_cast<void>(chosenLanguageBundle(FakeBundle(), {"fr"})), "^$")
         << paths << " " << openings;
   }
 }

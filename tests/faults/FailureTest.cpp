@@ -56,7 +56,7 @@ Outcome outcomeHere(const Operation& operation, const Failure& failure, int befo
 
 class Failures : public ::testing::TestWithParam<Failure> {};
 
-TEST_P(Failures, OfAnyCallPass) {
+TEST_P(Failures, LeaveNoLastingErrors) {
   const Failure& failure = GetParam();
   if (failure.kind == Kind::allocation && !canAllocationsFail())
     GTEST_SKIP() << "the sanitizer's allocations cannot be made to fail";

@@ -46,7 +46,7 @@ class ExhaustedMemory {
   rlimit before_{};
 };
 
-TEST(Memory, ThatIsExhaustedHarmsNothing) {
+TEST(Memory, ExhaustionIsTemporary) {
   if (!canAllocationsFail()) GTEST_SKIP() << "sanitizers need more memory than they could have";
   const testing::TemporaryDirectory directory;
   int failures = 0;
@@ -74,7 +74,7 @@ TEST(Memory, ThatIsExhaustedHarmsNothing) {
 
 // If allocations fail right after the module's check for free memory, ICU never tries again. Texts that need its
 // tables then throw, and no other text is affected.
-TEST(Memory, ThatIsRefusedToICUAtItsFirstUseIsMissedByTextsThatNeedIt) {
+TEST(Memory, ICUDoesNotRecoverFromAFailureOfItsFirstUse) {
   if (!canAllocationsFail()) GTEST_SKIP() << "the sanitizer's allocations cannot be made to fail";
   const testing::TemporaryDirectory directory;
   for (const Operation& operation : operationsIn(directory.path())) {

@@ -189,7 +189,7 @@ class FilesDeathTest : public ::testing::TestWithParam<Shape> {
   void TearDown() override { alarm(0); }
 };
 
-TEST_P(FilesDeathTest, GiveWhatTheDocumentsPromise) {
+TEST_P(FilesDeathTest, HaveTheDocumentedResult) {
   const Shape& shape = GetParam();
   const Resources ofTable("de.lproj/Localizable.strings", shape.change);
   const Resources ofLanguage("de.lproj", shape.change);

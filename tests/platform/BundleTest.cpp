@@ -39,7 +39,7 @@ TEST(Bundle, ListsItsDirectoryByExactNames) {
     EXPECT_EQ(bundle->pathForResource(name, type), nullptr) << name << " " << type;
 }
 
-TEST(Bundle, LooksForAFileAfreshByOneName) {
+TEST(Bundle, LooksForAFileOnEveryCall) {
   const TemporaryDirectory directory;
   directory.write("inner/countries.json", "[]");
   const Bundle& bundle = *Bundle::initWithPath(directory.path() + "/inner");
@@ -63,7 +63,7 @@ TEST(Bundle, OpensADirectoryOnceAndNothingElse) {
   EXPECT_EQ(Bundle::initWithPath(directory.path()), Bundle::initWithPath(directory.path()));
 }
 
-TEST(Bundle, OfCodeHasTheResourcesBesideIt) {
+TEST(Bundle, OfCodeHasTheResourcesNextToIt) {
   EXPECT_NE(bundle().pathForResource("Base", "lproj"), nullptr);
   EXPECT_EQ(&bundle(), &bundle());
   EXPECT_EQ(&mainBundle(), &mainBundle());
@@ -82,7 +82,7 @@ TEST(Bundle, OfCodeHasTheResourcesBesideIt) {
   EXPECT_NE(Bundle::bundleForClass(typeid(TemporaryDirectory), "ZKStrings").path(), "");
 }
 
-TEST(Bundle, GivesTheValueAndThenTheKeyForAMissingText) {
+TEST(Bundle, ReturnsTheValueOrElseTheKeyForAMissingText) {
   const TemporaryDirectory directory;
   directory.write("Localizable.strings", "\"a\" = \"text\"; \"empty\" = \"\";");
   directory.write("Other.strings", "\"a\" = \"other\";");

@@ -103,7 +103,7 @@ TEST(Json, LongNumbersAreReadOnce) {
 }
 
 /// Sets a locale with a decimal comma. It is created here, because a machine need not have one.
-TEST(Json, NumbersHaveAPointWhateverTheLocale) {
+TEST(Json, NumbersHaveAPointInEveryLocale) {
   const testing::TemporaryDirectory directory;
   directory.write("source", "LC_NUMERIC\ndecimal_point \",\"\nthousands_sep \"\"\nEND LC_NUMERIC\n");
   setenv("LOCPATH", directory.path().c_str(), 1);
@@ -121,7 +121,7 @@ TEST(Json, NumbersHaveAPointWhateverTheLocale) {
   EXPECT_EQ(pointAfterwards, ",");
 }
 
-TEST(Json, DeepNestingIsCheckedAndWhatFollowsItRead) {
+TEST(Json, DeepNestingIsCheckedButNotKept) {
   const std::string deep = std::string(100000, '[') + std::string(100000, ']');
   const std::optional<Value> value = parseJson("{\"deep\": " + deep + ", \"o\": {\"a\": {}}, \"n\": 1}");
   ASSERT_TRUE(value);

@@ -94,14 +94,14 @@ TEST(Resolver, ApplicationFactoryRunsOnceWhenFirstResolvesRace) {
   EXPECT_EQ(calls, 1);
 }
 
-TEST(Resolver, FactoryThatThrowsIsAskedAgain) {
+TEST(Resolver, FactoryThatThrowsIsCalledAgain) {
   int calls = 0;
   registerOne<6>([&] { return ++calls == 1 ? throw std::runtime_error("not yet") : calls; });
   EXPECT_THROW(static_cast<void>(resolved<6>()), std::runtime_error);
   EXPECT_EQ(resolved<6>(), 2);
 }
 
-TEST(Resolver, AThreadGivesUpWhatItKeptWhenItEnds) {
+TEST(Resolver, AThreadReleasesItsServicesWhenItEnds) {
   using Shared = std::shared_ptr<int>;
   const Shared counted = std::make_shared<int>(1);
   Resolver::register_<Shared>([counted] { return counted; }).scope(ResolverScope::application);
@@ -146,7 +146,7 @@ struct alignas(512) Wide {
   [[nodiscard]] bool isAligned() const { return reinterpret_cast<std::uintptr_t>(this) % alignof(Wide) == 0; }
 };
 
-TEST(Resolver, AlignsServicesAndElementsAsTheirTypesAsk) {
+TEST(Resolver, AlignsServicesAndElements) {
   Resolver::register_<Wide>([] { return Wide(); }).scope(ResolverScope::application);
   for (int i = 0; i < 8; ++i) {
     EXPECT_TRUE(ServiceView<Wide>()->isAligned());
@@ -172,7 +172,7 @@ TEST(Resolver, FactoriesMayUseTheRegistryAndWaitForOneAnother) {
   EXPECT_EQ(resolved<9>(), 18);
 }
 
-TEST(ResolverDeathTest, SaysWhatIsWrongAndStops) {
+TEST(ResolverDeathTest, ReportsTheErrorAndStops) {
   GTEST_FLAG_SET(death_test_style, "threadsafe");
   EXPECT_DEATH(static_cast<void>(resolved<13>()), "Service<13> is not registered");
   EXPECT_DEATH(static_cast<void>(viewed<13>()), "Service<13> is not registered");

@@ -30,7 +30,7 @@ std::optional<std::string> textIn(const std::string& path, std::string_view key 
   return text ? std::optional<std::string>(*text) : std::nullopt;
 }
 
-TEST(StringTable, FindsTheTextThatTheFileSpells) {
+TEST(StringTable, FindsTheTextsOfTheFile) {
   const TemporaryDirectory directory;
   using Json = nlohmann::json;
   for (const auto& [file, key, expected] :
@@ -84,7 +84,7 @@ TEST(StringTable, AHashDependsOnEveryByte) {
   EXPECT_EQ(upperHalves.size(), 820u);
 }
 
-TEST(StringTable, WhatIsNoReadableFileHoldsNothing) {
+TEST(StringTable, IsEmptyIfTheFileCannotBeRead) {
   const TemporaryDirectory directory;
   const std::string table = directory.write("table", "\"a\" = \"b\";");
   for (const std::string& path :
@@ -92,7 +92,7 @@ TEST(StringTable, WhatIsNoReadableFileHoldsNothing) {
     EXPECT_EQ(textIn(path), std::nullopt) << path;
 }
 
-TEST(StringTableReader, SaysWhatWasExpectedWhereAndGoesOn) {
+TEST(StringTableReader, ReportsErrorsAndRecovers) {
   using Keys = std::vector<std::string>;  // of all entries that can be read
   for (const auto& [text, beginOfRest, expected, allKeys] :
        testing::rowsOf<std::string, std::string, std::string, Keys>("platform/StringTableReaderTest.json")) {

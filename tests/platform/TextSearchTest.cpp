@@ -66,7 +66,7 @@ TEST(TextSearch, ATextIsFoundByItsNormalForms) {
   }
 }
 
-TEST(TextSearch, RepetitiveTargetsAreFoundWhereverTheyStand) {
+TEST(TextSearch, FindsRepetitiveTargetsEverywhere) {
   RandomTexts texts({"é", "x"});
   for (int round = 0; round < 20000; ++round) {
     const std::string text = texts.next(30);
@@ -85,7 +85,7 @@ std::string repeated(std::string_view piece, std::size_t times = 250000) {
 }
 
 // Each of these would take minutes if the cost were quadratic.
-TEST(TextSearch, LongTextsThatDeferEveryDecisionAreSearched) {
+TEST(TextSearch, SearchesLongRepetitiveTexts) {
   const std::string marks = repeated("\u0301\u0316");
   const std::string sorted = repeated("\u0316") + repeated("\u0301");
   EXPECT_EQ(replaced("a" + marks, "á"), "a" + marks);

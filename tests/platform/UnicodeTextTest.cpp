@@ -37,7 +37,7 @@ std::string dividedByICU(const std::string& text) {
   return divided;
 }
 
-TEST(UnicodeText, ClustersEndWhereICUSees) {
+TEST(UnicodeText, ClustersAreThoseOfICU) {
   testing::RandomTexts texts({"a",      "\r",         "\n",         "\u0001",     "\u0301",     "\u200D",
                               "\u0903", "\u0600",     "\u1100",     "\u1161",     "\u11A8",     "\uAC00",
                               "\uAC01", "\U0001F1E9", "\U0001F389", "\U0001F469", "\U0001F3FD", "©",
@@ -52,7 +52,7 @@ TEST(UnicodeText, ClustersEndWhereICUSees) {
   }
 }
 
-TEST(UnicodeText, FindCharacterPassesOverBasesOfOtherCharacters) {
+TEST(UnicodeText, FindCharacterSkipsBasesOfOtherCharacters) {
   const std::pair<std::string_view, std::size_t> cases[] = {
       {"ab-c", 2},     {"ab", std::string_view::npos}, {"a-\u0301b-c", 5}, {"é-ü", 2}, {"\u0600-x-", 4},
       {"\xFF-\xFF", 1}};
@@ -71,7 +71,7 @@ TEST(UnicodeText, UpperCasesByTheFullMapping) {
   }
 }
 
-TEST(UnicodeText, TellsLettersAndDigits) {
+TEST(UnicodeText, RecognisesLettersAndDigits) {
   for (const char32_t digit : U"7\u0663"sv) EXPECT_TRUE(isDecimalDigit(digit)) << std::uint32_t{digit};
   for (const char32_t other : U"z日\u0301²_ \U0001F389"sv)
     EXPECT_FALSE(isDecimalDigit(other)) << std::uint32_t{other};
@@ -80,7 +80,7 @@ TEST(UnicodeText, TellsLettersAndDigits) {
   for (const char32_t other : U"²_ 🎉"sv) EXPECT_FALSE(isLetterMarkOrDigit(other)) << std::uint32_t{other};
 }
 
-TEST(UnicodeText, TellsUtf8) {
+TEST(UnicodeText, RecognisesUtf8) {
   for (const char* text : {"", "plain ascii, long", "éééééééééé", "12345678é", "🎉"})
     EXPECT_TRUE(isUtf8(text)) << text;
   for (const char* text :

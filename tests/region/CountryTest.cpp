@@ -32,7 +32,7 @@ TEST(Country, DerivesItsTexts) {
   EXPECT_EQ(country(1, "gb").ISO(), "gb");
 }
 
-TEST(Country, StaysWholeWhenItIsMovedFrom) {
+TEST(Country, IsUnchangedWhenItIsMovedFrom) {
   Country original = country(44, "GB");
   const Country other = std::move(original);
   EXPECT_EQ(original.displayName(), other.displayName());
@@ -63,14 +63,14 @@ std::string namesIn(const std::string& file) {
   return names;
 }
 
-TEST(CountryList, ReadsWhatTheFileHolds) {
+TEST(CountryList, ReadsTheFile) {
   // A JSON value, or a text if it is not JSON or if JSON libraries refuse it.
   for (const auto& [content, names] : testing::rowsOf<nlohmann::json, std::string>("region/CountryTest.json"))
     EXPECT_EQ(namesIn(content.is_string() ? content.get<std::string>() : content.dump()), names) << content;
   EXPECT_EQ(namesIn("[{\"name\": \"\xFF\", \"phoneCode\": 1, \"iso\": \"AA\"}]"), "");
 }
 
-TEST(CountryList, ShipsWhatAPickerNeeds) {
+TEST(CountryList, HasEverythingThatAPickerNeeds) {
   std::map<std::string, std::string> shown;
   const SharedArray<Country> countries = loadCountries();
   for (const Country& item : countries) {

@@ -86,7 +86,7 @@ TEST(Language, CountryAsksTheNetworkFirst) {
   EXPECT_EQ(speaking("en-US").country(), "US");
 }
 
-TEST(CurrentLanguage, IsWhatWasAssignedLast) {
+TEST(CurrentLanguage, IsTheLastAssignedOne) {
   for (const char* identifier : {"a", "b"}) {
     Current::language = speaking(identifier);
     Language now = Current::language;
@@ -134,7 +134,7 @@ TEST(CurrentLanguage, ReadingUndoesNoOtherThreadsAssignment) {
   done = true;
 }
 
-TEST(CurrentLanguage, MayBeReadWhereItIsChanged) {
+TEST(CurrentLanguage, CanBeReadInTheExpressionThatChangesIt) {
   Current::language = Language{};
   Current::language->preferredLanguages = {"de-DE"};
   Current::language->preferredLanguages = {Current::language->preferredLanguages[0], "en"};
@@ -162,7 +162,7 @@ TEST(CurrentLanguage, EveryKindOfChangeIsSeen) {
   }
 }
 
-TEST(CurrentLanguage, AChangeIsWrittenBackAlsoWhenAnExceptionEndsIt) {
+TEST(CurrentLanguage, AChangeIsWrittenBackEvenIfItThrows) {
   Current::language = speaking("de-DE");
   const auto changeAndThrow = [](auto& list) {
     list = {};

@@ -51,7 +51,7 @@ std::string textIn(const std::string& path) {
   return std::string(bundle ? bundle->localizedStringForKey("a", "no text") : "no directory");
 }
 
-TEST(System, GivesSystemCallsAbsolutePathsWithoutLimits) {
+TEST(System, MakesAbsolutePathsWithoutLimits) {
   const std::pair<std::string_view, std::wstring_view> cases[] = {
       {"C:/a/b", LR"(\\?\C:\a\b)"},
       {"d:\\a\\..\\con.lproj\\.\\x", LR"(\\?\d:\con.lproj\x)"},
@@ -102,7 +102,7 @@ TEST(System, ComparesListedNamesWithCase) {
   EXPECT_TRUE(bundle.URLForResource("DE", "lproj"));
 }
 
-TEST(System, AFileNameLeadsNowhereElse) {
+TEST(System, FileNamesCannotLeaveTheDirectory) {
   for (const char* name : {"a\\b", "C:", "a:stream", "..", "a/b"}) EXPECT_FALSE(isFileName(name)) << name;
   EXPECT_TRUE(isFileName("con.json"));
 }

@@ -5,7 +5,7 @@
 namespace zk::tools {
 namespace {
 
-TEST(Diagnostic, IsOneLineWhateverTheFileHolds) {
+TEST(Diagnostic, IsAlwaysOneLine) {
   const Diagnostic diagnostic{
       Severity::error, "d\n.strings", 1, 2, "", "\"\x1B[2J\r\n\x7F\u009B31m \u00E9\xFF\tx\""};
   EXPECT_EQ(formatted(diagnostic, false),

@@ -85,7 +85,7 @@ TEST(Files, AreNotWrittenThroughLinksOutOfTheProject) {
   EXPECT_EQ(readFile(outside.path(), "project-2/a"), "named by the user");
 }
 
-TEST(Files, LeaveOthersBesideThemAlone) {
+TEST(Files, LeaveOtherFilesAlone) {
   const zk::testing::TemporaryDirectory project;
   project.write("catalogue/a", "old");
   for (const char* own : {"a.zkstrings-", "a.zkstrings-1234567", ".zkstrings-123456"})
