@@ -29,8 +29,8 @@ namespace zk::tools {
 
 namespace {
 
-/// Gives each counted entry all its forms. Forms that are not given are the text. If none is given, they are those of the
-/// English table, unless these are all the same: then the text has no special forms.
+/// Sets all plural forms of each counted entry. Missing forms are the same as the text. If the entry has no forms,
+/// uses those of the English table, unless they are all the same.
 void completeForms(Catalogue& catalogue, const Table& base) {
   for (Entry& entry : catalogue.entries()) {
     if (!entry.plural) continue;
@@ -46,7 +46,7 @@ void completeForms(Catalogue& catalogue, const Table& base) {
   }
 }
 
-/// The table of `language` after what `change` does to its keys and placeholders.
+/// The table of `language` with the keys and placeholders renamed as in `change`.
 TableEditor changed(const std::string& root, const std::string& language, const TableChange& change) {
   TableEditor editor = TableEditor::open(root, language);
   for (const TableEntry& entry : editor.table().entries) {
@@ -70,7 +70,7 @@ TableEditor changed(const std::string& root, const std::string& language, const 
   return {editor.edited(), file};
 }
 
-/// The bytes of the English table after it is brought in line with the catalogue.
+/// The bytes of the English table after its update from the catalogue.
 std::string syncedBase(TableEditor& base, const EnglishTexts& english) {
   const TableEntry* before = nullptr;
   for (const EnglishText& text : english.all()) {

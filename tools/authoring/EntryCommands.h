@@ -8,7 +8,7 @@
 
 namespace zk::tools {
 
-/// What to change about a text. What is not given stays.
+/// The changes to a text. Fields that are not set leave it unchanged.
 struct EntryChange {
   std::optional<std::string> text = {};
   PluralForms forms = {};
@@ -20,15 +20,16 @@ struct EntryChange {
   bool isPlain = false;          ///< as in `addEntry`
 };
 
-/// Returns the key that `text` gets. Throws `std::invalid_argument`, with what is wrong, if it gets none.
+/// Returns the key derived from `text`. Throws `std::invalid_argument`, with what is wrong, if there is none.
 std::string keyOf(const std::string& text);
 
-// All these change all files that hold the text, or none. They throw `CommandFailed` if a file is wrong or cannot be
-// written, and `std::invalid_argument`, with what is wrong and what to do, if the text or the key cannot be taken.
+// Each of these functions changes all files that contain the text, or none. They throw `CommandFailed` if a file is
+// wrong or cannot be written, and `std::invalid_argument`, with what is wrong and what to do, if the text or the key
+// is not valid.
 
 /// Adds the text to the project at `root`: to the catalogue, to the English table, and to the accessors. Returns its
-/// key: that of `added`, or the one that the text gets. Of a counted text, `added` has the form for one at least; the
-/// others may be the text itself. With `isPlain`, placeholders of other systems, as in "%s", are taken as text.
+/// key: that of `added`, or the one derived from the text. A counted text needs at least the form for one; the other
+/// forms may be the same as the text. With `isPlain`, placeholders of other systems, such as "%s", are taken as text.
 std::string addEntry(const std::string& root, const Entry& added, bool isPlain);
 
 /// Changes the text of `key`. A plural form that was the old text becomes the new one. Translations of what has changed
@@ -36,7 +37,7 @@ std::string addEntry(const std::string& root, const Entry& added, bool isPlain);
 /// become the form for many.
 std::size_t changeEntry(const std::string& root, const std::string& key, const EntryChange& change);
 
-/// Gives the text of `key`, counted and plain, the key `newKey` in all tables.
+/// Changes the key of the text `key`, counted and plain, to `newKey` in all tables.
 void renameEntry(const std::string& root, const std::string& key, const std::string& newKey);
 
 /// Removes the text of `key`, counted and plain, from the catalogue, from all tables and from the accessors.
