@@ -11,14 +11,14 @@
 
 namespace zk {
 
-/// The catalogue: one accessor for each text of the app, named as the entry's key, giving the text in the user's
-/// language. Text arguments (a literal, a `std::string`, a `std::string_view`) fill the placeholders of the same name;
-/// `count`, the last argument of counted entries, chooses the plural form and is filled in nowhere. Each comment shows
-/// the English text.
+/// The catalogue. Each text of the app has one accessor, named after its key, which returns the text in the user's
+/// language. Text arguments (a literal, a `std::string`, a `std::string_view`) fill in the placeholders of the same
+/// name. `count`, the last argument of counted entries, selects the plural form and is not filled in anywhere. The
+/// comment of each accessor shows the English text.
 ///
 ///     std::string title = zk::ZKStrings::badgeCount_Badges("4", 4);
 ///
-/// Any thread may call any accessor, once `zk::Current::language` has been assigned.
+/// Thread-safe. Requires: `zk::Current::language` has been assigned.
 struct ZK_EXPORT ZKStrings {
   ZKStrings() = delete;
 

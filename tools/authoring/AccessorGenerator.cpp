@@ -26,12 +26,12 @@ constexpr const char* kHeaderBegin = R"(#pragma once
 #include <ZKStrings/engine/Text.h>
 #include <ZKStrings/platform/Export.h>
 {opening}
-/// The catalogue: one accessor for each text of the app, named as the entry's key, giving the text in the user's
-/// language. Text arguments (a literal, a `std::string`, a `std::string_view`) fill the placeholders of the same name;
-/// `count`, the last argument of counted entries, chooses the plural form and is filled in nowhere. Each comment shows
-/// the English text.
+/// The catalogue. Each text of the app has one accessor, named after its key, which returns the text in the user's
+/// language. Text arguments (a literal, a `std::string`, a `std::string_view`) fill in the placeholders of the same
+/// name. `count`, the last argument of counted entries, selects the plural form and is not filled in anywhere. The
+/// comment of each accessor shows the English text.
 ///
-{example}/// Any thread may call any accessor, once `zk::Current::language` has been assigned.
+{example}/// Thread-safe. Requires: `zk::Current::language` has been assigned.
 struct {export} {name} {{
   {name}() = delete;
 )";
@@ -56,7 +56,7 @@ constexpr const char* kSourceBegin = R"({notice}
 #include <ZKStrings/engine/StringLookup.h>
 #include <ZKStrings/platform/Bundle.h>
 
-#ifndef ZK_CATALOGUE_FOLDER  // zk_add_catalogue defines it, so that two products never share a folder
+#ifndef ZK_CATALOGUE_FOLDER  // zk_add_catalogue defines it, so two products never share a folder
 #define ZK_CATALOGUE_FOLDER "{name}"
 #endif
 
