@@ -48,7 +48,7 @@ class ZK_EXPORT Registration {
   [[nodiscard]] virtual Service make() = 0;
   [[nodiscard]] Service made(const Entry& entry);
 
-  bool isBeingMade_ = false;  // guarded by the entry, as is writing `kept_`
+  bool isBeingMade_ = false;  // guarded by the entry's lock, as are writes to `kept_`
   std::atomic<bool> isKept_{false};
   Service kept_{};  // written once, before `isKept_` is set
 };
