@@ -43,15 +43,6 @@ const Bundle& chosenBundle(const Bundle* resources, const SharedArray<std::strin
   return Bundle::withoutResources("");
 }
 
-std::string finishedText(const Bundle* resources, std::string_view suffixedKey, std::string_view defaultValue,
-                         const Substitutions& substitutions) {
-  const ServiceView<Language> language;
-  const Bundle& chosen = chosenBundle(resources, language->preferredLanguages);
-  const std::string_view text = chosen.localizedStringForKey(suffixedKey, defaultValue);
-  const bool isFinished = substitutions.begin() == substitutions.end();
-  return isFinished ? std::string(text) : applySubstitutions(text, substitutions);
-}
-
 }  // namespace
 
 void baseLprojIsMissingAmongTheResources() {
@@ -69,8 +60,13 @@ std::string localizedString(std::string_view key, std::string_view defaultValue,
 
 std::string localizedString(const Bundle* resources, std::string_view key, std::string_view defaultValue,
                             std::optional<std::int64_t> count, const Substitutions& substitutions) {
-  if (!count) return finishedText(resources, key, defaultValue, substitutions);
-  return finishedText(resources, SuffixedKey(key, pluralSuffix(*count)), defaultValue, substitutions);
+  std::optional<SuffixedKey> suffixed;
+  if (count) key = suffixed.emplace(key, pluralSuffix(*count));
+  const ServiceView<Language> language;
+  const Bundle& chosen = chosenBundle(resources, language->preferredLanguages);
+  const std::string_view text = chosen.localizedStringForKey(key, defaultValue);
+  const bool isFinished = substitutions.begin() == substitutions.end();
+  return isFinished ? std::string(text) : applySubstitutions(text, substitutions);
 }
 
 }  // namespace zk

@@ -64,11 +64,9 @@ class ZK_EXPORT Substitutions {
   /// `std::initializer_list`, so the compiler can warn about texts that are destroyed too early.
   Substitutions(Pair first ZK_REFERRED_TO, Pair second ZK_REFERRED_TO = {}, Pair third ZK_REFERRED_TO = {},
                 Pair fourth ZK_REFERRED_TO = {}, Pair fifth ZK_REFERRED_TO = {})
-      : size_(0) {
-    const Pair pairs[] = {first, second, third, fourth, fifth};
-    std::size_t size = 1;
-    while (size < std::size(pairs) && !pairs[size].isAbsent()) ++size;
-    adopt(pairs, size);
+      : size_(1), few_{first, second, third, fourth, fifth} {
+    while (size_ < kFew && !few_[size_].isAbsent()) ++size_;
+    stopAtRepetition();
   }
 
   /// Constructs a dictionary of the pairs in a `std::map`, a vector or any other range that stores its pairs. A range
@@ -118,12 +116,16 @@ class ZK_EXPORT Substitutions {
       stopAtRepetition(many_);
       return;
     }
-    for (std::size_t i = 1; i < size; ++i) {
+    std::uninitialized_copy_n(pairs, size, few_);
+    stopAtRepetition();
+  }
+
+  void stopAtRepetition() const {
+    for (std::size_t i = 1; i < size_; ++i) {
       for (std::size_t earlier = 0; earlier < i; ++earlier) {
-        if (mayBeSame(pairs[earlier].name, pairs[i].name)) stopIfSame(pairs[earlier].name, pairs[i].name);
+        if (mayBeSame(few_[earlier].name, few_[i].name)) stopIfSame(few_[earlier].name, few_[i].name);
       }
     }
-    std::uninitialized_copy_n(pairs, size, few_);
   }
 
   /// False for nearly all different names: canonically equivalent texts have the same ASCII characters at their ends.

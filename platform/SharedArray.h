@@ -19,8 +19,8 @@ namespace zk {
 ///     zk::SharedArray<std::string> copy = languages;   // shares the elements
 ///     copy.append("en");                               // languages still has two
 ///
-/// Elements are never changed in place: `append` and `edit` give this copy new elements. Different copies may be used
-/// on different threads at the same time. One object follows the thread-safety rules of `std::vector`.
+/// Different copies may be used on different threads at the same time. One object follows the thread-safety rules of
+/// `std::vector`.
 template <class Element>
 class SharedArray {
  public:
@@ -30,9 +30,8 @@ class SharedArray {
   SharedArray(std::initializer_list<Element> elements) : SharedArray(std::vector<Element>(elements)) {}
   /// Constructs a list by moving the elements of a vector.
   SharedArray(std::vector<Element> elements)
-      : elements_(std::allocate_shared<const Elements>(CacheLineAllocator<Elements>(),
-                                                       std::make_move_iterator(elements.begin()),
-                                                       std::make_move_iterator(elements.end()))) {}
+      : elements_(
+            shared(std::make_move_iterator(elements.begin()), std::make_move_iterator(elements.end()))) {}
 
   /// The number of elements.
   [[nodiscard]] std::size_t size() const { return elements_ ? elements_->size() : 0; }
@@ -56,10 +55,10 @@ class SharedArray {
     return elements_ == other.elements_;
   }
 
-  /// Adds `element` at the end. Copies all elements, so the cost grows with the size. Use `edit` to make several
-  /// changes at once.
+  /// Adds `element` at the end. Copies all elements only if another copy shares them.
   void append(Element element) {
-    edit([&](std::vector<Element>& elements) { elements.push_back(std::move(element)); });
+    if (!isOnlyOwner()) elements_ = shared(begin(), end());
+    elements_->push_back(std::move(element));
   }
 
   /// Calls `change(std::vector<Element>&)` on a copy of the elements and adopts the result. If `change` throws an
@@ -77,7 +76,18 @@ class SharedArray {
   // On cache lines of their own, because all threads read the lists of the settings.
   using Elements = std::vector<Element, CacheLineAllocator<Element>>;
 
-  std::shared_ptr<const Elements> elements_{};
+  template <class Iterator>
+  static std::shared_ptr<Elements> shared(Iterator begin, Iterator end) {
+    return std::allocate_shared<Elements>(CacheLineAllocator<Elements>(), begin, end);
+  }
+
+  /// Destroying the copy orders what other threads read through theirs before the changes that follow. Reading the count
+  /// alone does not.
+  [[nodiscard]] bool isOnlyOwner() const {
+    return std::shared_ptr<const Elements>(elements_).use_count() == 2;
+  }
+
+  std::shared_ptr<Elements> elements_{};
 };
 
 }  // namespace zk

@@ -63,8 +63,10 @@ void requireMemoryForICU();
 
 inline std::string_view firstTwoCharacters(std::string_view text) {
   using internal::beginsWithPlainAscii;
-  const bool isQuick = text.size() >= 2 && beginsWithPlainAscii(text) && beginsWithPlainAscii(text.substr(1));
-  return isQuick ? text.substr(0, 2) : internal::firstTwoClusters(text);
+  if (text.size() < 2 || !beginsWithPlainAscii(text)) return internal::firstTwoClusters(text);
+  const std::string_view fromSecond(text.data() + 1, text.size() - 1);
+  return beginsWithPlainAscii(fromSecond) ? std::string_view(text.data(), 2)
+                                          : internal::firstTwoClusters(text);
 }
 
 }  // namespace zk

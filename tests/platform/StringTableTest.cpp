@@ -4,6 +4,7 @@
 #include <ZKStrings/tests/Rows.h>
 #include <ZKStrings/tests/TemporaryDirectory.h>
 
+#include <bit>
 #include <cstdint>
 #include <cstdlib>
 #include <filesystem>
@@ -68,6 +69,15 @@ TEST(StringTable, FindsEveryKeyOfALargeTable) {
   const StringTable table = StringTable::inFile(directory.write("t.strings", file), unused);
   for (int i = 0; i < 20000; ++i) ASSERT_EQ(table.find("key_" + std::to_string(i)), std::to_string(i * 7));
   for (int i = 20000; i < 40000; ++i) ASSERT_EQ(table.find("key_" + std::to_string(i)), std::nullopt);
+}
+
+TEST(StringTable, TellsKeysWithTheSameHashApart) {
+  const std::string key = "about_me", longer = "about_memV3HH2yy";
+  if constexpr (std::endian::native == std::endian::little) {
+    ASSERT_EQ(hashOf(key) >> 32, hashOf(longer) >> 32);
+  }
+  const TemporaryDirectory directory;
+  EXPECT_EQ(textIn(directory.write("t.strings", longer + " = a;"), key), std::nullopt);
 }
 
 TEST(StringTable, AHashDependsOnEveryByte) {

@@ -11,6 +11,7 @@
 #include <optional>
 #include <stdexcept>
 #include <string>
+#include <thread>
 #include <utility>
 #include <vector>
 
@@ -54,6 +55,27 @@ TEST(Language, CopiesAreIndependent) {
   EXPECT_EQ(joined(copy), "a b");
   EXPECT_FALSE(original.countries.empty());
   EXPECT_TRUE(copy.countries.empty());
+}
+
+TEST(SharedArray, GrowsInPlaceOnlyWithoutAnotherCopy) {
+  SharedArray<std::string> list = {"a", "b"};
+  std::atomic<bool> isDropped = false;
+  std::thread reader([&isDropped, copy = list]() mutable {
+    EXPECT_EQ(copy[1], "b");
+    copy = {};
+    isDropped.store(true, std::memory_order_relaxed);  // orders nothing: `append` itself must
+  });
+  while (!isDropped.load(std::memory_order_relaxed)) std::this_thread::yield();
+  list.append("c");
+  reader.join();
+
+  const std::string* const place = list.begin();
+  list.append("d");
+  EXPECT_EQ(list.begin(), place);
+  const SharedArray<std::string> copy = list;
+  list.append("e");
+  EXPECT_EQ(copy.size(), 4u);
+  EXPECT_EQ(list.size(), 5u);
 }
 
 TEST(Language, DerivesCountryAndCodeFromTheFirstIdentifier) {
