@@ -3,7 +3,7 @@
 
 #include <ZKStrings/catalogue/ZKStrings.h>
 
-#include <ZKStrings/catalogue/EntryText.h>
+#include <ZKStrings/engine/EntryText.h>
 
 namespace zk {
 

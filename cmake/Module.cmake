@@ -34,7 +34,6 @@ else()
 endif()
 
 add_library(zk_objects OBJECT
-  catalogue/EntryText.cpp
   catalogue/ZKStrings.cpp
   engine/BundleGlobals.cpp
   engine/Languages.cpp

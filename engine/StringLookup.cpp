@@ -1,4 +1,5 @@
 #include <ZKStrings/engine/BundleGlobals.h>
+#include <ZKStrings/engine/EntryText.h>
 #include <ZKStrings/engine/LookupRules.h>
 #include <ZKStrings/engine/PlaceholderSubstitution.h>
 #include <ZKStrings/engine/StringLookup.h>
@@ -8,6 +9,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <initializer_list>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -43,6 +45,15 @@ const Bundle& chosenBundle(const Bundle* resources, const SharedArray<std::strin
   return Bundle::withoutResources("");
 }
 
+std::string finishedText(const Bundle* resources, std::string_view suffixedKey, std::string_view defaultValue,
+                         const Substitutions& substitutions) {
+  const ServiceView<Language> language;
+  const Bundle& chosen = chosenBundle(resources, language->preferredLanguages);
+  const std::string_view text = chosen.localizedStringForKey(suffixedKey, defaultValue);
+  const bool isFinished = substitutions.begin() == substitutions.end();
+  return isFinished ? std::string(text) : applySubstitutions(text, substitutions);
+}
+
 }  // namespace
 
 void baseLprojIsMissingAmongTheResources() {
@@ -60,13 +71,26 @@ std::string localizedString(std::string_view key, std::string_view defaultValue,
 
 std::string localizedString(const Bundle* resources, std::string_view key, std::string_view defaultValue,
                             std::optional<std::int64_t> count, const Substitutions& substitutions) {
-  std::optional<SuffixedKey> suffixed;
-  if (count) key = suffixed.emplace(key, pluralSuffix(*count));
-  const ServiceView<Language> language;
-  const Bundle& chosen = chosenBundle(resources, language->preferredLanguages);
-  const std::string_view text = chosen.localizedStringForKey(key, defaultValue);
-  const bool isFinished = substitutions.begin() == substitutions.end();
-  return isFinished ? std::string(text) : applySubstitutions(text, substitutions);
+  if (!count) return finishedText(resources, key, defaultValue, substitutions);
+  return finishedText(resources, SuffixedKey(key, pluralSuffix(*count)), defaultValue, substitutions);
+}
+
+std::string entryText(std::string_view key, std::string_view english) {
+  return localizedString(key, english, std::nullopt, {});
+}
+
+std::string entryText(std::string_view key, std::string_view english, std::int64_t count) {
+  return localizedString(key, english, count, {});
+}
+
+std::string entryText(std::string_view key, std::string_view english,
+                      std::initializer_list<Substitutions::Pair> pairs) {
+  return localizedString(key, english, std::nullopt, pairs);
+}
+
+std::string entryText(std::string_view key, std::string_view english, std::int64_t count,
+                      std::initializer_list<Substitutions::Pair> pairs) {
+  return localizedString(key, english, count, pairs);
 }
 
 }  // namespace zk

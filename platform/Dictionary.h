@@ -73,11 +73,8 @@ class Value {
   /// Constructs a floating-point number, even if it has no fraction.
   Value(std::floating_point auto value) : value_(static_cast<double>(value)) {}
   /// Constructs a text, in UTF-8.
-  Value(const char* value) : value_(std::string(value)) {}
-  /// Constructs a text, in UTF-8.
-  Value(std::string_view value) : value_(std::string(value)) {}
-  /// Constructs a text, in UTF-8.
-  Value(const std::string& value) : value_(value) {}
+  Value(std::convertible_to<std::string_view> auto const& value)
+      : value_(std::string(std::string_view(value))) {}
   /// Constructs a text, in UTF-8.
   Value(std::string&& value) : value_(std::move(value)) {}
   /// Constructs a list.

@@ -9,12 +9,6 @@
 
 namespace zk {
 
-namespace {
-
-constexpr char32_t kRegionalIndicatorA = 0x1F1E6;
-
-}  // namespace
-
 Country::Country(const std::string& name, std::int64_t phoneCode, const std::string& ISO)
     : name_(name), phoneCode_(phoneCode), ISO_(ISO) {
 }
@@ -28,6 +22,7 @@ std::optional<Country> Country::fromDictionary(const Dictionary& dictionary) {
 }
 
 std::string Country::emoji() const {
+  constexpr char32_t kRegionalIndicatorA = 0x1F1E6;
   const std::string capitals = upperCased(ISO_);
   std::string flag;
   for (std::string_view rest = capitals; !rest.empty();) {

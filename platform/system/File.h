@@ -36,7 +36,10 @@ namespace zk {
 /// without waiting for it). `failure` is the reason, and is cleared on success.
 [[nodiscard]] std::optional<std::string> contentsOfFile(const std::string& path, std::error_code& failure);
 /// Returns all bytes of the regular file at `path`, or nothing, for callers that do not need the reason.
-[[nodiscard]] std::optional<std::string> contentsOfFile(const std::string& path);
+[[nodiscard]] inline std::optional<std::string> contentsOfFile(const std::string& path) {
+  std::error_code unused;
+  return contentsOfFile(path, unused);
+}
 
 struct DirectoryEntry {
   std::string name;

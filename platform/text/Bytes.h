@@ -106,13 +106,6 @@ std::size_t findByte(std::string_view text, std::size_t from, MarksOfWord marksO
   return from;
 }
 
-/// Returns the place of the first ASCII character `wanted` from `from` on; the size of `text`, or more, if there is none.
-inline std::size_t findAscii(char wanted, std::string_view text, std::size_t from) {
-  return findByte(
-      text, from, [=](std::uint64_t eight) { return internal::marksOf(wanted, eight); },
-      [=](char character) { return character == wanted; });
-}
-
 /// Returns the place of the first of two ASCII characters from `from` on; the size of `text`, or more, if there is none.
 inline std::size_t findEither(char one, char other, std::string_view text, std::size_t from) {
   return findByte(
@@ -153,7 +146,7 @@ inline constexpr std::size_t kCopySlack = 8;
 inline std::size_t copyUntil(char mark, char* to, std::string_view text, std::size_t from) {
   using internal::load;
   if (std::endian::native != std::endian::little || text.size() < 8) {
-    const std::size_t end = std::min(findAscii(mark, text, from), text.size());
+    const std::size_t end = std::min(text.find(mark, from), text.size());
     copyBytes(to, text.data() + from, end - from);
     return end;
   }

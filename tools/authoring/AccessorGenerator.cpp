@@ -44,7 +44,7 @@ constexpr const char* kModuleExample =
 constexpr const char* kModuleSourceBegin = R"({notice}
 #include <ZKStrings/catalogue/{name}.h>
 
-#include <ZKStrings/catalogue/EntryText.h>
+#include <ZKStrings/engine/EntryText.h>
 {opening})";
 
 constexpr const char* kSourceBegin = R"({notice}

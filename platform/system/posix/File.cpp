@@ -103,11 +103,6 @@ bool directoryExists(const std::string& path, std::error_code& failure) {
   return std::filesystem::is_directory(path, failure);
 }
 
-std::optional<std::string> contentsOfFile(const std::string& path) {
-  std::error_code unused;
-  return contentsOfFile(path, unused);
-}
-
 std::optional<std::string> contentsOfFile(const std::string& path, std::error_code& failure) {
   const auto fail = [&](std::error_code reason) {
     failure = reason;
