@@ -111,10 +111,10 @@ TEST(Files, AreAllChangedOrNoneWhenASignalEndsTheProcess) {
   for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
     for (int delay = 0; delay < 8; ++delay) {
       writeFiles(project.path(), {{"a", ""}, {"b", ""}});
+      std::signal(signal, SIG_DFL);  // a shell lets its background jobs ignore some signals
       const pid_t writer = fork();
       ASSERT_NE(writer, -1);
       if (writer == 0) {
-        std::signal(signal, SIG_DFL);  // a shell makes background commands ignore some signals
         for (std::string bytes;; bytes += 'x') writeFiles(project.path(), {{"a", bytes}, {"b", bytes}});
       }
       usleep(static_cast<useconds_t>(2000 + 100 * delay));
