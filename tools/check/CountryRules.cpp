@@ -103,9 +103,9 @@ constexpr RuleFor<CountryFile> kRules[] = {
     {{"country-list", Severity::error, "a country list that is not an array of objects, or is empty"},
      findNoList},
     {{"dropped-country", Severity::error, "a country that the module leaves out"}, findDropped},
-    {{"duplicate-country", Severity::error, "two countries with one ISO code"}, findDuplicates},
+    {{"duplicate-country", Severity::error, "two countries with the same ISO code"}, findDuplicates},
     {{"country-code", Severity::error, "an ISO code that is not two capital letters"}, findCodes},
-    {{"country-name", Severity::warning, "a country without a name to show"}, findNames},
+    {{"country-name", Severity::warning, "a country with an empty name"}, findNames},
     {{"phone-code", Severity::warning, "a phone code below 1"}, findPhoneCodes},
 };
 

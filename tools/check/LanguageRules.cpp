@@ -293,13 +293,13 @@ void ifTranslated(const Translation& translation, Findings& findings) {
 }
 
 constexpr RuleFor<Translation> kRules[] = {
-    {{"glossary-term", Severity::warning, "a translation without the glossary's word for a concept"},
+    {{"glossary-term", Severity::warning, "a translation without the glossary's term for a concept"},
      ifTranslated<findOtherTerms>},
     {{"address", Severity::warning, "a word of another form of address"}, ifTranslated<findWrongAddress>},
     {{"doubled-word", Severity::warning, "a repeated word, unless the glossary allows it"}, findDoubledWords},
     {{"mixed-scripts", Severity::warning, "Latin, Cyrillic or Greek letters in one word"}, findMixedScripts},
     {{"english-words", Severity::warning,
-      "words of the English text except names: three in a row, or one in a script that is not Latin"},
+      "words of the English text that are not names: three in a row, or one in a non-Latin script"},
      ifTranslated<findEnglishWords>},
     {{"quotation-marks", Severity::warning, "straight quotation marks, or those of another language"},
      ifTranslated<findQuotationMarks>},
@@ -307,7 +307,7 @@ constexpr RuleFor<Translation> kRules[] = {
     {{"ellipsis", Severity::warning, "three dots instead of an ellipsis"}, ifTranslated<findDots>},
     {{"doubled-blank", Severity::warning, "two blanks in a row, unless the English text has them"},
      findDoubledBlanks},
-    {{"no-break-space", Severity::warning, "a mark without the no-break space that the language needs there"},
+    {{"no-break-space", Severity::warning, "a mark without the no-break space that the language requires"},
      ifTranslated<findNoBreakSpaces>},
 };
 

@@ -142,10 +142,10 @@ void findWrongForOne(const CheckedTable& subject, Findings& findings) {
 
 constexpr RuleFor<CheckedTable> kRules[] = {
     {{"same-plurals", Severity::warning,
-      "all five plural forms the same where the English ones differ, unless the glossary says that nouns do "
+      "five identical plural forms where the English ones differ, unless the glossary says that nouns do "
       "not inflect"},
      findSamePlurals},
-    {{"wrong-for-one", Severity::warning, "a noun for many after a number that may be 1, as in \"1 days\""},
+    {{"wrong-for-one", Severity::warning, "a plural noun after a number that may be 1, as in \"1 days\""},
      findWrongForOne},
 };
 

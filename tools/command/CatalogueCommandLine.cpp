@@ -26,7 +26,7 @@ namespace {
 
 constexpr int kMostCharacters = 1'000'000;
 
-constexpr const char* kPlainHelp = "Take %s, {name} and the like as plain text";
+constexpr const char* kPlainHelp = "Treat %s, {name} and the like as plain text";
 
 /// `text` with line breaks for each \n, which shells pass on unchanged.
 std::string withLineBreaks(std::string_view text) {
@@ -59,7 +59,7 @@ void addInitCommand(CLI::App& app) {
   auto* const command = app.add_subcommand("init", "Create a new catalogue");
   command->add_option("directory", arguments->directory, "The catalogue's folder; created if needed")
       ->required();
-  command->add_option("--name", arguments->name.name, "The class of its accessors, such as Texts")
+  command->add_option("--name", arguments->name.name, "The class of the accessors, such as Texts")
       ->required();
   command->add_option("--namespace", arguments->name.nameSpace,
                       "The namespace of that class (default: none)");
@@ -95,12 +95,13 @@ void addAddCommand(CLI::App& app, const RootFinder& inRoot) {
   const auto entry = std::make_shared<Entry>();
   const auto isPlain = std::make_shared<bool>(false);
   auto* const command = app.add_subcommand("add", "Add a text and its accessor");
-  command->add_option("text", entry->text, "The English text; %{name}, \\n for a line break")->required();
+  command->add_option("text", entry->text, "The English text; %{name} is a placeholder, \\n a line break")
+      ->required();
   command->add_flag("--count", entry->plural, "The text has plural forms; needs at least --one");
   addForms(*command, entry->forms);
   command->add_option("--key", entry->key, "The key (default: derived from the text)");
   command->add_option("--comment", entry->comment, "What translators need to know about the text");
-  command->add_option("--max", entry->max, "The most characters that fit where the text appears")
+  command->add_option("--max", entry->max, "The maximum number of characters")
       ->check(isNumberUpTo(kMostCharacters));
   command->add_flag("--plain", *isPlain, kPlainHelp);
   command->footer("Example: zkstrings add --count '%{gifts} gifts' --one '%{gifts} gift'");
@@ -123,8 +124,8 @@ void addChangeCommand(CLI::App& app, const RootFinder& inRoot) {
   command->add_option("--placeholder", change->placeholder, "Rename a placeholder in all tables")
       ->type_name("OLD=NEW")
       ->excludes(text);
-  command->add_option("--comment", change->comment, "What translators need to know; '' removes it");
-  command->add_option("--max", change->max, "The most characters that fit; 0 for no limit")
+  command->add_option("--comment", change->comment, "What translators need to know; '' removes the comment");
+  command->add_option("--max", change->max, "The maximum number of characters; 0 removes the limit")
       ->check(isNumberUpTo(kMostCharacters));
   command->add_flag("--plain", change->isPlain, kPlainHelp);
   command->footer("Example: zkstrings change About 'About us'");
@@ -140,7 +141,7 @@ void addRenameCommand(CLI::App& app, const RootFinder& inRoot) {
   const auto keys = std::make_shared<std::pair<std::string, std::string>>();
   auto* const command = app.add_subcommand("rename", "Change the key of a text in all tables");
   command->add_option("key", keys->first, "The text's key")->required()->type_name("KEY");
-  command->add_option("new_key", keys->second, "Its new key")->required()->type_name("NEW_KEY");
+  command->add_option("new_key", keys->second, "The new key")->required()->type_name("NEW_KEY");
   command->footer("Example: zkstrings rename About About_the_app");
   command->callback([keys, inRoot] {
     renameEntry(inRoot(), keys->first, keys->second);
@@ -174,7 +175,8 @@ CLI::Validator isNumberUpTo(int most) {
 
 void addSourcesOption(CLI::App& command, std::vector<std::string>& directories) {
   command
-      .add_option("--sources", directories, "Add the places in this folder that use a text; can be repeated")
+      .add_option("--sources", directories,
+                  "Show where the sources in this folder use each text; can be repeated")
       ->allow_extra_args(false)
       ->type_name("DIR");
 }

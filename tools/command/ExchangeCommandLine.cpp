@@ -103,7 +103,7 @@ void addExportCommand(CLI::App& app, const RootFinder& inRoot) {
   command->add_option("language", arguments->language, "The language: its code, name or table")
       ->required()
       ->type_name("LANGUAGE");
-  command->add_option("-o,--output", arguments->file, "The file to write (default: the terminal)")
+  command->add_option("-o,--output", arguments->file, "The file to write (default: standard output)")
       ->type_name("FILE");
   command
       ->add_option("--format", arguments->format, "xliff, po or csv (default: from the file name, or xliff)")

@@ -45,7 +45,7 @@ void addPseudoCommand(CLI::App& app, const RootFinder& inRoot) {
       app.add_subcommand("pseudo", "Write the pseudo-locales xa (longer), xb (right to left) and xk (keys)");
   command
       ->add_option("-o,--output", *directory,
-                   "The app's folder share/ZKStrings (default: the one in build/pseudo)")
+                   "The app's share/ZKStrings folder (default: build/pseudo/share/ZKStrings)")
       ->type_name("DIR");
   command->footer("Example: zkstrings pseudo -o build/share/ZKStrings");
   command->callback([directory, inRoot] {

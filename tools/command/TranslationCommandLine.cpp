@@ -111,9 +111,9 @@ void addCheckCommand(CLI::App& app, const RootFinder& inRoot) {
       ->type_name("RULE");
   command->add_flag("--strict", arguments->isStrict, "Fail on warnings too");
   command->add_flag("--complete", arguments->isForRelease,
-                    "Fail on gaps too, texts that are not translated yet: for a release");
+                    "Fail on gaps too: missing, untranslated or outdated texts");
   command->add_flag("--notes", arguments->options.notes,
-                    "Also print notes, about texts that may be right but are worth a look");
+                    "Also print notes on texts that may be right but deserve a look");
   command->add_flag("--rules", arguments->showsRules, "List the rules, and check nothing");
   addFormat(*command, arguments->format);
   command->footer("Example: zkstrings check de --strict");
@@ -142,7 +142,7 @@ void addCoverageCommand(CLI::App& app, const RootFinder& inRoot) {
   auto* const command = app.add_subcommand("coverage", "Show translation progress per language");
   command
       ->add_option("--at-least", arguments->least,
-                   "Fail if a language has fewer translated texts, in percent")
+                   "Fail if less than N percent of a language's texts are translated")
       ->check(isNumberUpTo(100))
       ->type_name("N");
   addFormat(*command, arguments->format);
@@ -183,8 +183,8 @@ void addUpdateCommand(CLI::App& app, const RootFinder& inRoot) {
     bool prunes = false;
   };
   const auto arguments = std::make_shared<Arguments>();
-  auto* const command = app.add_subcommand(
-      "update", "Add the missing texts to a language's table, in English, and mark the texts to translate");
+  auto* const command =
+      app.add_subcommand("update", "Add missing texts to a language's table and mark untranslated ones");
   command->add_option("language", arguments->language, "The language: its code, name or table")
       ->required()
       ->type_name("LANGUAGE");

@@ -94,11 +94,9 @@ std::string manPageOf(const CLI::App& app) {
   page += ".SH RULES\nThe rules of\n.BR check :\n";
   for (const auto& [rule, severity, summary] : checkRules())
     page += item(fmt::format("{} ({})", bold(rule), nameOf(severity)), summary);
-  page += ".SH EXIT STATUS\nEach command ends with one of these:\n";
-  page += item(bold("0"), "Done.");
-  page +=
-      item(bold("1"),
-           "Something in the project's or the given files is wrong, or a file cannot be read or written.");
+  page += ".SH EXIT STATUS\nThe exit status of each command is one of these:\n";
+  page += item(bold("0"), "Success.");
+  page += item(bold("1"), "The project or a given file has an error, or a file cannot be read or written.");
   page +=
       item(bold("2"),
            "The command line is wrong: an unknown command, option, key or language, or an unusable text.");
