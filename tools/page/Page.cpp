@@ -17,6 +17,7 @@
 #include <utility>
 #include <vector>
 
+#include <fmt/format.h>
 #include <nlohmann/json.hpp>
 #include <unicode/locid.h>
 #include <unicode/unistr.h>
@@ -37,6 +38,12 @@ std::string nameIn(const icu::Locale& reader, const icu::Locale& language) {
   return upperCased(first) + bytes.substr(first.size());
 }
 
+std::string familyOf(const Entry& entry) {
+  const bool isFormatted = !placeholderNames(entry.text).empty();
+  if (entry.plural) return isFormatted ? "counted formatted" : "counted";
+  return isFormatted ? "formatted" : "plain";
+}
+
 Json formsData() {
   Json forms = Json::array();
   for (const auto& [suffix, counts, example] : kPluralForms)
@@ -48,16 +55,16 @@ Json formsData() {
 ///
 ///     {"app": "My App",
 ///      "forms": [{"name": "few", "counts": "3 to 5", "example": 4}, …],
-///      "entries": [{"key", "context", "counted", "formatted", "call"}, …],
-///      "languages": [{"tag", "english", "native", "isRightToLeft", "file", "isWellFormed",
-///                     "texts", "characters", "states", "previous", "findings"}, …]}
+///      "entries": [{"key", "context", "counted", "family", "call"}, …],
+///      "languages": [{"tag", "english", "native", "isRightToLeft", "isWellFormed", "texts", "characters",
+///                     "states", "previous": {"3": "Kick him?"},
+///                     "findings": {"table": [{"severity", "rule", "message", "place"}, …], "3": …}}, …]}
 ///
 /// English is the first language. "texts", "characters" and "states" have an element for each key that the
 /// engine looks up, in catalogue order: the finished text, whose values are marked as `ShownTexts` marks them; its
-/// length in characters; one letter for missing (m), untranslated (u), needs review (n) or translated (t). An
-/// element of "previous" is an array of the index of a key and the English text that its translation was made
-/// from, if that has changed. A finding is an array of the index of its key (null for the table as a whole),
-/// severity, rule, message, line and column.
+/// length in characters; one letter for missing (m), untranslated (u), needs review (n) or translated (t).
+/// "previous" has the English text that a translation was made from, if that has changed, by the index of the key.
+/// "findings" are by the index of their key, or for the table as a whole.
 class DataMaker {
  public:
   DataMaker(const std::string& root, const std::vector<std::string>& sources)
@@ -93,7 +100,7 @@ class DataMaker {
     return {{"key", entry.key},
             {"context", contextOf(entry)},
             {"counted", entry.plural},
-            {"formatted", !placeholderNames(entry.text).empty()},
+            {"family", familyOf(entry)},
             {"call", accessorCall(entry, catalogue_.settings().name)}};
   }
 
@@ -104,21 +111,20 @@ class DataMaker {
     Json texts = Json::array();
     Json characters = Json::array();
     std::string states;
-    Json previous = Json::array();
+    Json previous = Json::object();
     shown_.choose(language);
     for (const EnglishText& english : english_.all()) {
       texts.push_back(shown_.text(english, true));
       characters.push_back(charactersIn(shown_.text(english, false)));
       const TableEntry* const entry = table.diagnostics.empty() ? table.find(english.key) : nullptr;
-      states += nameOf(stateOf(language, entry, english)).front();
       const std::optional<std::string> before = entry ? quotedIn(*entry, kState) : std::nullopt;
-      if (before) previous.push_back({states.size() - 1, *before});
+      if (before) previous[std::to_string(states.size())] = *before;
+      states += nameOf(stateOf(language, entry, english)).front();
     }
     return {{"tag", tag},
             {"english", nameIn(icu::Locale::getEnglish(), locale)},
             {"native", nameIn(locale, locale)},
             {"isRightToLeft", locale.isRightToLeft() != 0},
-            {"file", table.file},
             {"isWellFormed", table.diagnostics.empty()},
             {"texts", std::move(texts)},
             {"characters", std::move(characters)},
@@ -129,14 +135,16 @@ class DataMaker {
 
   /// Findings in a malformed table concern the table as a whole, since the app shows none of its texts.
   [[nodiscard]] Json findingsOf(const Table& table) const {
-    Json findings = Json::array();
-    for (const Diagnostic& diagnostic : diagnostics_) {
-      if (diagnostic.file != table.file || diagnostic.severity == Severity::gap) continue;
-      const TableEntry* const entry =
-          table.diagnostics.empty() ? table.entryAt({diagnostic.line, diagnostic.column}) : nullptr;
+    Json findings = Json::object();
+    for (const auto& [severity, file, line, column, rule, message] : diagnostics_) {
+      if (file != table.file || severity == Severity::gap) continue;
+      const TableEntry* const entry = table.diagnostics.empty() ? table.entryAt({line, column}) : nullptr;
       const EnglishText* const text = entry ? english_.find(entry->key) : nullptr;
-      findings.push_back({text ? Json(text - english_.all().data()) : Json(), nameOf(diagnostic.severity),
-                          diagnostic.rule, diagnostic.message, diagnostic.line, diagnostic.column});
+      const std::string key = text ? std::to_string(text - english_.all().data()) : "table";
+      findings[key].push_back({{"severity", nameOf(severity)},
+                               {"rule", rule},
+                               {"message", message},
+                               {"place", fmt::format("{}:{}:{}", file, line, column)}});
     }
     return findings;
   }

@@ -3,8 +3,7 @@ const card = document.getElementById("card");
 const help = document.getElementById("help");
 
 function copyButton(source, what) {
-  const button = element("button", { type: "button", className: "copy" }, "Copy");
-  button.setAttribute("aria-label", `Copy ${what}`);
+  const button = element("button", { type: "button", className: "copy", ariaLabel: `Copy ${what}` }, "Copy");
   button.addEventListener("click", async () => {
     getSelection().selectAllChildren(source); // to copy by hand if the browser refuses below
     try {
@@ -18,16 +17,23 @@ function copyButton(source, what) {
   return button;
 }
 
+function backLink() {
+  return element("a", { className: "back", href: "#" }, "All texts");
+}
+
+function title(...children) {
+  return element("h2", { tabIndex: -1, id: "card-title" }, ...children);
+}
+
 function headOf(entry) {
   const call = element("code", { className: "call" }, ...breakable(entry.call));
-  const back = element("a", { className: "back", href: "#" }, "All texts");
   return element(
     "header",
     {},
-    back,
-    element("h2", { tabIndex: -1, id: "card-title" }, ...breakable(entry.key)),
+    backLink(),
+    title(...breakable(entry.key)),
     element("p", { className: "family" }, entry.family.replace(" ", " and ")),
-    entry.context === "" ? "" : element("p", { className: "context", dir: "auto" }, entry.context),
+    element("p", { className: "context", dir: "auto" }, entry.context),
     element("div", { className: "call-line" }, call, copyButton(call, "the accessor call")),
   );
 }
@@ -35,67 +41,52 @@ function headOf(entry) {
 function lengthTag(entry, language) {
   const most = Math.max(...entry.texts.map((text) => excess(language, text)));
   const sign = most > 0 ? "+" : most < 0 ? "−" : "±";
-  const length = element(
-    "span",
-    { className: most >= 100 ? "tag long" : "tag" },
-    `${sign}${Math.abs(most)} %`,
-  );
-  length.title = "Length compared with English, with the example values";
-  return length;
-}
-
-function isMissing(entry, language) {
-  return entry.texts.every((text) => language.states[text] === "m");
-}
-
-function stateTags(entry, language) {
-  const states = new Set(entry.texts.map((text) => language.states[text]));
-  return ["m", "u", "n"]
-    .filter((state) => states.has(state))
-    .map((state) => element("span", { className: `tag state-${state}` }, STATE_NAMES[state]));
+  const className = most >= 100 ? "tag long" : "tag";
+  const title = "Length compared with English, with the example values";
+  return element("span", { className, title }, `${sign}${Math.abs(most)} %`);
 }
 
 function languageHead(entry, language) {
+  const states = entry.texts.map((text) => language.states[text]);
+  const tags = ["m", "u", "n"]
+    .filter((state) => states.includes(state))
+    .map((state) => element("span", { className: `tag state-${state}` }, STATE_NAMES[state]));
+  const isMissing = states.every((state) => state === "m");
+  if (language !== english && !isMissing) tags.push(lengthTag(entry, language));
   return element(
     "header",
     {},
     element("h3", {}, element("span", { lang: language.tag, dir: "auto" }, language.native)),
     element("span", { className: "english-name" }, language === english ? "" : language.english),
-    ...stateTags(entry, language),
-    language === english || isMissing(entry, language) ? "" : lengthTag(entry, language),
+    ...tags,
   );
 }
 
-function formRow(entry, language, form) {
-  const { name, counts, example } = data.forms[form];
-  const text = element("td");
-  showText(text, language, entry.texts[form]);
-  const title = `${name}: ${counts}`;
-  return element("tr", {}, element("th", { scope: "row", title }, String(example)), text);
+function textElement(name, language, text) {
+  const made = element(name);
+  showText(made, language, text);
+  return made;
 }
 
-function textsOf(entry, language) {
-  if (!entry.counted) {
-    const text = element("p");
-    showText(text, language, entry.texts[0]);
-    return text;
-  }
-  const table = element("table", { attributes: { "aria-label": `${language.english}, by count` } });
-  table.dir = language.isRightToLeft ? "rtl" : "ltr";
-  table.append(...data.forms.map((_, form) => formRow(entry, language, form)));
-  return table;
+function formsTable(entry, language) {
+  const rows = forms.map(({ name, counts, example }, form) => {
+    const head = element("th", { scope: "row", title: `${name}: ${counts}` }, String(example));
+    return element("tr", {}, head, textElement("td", language, entry.texts[form]));
+  });
+  const ariaLabel = `${language.english}, by count`;
+  return element("table", { ariaLabel, dir: language.isRightToLeft ? "rtl" : "ltr" }, ...rows);
 }
 
 function languageBlock(entry, language) {
-  const findings = entry.texts.flatMap((text) => language.findingsByText.get(text) ?? []);
-  const previous = new Set(entry.texts.flatMap((text) => language.previous.get(text) ?? []));
+  const findings = entry.texts.flatMap((text) => language.findings[text] ?? []);
+  const previous = new Set(entry.texts.flatMap((text) => language.previous[text] ?? []));
   return element(
     "article",
     { className: "language" },
     languageHead(entry, language),
-    textsOf(entry, language),
+    entry.counted ? formsTable(entry, language) : textElement("p", language, entry.texts[0]),
     ...[...previous].map((text) => element("p", { className: "previous" }, `The English was “${text}”`)),
-    findings.length > 0 ? element("ul", { className: "findings" }, ...findings.map(findingItem)) : "",
+    element("ul", { className: "findings" }, ...findings.map(findingItem)),
   );
 }
 
@@ -107,9 +98,6 @@ function openCard(entry) {
 }
 
 function showUnknown(address) {
-  card.replaceChildren(
-    element("a", { className: "back", href: "#" }, "All texts"),
-    element("h2", { tabIndex: -1, id: "card-title" }, "No such text"),
-    element("p", {}, `No text has the key “${address}”. It may be misspelled, or the text was removed.`),
-  );
+  const reason = `No text has the key “${address}”. It may be misspelled, or the text was removed.`;
+  card.replaceChildren(backLink(), title("No such text"), element("p", {}, reason));
 }

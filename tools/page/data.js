@@ -1,35 +1,16 @@
 // The data that `zkstrings page` put into the page. Page.cpp describes its form.
-const data = JSON.parse(document.getElementById("data").textContent);
-const languages = data.languages;
-const english = languages[0];
-const translations = languages.slice(1);
+const { app, forms, entries, languages } = JSON.parse(document.getElementById("data").textContent);
+const [english, ...translations] = languages;
 
-const STATE_NAMES = { m: "missing", u: "untranslated", n: "needs review", t: "translated" };
+const STATE_NAMES = { t: "translated", n: "needs review", u: "untranslated", m: "missing" };
 
-languages.forEach((language, index) => {
-  language.index = index;
-  language.previous = new Map(language.previous);
-  const findings = language.findings.map(([text, severity, rule, message, line, column]) => {
-    return { text, severity, rule, message, place: `${language.file}:${line}:${column}` };
-  });
-  language.findingsByText = Map.groupBy(findings, ({ text }) => text);
-});
-
-const plainKeys = new Set(data.entries.filter(({ counted }) => !counted).map(({ key }) => key));
-
+const entriesByAddress = new Map();
 let nextText = 0;
-const entries = data.entries.map((entry) => {
-  const isTwin = entry.counted && plainKeys.has(entry.key);
-  return {
-    ...entry,
-    texts: Array.from({ length: entry.counted ? data.forms.length : 1 }, () => nextText++), // in languages' lists
-    address: isTwin ? `${entry.key}/count` : entry.key,
-    family:
-      [entry.counted && "counted", entry.formatted && "formatted"].filter(Boolean).join(" ") ||
-      "plain",
-  };
-});
-const entriesByAddress = new Map(entries.map((entry) => [entry.address, entry]));
+for (const entry of entries) {
+  entry.texts = Array.from(entry.counted ? forms : [0], () => nextText++); // their indexes in languages' lists
+  entry.address = entriesByAddress.has(entry.key) ? `${entry.key}/count` : entry.key;
+  entriesByAddress.set(entry.address, entry);
+}
 
 /** Matches a value that the engine has filled in, with the name of its placeholder. */
 const VALUE = /\uFDD0([^\uFDD0-\uFDD2]*)\uFDD1([^\uFDD0-\uFDD2]*)\uFDD2/g;

@@ -1,56 +1,32 @@
 // The filters above the list.
-const controls = Object.fromEntries(
-  ["search", "language", "family", "state", "longer"].map((id) => [id, document.getElementById(id)]),
-);
+const controls = document.getElementById("filters").elements;
 
-for (const language of translations) {
-  controls.language.append(new Option(`${language.native} (${language.english})`, language.index));
+for (const [index, { native, english: name }] of translations.entries()) {
+  controls.language.append(new Option(`${native} (${name})`, index + 1));
 }
 
 /** The language to show next to English; undefined for all languages. */
 function chosenLanguage() {
-  return controls.language.value === "" ? undefined : languages[controls.language.value];
+  return translations[controls.language.value - 1];
 }
 
-function isFamily(entry, family) {
-  return family === "" || entry.family === family || (family === "with count" && entry.counted);
-}
+const SEVERITIES = { finding: ["error", "warning"], note: ["note"] };
 
 function isInState(language, text, state) {
-  const finding = (severities) =>
-    (language.findingsByText.get(text) ?? []).some(({ severity }) => severities.includes(severity));
-  switch (state) {
-    case "":
-      return true;
-    case "gap":
-      return language.states[text] !== "t";
-    case "finding":
-      return finding(["error", "warning"]);
-    case "note":
-      return finding(["note"]);
-    default:
-      return language.states[text] === state;
-  }
+  if (state in SEVERITIES)
+    return language.findings[text]?.some(({ severity }) => SEVERITIES[state].includes(severity));
+  return state === "" || (state === "gap" ? language.states[text] !== "t" : language.states[text] === state);
 }
 
 /** The entries that pass all filters. */
 function filtered() {
-  const family = controls.family.value;
-  const state = controls.state.value;
-  const longer = controls.longer.value === "" ? undefined : controls.longer.valueAsNumber;
-  const chosen = chosenLanguage();
-  const asked = chosen ? [chosen] : languages;
+  const [family, state] = [controls.family.value, controls.state.value];
+  const longer = controls.longer.value === "" ? -Infinity : controls.longer.valueAsNumber;
+  const asked = chosenLanguage() ? [chosenLanguage()] : languages;
   const isShown = (entry) =>
-    isFamily(entry, family) &&
+    (["", entry.family].includes(family) || (family === "with count" && entry.counted)) &&
     asked.some((language) =>
-      entry.texts.some(
-        (text) =>
-          isInState(language, text, state) && (longer === undefined || excess(language, text) >= longer),
-      ),
+      entry.texts.some((text) => isInState(language, text, state) && excess(language, text) >= longer),
     );
   return found(entries.filter(isShown), controls.search.value);
-}
-
-function isAnyFilterSet() {
-  return Object.values(controls).some((control) => control.value !== "");
 }

@@ -3,37 +3,16 @@ const list = document.getElementById("list");
 
 let shownEntries = [];
 let listedLanguage;
-let listing = 0; // the number of the update that is adding rows
-let rows = 0; // the number of rows it has added
 let openLink;
 
-function rowOf(entry) {
-  if (entry.row) return entry.row;
+for (const entry of entries) {
   const text = element("span");
   showText(text, english, entry.texts.at(-1));
+  const key = element("span", { className: "key" }, element("span", {}, ...breakable(entry.key)));
+  if (entry.counted) key.append(element("span", { className: "tag" }, "count"));
   entry.translation = element("span", { hidden: true });
-  entry.link = element(
-    "a",
-    { href: `#${encodeURIComponent(entry.address)}` },
-    element(
-      "span",
-      { className: "key" },
-      element("span", {}, ...breakable(entry.key)),
-      entry.counted ? element("span", { className: "tag" }, "count") : "",
-    ),
-    text,
-    entry.translation,
-  );
+  entry.link = element("a", { href: `#${encodeURIComponent(entry.address)}` }, key, text, entry.translation);
   entry.row = element("li", {}, entry.link);
-  return entry.row;
-}
-
-function showTranslation(entry) {
-  if (entry.shownLanguage === listedLanguage) return;
-  entry.shownLanguage = listedLanguage;
-  entry.translation.hidden = !listedLanguage;
-  if (!listedLanguage) return;
-  showText(entry.translation, listedLanguage, entry.texts.at(-1));
 }
 
 function findingItem({ severity, rule, message, place }) {
@@ -46,47 +25,32 @@ function findingItem({ severity, rule, message, place }) {
   );
 }
 
-function showTableFindings() {
-  const place = document.getElementById("table-findings");
-  const findings = listedLanguage?.findingsByText.get(null) ?? [];
-  place.hidden = findings.length === 0;
-  place.replaceChildren(...findings.map(findingItem));
+/** Shows the texts of `language` next to the English ones, and the findings for its table. Without one, hides them. */
+function showLanguage(language) {
+  listedLanguage = language;
+  for (const { translation, texts } of entries) {
+    translation.hidden = !language;
+    if (language) showText(translation, language, texts.at(-1));
+  }
+  for (const one of translations) one.button.ariaPressed = String(one === language);
+  const findings = language?.findings.table ?? [];
+  document.getElementById("table-findings").replaceChildren(...findings.map(findingItem));
 }
-
-/** Adds the next rows of the update `of`, in batches, so that typing never waits for all rows. */
-function addRows(of, batch = 100) {
-  if (of !== listing) return;
-  const added = shownEntries.slice(rows, rows + batch);
-  rows += added.length;
-  list.append(...added.map(rowOf));
-  added.forEach(showTranslation);
-  if (rows < shownEntries.length) setTimeout(addRows, 0, of);
-}
-
-// Paper shows all rows, even right after the list has changed.
-addEventListener("beforeprint", () => addRows(listing, entries.length));
 
 /** Shows the entries that pass the filters. */
 function updateList() {
-  listedLanguage = chosenLanguage();
+  if (listedLanguage !== chosenLanguage()) showLanguage(chosenLanguage());
   shownEntries = filtered();
-  list.replaceChildren();
-  rows = 0;
-  addRows(++listing);
+  list.replaceChildren(...shownEntries.map(({ row }) => row));
   list.scrollTop = 0;
-  markChosenLanguage(listedLanguage);
-  showTableFindings();
-  const all = shownEntries.length === entries.length;
-  document.getElementById("count").textContent = all
-    ? `${entries.length} texts`
-    : `${shownEntries.length} of ${entries.length} texts`;
-  document.getElementById("nothing").hidden = shownEntries.length > 0;
-  document.getElementById("reset").hidden = !isAnyFilterSet();
+  const all = shownEntries.length === entries.length ? "" : `${shownEntries.length} of `;
+  document.getElementById("count").textContent = `${all}${entries.length} texts`;
+  document.getElementById("reset").hidden = [...controls].every(({ value }) => value === "");
 }
 
 function markOpenEntry(open) {
   openLink?.removeAttribute("aria-current");
-  openLink = open && rowOf(open).querySelector("a");
+  openLink = open?.link;
   openLink?.setAttribute("aria-current", "true");
 }
 

@@ -1,5 +1,5 @@
 // Handles addresses, keys and filters.
-const pageTitle = `${data.app} texts`;
+const pageTitle = `${app} texts`;
 let openEntry;
 
 function openAddress() {
@@ -19,7 +19,7 @@ function openAddress() {
   markOpenEntry(openEntry);
   const isBrowsing = list.contains(document.activeElement) && list.checkVisibility();
   if (address !== "" && !isBrowsing) document.getElementById("card-title").focus();
-  if (address === "" && before) (before.row?.isConnected ? before.link : controls.search).focus();
+  if (address === "" && before) (before.row.isConnected ? before.link : controls.search).focus();
 }
 
 function onKey(event) {
@@ -53,25 +53,16 @@ function onEscape(event) {
 }
 
 document.querySelector("h1").textContent = pageTitle;
-showCoverage((language) => {
-  const isChosen = chosenLanguage() === language;
-  controls.language.value = isChosen ? "" : String(language.index);
-  controls.language.dispatchEvent(new Event("input", { bubbles: true }));
-});
 controls.language.addEventListener("input", () => openEntry && openCard(openEntry));
-document.getElementById("filters").addEventListener("input", updateList);
-document.getElementById("filters").addEventListener("submit", (event) => event.preventDefault());
+controls.search.form.addEventListener("input", updateList);
+controls.search.form.addEventListener("submit", (event) => event.preventDefault());
 document.getElementById("reset").addEventListener("click", () => {
   controls.search.form.reset();
   updateList();
-  controls.search.focus();
-});
-document.getElementById("skip").addEventListener("click", (event) => {
-  event.preventDefault();
   controls.search.focus();
 });
 document.addEventListener("keydown", onKey);
 addEventListener("hashchange", openAddress);
 updateList();
 openAddress();
-prepareSearch();
+setTimeout(() => entries.forEach(searchable)); // so that the first typed letter need not wait for it

@@ -18,21 +18,10 @@ const PLACEHOLDER = /%\{[\p{L}\p{N}]+\}/u;
 /** The key, texts and patterns that the search compares with, made on first use. */
 function searchable(entry) {
   if (entry.searchable) return entry.searchable;
-  const texts = new Set();
-  const templates = new Set();
-  for (const language of languages) {
-    for (const text of entry.texts) {
-      const marked = language.texts[text];
-      const finished = marked.replace(VALUE, "$2");
-      texts.add(folded(finished));
-      if (marked !== finished) templates.add(marked.replace(VALUE, "%{$1}"));
-    }
-  }
-  const patterns = [];
-  for (const template of templates) {
-    texts.add(folded(template));
-    patterns.push(template.split(PLACEHOLDER).map(folded));
-  }
+  const marked = new Set(languages.flatMap((language) => entry.texts.map((text) => language.texts[text])));
+  const templates = [...marked].map((text) => text.replace(VALUE, "%{$1}"));
+  const texts = new Set([...templates, ...[...marked].map((text) => text.replace(VALUE, "$2"))].map(folded));
+  const patterns = templates.map((template) => template.split(PLACEHOLDER).map(folded));
   entry.searchable = { key: entry.key.toLowerCase(), texts: `\n${[...texts].join("\n")}\n`, patterns };
   return entry.searchable;
 }
@@ -78,8 +67,7 @@ function score(entry, query, words) {
   if (key.startsWith(query)) return 4;
   if (texts.includes(query) || key.includes(query)) return 3;
   if (words.length > 1 && words.every((word) => texts.includes(word) || key.includes(word))) return 2;
-  let own = 0;
-  for (const pieces of patterns) own = Math.max(own, ownCharacters(query, pieces));
+  const own = Math.max(...patterns.map((pieces) => ownCharacters(query, pieces)));
   const ENOUGH = 3;
   return own >= ENOUGH && own * 3 >= query.length ? 1 + own / query.length : 0;
 }
@@ -94,11 +82,4 @@ function found(some, typed) {
     .filter((result) => result.score > 0)
     .sort((one, other) => other.score - one.score)
     .map((result) => result.entry);
-}
-
-/** Prepares the entries for searching, in small steps. */
-function prepareSearch(next = 0) {
-  const end = performance.now() + 8;
-  while (next < entries.length && performance.now() < end) searchable(entries[next++]);
-  if (next < entries.length) setTimeout(prepareSearch, 0, next);
 }

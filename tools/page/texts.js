@@ -2,11 +2,9 @@
 
 const MARKS = /(<\/?b>|\*|\n|%\{[^{}]*\})/;
 
-/** Makes an element with properties, `attributes` and children. A string becomes text, never markup. */
+/** Makes an element with properties and children. A string becomes text, never markup. */
 function element(name, properties = {}, ...children) {
-  const { attributes = {}, ...others } = properties;
-  const made = Object.assign(document.createElement(name), others);
-  for (const [attribute, value] of Object.entries(attributes)) made.setAttribute(attribute, value);
+  const made = Object.assign(document.createElement(name), properties);
   made.append(...children);
   return made;
 }
@@ -17,14 +15,10 @@ function breakable(name) {
 }
 
 function markOrText(part) {
-  if (part === "\n") {
-    const sign = element("span", { className: "mark break", attributes: { "aria-hidden": "true" } });
-    return [sign, element("br")];
-  }
+  if (part === "\n") return [element("span", { className: "mark break", ariaHidden: "true" }), element("br")];
   if (part.startsWith("%{"))
     return [element("span", { className: "unfilled", title: "The app does not fill this in" }, part)];
-  if (MARKS.test(part)) return [element("span", { className: "mark" }, part)];
-  return part === "" ? [] : [part];
+  return [MARKS.test(part) ? element("span", { className: "mark" }, part) : part];
 }
 
 /** Puts a text into `place`, with its language and direction. The engine shows English where a text is missing. */
@@ -33,8 +27,7 @@ function showText(place, language, text) {
   const shown = isMissing ? english : language;
   place.lang = shown.tag;
   place.dir = shown.isRightToLeft ? "rtl" : "ltr";
-  place.classList.add("text");
-  place.classList.toggle("is-missing", isMissing);
+  place.className = isMissing ? "text is-missing" : "text";
   const parts = language.texts[text].split(VALUE); // text, name, value, text, …
   const shownParts = parts.flatMap((part, at) => {
     if (at % 3 === 0) return part.split(MARKS).flatMap(markOrText);
