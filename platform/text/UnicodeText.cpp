@@ -27,7 +27,7 @@ UChar32 nextCodePoint(std::string_view text, std::size_t& at) {
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wconversion"  // within the library's macro
   UChar32 value = 0;
-  U8_NEXT(text.data(), at, text.size(), value);
+  U8_NEXT(text.data(), at, text.size(), value);  // NOLINT(bugprone-inc-dec-in-conditions)
   return value;
 #pragma GCC diagnostic pop
 }
@@ -102,7 +102,7 @@ std::size_t internal::firstClusterSize(std::string_view text) {
     std::size_t size = 0;
     for (std::size_t unit = 0; unit < end; size += next.bytes.size()) {
       next = firstCodePoint(text.substr(size));
-      unit += *next.value > 0xFFFF ? 2 : 1;
+      unit += next.bytes.size() == 4 ? 2 : 1;
     }
     return size;
   }

@@ -38,8 +38,7 @@ void completeForms(Catalogue& catalogue, const Table& base) {
     std::set<std::string> texts;
     for (std::size_t i = 0; i < inBase.size(); ++i) {
       const TableEntry* const form = base.find(entry.key + std::string(kPluralForms[i].suffix));
-      inBase[i] = form ? form->text : entry.text;
-      texts.insert(*inBase[i]);
+      texts.insert(inBase[i].emplace(form ? form->text : entry.text));
     }
     if (!formOf(entry, 0) && texts.size() > 1) entry.forms = inBase;
     for (std::optional<std::string>& form : entry.forms) form = form.value_or(entry.text);

@@ -107,7 +107,7 @@ void changeTexts(Entry& entry, const EntryChange& change) {
     std::optional<std::string>& form = entry.forms[i];
     if (change.forms[i]) {
       form = change.forms[i];
-    } else if (form == old) {
+    } else if (!form || *form == old) {
       form = entry.text;
     } else if (entry.text != old) {
       const auto& [suffix, counts, example] = kPluralForms[i];

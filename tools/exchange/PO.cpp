@@ -220,8 +220,8 @@ class POReader {
     if (!entry.texts[context] && !entry.texts[source]) return;
     if (!entry.texts[target]) fail(file_, at_, "the last entry has no msgstr; the file may be damaged");
     hasEntries_ = true;
-    entry.unit.source = *std::move(entry.texts[source]);
-    entry.unit.target = *std::move(entry.texts[target]);
+    entry.unit.source = entry.texts[source].value_or("");
+    entry.unit.target = entry.texts[target].value_or("");
     const std::string key = entry.texts[context].value_or("");
     if (entry.unit.source.empty() && key.empty()) return readHeader(entry.unit.target);
     // Programs keep the context, or else a comment. translate-toolkit repeats the reference as the context.

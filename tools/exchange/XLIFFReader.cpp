@@ -292,11 +292,11 @@ class XLIFFReader {
   }
 
   /// Returns `text`. Codes that repeat each other can make a small file's texts very long, so the sum is limited.
-  const std::string& limited(const std::string& text, pugi::xml_node code) {
+  std::string limited(std::string_view text, pugi::xml_node code) {
     if (text.size() > expansionLeft_)
       refuse(code, "the inline codes make the texts too long; export the texts again");
     expansionLeft_ -= text.size();
-    return text;
+    return std::string(text);
   }
 
   const std::string& file_;

@@ -148,12 +148,14 @@ void checkEntry(const Entry& entry, const std::string& file, Diagnostics& diagno
     fail(fmt::format("\"{}\" is not a placeholder; write %{{name}}, with letters and digits in the braces",
                      use.spelled));
   }
-  for (const std::optional<std::string>& form : entry.forms) {
-    if (hasCarriageReturnOrNul(form.value_or(""))) fail(kNoCarriageReturn);
-    for (const std::string_view name : placeholderNames(form ? std::string_view(*form) : "")) {
+  for (const std::optional<std::string>& given : entry.forms) {
+    if (!given) continue;
+    const std::string& form = *given;
+    if (hasCarriageReturnOrNul(form)) fail(kNoCarriageReturn);
+    for (const std::string_view name : placeholderNames(form)) {
       if (seen.contains(name)) continue;
-      fail(fmt::format("the form \"{}\" has the placeholder \"%{{{}}}\", which the text lacks",
-                       escaped(*form), name));
+      fail(fmt::format("the form \"{}\" has the placeholder \"%{{{}}}\", which the text lacks", escaped(form),
+                       name));
     }
   }
   if (entry.plural && seen.contains("count")) {
@@ -211,8 +213,9 @@ std::string quoted(const std::string& text) {
 std::string formsOf(const Entry& entry) {
   std::vector<std::string> members;
   for (std::size_t i = 0; i < entry.forms.size(); ++i) {
-    if (entry.forms[i].value_or(entry.text) != entry.text)
-      members.push_back(fmt::format("\"{}\": {}", kPluralForms[i].suffix.substr(1), quoted(*entry.forms[i])));
+    const std::string form = entry.forms[i].value_or(entry.text);
+    if (form != entry.text)
+      members.push_back(fmt::format("\"{}\": {}", kPluralForms[i].suffix.substr(1), quoted(form)));
   }
   return members.empty() ? "true" : fmt::format("{{{}}}", fmt::join(members, ", "));
 }
@@ -305,7 +308,7 @@ std::string Catalogue::toJson() const {
 }
 
 const std::string* formOf(const Entry& entry, std::size_t form) {
-  if (entry.forms[form]) return &*entry.forms[form];
+  if (const std::optional<std::string>& given = entry.forms[form]) return &*given;
   const auto isGiven = [](const std::optional<std::string>& other) { return other.has_value(); };
   return std::any_of(entry.forms.begin(), entry.forms.end(), isGiven) ? &entry.text : nullptr;
 }

@@ -135,9 +135,10 @@ Table Table::parse(std::string bytes, std::string file) {
       table.entries.push_back(entryFrom(reader, *text, commentsBegin, positions));
       table.places.insert_or_assign(table.entries.back().key, table.entries.size() - 1);
     }
-    if (!reader.error()) break;
-    fail(positions.at(reader.error()->offset), kSyntax,
-         fmt::format("expected {}; write \"key\" = \"text\";", reader.error()->expected));
+    const auto& error = reader.error();
+    if (!error) break;
+    fail(positions.at(error->offset), kSyntax,
+         fmt::format("expected {}; write \"key\" = \"text\";", error->expected));
     reader.recover();
   }
   if (table.diagnostics.empty()) return table;

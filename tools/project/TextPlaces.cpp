@@ -2,7 +2,9 @@
 #include <ZKStrings/tools/project/TextPlaces.h>
 
 #include <algorithm>
+#include <cstddef>
 #include <string>
+#include <string_view>
 
 namespace zk::tools {
 

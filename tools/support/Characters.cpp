@@ -11,7 +11,9 @@ namespace zk::tools {
 
 std::string_view lastCodePoint(std::string_view text) {
   std::size_t begin = text.size();
-  while (begin > 0 && isContinuationByte(text[--begin])) {
+  while (begin > 0) {
+    --begin;
+    if (!isContinuationByte(text[begin])) break;
   }
   return text.substr(begin);
 }

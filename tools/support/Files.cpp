@@ -11,6 +11,7 @@
 #include <functional>
 #include <ios>
 #include <list>
+#include <memory>
 #include <optional>
 #include <set>
 #include <string>
@@ -152,8 +153,11 @@ class StagedFile {
     struct stat before = {};
     const bool exists = stat(target_.c_str(), &before) == 0;
     if (exists && (!S_ISREG(before.st_mode) || access(target_.c_str(), W_OK) != 0)) failToWrite(path_);
-    new_.emplace(target_, path_, change.bytes).setAttributes(exists ? &before : nullptr);
-    if (exists) old_.emplace(target_, path_, readFile("", target_)).setAttributes(&before);
+    new_ = std::make_unique<TemporaryFile>(target_, path_, change.bytes);
+    new_->setAttributes(exists ? &before : nullptr);
+    if (!exists) return;
+    old_ = std::make_unique<TemporaryFile>(target_, path_, readFile("", target_));
+    old_->setAttributes(&before);
   }
 
   void putInPlace() {
@@ -174,8 +178,8 @@ class StagedFile {
  private:
   const std::string path_;
   const fs::path target_;
-  std::optional<TemporaryFile> new_;
-  std::optional<TemporaryFile> old_;
+  std::unique_ptr<TemporaryFile> new_;
+  std::unique_ptr<TemporaryFile> old_;
   bool isInPlace_ = false;
 };
 

@@ -1,5 +1,7 @@
 #include <ZKStrings/platform/system/UserSettings.h>
 
+#include <optional>
+
 namespace zk {
 
 std::optional<LocaleSettings> systemSettings() {
