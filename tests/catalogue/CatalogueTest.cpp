@@ -3,6 +3,8 @@
 #include <ZKStrings/tools/authoring/AccessorGenerator.h>
 #include <ZKStrings/tools/project/Catalogue.h>
 #include <ZKStrings/tools/project/EnglishTexts.h>
+#include <ZKStrings/tools/project/Table.h>
+#include <ZKStrings/tools/support/Diagnostic.h>
 #include <ZKStrings/tools/support/Files.h>
 
 #include <cstddef>
@@ -19,11 +21,11 @@ constexpr const char* kRoot = ZK_PROJECT_ROOT;
 TEST(Catalogue, ItsFilesAreUpToDate) {
   const Catalogue catalogue = Catalogue::read(kRoot);
   const Table base = Table::read(kRoot, "Base");
-  const Accessors fresh = generateAccessors(catalogue, base, CatalogueName());
+  const Accessors fresh = generateAccessors(catalogue);
   EXPECT_TRUE(readFile(kRoot, CatalogueName().headerFile()) == fresh.header) << "run zkstrings generate";
   EXPECT_TRUE(readFile(kRoot, CatalogueName().sourceFile()) == fresh.source) << "run zkstrings generate";
   EXPECT_EQ(readFile(kRoot, Catalogue::kFile), catalogue.toJson());
-  const EnglishTexts english(catalogue, Table{});
+  const EnglishTexts english(catalogue);
   ASSERT_EQ(base.entries.size(), english.all().size()) << "run zkstrings check";
   for (std::size_t i = 0; i < base.entries.size(); ++i) {
     EXPECT_EQ(base.entries[i].key, english.all()[i].key);
@@ -40,7 +42,7 @@ TEST(Catalogue, RefusesAWrongEntryNamingItsLine) {
     for (const Json& entry : entries)
       lines += (lines.empty() ? "" : ",\n") + (entry.is_string() ? entry.get<std::string>() : entry.dump());
     try {
-      static_cast<void>(Catalogue::parse("[\n" + lines + "\n]\n", "entries.json"));
+      static_cast<void>(Catalogue::parse("[\n" + lines + "\n]\n"));
       ADD_FAILURE() << "accepted: " << lines;
     } catch (const CommandFailed& failed) {
       EXPECT_EQ(failed.diagnostics.front().line, line) << lines;

@@ -1,6 +1,8 @@
 #include <ZKStrings/tools/authoring/AccessorGenerator.h>
 #include <ZKStrings/tools/project/Identifiers.h>
+#include <ZKStrings/tools/project/Table.h>
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -130,14 +132,12 @@ std::string lookupOf(const Entry& entry, const CatalogueName& catalogue) {
                      substitutions == "{}" ? "" : ", " + substitutions);
 }
 
-std::string commentOf(const Entry& entry, const Table& base) {
+std::string commentOf(const Entry& entry) {
   std::string comment = fmt::format("  /// \"{}\"\n", literal(entry.text));
   if (const std::string context = entry.context(); !context.empty()) comment += "  /// " + context + "\n";
-  if (!entry.plural) return comment;
-  for (const PluralForm& form : kPluralForms) {
-    const TableEntry* const text = base.find(std::string(entry.key).append(form.suffix));
-    if (text) comment += fmt::format("  /// - {}: \"{}\"\n", form.counts, literal(text->text));
-  }
+  for (std::size_t i = 0; entry.plural && i < entry.forms.size(); ++i)
+    comment += fmt::format("  /// - {}: \"{}\"\n", kPluralForms[i].counts,
+                           literal(entry.forms[i].value_or(entry.text)));
   return comment;
 }
 
@@ -148,14 +148,15 @@ std::string accessorOf(const Entry& entry, const CatalogueName& catalogue) {
   return name == catalogue.name ? name + "_" : name;
 }
 
-Accessors generateAccessors(const Catalogue& catalogue, const Table& base, const CatalogueName& name) {
+Accessors generateAccessors(const Catalogue& catalogue) {
+  const CatalogueName& name = catalogue.settings().name;
   Accessors accessors{begin(kHeaderBegin, name),
                       begin(name.isModule() ? kModuleSourceBegin : kSourceBegin, name)};
   for (const Entry& entry : catalogue.entries()) {
     const std::string accessor = accessorOf(entry, name);
     const std::string parameters = parametersOf(entry, name);
-    accessors.header += fmt::format("\n{}  [[nodiscard]] static std::string {}({});\n",
-                                    commentOf(entry, base), accessor, parameters);
+    accessors.header += fmt::format("\n{}  [[nodiscard]] static std::string {}({});\n", commentOf(entry),
+                                    accessor, parameters);
     accessors.source += fmt::format("\nstd::string {}::{}({}) {{\n  return {};\n}}\n", name.name, accessor,
                                     parameters, lookupOf(entry, name));
   }

@@ -1,8 +1,6 @@
 #pragma once
 
 #include <ZKStrings/tools/project/Catalogue.h>
-#include <ZKStrings/tools/project/CatalogueSettings.h>
-#include <ZKStrings/tools/project/Table.h>
 
 #include <string>
 #include <string_view>
@@ -15,10 +13,8 @@ struct Accessors {
   std::string source;
 };
 
-/// Generates one accessor for each entry, in the class `name`. The comments of counted entries show their plural
-/// forms from `base`, the English table.
-[[nodiscard]] Accessors generateAccessors(const Catalogue& catalogue, const Table& base,
-                                          const CatalogueName& name);
+/// Generates one accessor for each entry, in the class that the catalogue's settings name.
+[[nodiscard]] Accessors generateAccessors(const Catalogue& catalogue);
 
 /// The first line of generated files.
 inline constexpr std::string_view kGeneratedNotice =

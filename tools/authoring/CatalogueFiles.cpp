@@ -8,7 +8,6 @@
 #include <ZKStrings/tools/support/Diagnostic.h>
 #include <ZKStrings/tools/support/Files.h>
 #include <ZKStrings/tools/support/Languages.h>
-#include <ZKStrings/tools/texts/TextFeatures.h>
 #include <ZKStrings/tools/translation/TableEditor.h>
 #include <ZKStrings/tools/translation/TableUpdate.h>
 
@@ -16,8 +15,6 @@
 #include <cstddef>
 #include <filesystem>
 #include <iterator>
-#include <optional>
-#include <set>
 #include <string>
 #include <system_error>
 #include <utility>
@@ -28,22 +25,6 @@
 namespace zk::tools {
 
 namespace {
-
-/// Sets all plural forms of each counted entry. Missing forms are the same as the text. If the entry has no forms,
-/// uses those of the English table, unless they are all the same.
-void completeForms(Catalogue& catalogue, const Table& base) {
-  for (Entry& entry : catalogue.entries()) {
-    if (!entry.plural) continue;
-    PluralForms inBase;
-    std::set<std::string> texts;
-    for (std::size_t i = 0; i < inBase.size(); ++i) {
-      const TableEntry* const form = base.find(entry.key + std::string(kPluralForms[i].suffix));
-      texts.insert(inBase[i].emplace(form ? form->text : entry.text));
-    }
-    if (!formOf(entry, 0) && texts.size() > 1) entry.forms = inBase;
-    for (std::optional<std::string>& form : entry.forms) form = form.value_or(entry.text);
-  }
-}
 
 /// The table of `language` with the keys and placeholders renamed as in `change`.
 TableEditor changed(const std::string& root, const std::string& language, const TableChange& change) {
@@ -73,7 +54,7 @@ TableEditor changed(const std::string& root, const std::string& language, const 
 std::string syncedBase(TableEditor& base, const EnglishTexts& english) {
   const TableEntry* before = nullptr;
   for (const EnglishText& text : english.all()) {
-    const bool isFirst = text.suffix.empty() || text.suffix == kPluralForms[0].suffix;
+    const bool isFirst = !text.form || text.form == kPluralForms;
     const std::string context = isFirst ? contextOf(text) : "";
     if (const TableEntry* const entry = base.table().find(text.key)) {
       if (entry->text != text.text) base.replaceText(*entry, text.text);
@@ -99,29 +80,19 @@ void findUndecided(const Table& table, Diagnostics& diagnostics) {
   }
 }
 
-/// The accessors' files that belong to the catalogue and its English table.
-std::vector<FileChange> accessorFiles(const CatalogueName& name, const Catalogue& catalogue,
-                                      const Table& base) {
-  for (const TableEntry& entry : base.entries) {
-    if (hasCarriageReturnOrNul(entry.text)) fail(base.file, entry.textAt, kNoCarriageReturn);
-  }
-  Accessors accessors = generateAccessors(catalogue, base, name);
+std::vector<FileChange> accessorFiles(const Catalogue& catalogue) {
+  const CatalogueName& name = catalogue.settings().name;
+  Accessors accessors = generateAccessors(catalogue);
   return {{name.headerFile(), std::move(accessors.header)}, {name.sourceFile(), std::move(accessors.source)}};
 }
 
 }  // namespace
 
-Catalogue readToChange(const std::string& root) {
-  Catalogue catalogue = Catalogue::read(root);
-  completeForms(catalogue, Table::readWellFormed(root, kBase));
-  return catalogue;
-}
-
 std::size_t writeCatalogue(const std::string& root, const Catalogue& catalogue, const TableChange& change) {
   std::string json = catalogue.toJson();
-  static_cast<void>(Catalogue::parse(json, Catalogue::kFile));  // throws if it breaks a rule
+  static_cast<void>(Catalogue::parse(json));  // throws if it breaks a rule
   TableEditor base = changed(root, std::string(kBase), change);
-  const EnglishTexts english(catalogue, base.table());
+  const EnglishTexts english(catalogue);
   std::vector<FileChange> files;
   Diagnostics undecided;
   std::size_t marked = 0;
@@ -139,16 +110,14 @@ std::size_t writeCatalogue(const std::string& root, const Catalogue& catalogue, 
 
   // If the command is interrupted, the next call finishes its work, because translations change before the English
   // texts.
-  const std::string baseBytes = syncedBase(base, english);
-  files.push_back({tablePath(kBase), baseBytes});
-  const CatalogueName name = CatalogueSettings::read(root).name;
+  files.push_back({tablePath(kBase), syncedBase(base, english)});
+  const CatalogueName& name = catalogue.settings().name;
   std::error_code failure;
   // Another catalogue than the module's may leave its accessors to the build.
   const bool keepsAccessors =
       name.isModule() || std::filesystem::exists(std::filesystem::path(root) / name.headerFile(), failure);
   if (change.generates || keepsAccessors) {
-    auto accessors = accessorFiles(name, catalogue, Table::parse(baseBytes, tablePath(kBase)));
-    std::move(accessors.begin(), accessors.end(), std::back_inserter(files));
+    std::ranges::move(accessorFiles(catalogue), std::back_inserter(files));
   }
   files.push_back({Catalogue::kFile, std::move(json)});
   writeFiles(root, files);
@@ -168,15 +137,13 @@ std::size_t generate(const std::string& root) {
         [&](const std::string& key) { return base.find(key) && base.find(key)->text == entry.text; });
     return true;
   };
-  Catalogue catalogue = Catalogue::readEdited(root, isKnown);
-  completeForms(catalogue, base);
-  return writeCatalogue(root, catalogue, change);
+  return writeCatalogue(root, Catalogue::readEdited(root, isKnown), change);
 }
 
 void generateInto(const std::string& output, const std::string& root) {
   const Catalogue catalogue = Catalogue::read(root);
   const Table base = Table::readWellFormed(root, kBase);
-  const EnglishTexts english(catalogue, base);
+  const EnglishTexts english(catalogue);
   for (const EnglishText& text : english.all()) {
     const TableEntry* const entry = base.find(text.key);
     if (!entry || entry->text == text.text) continue;
@@ -184,7 +151,7 @@ void generateInto(const std::string& output, const std::string& root) {
          fmt::format("the English of \"{}\" is not that of {}; run zkstrings generate", escaped(text.key),
                      Catalogue::kFile));
   }
-  std::vector<FileChange> files = accessorFiles(CatalogueSettings::read(root).name, catalogue, base);
+  std::vector<FileChange> files = accessorFiles(catalogue);
   for (FileChange& file : files) {
     file.path = std::filesystem::current_path() / output / std::filesystem::path(file.path).filename();
   }

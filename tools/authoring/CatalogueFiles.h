@@ -27,10 +27,6 @@ struct TableChange {
   bool generates = false;
 };
 
-/// Reads the catalogue of the project at `root`, with all plural forms, to change it. Throws `CommandFailed` if the
-/// catalogue or the English table is wrong.
-[[nodiscard]] Catalogue readToChange(const std::string& root);
-
 /// Writes the catalogue of the project at `root` and all files that depend on it, or none of them: updates the
 /// English table, marks translations of changed texts for review, and generates the accessors if the project keeps
 /// them. Returns the number of translations that need review now. Throws `CommandFailed` if one of the files breaks a

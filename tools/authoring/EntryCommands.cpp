@@ -67,10 +67,9 @@ void refuseWrongTexts(const std::string& text, bool isCounted, const PluralForms
   }
 }
 
-/// Sets the plural forms of a counted entry. Missing forms are the same as its text.
 void setForms(Entry& entry, const PluralForms& forms) {
   if (!forms[kFormForOne]) refuse("a counted text needs its form for one; add --one 'TEXT'");
-  for (std::size_t i = 0; i < forms.size(); ++i) entry.forms[i] = forms[i].value_or(entry.text);
+  entry.forms = forms;
 }
 
 /// Refuses a key that cannot name a function.
@@ -108,7 +107,7 @@ void changeTexts(Entry& entry, const EntryChange& change) {
     if (change.forms[i]) {
       form = change.forms[i];
     } else if (!form || *form == old) {
-      form = entry.text;
+      form.reset();
     } else if (entry.text != old) {
       const auto& [suffix, counts, example] = kPluralForms[i];
       refuse(fmt::format("the form for {} is \"{}\"; say what it is now with --{} 'TEXT'", counts,
@@ -154,7 +153,7 @@ std::string keyOf(const std::string& text) {
 }
 
 std::string addEntry(const std::string& root, const Entry& added, bool isPlain) {
-  Catalogue catalogue = readToChange(root);
+  Catalogue catalogue = Catalogue::read(root);
   refuseWrongTexts(added.text, added.plural, added.forms, isPlain);
   Entry entry = added;
   if (entry.key.empty()) entry.key = keyForText(entry.text);
@@ -175,7 +174,7 @@ std::string addEntry(const std::string& root, const Entry& added, bool isPlain) 
 }
 
 std::size_t changeEntry(const std::string& root, const std::string& key, const EntryChange& change) {
-  Catalogue catalogue = readToChange(root);
+  Catalogue catalogue = Catalogue::read(root);
   const std::vector<Entry*> entries = entriesOf(catalogue, key);
   const bool hasCount = entries.back()->plural;
   refuseWrongTexts(change.text.value_or(""), hasCount || change.plural, change.forms, change.isPlain);
@@ -195,7 +194,7 @@ std::size_t changeEntry(const std::string& root, const std::string& key, const E
 }
 
 void renameEntry(const std::string& root, const std::string& key, const std::string& newKey) {
-  Catalogue catalogue = readToChange(root);
+  Catalogue catalogue = Catalogue::read(root);
   const std::vector<Entry*> entries = entriesOf(catalogue, key);
   refuseWrongKey(newKey);
   for (const Entry& present : catalogue.entries()) {
@@ -215,7 +214,7 @@ void renameEntry(const std::string& root, const std::string& key, const std::str
 }
 
 void removeEntry(const std::string& root, const std::string& key) {
-  Catalogue catalogue = readToChange(root);
+  Catalogue catalogue = Catalogue::read(root);
   TableChange tables;
   for (const Entry* const entry : entriesOf(catalogue, key)) tables.renamed.merge(renamedKeys(*entry, ""));
   std::erase_if(catalogue.entries(), [&](const Entry& entry) { return entry.key == key; });

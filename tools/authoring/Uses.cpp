@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <filesystem>
+#include <iterator>
 #include <map>
 #include <set>
 #include <stdexcept>

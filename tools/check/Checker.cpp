@@ -37,11 +37,12 @@ class Checker {
 
   CheckResult run() {
     const std::optional<Catalogue> catalogue = readCatalogue();
+    const auto english = catalogue ? std::optional<EnglishTexts>(*catalogue) : std::nullopt;
     tryTo([&] { glossary_ = Glossary::read(root_); });
     const Table base = Table::read(root_, kBase);
     for (const std::string& language : languagesToCheck(base)) {
       const Table table = language == kBase ? base : Table::read(root_, language);
-      checkTable(language, table, isListable(table), catalogue, base);
+      checkTable(language, table, isListable(table), english ? &*english : nullptr);
     }
     if (options_.languages.empty()) checkCountries(catalogue && catalogue->settings().name.isModule());
     const auto order = [](const Diagnostic& diagnostic) {
@@ -53,9 +54,8 @@ class Checker {
     return std::move(result_);
   }
 
-  Diagnostics errorsIn(const std::string& language, const Table& table, const Catalogue& catalogue,
-                       const Table& base) {
-    checkTable(language, table, true, catalogue, base);
+  Diagnostics errorsIn(const std::string& language, const Table& table, const EnglishTexts& english) {
+    checkTable(language, table, true, &english);
     return std::move(result_.diagnostics);
   }
 
@@ -112,13 +112,9 @@ class Checker {
   }
 
   void checkTable(const std::string& language, const Table& table, bool isListable,
-                  const std::optional<Catalogue>& catalogue, const Table& base) {
+                  const EnglishTexts* english) {
     ++result_.tables;
-    std::optional<EnglishTexts> english;
-    // The English table is compared with the catalogue, not with itself.
-    if (catalogue) english.emplace(*catalogue, language == kBase ? Table{} : base);
-    const CheckedTable checked{language, table, english ? &*english : nullptr, glossary_.styleOf(language),
-                               isListable};
+    const CheckedTable checked{language, table, english, glossary_.styleOf(language), isListable};
     apply(tableRules(), checked, table.file);
     if (!english) return;
     apply(pluralRules(), checked, table.file);
@@ -188,9 +184,8 @@ CheckResult check(const std::string& root, const CheckOptions& options) {
   return Checker(root, options).run();
 }
 
-Diagnostics checkTable(const std::string& language, const Table& table, const Catalogue& catalogue,
-                       const Table& base) {
-  return Checker("", CheckOptions{}).errorsIn(language, table, catalogue, base);
+Diagnostics checkTable(const std::string& language, const Table& table, const EnglishTexts& english) {
+  return Checker("", CheckOptions{}).errorsIn(language, table, english);
 }
 
 }  // namespace zk::tools

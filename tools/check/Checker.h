@@ -1,7 +1,7 @@
 #pragma once
 
 #include <ZKStrings/tools/check/Rule.h>
-#include <ZKStrings/tools/project/Catalogue.h>
+#include <ZKStrings/tools/project/EnglishTexts.h>
 #include <ZKStrings/tools/project/Table.h>
 #include <ZKStrings/tools/support/Diagnostic.h>
 
@@ -34,8 +34,8 @@ struct CheckResult {
 /// with it do not apply. Throws `CommandFailed` if resources/ cannot be listed.
 [[nodiscard]] CheckResult check(const std::string& root, const CheckOptions& options);
 
-/// Checks `table`, of `language`, which need not be in a file yet. `base` is the English table.
+/// Checks `table`, of `language`, which need not be in a file yet.
 [[nodiscard]] Diagnostics checkTable(const std::string& language, const Table& table,
-                                     const Catalogue& catalogue, const Table& base);
+                                     const EnglishTexts& english);
 
 }  // namespace zk::tools

@@ -47,7 +47,7 @@ Forms formsOf(const Entry& counted, const CheckedTable& subject) {
 void findSamePlurals(const CheckedTable& subject, Findings& findings) {
   if (!subject.style.nounsInflect) return;
   for (const EnglishText& english : subject.english->all()) {
-    if (english.suffix != kPluralForms[0].suffix) continue;
+    if (english.form != std::begin(kPluralForms)) continue;
     const Forms forms = formsOf(*english.entry, subject);
     const bool areSame = forms.count == std::size(kPluralForms) && forms.texts.size() == 1;
     if (!areSame || forms.english.size() == 1) continue;
@@ -85,11 +85,11 @@ class NounsForMany {
   template <class TextOf>
   NounsForMany(const EnglishTexts& english, const TextOf& textOf) {
     for (const EnglishText& form : english.all()) {
-      const std::string* const text = form.suffix.empty() ? nullptr : textOf(form);
+      const std::string* const text = form.form ? textOf(form) : nullptr;
       if (!text) continue;
-      if (form.suffix == "_one") {
+      if (form.form->suffix == "_one") {
         for (const std::string_view word : wordsOf(*text)) forOne_[caseFolded(word)].insert(form.entry);
-      } else if (form.suffix != "_zero") {
+      } else if (form.form->suffix != "_zero") {
         for (std::string& word : wordsAfterNumbers(*text, *form.settings)) {
           forMany_[std::move(word)].insert(form.entry);
         }
@@ -131,7 +131,7 @@ void findWrongForOne(const CheckedTable& subject, Findings& findings) {
   const NounsForMany englishNouns(*subject.english, [](const EnglishText& english) { return &english.text; });
   for (const EnglishText& english : subject.english->all()) {
     const TableEntry* const entry = subject.table.find(english.key);
-    if (!entry || (!english.suffix.empty() && english.suffix != "_one")) continue;
+    if (!entry || (english.form && english.form->suffix != "_one")) continue;
     const std::string noun = nouns.find(entry->text, english);
     if (noun.empty() || isPlural(english, englishNouns)) continue;
     findings.add(*entry, fmt::format("\"{}\" follows a number that may be 1; write a text that fits it, or "

@@ -140,12 +140,10 @@ void findRepeated(const Translation& translation, Findings& findings) {
 
 // Marks, white space, punctuation and numbers
 
-/// The English table must equal the catalogue. A catalogue without plural forms takes them from the table.
+/// The English table must equal the catalogue.
 void findOtherEnglish(const Translation& translation, Findings& findings) {
   const EnglishText& english = translation.english;
-  const bool isOnlyInTable = !english.suffix.empty() && !formOf(*english.entry, 0);
-  if (translation.language != kBase || isOnlyInTable) return;
-  if (translation.entry.text == english.text) return;
+  if (translation.language != kBase || translation.entry.text == english.text) return;
   findings.add(translation.entry, fmt::format("the catalogue has \"{}\" here; run zkstrings generate, or "
                                               "zkstrings change {} to change the English text",
                                               escaped(english.text), english.entry->key));
@@ -208,7 +206,7 @@ void findEndPunctuation(const Translation& translation, Findings& findings) {
 
 /// Whether a plural form may write its number as a word.
 bool maySpellNumbers(const EnglishText& english) {
-  return english.suffix == "_zero" || english.suffix == "_one" || english.suffix == "_two";
+  return english.form && english.form->example < 3;
 }
 
 void findDigits(const Translation& translation, Findings& findings) {

@@ -1,7 +1,6 @@
 #include <ZKStrings/tools/authoring/Uses.h>
 #include <ZKStrings/tools/exchange/Export.h>
 #include <ZKStrings/tools/project/Catalogue.h>
-#include <ZKStrings/tools/project/CatalogueSettings.h>
 #include <ZKStrings/tools/project/EnglishTexts.h>
 #include <ZKStrings/tools/project/EntryComments.h>
 #include <ZKStrings/tools/project/Table.h>
@@ -11,7 +10,6 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <iterator>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -26,10 +24,8 @@ namespace zk::tools {
 namespace {
 
 std::string pluralNote(const EnglishText& english) {
-  const auto* const form = std::find_if(std::begin(kPluralForms), std::end(kPluralForms),
-                                        [&](const PluralForm& one) { return one.suffix == english.suffix; });
   return fmt::format("The plural form {} is used for {}. It must be right for every such number.",
-                     form->suffix, form->counts);
+                     english.form->suffix, english.form->counts);
 }
 
 std::string placeholderNote(const EnglishText& english) {
@@ -51,7 +47,7 @@ bool hasMarks(const EnglishText& english) {
 std::vector<std::string> notesOn(const EnglishText& english) {
   std::vector<std::string> notes;
   if (std::string context = english.entry->context(); !context.empty()) notes.push_back(std::move(context));
-  if (!english.suffix.empty()) notes.push_back(pluralNote(english));
+  if (english.form) notes.push_back(pluralNote(english));
   if (!english.placeholders().empty()) notes.push_back(placeholderNote(english));
   if (hasMarks(english))
     notes.emplace_back("Words between <b> and </b> are bold, words between * and * are emphasised.");
@@ -66,10 +62,10 @@ Translations translationsOf(const std::string& root, const std::string& language
   if (language == kBase)
     throw std::invalid_argument("the English texts are not translated; name the language to translate into");
   const Catalogue catalogue = Catalogue::read(root);
-  const EnglishTexts english(catalogue, Table::readWellFormed(root, kBase));
+  const EnglishTexts english(catalogue);
   const Uses uses(sources, catalogue);
   const Table table = Table::readWellFormed(root, language);
-  Translations translations{language, {}, CatalogueSettings::read(root).name.name};
+  Translations translations{language, {}, catalogue.settings().name.name};
   for (const EnglishText& text : english.all()) {
     const TableEntry* const entry = table.find(text.key);
     const TranslationState state = stateOf(language, entry, text);

@@ -12,8 +12,7 @@ namespace zk::tools {
 /// The texts that the app looks up, each with its English text, its translation in the table of `language` ("de") of
 /// the project at `root`, and notes for translators, in catalogue order. A text that is not translated has no target.
 /// With `onlyOpen`, texts that are translated and need no review are left out. Notes name the places of use in
-/// the folders `sources`. Throws `CommandFailed` for the English
-/// table, for a language without a table, and if the table, the English table or the catalogue is not well-formed.
+/// the folders `sources`. Throws `CommandFailed` for a language without a table, and if the table or the catalogue is wrong.
 [[nodiscard]] Translations translationsOf(const std::string& root, const std::string& language, bool onlyOpen,
                                           const std::vector<std::string>& sources = {});
 

@@ -45,8 +45,7 @@ class Importer {
         file_(file),
         force_(force),
         catalogue_(Catalogue::read(root)),
-        base_(Table::readWellFormed(root, kBase)),
-        english_(catalogue_, base_),
+        english_(catalogue_),
         editor_(TableEditor::open(root, language_)) {
     for (const TranslationUnit& unit : translations.units) accept(unit);
   }
@@ -150,7 +149,7 @@ class Importer {
 
   /// Throws the errors that `check` finds in imported texts, and reports its warnings.
   void refuseErrors(const Table& table) {
-    for (const Diagnostic& diagnostic : checkTable(language_, table, catalogue_, base_)) {
+    for (const Diagnostic& diagnostic : checkTable(language_, table, english_)) {
       if (diagnostic.severity > Severity::warning) continue;
       const TableEntry* const entry = table.entryAt({diagnostic.line, diagnostic.column});
       const auto unit = entry ? imported_.find(entry->key) : imported_.end();
@@ -170,7 +169,6 @@ class Importer {
   const std::string& file_;
   const bool force_;
   const Catalogue catalogue_;
-  const Table base_;
   const EnglishTexts english_;
   TableEditor editor_;
   std::map<std::string, const TranslationUnit*, std::less<>> units_;     // by key

@@ -22,8 +22,8 @@ struct Import {
 /// Refuses a text if nothing looks up its key, if the file has the key twice, or if the English text or the table's
 /// translation has changed since the export. With `force`, the latter two are imported, and a translation of an older
 /// English text is marked for review. A text without a translation changes nothing. Throws `CommandFailed`, having
-/// changed nothing, if `check` finds an error in an imported text, for a language without a table, if the table, the
-/// English table or the catalogue is not well-formed, and if the table cannot be written.
+/// changed nothing, if `check` finds an error in an imported text, for a language without a table, if the table or the
+/// catalogue is wrong, and if the table cannot be written.
 Import importTranslations(const std::string& root, const Translations& translations, const std::string& file,
                           bool force);
 

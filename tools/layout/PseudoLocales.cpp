@@ -3,7 +3,6 @@
 #include <ZKStrings/tools/support/Characters.h>
 #include <ZKStrings/tools/support/Diagnostic.h>
 #include <ZKStrings/tools/support/Files.h>
-#include <ZKStrings/tools/support/Languages.h>
 #include <ZKStrings/tools/texts/TextPieces.h>
 
 #include <algorithm>
@@ -87,7 +86,7 @@ std::string reversed(std::string_view text) {
 }
 
 std::string nameOfForm(const EnglishText& english) {
-  return english.suffix.empty() ? "" : " ·" + std::string(english.suffix.substr(1));
+  return english.form ? " ·" + std::string(english.form->suffix.substr(1)) : "";
 }
 
 std::string tableOf(const EnglishTexts& english, std::string (*make)(const EnglishText&)) {
@@ -145,7 +144,7 @@ void writePseudoLocales(const std::string& root, const std::string& directory) {
   const fs::path resources = fs::path(root) / "resources";
   refuseShipped(resources, directory);
   const Catalogue catalogue = Catalogue::read(root);
-  const EnglishTexts english(catalogue, Table::readWellFormed(root, kBase));
+  const EnglishTexts english(catalogue);
   const fs::path folder = fs::absolute(directory);
   const auto keyOf = [](const EnglishText& text) { return text.key; };
   std::vector<FileChange> files = copiesOf(resources, folder);

@@ -17,8 +17,8 @@ namespace zk::tools {
 
 /// Copies the resources of the project at `root` into the folder `directory` and adds three pseudo-locales:
 /// "xa" and "xb", and "xk", in which every text is its key. Throws `CommandFailed`, having written nothing, if
-/// `directory` is in the project's own resources, which are shipped, or if the catalogue or the English table
-/// is wrong. Throws `CommandFailed` as well if a file cannot be written.
+/// `directory` is in the project's own resources, which are shipped, if the catalogue is wrong, or if a file cannot
+/// be written.
 void writePseudoLocales(const std::string& root, const std::string& directory);
 
 }  // namespace zk::tools

@@ -71,7 +71,7 @@ class DataMaker {
       : root_(root),
         catalogue_(Catalogue::read(root)),
         uses_(sources, catalogue_),
-        english_(catalogue_, Table::read(root, kBase)),
+        english_(catalogue_),
         shown_(root, english_),
         diagnostics_(check(root, {.languages = {}, .off = {}, .notes = true}).diagnostics) {}
 

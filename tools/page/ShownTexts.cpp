@@ -25,13 +25,6 @@ const CatalogueSettings::Example* exampleFor(const EnglishText& english, std::st
   return example == examples.end() ? nullptr : &example->second;
 }
 
-std::optional<std::int64_t> exampleCount(const EnglishText& english) {
-  for (const PluralForm& form : kPluralForms) {
-    if (form.suffix == english.suffix) return form.example;
-  }
-  return std::nullopt;
-}
-
 }  // namespace
 
 ShownTexts::ShownTexts(const std::string& root, const EnglishTexts& english)
@@ -48,7 +41,7 @@ void ShownTexts::choose(std::string_view language) const {
 }
 
 std::string ShownTexts::text(const EnglishText& english, bool isMarked) const {
-  const std::optional<std::int64_t> count = exampleCount(english);
+  const auto count = english.form ? std::optional(english.form->example) : std::nullopt;
   Values values = valuesFor(english, count, false);
   for (auto& [name, value] : values)
     if (isMarked) value = fmt::format("\uFDD0{}\uFDD1{}\uFDD2", name, value);

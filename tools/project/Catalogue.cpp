@@ -27,22 +27,27 @@ namespace zk::tools {
 
 namespace {
 
+constexpr const char* kFile = Catalogue::kFile;
+
 constexpr std::pair<Entry::Kept, const char*> kKeptNames[] = {{Entry::Kept::key, "key"},
                                                               {Entry::Kept::place, "place"}};
 
+template <std::size_t form>
+void storeForm(PluralForms& forms, const JsonValue& value) {
+  forms[form] = value.text();
+}
+
+constexpr KnownMember<PluralForms> kFormMembers[] = {{"zero", storeForm<0>},
+                                                     {"one", storeForm<1>},
+                                                     {"two", storeForm<2>},
+                                                     {"few", storeForm<3>},
+                                                     {"many", storeForm<4>}};
+
 void storePlural(Entry& entry, const JsonValue& value) {
-  entry.plural = value.isTrue();
-  if (entry.plural) return;
-  if (!value.isObject() || value.members().empty()) value.fail("write true, or forms: {\"one\": \"...\"}");
   entry.plural = true;
-  for (const auto& [name, nameAt, text] : value.members()) {
-    const auto* const form = std::find_if(
-        std::begin(kPluralForms), std::end(kPluralForms),
-        [&, &formName = name](const PluralForm& known) { return known.suffix.substr(1) == formName; });
-    if (form == std::end(kPluralForms))
-      value.failAt(nameAt, fmt::format("unknown form \"{}\"; known are zero, one, two, few, many", name));
-    entry.forms[static_cast<std::size_t>(form - kPluralForms)] = text.text();
-  }
+  if (value.isTrue()) return;
+  if (!value.isObject() || value.members().empty()) value.fail("write true, or forms: {\"one\": \"...\"}");
+  storeMembers(value, entry.forms, kFormMembers);
 }
 
 void storeKept(Entry& entry, const JsonValue& value) {
@@ -67,8 +72,8 @@ constexpr KnownMember<Entry> kEntryMembers[] = {
 };
 
 /// Returns the entry of one line, without its comma.
-Entry entryFrom(std::string_view line, std::string_view file, std::size_t number) {
-  const JsonValue object = JsonValue::parse(line, file, {number, 1});
+Entry entryFrom(std::string_view line, std::size_t number) {
+  const JsonValue object = JsonValue::parse(line, kFile, {number, 1});
   Entry entry;
   entry.line = number;
   storeMembers(object, entry, kEntryMembers);
@@ -77,12 +82,11 @@ Entry entryFrom(std::string_view line, std::string_view file, std::size_t number
 }
 
 /// Reads the lines of entries.json and adds what is wrong with each to `diagnostics`.
-std::vector<Entry> readEntries(std::string_view json, const std::string& file, bool toleratesCommas,
-                               Diagnostics& diagnostics) {
+std::vector<Entry> readEntries(std::string_view json, bool toleratesCommas, Diagnostics& diagnostics) {
   const auto fail = [&](Position at, std::string message) {
-    diagnostics.push_back({Severity::error, file, at.line, at.column, "", std::move(message)});
+    diagnostics.push_back({Severity::error, kFile, at.line, at.column, "", std::move(message)});
   };
-  diagnostics = mergeConflictsIn(json, file);
+  diagnostics = mergeConflictsIn(json, kFile);
   if (!diagnostics.empty()) return {};
   const std::vector<std::string_view> lines = linesOf(json);
   if (lines.size() < 2 || lines.front() != "[" || lines.back() != "]") {
@@ -100,7 +104,7 @@ std::vector<Entry> readEntries(std::string_view json, const std::string& file, b
            isLast ? "a comma after the last entry; remove it" : "no comma after the entry; add one");
     }
     try {
-      entries.push_back(entryFrom(line, file, number));
+      entries.push_back(entryFrom(line, number));
     } catch (const CommandFailed& failed) {
       diagnostics.push_back(failed.diagnostics.front());
     }
@@ -109,9 +113,9 @@ std::vector<Entry> readEntries(std::string_view json, const std::string& file, b
 }
 
 /// Reports the errors in an entry by itself.
-void checkEntry(const Entry& entry, const std::string& file, Diagnostics& diagnostics) {
+void checkEntry(const Entry& entry, Diagnostics& diagnostics) {
   const auto fail = [&](std::string message) {
-    diagnostics.push_back({Severity::error, file, entry.line, 1, "", std::move(message)});
+    diagnostics.push_back({Severity::error, kFile, entry.line, 1, "", std::move(message)});
   };
   const std::string ruled = keyForText(entry.text);
   if (entry.kept == Entry::Kept::nothing && entry.key != ruled) {
@@ -169,14 +173,14 @@ std::string signatureOf(const Entry& entry) {
                      entry.plural ? ", count" : "");
 }
 
-void checkTogether(const std::vector<Entry>& entries, const std::string& file, Diagnostics& diagnostics) {
+void checkTogether(const std::vector<Entry>& entries, Diagnostics& diagnostics) {
   std::map<std::string, const Entry*> accessors;
   std::map<std::string_view, const Entry*> texts;
   std::map<std::string, const Entry*> inTables;
   const Entry* previous = nullptr;
   for (const Entry& entry : entries) {
     const auto fail = [&](std::string message) {
-      diagnostics.push_back({Severity::error, file, entry.line, 1, "", std::move(message)});
+      diagnostics.push_back({Severity::error, kFile, entry.line, 1, "", std::move(message)});
     };
     const auto [same, isNew] = accessors.try_emplace(signatureOf(entry), &entry);
     const auto [first, isFirst] = texts.try_emplace(entry.key, &entry);
@@ -214,8 +218,7 @@ std::string formsOf(const Entry& entry) {
   std::vector<std::string> members;
   for (std::size_t i = 0; i < entry.forms.size(); ++i) {
     const std::string form = entry.forms[i].value_or(entry.text);
-    if (form != entry.text)
-      members.push_back(fmt::format("\"{}\": {}", kPluralForms[i].suffix.substr(1), quoted(form)));
+    if (form != entry.text) members.push_back(fmt::format("\"{}\": {}", kFormMembers[i].name, quoted(form)));
   }
   return members.empty() ? "true" : fmt::format("{{{}}}", fmt::join(members, ", "));
 }
@@ -250,17 +253,17 @@ std::vector<std::string> Entry::lookedUpKeys() const {
 }
 
 Catalogue Catalogue::read(const std::string& root) {
-  Catalogue catalogue = parse(readFile(root, kFile), kFile);
+  Catalogue catalogue = parse(readFile(root, kFile));
   catalogue.settings_ = CatalogueSettings::read(root);
   return catalogue;
 }
 
-Catalogue Catalogue::parse(std::string_view json, const std::string& file) {
+Catalogue Catalogue::parse(std::string_view json) {
   Diagnostics diagnostics;
   Catalogue catalogue;
-  catalogue.entries_ = readEntries(json, file, false, diagnostics);
-  for (const Entry& entry : catalogue.entries_) checkEntry(entry, file, diagnostics);
-  checkTogether(catalogue.entries_, file, diagnostics);
+  catalogue.entries_ = readEntries(json, false, diagnostics);
+  for (const Entry& entry : catalogue.entries_) checkEntry(entry, diagnostics);
+  checkTogether(catalogue.entries_, diagnostics);
   if (!diagnostics.empty()) throw CommandFailed{std::move(diagnostics)};
   return catalogue;
 }
@@ -268,23 +271,23 @@ Catalogue Catalogue::parse(std::string_view json, const std::string& file) {
 Catalogue Catalogue::readEdited(const std::string& root, const std::function<bool(const Entry&)>& isKnown) {
   Diagnostics diagnostics;
   Catalogue catalogue;
-  catalogue.entries_ = readEntries(readFile(root, kFile), kFile, true, diagnostics);
+  catalogue.entries_ = readEntries(readFile(root, kFile), true, diagnostics);
   catalogue.settings_ = CatalogueSettings::read(root);
   catalogue.sort();
   std::set<std::string> seen;
   std::erase_if(catalogue.entries_, [&](const Entry& entry) { return !seen.insert(lineOf(entry)).second; });
   for (Entry& entry : catalogue.entries_) {
     if (isKnown(entry)) keepKeyIfNeeded(entry);
-    checkEntry(entry, kFile, diagnostics);
+    checkEntry(entry, diagnostics);
   }
-  checkTogether(catalogue.entries_, kFile, diagnostics);
+  checkTogether(catalogue.entries_, diagnostics);
   if (!diagnostics.empty()) throw CommandFailed{std::move(diagnostics)};
   return catalogue;
 }
 
 std::string Catalogue::errorIn(const Entry& entry) {
   Diagnostics diagnostics;
-  checkEntry(entry, kFile, diagnostics);
+  checkEntry(entry, diagnostics);
   return diagnostics.empty() ? "" : diagnostics.front().message;
 }
 
@@ -305,12 +308,6 @@ std::string Catalogue::toJson() const {
   std::string json = "[\n";
   for (const Entry& entry : entries_) json += lineOf(entry) + (&entry == &entries_.back() ? "\n" : ",\n");
   return json + "]\n";
-}
-
-const std::string* formOf(const Entry& entry, std::size_t form) {
-  if (const std::optional<std::string>& given = entry.forms[form]) return &*given;
-  const auto isGiven = [](const std::optional<std::string>& other) { return other.has_value(); };
-  return std::any_of(entry.forms.begin(), entry.forms.end(), isGiven) ? &entry.text : nullptr;
 }
 
 void keepKeyIfNeeded(Entry& entry) {

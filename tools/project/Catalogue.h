@@ -1,7 +1,6 @@
 #pragma once
 
 #include <ZKStrings/tools/project/CatalogueSettings.h>
-#include <ZKStrings/tools/support/Diagnostic.h>
 #include <ZKStrings/tools/texts/Placeholders.h>
 
 #include <array>
@@ -27,7 +26,7 @@ struct PluralForm {
 inline constexpr PluralForm kPluralForms[] = {
     {"_zero", "0", 0}, {"_one", "1", 1}, {"_two", "2", 2}, {"_few", "3 to 5", 4}, {"_many", "6 or more", 11}};
 
-/// The English plural forms of a text that are given, in the order of `kPluralForms`.
+/// The English plural forms of a text, in the order of `kPluralForms`. One that is not set is the same as the text.
 using PluralForms = std::array<std::optional<std::string>, std::size(kPluralForms)>;
 
 /// One entry of the catalogue, as catalogue/entries.json holds it.
@@ -38,7 +37,7 @@ struct Entry {
   std::string key;
   std::string text;  ///< the English default
   bool plural = false;
-  PluralForms forms = {};  ///< of a counted entry; if one is given, the others are `text`
+  PluralForms forms = {};  ///< of a counted entry
   Kept kept = Kept::nothing;
   std::string comment = {};  ///< for translators: where the text appears, what it means; may be empty
   std::size_t max = 0;       ///< the most characters that fit where the text appears; 0 for no limit
@@ -56,8 +55,8 @@ class Catalogue {
   /// Reads and checks entries.json and catalogue.json in the project at `root`. Throws `CommandFailed` with all that
   /// is wrong in the first, or with the first error in the second.
   [[nodiscard]] static Catalogue read(const std::string& root);
-  /// Reads and checks the bytes of such a file, which diagnostics call `file`.
-  [[nodiscard]] static Catalogue parse(std::string_view json, const std::string& file);
+  /// Reads and checks the contents of an entries.json.
+  [[nodiscard]] static Catalogue parse(std::string_view json);
   /// Reads entries.json as a person or a merge of two versions left it: sorts the entries, drops repeated ones
   /// and ignores missing commas. An entry that `isKnown` accepts keeps its key although its text has changed. Throws
   /// `CommandFailed` if something else is wrong.
@@ -83,9 +82,6 @@ class Catalogue {
   std::vector<Entry> entries_;
   CatalogueSettings settings_;
 };
-
-/// Returns the text of the plural form with the index `form` of `entry`; null if only the English table has it.
-[[nodiscard]] const std::string* formOf(const Entry& entry, std::size_t form);
 
 /// Lets `entry` keep its key if the key is not the one that its text gets, and only then.
 void keepKeyIfNeeded(Entry& entry);

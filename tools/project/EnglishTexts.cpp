@@ -5,20 +5,10 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace zk::tools {
-
-namespace {
-
-std::string englishOf(const std::string& key, const Entry& entry, std::size_t form, const Table& base) {
-  if (!entry.plural) return entry.text;
-  if (const std::string* const given = formOf(entry, form)) return *given;
-  const TableEntry* const inBase = base.find(key);
-  return inBase ? inBase->text : entry.text;
-}
-
-}  // namespace
 
 std::vector<std::string_view> EnglishText::placeholders() const {
   std::vector<std::string_view> names = placeholderNames(text);
@@ -29,7 +19,7 @@ std::vector<std::string_view> EnglishText::placeholders() const {
 }
 
 std::string_view EnglishText::countPlaceholder() const {
-  if (suffix.empty()) return "";
+  if (!form) return "";
   const std::vector<std::string_view> names = placeholderNames(entry->text);
   const auto number = std::find_if(names.begin(), names.end(),
                                    [&](std::string_view name) { return settings->isNumber(name); });
@@ -38,20 +28,21 @@ std::string_view EnglishText::countPlaceholder() const {
 }
 
 std::string_view EnglishText::dispensable() const {
-  if (suffix != "_zero" && suffix != "_one") return "";
+  if (!form || (form->suffix != "_zero" && form->suffix != "_one")) return "";
   const std::vector<std::string_view> names = placeholderNames(entry->text);
   return names.size() == 1 ? names.front() : countPlaceholder();
 }
 
-EnglishTexts::EnglishTexts(const Catalogue& catalogue, const Table& base) {
+EnglishTexts::EnglishTexts(const Catalogue& catalogue) {
+  const auto add = [&](std::string key, const Entry& entry, const PluralForm* form, const std::string& text) {
+    if (places_.emplace(key, texts_.size()).second)
+      texts_.push_back({std::move(key), &entry, form, text, &catalogue.settings()});
+  };
   for (const Entry& entry : catalogue.entries()) {
-    const std::vector<std::string> keys = entry.lookedUpKeys();
-    for (std::size_t form = 0; form < keys.size(); ++form) {
-      const std::string& key = keys[form];
-      if (!places_.emplace(key, texts_.size()).second) continue;
-      const std::string_view suffix = entry.plural ? kPluralForms[form].suffix : "";
-      texts_.push_back({key, &entry, suffix, englishOf(key, entry, form, base), &catalogue.settings()});
-    }
+    if (!entry.plural) add(entry.key, entry, nullptr, entry.text);
+    for (std::size_t i = 0; entry.plural && i < entry.forms.size(); ++i)
+      add(entry.key + std::string(kPluralForms[i].suffix), entry, &kPluralForms[i],
+          entry.forms[i].value_or(entry.text));
   }
 }
 

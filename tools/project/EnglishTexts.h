@@ -1,7 +1,6 @@
 #pragma once
 
 #include <ZKStrings/tools/project/Catalogue.h>
-#include <ZKStrings/tools/project/Table.h>
 
 #include <cstddef>
 #include <string>
@@ -15,8 +14,8 @@ namespace zk::tools {
 struct EnglishText {
   std::string key;
   const Entry* entry;
-  std::string_view suffix;  ///< of a plural form, or empty
-  std::string text;         ///< from the entry, or from the English table if only that has the form
+  const PluralForm* form;  ///< null for a text without a count
+  std::string text;
   const CatalogueSettings* settings;
 
   /// The names of the placeholders that a translation may use: those of the text and, for a plural form, those of its
@@ -33,9 +32,8 @@ struct EnglishText {
 /// The English texts of all keys that the module looks up, in catalogue order.
 class EnglishTexts {
  public:
-  /// `catalogue` must outlive the texts. If an entry has no plural forms, they are those of `base`, the English
-  /// table; a form that `base` lacks has the text of its entry.
-  EnglishTexts(const Catalogue& catalogue, const Table& base);
+  /// `catalogue` must outlive the texts.
+  explicit EnglishTexts(const Catalogue& catalogue);
 
   [[nodiscard]] const std::vector<EnglishText>& all() const { return texts_; }
   /// Returns the text of `key`; null if the module never looks it up.

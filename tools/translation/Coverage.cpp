@@ -50,7 +50,7 @@ std::size_t Coverage::percent() const {
 
 std::vector<Coverage> coverageOf(const std::string& root) {
   const Catalogue catalogue = Catalogue::read(root);
-  const EnglishTexts english(catalogue, Table::read(root, kBase));
+  const EnglishTexts english(catalogue);
   std::vector<Coverage> languages;
   for (const std::string& language : languagesIn(root)) {
     languages.push_back(coverageOf(language, Table::read(root, language), english));

@@ -77,7 +77,7 @@ std::size_t writeTemplate(const std::string& root, const std::string& language) 
     fail(path, "the table exists already, and its texts would be lost; remove it first to start again");
   }
   const Catalogue catalogue = Catalogue::read(root);
-  const EnglishTexts english(catalogue, Table::readWellFormed(root, kBase));
+  const EnglishTexts english(catalogue);
   std::string table = fmt::format(
       "/* Language {}. Translate the texts after the equals signs; keep keys and placeholders. */\n",
       language);
@@ -125,7 +125,7 @@ TableUpdate updateTable(const std::string& root, const std::string& language, bo
     fail(tablePath(language), std::move(reason));
   const Catalogue catalogue = Catalogue::read(root);
   const Table base = Table::readWellFormed(root, kBase);
-  const EnglishTexts english(catalogue, base);
+  const EnglishTexts english(catalogue);
   TableUpdate update;
   TableEditor before = TableEditor::open(root, language);
   update.reviews = markChanged(before, english, base);

@@ -19,8 +19,8 @@ namespace zk::tools {
 
 /// Writes the table for a new language into the project at `root`, and returns the number of its texts: it has every key
 /// that the module looks up, in catalogue order, with the English text. Throws `CommandFailed`, and writes nothing, if the
-/// language has a table already, or if the catalogue or the English table is wrong; `std::invalid_argument` if the module
-/// would never choose the language, or if `language` is empty.
+/// language has a table already, or if the catalogue is wrong; `std::invalid_argument` if the module would never choose the
+/// language, or if `language` is empty.
 std::size_t writeTemplate(const std::string& root, const std::string& language);
 
 /// Marks the entries of a translation for review whose English text is not the one that they were made from: the one

@@ -17,7 +17,7 @@ TranslationState stateOfEntry(const std::string& comments, const std::string& te
   const Entry entry{"key", english};
   CatalogueSettings settings;
   settings.names = {"App Store", "PayPal", "ZK", "ZK Trivia"};
-  return stateOf(language, table.find("key"), {"key", &entry, "", english, &settings});
+  return stateOf(language, table.find("key"), {"key", &entry, nullptr, english, &settings});
 }
 
 TEST(TranslationState, FollowsFromTextAndMark) {
