@@ -75,7 +75,7 @@ void findUndecided(const Table& table, Diagnostics& diagnostics) {
     const TableEntry& last = *table.find(entry.key);
     if (last.text == entry.text) continue;
     diagnostics.push_back({Severity::error, table.file, entry.keyAt.line, entry.keyAt.column, "",
-                           fmt::format("the key \"{}\" has another text in line {}; keep one of the two",
+                           fmt::format("the key \"{}\" has a different text in line {}; keep one of the two",
                                        escaped(entry.key), last.keyAt.line)});
   }
 }

@@ -31,9 +31,9 @@ std::string pluralNote(const EnglishText& english) {
 std::string placeholderNote(const EnglishText& english) {
   const std::vector<std::string_view> names = english.placeholders();
   std::string note =
-      fmt::format("The app fills in %{{{}}}. Copy placeholders letter by letter.", fmt::join(names, "}, %{"));
+      fmt::format("The app fills in %{{{}}}. Copy placeholders exactly.", fmt::join(names, "}, %{"));
   if (!english.dispensable().empty())
-    note += fmt::format(" %{{{}}} may be left out if the text says the number.", english.dispensable());
+    note += fmt::format(" %{{{}}} may be omitted if the text spells the number out.", english.dispensable());
   return note;
 }
 

@@ -128,8 +128,8 @@ class Importer {
     const std::string_view translation = translationIn(entry, present);
     if (!hasOtherVersion(unit, versionNote(translation, present))) return "";
     return fmt::format(
-        "\"{}\" has changed in the table since the export: the table has {}, this file {}; --force takes the "
-        "file's",
+        "\"{}\" has changed in the table since the export: the table has {}, this file has {}; --force "
+        "imports it",
         escaped(unit.key), shown(translation, present), shown(unit.target, unit.state));
   }
 

@@ -186,8 +186,8 @@ void checkTogether(const std::vector<Entry>& entries, Diagnostics& diagnostics) 
     const auto [first, isFirst] = texts.try_emplace(entry.key, &entry);
     if (!isFirst && first->second->text != entry.text) {
       fail(fmt::format(
-          "the key \"{}\" has another text in line {}; keep one of the two, or give both the same", entry.key,
-          first->second->line));
+          "the key \"{}\" has a different text in line {}; keep one of the two, or make them equal",
+          entry.key, first->second->line));
     } else if (!isNew) {
       fail(fmt::format("the accessor \"{}\" is already in line {}; keep one of the two",
                        identifierFor(entry.key), same->second->line));
