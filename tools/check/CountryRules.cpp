@@ -26,87 +26,77 @@ namespace zk::tools {
 
 namespace {
 
-/// Calls `visit` with each element that is an object, and its place.
-template <class Visit>
-void forEachCountry(const CountryFile& file, const Visit& visit) {
-  for (const CountryFile::Element& element : file.elements) {
-    if (const auto* const country = element.value.as<Dictionary>()) visit(*country, element.at);
-  }
-}
-
 void findNoList(const CountryFile& file, Findings& findings) {
-  if (file.error) findings.add(file.error->at, file.error->message);
+  if (file.error) findings.add(file.error->at, "{}", file.error->message);
   for (const auto& [at, value] : file.elements) {
     if (value.as<Dictionary>()) continue;
-    findings.add(
-        at,
-        "the element is not an object, so the module offers no country at all; write {\"name\": \"...\", "
-        "\"phoneCode\": 0, \"iso\": \"...\"}");
+    findings.add(at,
+                 "the element is not an object, so the module offers no country at all; write {{\"name\": "
+                 "\"...\", \"phoneCode\": 0, \"iso\": \"...\"}}");
   }
-}
-
-void findDropped(const CountryFile& file, Findings& findings) {
-  forEachCountry(file, [&](const Dictionary& country, Position at) {
-    if (Country::fromDictionary(country)) return;
-    std::vector<std::string_view> wrong;
-    if (!country.find<std::string>("name")) wrong.push_back("\"name\" (a text)");
-    if (!country.find<std::int64_t>("phoneCode"))
-      wrong.push_back("\"phoneCode\" (an integer without quotes)");
-    if (!country.find<std::string>("iso")) wrong.push_back("\"iso\" (a text)");
-    findings.add(at, fmt::format("the module drops this country because {} is missing; add it",
-                                 fmt::join(wrong, ", ")));
-  });
 }
 
 void findDuplicates(const CountryFile& file, Findings& findings) {
   std::map<std::string_view, std::size_t> lines;
-  forEachCountry(file, [&](const Dictionary& country, Position at) {
-    const auto* const code = country.find<std::string>("iso");
-    if (!code) return;
+  for (const auto& [at, value] : file.elements) {
+    const auto* const country = value.as<Dictionary>();
+    const auto* const code = country ? country->find<std::string>("iso") : nullptr;
+    if (!code) continue;
     const auto [first, isNew] = lines.try_emplace(*code, at.line);
-    if (isNew) return;
-    findings.add(at, fmt::format("the code \"{}\" is already in line {}; remove one of the two",
-                                 escaped(*code), first->second));
-  });
+    if (isNew) continue;
+    findings.add(at, "the code \"{}\" is already in line {}; remove one of the two", escaped(*code),
+                 first->second);
+  }
 }
 
-void findCodes(const CountryFile& file, Findings& findings) {
+/// A rule for each element that is an object. `errorIn` returns what is wrong with it; empty if nothing is.
+template <std::string (*errorIn)(const Dictionary& country)>
+void inCountries(const CountryFile& file, Findings& findings) {
+  for (const CountryFile::Element& element : file.elements) {
+    const auto* const country = element.value.as<Dictionary>();
+    const std::string error = country ? errorIn(*country) : "";
+    if (!error.empty()) findings.add(element.at, "{}", error);
+  }
+}
+
+std::string whyDropped(const Dictionary& country) {
+  if (Country::fromDictionary(country)) return "";
+  std::vector<std::string_view> wrong;
+  if (!country.find<std::string>("name")) wrong.push_back("\"name\" (a text)");
+  if (!country.find<std::int64_t>("phoneCode")) wrong.push_back("\"phoneCode\" (an integer without quotes)");
+  if (!country.find<std::string>("iso")) wrong.push_back("\"iso\" (a text)");
+  return fmt::format("the module drops this country because {} is missing; add it", fmt::join(wrong, ", "));
+}
+
+std::string errorInCode(const Dictionary& country) {
   const auto isCapital = [](char c) { return c >= 'A' && c <= 'Z'; };
-  forEachCountry(file, [&](const Dictionary& country, Position at) {
-    const auto* const code = country.find<std::string>("iso");
-    if (!code || (code->size() == 2 && std::all_of(code->begin(), code->end(), isCapital))) return;
-    findings.add(
-        at, fmt::format("the code \"{}\" is not two capital letters; write the country's ISO 3166-1 code",
-                        escaped(*code)));
-  });
+  const auto* const code = country.find<std::string>("iso");
+  if (!code || (code->size() == 2 && std::all_of(code->begin(), code->end(), isCapital))) return "";
+  return fmt::format("the code \"{}\" is not two capital letters; write the country's ISO 3166-1 code",
+                     escaped(*code));
 }
 
-void findNames(const CountryFile& file, Findings& findings) {
-  forEachCountry(file, [&](const Dictionary& country, Position at) {
-    const auto* const name = country.find<std::string>("name");
-    if (name && isBlank(*name))
-      findings.add(at, "the country has an empty name; write the name users choose it by");
-  });
+std::string errorInName(const Dictionary& country) {
+  const auto* const name = country.find<std::string>("name");
+  return name && isBlank(*name) ? "the country has an empty name; write the name users choose it by" : "";
 }
 
-void findPhoneCodes(const CountryFile& file, Findings& findings) {
-  forEachCountry(file, [&](const Dictionary& country, Position at) {
-    const auto* const code = country.find<std::int64_t>("phoneCode");
-    if (!code || *code > 0) return;
-    findings.add(
-        at, fmt::format("the phone code {} is not a calling code; write it as dialled, without a plus sign",
-                        *code));
-  });
+std::string errorInPhoneCode(const Dictionary& country) {
+  const auto* const code = country.find<std::int64_t>("phoneCode");
+  if (!code || *code > 0) return "";
+  return fmt::format("the phone code {} is not a calling code; write it as dialled, without a plus sign",
+                     *code);
 }
 
 constexpr RuleFor<CountryFile> kRules[] = {
     {{"country-list", Severity::error, "a country list that is not an array of objects, or is empty"},
      findNoList},
-    {{"dropped-country", Severity::error, "a country that the module leaves out"}, findDropped},
+    {{"dropped-country", Severity::error, "a country that the module leaves out"}, inCountries<whyDropped>},
     {{"duplicate-country", Severity::error, "two countries with the same ISO code"}, findDuplicates},
-    {{"country-code", Severity::error, "an ISO code that is not two capital letters"}, findCodes},
-    {{"country-name", Severity::warning, "a country with an empty name"}, findNames},
-    {{"phone-code", Severity::warning, "a phone code below 1"}, findPhoneCodes},
+    {{"country-code", Severity::error, "an ISO code that is not two capital letters"},
+     inCountries<errorInCode>},
+    {{"country-name", Severity::warning, "a country with an empty name"}, inCountries<errorInName>},
+    {{"phone-code", Severity::warning, "a phone code below 1"}, inCountries<errorInPhoneCode>},
 };
 
 }  // namespace

@@ -15,27 +15,16 @@ namespace zk::tools {
 namespace {
 
 struct Punctuation {
-  std::string_view spelled;
   Ending ending;
+  std::string_view marks;
 };
 
-/// The punctuation of all scripts. A mark that ends with another is before it.
+/// The marks of all scripts. An ellipsis may also be three dots.
 constexpr Punctuation kPunctuation[] = {
-    {"...", Ending::ellipsis},   {"。。。", Ending::ellipsis}, {"…", Ending::ellipsis},
-    {"⋯", Ending::ellipsis},     {"‥", Ending::ellipsis},      {".", Ending::stop},
-    {"。", Ending::stop},        {"．", Ending::stop},         {"｡", Ending::stop},
-    {"।", Ending::stop},         {"॥", Ending::stop},          {"۔", Ending::stop},
-    {"։", Ending::stop},         {"។", Ending::stop},          {"။", Ending::stop},
-    {"།", Ending::stop},         {"።", Ending::stop},          {"᠃", Ending::stop},
-    {"?", Ending::question},     {"？", Ending::question},     {"؟", Ending::question},
-    {"፧", Ending::question},     {"՞", Ending::question},      {"\u037E", Ending::question},
-    {"⁇", Ending::question},     {"⁉", Ending::question},      {"!", Ending::exclamation},
-    {"！", Ending::exclamation}, {"՜", Ending::exclamation},   {"⁈", Ending::exclamation},
-    {"‼", Ending::exclamation},  {":", Ending::colon},         {"：", Ending::colon},
-    {"፡", Ending::colon},        {";", Ending::semicolon},     {"；", Ending::semicolon},
-    {"؛", Ending::semicolon},    {",", Ending::comma},         {"，", Ending::comma},
-    {"、", Ending::comma},       {"､", Ending::comma},         {"،", Ending::comma},
-};
+    {Ending::stop, ".。．｡।॥۔։។။།።᠃"}, {Ending::question, "?？؟፧՞\u037E⁇⁉"},
+    {Ending::exclamation, "!！՜⁈‼"},   {Ending::ellipsis, "…⋯‥"},
+    {Ending::colon, ":：፡"},           {Ending::semicolon, ";；؛"},
+    {Ending::comma, ",，、､،"}};
 
 /// Closing quotes, brackets and marks. German and Polish close with quotes that open in other languages. A brace closes
 /// a placeholder.
@@ -87,12 +76,14 @@ bool isOrdinal(std::string_view text) {
 
 Ending endingOf(std::string_view text, std::string_view language) {
   text = withoutWhatFollows(text);
-  const auto* const last =
-      std::find_if(std::begin(kPunctuation), std::end(kPunctuation),
-                   [&](const Punctuation& punctuation) { return text.ends_with(punctuation.spelled); });
-  if (last == std::end(kPunctuation) || isOrdinal(text)) return Ending::none;
-  const bool isGreekQuestion = language == "el" && last->ending == Ending::semicolon;
-  return isGreekQuestion ? Ending::question : last->ending;
+  if (text.empty() || isOrdinal(text)) return Ending::none;
+  if (text.ends_with("...") || text.ends_with("。。。")) return Ending::ellipsis;
+  const std::string_view last = lastCodePoint(text);
+  for (const auto& [ending, marks] : kPunctuation) {
+    if (marks.find(last) == marks.npos) continue;
+    return language == "el" && ending == Ending::semicolon ? Ending::question : ending;
+  }
+  return Ending::none;
 }
 
 std::string_view nameOf(Ending ending) {

@@ -1,7 +1,6 @@
 #include <ZKStrings/platform/text/UnicodeText.h>
 #include <ZKStrings/tools/check/Prose.h>
 #include <ZKStrings/tools/check/Rules.h>
-#include <ZKStrings/tools/project/TextPlaces.h>
 #include <ZKStrings/tools/support/Characters.h>
 #include <ZKStrings/tools/support/Languages.h>
 #include <ZKStrings/tools/texts/TextFeatures.h>
@@ -60,8 +59,8 @@ void findOtherTerms(const Translation& translation, Findings& findings) {
     const auto isInText = [&](const std::string& stem) { return text.find(stem) != std::string::npos; };
     if (std::any_of(stems->second.begin(), stems->second.end(), isInText)) continue;
     findings.add(translation.entry,
-                 fmt::format("the translation of {} has none of the glossary's words (\"{}\"); use one",
-                             term.name, fmt::join(stems->second, "\", \"")));
+                 "the translation of {} has none of the glossary's words (\"{}\"); use one", term.name,
+                 fmt::join(stems->second, "\", \""));
   }
 }
 
@@ -69,12 +68,11 @@ void findWrongAddress(const Translation& translation, Findings& findings) {
   const Phrases& wrong = translation.glossary.styleOf(translation.language).wrongAddress;
   if (wrong.empty()) return;
   const Words words(translation.entry.text);
-  TextPlaces places(translation.entry);
   for (std::size_t at = 0; at < words.size(); ++at) {
     if (sizeAt(wrong, words, at) == 0) continue;
-    findings.add(translation.entry, places.at(words.offsetOf(at)),
-                 fmt::format("\"{}\" is another form of address; address the player as the other texts do",
-                             words[at].spelled));
+    findings.add(translation.entry, words.offsetOf(at),
+                 "\"{}\" is another form of address; address the player as the other texts do",
+                 words[at].spelled);
   }
 }
 
@@ -90,47 +88,36 @@ void findDoubledWords(const Translation& translation, Findings& findings) {
   const LanguageStyle& style = translation.glossary.styleOf(translation.language);
   if (style.doublesWords) return;
   const Words words(translation.entry.text);
-  TextPlaces places(translation.entry);
   for (std::size_t at = 0; at + 1 < words.size(); ++at) {
     if (words[at].folded != words[at + 1].folded) continue;
     if (sizeAt(style.doubledWords, words, at) > 0 || !areNeighbours(translation.entry.text, words, at))
       continue;
-    findings.add(translation.entry, places.at(words.offsetOf(at + 1)),
-                 fmt::format("the word \"{}\" is repeated; remove one of the two", words[at].spelled));
+    findings.add(translation.entry, words.offsetOf(at + 1),
+                 "the word \"{}\" is repeated; remove one of the two", words[at].spelled);
   }
 }
 
-UScriptCode scriptOf(char32_t character) {
-  UErrorCode status = U_ZERO_ERROR;
-  return uscript_getScript(static_cast<UChar32>(character), &status);
-}
-
-/// The scripts whose letters look alike.
-constexpr UScriptCode kLookAlikes[] = {USCRIPT_LATIN, USCRIPT_CYRILLIC, USCRIPT_GREEK};
-
 /// Returns the first letter of `word` that belongs to another script than its first letter, if both look alike.
 std::optional<std::string_view> firstStrayLetter(std::string_view word) {
-  std::optional<UScriptCode> first;
+  constexpr UScriptCode kLookAlikes[] = {USCRIPT_LATIN, USCRIPT_CYRILLIC, USCRIPT_GREEK};
+  const UScriptCode* first = nullptr;
   for (const CodePoint letter : CodePoints(word)) {
-    const UScriptCode script = letter.value ? scriptOf(*letter.value) : USCRIPT_COMMON;
-    const bool looksAlike =
-        std::find(std::begin(kLookAlikes), std::end(kLookAlikes), script) != std::end(kLookAlikes);
-    if (!looksAlike) continue;
-    if (first && *first != script) return letter.bytes;
-    first = script;
+    for (const UScriptCode& script : kLookAlikes) {
+      if (!uscript_hasScript(static_cast<UChar32>(letter.value.value_or(0)), script)) continue;
+      if (first && first != &script) return letter.bytes;
+      first = &script;
+    }
   }
   return std::nullopt;
 }
 
 void findMixedScripts(const Translation& translation, Findings& findings) {
   const std::string prose = proseOf(translation.entry.text);
-  TextPlaces places(translation.entry);
   for (const std::string_view word : wordsOf(prose)) {
     const std::optional<std::string_view> stray = firstStrayLetter(word);
     if (!stray) continue;
-    findings.add(
-        translation.entry, places.at(static_cast<std::size_t>(stray->data() - prose.data())),
-        fmt::format("the letters of \"{}\" are of two scripts from \"{}\" on; use one script", word, *stray));
+    findings.add(translation.entry, static_cast<std::size_t>(stray->data() - prose.data()),
+                 "the letters of \"{}\" are of two scripts from \"{}\" on; use one script", word, *stray);
   }
 }
 
@@ -169,7 +156,7 @@ void findEnglishWords(const Translation& translation, Findings& findings) {
   const std::set<std::string_view> known(english.begin(), english.end());
   for (const std::string& run : runsIn(translation.entry.text, settings, loanWords, count)) {
     if (!known.contains(run)) continue;
-    findings.add(translation.entry, fmt::format("\"{}\" is English; translate it", run));
+    findings.add(translation.entry, "\"{}\" is English; translate it", run);
     return;
   }
 }
@@ -194,42 +181,38 @@ bool isDigit(std::string_view character) {
   return !character.empty() && character[0] >= '0' && character[0] <= '9';
 }
 
-void addAt(std::size_t offset, const Translation& translation, std::string message, Findings& findings) {
-  findings.add(translation.entry, TextPlaces(translation.entry).at(offset), std::move(message));
-}
-
 void findQuotationMarks(const Translation& translation, Findings& findings) {
   const std::string& right = translation.glossary.styleOf(translation.language).quotationMarks;
   if (right.empty()) return;
   for (const std::string_view mark : kQuotationMarks) {
     const std::size_t offset = translation.entry.text.find(mark);
     if (offset == std::string::npos || right.find(mark) != std::string::npos) continue;
-    addAt(offset, translation, fmt::format("{} is not a quotation mark of the language; use {}", mark, right),
-          findings);
+    findings.add(translation.entry, offset, "{} is not a quotation mark of the language; use {}", mark,
+                 right);
   }
 }
 
 void findApostrophes(const Translation& translation, Findings& findings) {
   const std::size_t offset = translation.entry.text.find('\'');
-  if (offset == std::string::npos) return;
-  addAt(offset, translation, "the apostrophe is straight; write ’", findings);
+  if (offset != std::string::npos)
+    findings.add(translation.entry, offset, "the apostrophe is straight; write ’");
 }
 
 void findDots(const Translation& translation, Findings& findings) {
   const std::size_t offset = translation.entry.text.find("...");
-  if (offset == std::string::npos) return;
-  addAt(offset, translation, "three dots are used as an ellipsis; write …", findings);
+  if (offset != std::string::npos)
+    findings.add(translation.entry, offset, "three dots are used as an ellipsis; write …");
 }
 
 /// Returns the offset of the first of two blanks in a row; `npos` if there are none.
 std::size_t findTwoBlanks(std::string_view text) {
-  const auto blankSize = [&](std::size_t at) -> std::size_t {
-    const std::string_view rest = text.substr(at);
-    return rest.starts_with(' ') ? 1 : rest.starts_with(kNoBreakSpace) ? kNoBreakSpace.size() : 0;
-  };
-  for (std::size_t at = 0; at < text.size(); ++at) {
-    const std::size_t size = blankSize(at);
-    if (size > 0 && blankSize(at + size) > 0) return at;
+  std::size_t first = text.npos;
+  for (std::size_t at = 0; at < text.size();) {
+    const std::string_view character = characterAt(text, at);
+    const bool isBlank = character == " " || character == kNoBreakSpace;
+    if (isBlank && first != text.npos) return first;
+    first = isBlank ? at : text.npos;
+    at += character.size();
   }
   return text.npos;
 }
@@ -237,7 +220,7 @@ std::size_t findTwoBlanks(std::string_view text) {
 void findDoubledBlanks(const Translation& translation, Findings& findings) {
   const std::size_t offset = findTwoBlanks(translation.entry.text);
   if (offset == std::string::npos || findTwoBlanks(translation.english.text) != std::string::npos) return;
-  addAt(offset, translation, "two blanks in a row; write one", findings);
+  findings.add(translation.entry, offset, "two blanks in a row; write one");
 }
 
 /// Whether `mark`, at the offset `at`, needs no no-break space before it: at the beginning of the text or of a line,
@@ -253,36 +236,32 @@ bool needsNoSpace(std::string_view mark, std::string_view text, std::size_t at, 
          style.quotationMarks.find(before) != std::string::npos;
 }
 
-/// Adds a finding for each `mark` in `text`, the prose of `translation`, for which `isMissing(offset)` is
-/// true.
+/// Adds a finding for each of `marks` in the prose of `translation` that `isMissing` accepts, with its place.
 template <class IsMissing>
-void findWithoutSpace(std::string_view mark, std::string_view text, std::string_view side,
-                      const Translation& translation, const IsMissing& isMissing, Findings& findings) {
-  TextPlaces places(translation.entry);
-  for (std::size_t at = text.find(mark); at != std::string_view::npos;
-       at = text.find(mark, at + mark.size())) {
-    if (!isMissing(at)) continue;
-    findings.add(translation.entry, places.at(at),
-                 fmt::format("\"{}\" has no no-break space (U+00A0) {} it; write one", mark, side));
+void findWithoutSpace(const std::vector<std::string>& marks, std::string_view side,
+                      const Translation& translation, Findings& findings, const IsMissing& isMissing) {
+  const std::string text = proseOf(translation.entry.text);
+  for (const std::string& mark : marks) {
+    for (std::size_t at = text.find(mark); at != text.npos; at = text.find(mark, at + mark.size())) {
+      if (!isMissing(text, at, mark)) continue;
+      findings.add(translation.entry, at, "\"{}\" has no no-break space (U+00A0) {} it; write one", mark,
+                   side);
+    }
   }
 }
 
 void findNoBreakSpaces(const Translation& translation, Findings& findings) {
   const LanguageStyle& style = translation.glossary.styleOf(translation.language);
-  const std::string text = proseOf(translation.entry.text);
-  for (const std::string_view mark : style.noBreakBefore) {
-    const auto isMissing = [&](std::size_t at) {
-      return lastCodePoint(text.substr(0, at)) != kNoBreakSpace && !needsNoSpace(mark, text, at, style);
-    };
-    findWithoutSpace(mark, text, "before", translation, isMissing, findings);
-  }
-  for (const std::string_view mark : style.noBreakAfter) {
-    const auto isMissing = [&](std::size_t at) {
-      const std::string_view after = characterAt(text, at + mark.size());
-      return !after.empty() && after != kNoBreakSpace;
-    };
-    findWithoutSpace(mark, text, "after", translation, isMissing, findings);
-  }
+  findWithoutSpace(style.noBreakBefore, "before", translation, findings,
+                   [&](std::string_view text, std::size_t at, std::string_view mark) {
+                     return lastCodePoint(text.substr(0, at)) != kNoBreakSpace &&
+                            !needsNoSpace(mark, text, at, style);
+                   });
+  findWithoutSpace(style.noBreakAfter, "after", translation, findings,
+                   [](std::string_view text, std::size_t at, std::string_view mark) {
+                     const std::string_view after = characterAt(text, at + mark.size());
+                     return !after.empty() && after != kNoBreakSpace;
+                   });
 }
 
 /// `find` for what has been translated: in a text that equals the English one, words and typography are English.

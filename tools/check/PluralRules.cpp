@@ -21,42 +21,24 @@ namespace zk::tools {
 
 namespace {
 
-/// The plural forms of one key in the table and in English.
-struct Forms {
-  const TableEntry* first = nullptr;
-  std::size_t count = 0;
-  std::set<std::string_view> texts;
-  std::set<std::string_view> english;
-};
-
-Forms formsOf(const Entry& counted, const CheckedTable& subject) {
-  Forms forms;
-  for (const PluralForm& form : kPluralForms) {
-    const std::string key = std::string(counted.key).append(form.suffix);
-    const TableEntry* const entry = subject.table.find(key);
-    const EnglishText* const english = subject.english->find(key);
-    if (!entry || !english) continue;
-    if (!forms.first) forms.first = entry;
-    ++forms.count;
-    forms.texts.insert(entry->text);
-    forms.english.insert(english->text);
-  }
-  return forms;
-}
-
 void findSamePlurals(const CheckedTable& subject, Findings& findings) {
   if (!subject.style.nounsInflect) return;
-  for (const EnglishText& english : subject.english->all()) {
-    if (english.form != std::begin(kPluralForms)) continue;
-    const Forms forms = formsOf(*english.entry, subject);
-    const bool areSame = forms.count == std::size(kPluralForms) && forms.texts.size() == 1;
-    if (!areSame || forms.english.size() == 1) continue;
-    findings.add(
-        *forms.first,
-        fmt::format(
-            "the five plural forms of \"{}\" are the same, but the English ones differ; translate each "
-            "form, or write /* check: off same-plurals */ before them if they are right",
-            english.entry->key));
+  for (const EnglishText& zero : subject.english->all()) {
+    const TableEntry* const first = subject.table.find(zero.key);
+    if (!first || zero.form != std::begin(kPluralForms)) continue;
+    const std::span forms(&zero, std::size(kPluralForms));  // the forms of a key follow each other
+    const auto isSame = [&](const EnglishText& form) {
+      const TableEntry* const entry = subject.table.find(form.key);
+      return entry && entry->text == first->text;
+    };
+    const auto isSameInEnglish = [&](const EnglishText& form) { return form.text == zero.text; };
+    if (!std::all_of(forms.begin(), forms.end(), isSame) ||
+        std::all_of(forms.begin(), forms.end(), isSameInEnglish))
+      continue;
+    findings.add(*first,
+                 "the five plural forms of \"{}\" are the same, but the English ones differ; translate each "
+                 "form, or write /* check: off same-plurals */ before them if they are right",
+                 zero.entry->key);
   }
 }
 
@@ -75,68 +57,46 @@ std::vector<std::string> wordsAfterNumbers(std::string_view text, const Catalogu
   return found;
 }
 
-/// The nouns of one language that fit many things but not one.
-///
-/// "%{n} days" in a form for many makes "days" such a noun, unless a form for one has it too. The forms of the text
-/// in question do not count.
-class NounsForMany {
- public:
-  /// `textOf` returns the text for an English one, null if there is none.
-  template <class TextOf>
-  NounsForMany(const EnglishTexts& english, const TextOf& textOf) {
-    for (const EnglishText& form : english.all()) {
-      const std::string* const text = form.form ? textOf(form) : nullptr;
-      if (!text) continue;
-      if (form.form->suffix == "_one") {
-        for (const std::string_view word : wordsOf(*text)) forOne_[caseFolded(word)].insert(form.entry);
-      } else if (form.form->suffix != "_zero") {
-        for (std::string& word : wordsAfterNumbers(*text, *form.settings)) {
-          forMany_[std::move(word)].insert(form.entry);
-        }
-      }
-    }
-  }
+/// The entries that use a word.
+using Uses = std::map<std::string, std::set<const Entry*>>;
 
-  /// Returns the first of them that follows a number in `text`; empty if there is none.
-  [[nodiscard]] std::string find(std::string_view text, const EnglishText& english) const {
-    const auto isElsewhere = [&](const Uses& uses, const std::string& word) {
-      const auto found = uses.find(word);
-      return found != uses.end() && found->second.size() > found->second.count(english.entry);
-    };
-    for (const std::string& word : wordsAfterNumbers(text, *english.settings)) {
-      if (isElsewhere(forMany_, word) && !isElsewhere(forOne_, word)) return word;
-    }
-    return "";
-  }
-
- private:
-  using Uses = std::map<std::string, std::set<const Entry*>>;
-  Uses forMany_;
-  Uses forOne_;
-};
-
-/// Whether the English text has a plural after a number, as a translation then may too.
-bool isPlural(const EnglishText& english, const NounsForMany& nouns) {
-  const std::vector<std::string> words = wordsAfterNumbers(english.text, *english.settings);
-  const auto endsInS = [](const std::string& word) { return word.ends_with('s'); };
-  return std::any_of(words.begin(), words.end(), endsInS) || !nouns.find(english.text, english).empty();
+bool isElsewhere(const Uses& uses, const std::string& word, const Entry* entry) {
+  const auto found = uses.find(word);
+  return found != uses.end() && found->second.size() > found->second.count(entry);
 }
 
+/// Finds nouns that fit many things but not one: "%{n} days" in a form for many makes "days" such a noun, unless a
+/// form for one has it too. The forms of the text in question do not count.
 void findWrongForOne(const CheckedTable& subject, Findings& findings) {
   if (subject.language == kBase || !subject.style.nounsInflect) return;
-  const NounsForMany nouns(*subject.english, [&](const EnglishText& english) {
-    const TableEntry* const entry = subject.table.find(english.key);
-    return entry ? &entry->text : nullptr;
-  });
-  const NounsForMany englishNouns(*subject.english, [](const EnglishText& english) { return &english.text; });
+  Uses forMany;
+  Uses forOne;
+  std::vector<std::pair<const EnglishText*, const TableEntry*>> suspects;
   for (const EnglishText& english : subject.english->all()) {
     const TableEntry* const entry = subject.table.find(english.key);
-    if (!entry || (english.form && english.form->suffix != "_one")) continue;
-    const std::string noun = nouns.find(entry->text, english);
-    if (noun.empty() || isPlural(english, englishNouns)) continue;
-    findings.add(*entry, fmt::format("\"{}\" follows a number that may be 1; write a text that fits it, or "
-                                     "/* check: off wrong-for-one */ before it if the text does",
-                                     noun));
+    if (!entry) continue;
+    if (!english.form || english.form->suffix == "_one") suspects.emplace_back(&english, entry);
+    if (!english.form) continue;
+    if (english.form->suffix == "_one") {
+      for (const std::string_view word : wordsOf(entry->text)) forOne[caseFolded(word)].insert(english.entry);
+    } else if (english.form->suffix != "_zero") {
+      for (const std::string& word : wordsAfterNumbers(entry->text, *english.settings))
+        forMany[word].insert(english.entry);
+    }
+  }
+  const auto endsInS = [](const std::string& word) { return word.ends_with('s'); };
+  for (const auto& [english, entry] : suspects) {
+    const std::vector<std::string> inEnglish = wordsAfterNumbers(english->text, *english->settings);
+    if (std::any_of(inEnglish.begin(), inEnglish.end(), endsInS))
+      continue;  // the translation may have a plural too
+    for (const std::string& word : wordsAfterNumbers(entry->text, *english->settings)) {
+      if (!isElsewhere(forMany, word, english->entry) || isElsewhere(forOne, word, english->entry)) continue;
+      findings.add(*entry,
+                   "\"{}\" follows a number that may be 1; write a text that fits it, or "
+                   "/* check: off wrong-for-one */ before it if the text does",
+                   word);
+      break;
+    }
   }
 }
 

@@ -1,7 +1,6 @@
 #include <ZKStrings/tools/check/Checker.h>
 #include <ZKStrings/tools/check/Rules.h>
 #include <ZKStrings/tools/project/EntryComments.h>
-#include <ZKStrings/tools/project/TextPlaces.h>
 #include <ZKStrings/tools/support/Languages.h>
 #include <ZKStrings/tools/support/Nearest.h>
 #include <ZKStrings/tools/texts/TextFeatures.h>
@@ -33,8 +32,8 @@ bool isWellFormed(const CheckedTable& subject) {
 // The directory and the file
 
 void findDirectory(const CheckedTable& subject, Findings& findings) {
-  std::string reason = whyNeverChosen(subject.language);
-  if (!reason.empty()) findings.add(kFileBegin, std::move(reason));
+  const std::string reason = whyNeverChosen(subject.language);
+  if (!reason.empty()) findings.add(kFileBegin, "{}", reason);
 }
 
 void findMissingTable(const CheckedTable& subject, Findings& findings) {
@@ -46,7 +45,7 @@ void findMissingTable(const CheckedTable& subject, Findings& findings) {
                  "the English table is missing, empty or not readable, and without it an app stops at its "
                  "first text; restore it");
   } else if (isMissing) {
-    findings.add(kFileBegin, table.diagnostics.front().message);
+    findings.add(kFileBegin, "{}", table.diagnostics.front().message);
   } else if (!subject.isDirectoryListable) {
     findings.add(kFileBegin,
                  "the module skips this language: its directory cannot be listed; allow reading it");
@@ -57,7 +56,8 @@ void findMissingTable(const CheckedTable& subject, Findings& findings) {
 template <const char* rule>
 void findWhileReading(const CheckedTable& subject, Findings& findings) {
   for (const Diagnostic& diagnostic : subject.table.diagnostics) {
-    if (diagnostic.rule == rule) findings.add({diagnostic.line, diagnostic.column}, diagnostic.message);
+    if (diagnostic.rule == rule)
+      findings.add(Position{diagnostic.line, diagnostic.column}, "{}", diagnostic.message);
   }
 }
 
@@ -75,42 +75,39 @@ void findDuplicates(const CheckedTable& subject, Findings& findings) {
     const auto [first, isNew] = firsts.try_emplace(entry.key, &entry);
     if (isNew) continue;
     const bool isSame = first->second->text == entry.text;
-    findings.add(
-        entry, entry.keyAt,
-        fmt::format("the key \"{}\" is already in line {}{}", escaped(entry.key), first->second->keyAt.line,
-                    isSame ? "; remove one of the two" : " with another text; keep the right one"));
+    findings.add(entry, entry.keyAt, "the key \"{}\" is already in line {}{}", escaped(entry.key),
+                 first->second->keyAt.line,
+                 isSame ? "; remove one of the two" : " with another text; keep the right one");
   }
 }
 
 void findReplacementCharacter(const TableEntry& entry, Findings& findings) {
   const std::size_t offset = entry.text.find("\uFFFD");
   if (offset == std::string::npos) return;
-  findings.add(entry, TextPlaces(entry).at(offset),
+  findings.add(entry, offset,
                "the text has U+FFFD, which replaces a character that a conversion lost; write the character");
 }
 
 void findControlCharacterIn(const TableEntry& entry, Findings& findings) {
   const std::size_t offset = findControlCharacter(entry.text);
   if (offset == std::string::npos) return;
-  findings.add(entry, TextPlaces(entry).at(offset),
-               fmt::format("the text has the control character U+{:04X}, which is invisible or shown as a "
-                           "box; remove it",
-                           static_cast<unsigned>(entry.text[offset])));
+  findings.add(entry, offset,
+               "the text has the control character U+{:04X}, which is invisible or shown as a "
+               "box; remove it",
+               static_cast<unsigned>(entry.text[offset]));
 }
 
 void findEmptyText(const TableEntry& entry, Findings& findings) {
   if (!isBlank(entry.text)) return;
-  findings.add(entry, fmt::format("the text of \"{}\" is empty, so users see nothing; write a text",
-                                  escaped(entry.key)));
+  findings.add(entry, "the text of \"{}\" is empty, so users see nothing; write a text", escaped(entry.key));
 }
 
 void findUnknownEscapes(const TableEntry& entry, Findings& findings) {
   for (const auto& [at, spelled] : entry.unknownEscapes) {
-    findings.add(
-        entry, at,
-        fmt::format("unknown escape \"{}\", of which users do not see the backslash; remove it, or write "
-                    "\"\\\\\" to show one",
-                    spelled));
+    findings.add(entry, at,
+                 "unknown escape \"{}\", of which users do not see the backslash; remove it, or write "
+                 "\"\\\\\" to show one",
+                 spelled);
   }
 }
 
@@ -140,8 +137,8 @@ void findUnknownComments(const TableEntry& entry, Findings& findings) {
   for (const TableEntry::Comment& comment : entry.comments) {
     const auto state = wordsTold(comment, kState);
     const auto off = wordsTold(comment, kCheck);
-    std::string error = state ? errorInState(*state) : off ? errorInSwitch(*off) : "";
-    if (!error.empty()) findings.add(entry, comment.at, std::move(error));
+    const std::string error = state ? errorInState(*state) : off ? errorInSwitch(*off) : "";
+    if (!error.empty()) findings.add(entry, comment.at, "{}", error);
   }
 }
 
@@ -159,7 +156,7 @@ std::vector<std::string_view> missingKeys(const CheckedTable& subject) {
 void findMissingEnglish(const CheckedTable& subject, Findings& findings) {
   if (subject.language != kBase || !isWellFormed(subject) || subject.table.entries.empty()) return;
   for (const std::string_view key : missingKeys(subject)) {
-    findings.add(kFileBegin, fmt::format("the English table lacks \"{}\"; run zkstrings generate", key));
+    findings.add(kFileBegin, "the English table lacks \"{}\"; run zkstrings generate", key);
   }
 }
 
@@ -171,57 +168,46 @@ std::string_view withoutSuffix(std::string_view key) {
   return key;
 }
 
-/// Finds the keys that misspelt ones may mean.
-struct MeantKeys {
-  std::vector<std::string_view> missing;  ///< those that the table lacks, the likeliest
-  std::vector<std::string_view> all;
-  std::size_t searches = 100;  ///< the remaining ones, because each is slow
-
-  explicit MeantKeys(const CheckedTable& subject) : missing(missingKeys(subject)) {
-    for (const EnglishText& english : subject.english->all()) all.push_back(english.key);
-  }
-  std::optional<std::string_view> find(std::string_view key) {
-    if (searches == 0) return std::nullopt;
-    --searches;
-    const std::optional<std::string_view> meant = nearest(key, missing);
-    return meant ? meant : nearest(key, all);
-  }
-};
-
-/// Returns what to do about a key that nothing looks up.
-std::string fixFor(std::string_view key, const CheckedTable& subject, MeantKeys& meantKeys) {
-  if (subject.english->find(std::string(key) + "_many")) {
+/// Returns what to do about a key that differs from one that is looked up by the suffix of a plural form; else empty.
+std::string fixForSuffix(std::string_view key, const CheckedTable& subject) {
+  if (subject.english->find(std::string(key) + "_many"))
     return fmt::format("its entry has plural forms; write \"{0}_zero\" to \"{0}_many\" instead", key);
-  }
   const std::string_view bare = withoutSuffix(key);
-  if (bare != key && subject.english->find(bare)) {
-    return fmt::format("\"{}\" has no plural forms; remove this one", bare);
-  }
-  const std::optional<std::string_view> meant = meantKeys.find(key);
-  return didYouMean(meant, "remove the entry");
+  if (bare == key || !subject.english->find(bare)) return "";
+  return fmt::format("\"{}\" has no plural forms; remove this one", bare);
 }
 
 void findUnknownKeys(const CheckedTable& subject, Findings& findings) {
-  MeantKeys meantKeys(subject);
+  std::vector<std::string_view> known = missingKeys(subject);  // the likeliest first
+  for (const EnglishText& english : subject.english->all()) known.push_back(english.key);
+  std::size_t searches = 100;  // the remaining ones, because each is slow
   for (const TableEntry& entry : subject.table.entries) {
     if (subject.english->find(entry.key)) continue;
     const std::string key = escaped(entry.key);
-    findings.add(entry, entry.keyAt,
-                 fmt::format("nothing looks up the key \"{}\"; {}", key, fixFor(key, subject, meantKeys)));
+    std::string fix = fixForSuffix(key, subject);
+    if (fix.empty()) {
+      fix = didYouMean(searches > 0 ? nearest(key, known) : std::nullopt, "remove the entry");
+      searches -= std::min<std::size_t>(searches, 1);
+    }
+    findings.add(entry, entry.keyAt, "nothing looks up the key \"{}\"; {}", key, fix);
   }
 }
 
 // What is not translated yet
 
-/// Calls `visit` with each entry of a well-formed translation in `state`, null for a missing one, in the order of the
-/// catalogue.
-template <class Visit>
-void forEachIn(TranslationState state, const CheckedTable& subject, const Visit& visit) {
-  if (subject.language == kBase || !isWellFormed(subject)) return;
+bool isTranslation(const CheckedTable& subject) {
+  return subject.language != kBase && isWellFormed(subject);
+}
+
+/// Returns the entries of a translation that are in `state`, in the order of the catalogue.
+std::vector<const TableEntry*> entriesIn(TranslationState state, const CheckedTable& subject) {
+  std::vector<const TableEntry*> entries;
+  if (!isTranslation(subject)) return entries;
   for (const EnglishText& english : subject.english->all()) {
     const TableEntry* const entry = subject.table.find(english.key);
-    if (stateOf(subject.language, entry, english) == state) visit(entry);
+    if (entry && stateOf(subject.language, entry, english) == state) entries.push_back(entry);
   }
+  return entries;
 }
 
 /// "1 text", "12 texts".
@@ -230,36 +216,31 @@ std::string texts(std::size_t count) {
 }
 
 void findMissing(const CheckedTable& subject, Findings& findings) {
-  std::size_t missing = 0;
-  forEachIn(TranslationState::missing, subject, [&](const TableEntry*) { ++missing; });
-  if (missing == 0) return;
-  findings.add(kFileBegin, fmt::format("{} missing; zkstrings update {} adds {} in English", texts(missing),
-                                       subject.language, missing == 1 ? "it" : "them"));
+  const std::size_t missing = isTranslation(subject) ? missingKeys(subject).size() : 0;
+  if (missing > 0)
+    findings.add(kFileBegin, "{} missing; zkstrings update {} adds {} in English", texts(missing),
+                 subject.language, missing == 1 ? "it" : "them");
 }
 
 void findUntranslated(const CheckedTable& subject, Findings& findings) {
-  std::size_t untranslated = 0;
-  const TableEntry* first = nullptr;
-  forEachIn(TranslationState::untranslated, subject, [&](const TableEntry* entry) {
-    if (!first || entry->span.begin < first->span.begin) first = entry;
-    ++untranslated;
-  });
-  if (untranslated == 0) return;
-  findings.add(first->textAt,
-               fmt::format("{} untranslated, starting here; zkstrings update {} marks {}",
-                           texts(untranslated), subject.language, untranslated == 1 ? "it" : "them"));
+  const std::vector<const TableEntry*> entries = entriesIn(TranslationState::untranslated, subject);
+  if (entries.empty()) return;
+  const auto isBefore = [](const TableEntry* one, const TableEntry* other) {
+    return one->span.begin < other->span.begin;
+  };
+  const TableEntry* const first = *std::min_element(entries.begin(), entries.end(), isBefore);
+  findings.add(first->textAt, "{} untranslated, starting here; zkstrings update {} marks {}",
+               texts(entries.size()), subject.language, entries.size() == 1 ? "it" : "them");
 }
 
 void findNeedsReview(const CheckedTable& subject, Findings& findings) {
-  forEachIn(TranslationState::needsReview, subject, [&](const TableEntry* entry) {
+  for (const TableEntry* const entry : entriesIn(TranslationState::needsReview, subject)) {
     const bool isMarked = zk::tools::isMarked(*entry, TranslationState::needsReview);
     const std::optional<std::string> before = quotedIn(*entry, isMarked ? kState : kExplanation);
-    findings.add(
-        *entry,
-        fmt::format("the English text of \"{}\" has changed{}; correct the translation, then {}",
-                    escaped(entry->key), before ? fmt::format(" from \"{}\"", escaped(*before)) : "",
-                    isMarked ? "remove the comment \"state:\"" : "the comment \"English:\" before it"));
-  });
+    findings.add(*entry, "the English text of \"{}\" has changed{}; correct the translation, then {}",
+                 escaped(entry->key), before ? fmt::format(" from \"{}\"", escaped(*before)) : "",
+                 isMarked ? "remove the comment \"state:\"" : "the comment \"English:\" before it");
+  }
 }
 
 /// A rule that compares the table with the catalogue.

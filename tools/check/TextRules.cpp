@@ -1,6 +1,5 @@
 #include <ZKStrings/tools/check/EndPunctuation.h>
 #include <ZKStrings/tools/check/Rules.h>
-#include <ZKStrings/tools/project/TextPlaces.h>
 #include <ZKStrings/tools/support/Characters.h>
 #include <ZKStrings/tools/support/Languages.h>
 #include <ZKStrings/tools/support/Nearest.h>
@@ -62,12 +61,10 @@ std::string fixFor(std::string_view name, const AllowedNames& allowed) {
 
 void findUnknown(const Translation& translation, Findings& findings) {
   const AllowedNames allowed(translation.english);
-  TextPlaces places(translation.entry);
   for (const PlaceholderUse& use : placeholderUses(translation.entry.text)) {
     if (!use.isRight || allowed.contains(use.name)) continue;
-    findings.add(translation.entry, places.at(use.offset),
-                 fmt::format("the English text has no placeholder \"{}\"; {}", use.spelled,
-                             fixFor(use.name, allowed)));
+    findings.add(translation.entry, use.offset, "the English text has no placeholder \"{}\"; {}", use.spelled,
+                 fixFor(use.name, allowed));
   }
 }
 
@@ -82,12 +79,10 @@ void findMisspelt(const Translation& translation, Findings& findings) {
   const AllowedNames allowed(translation.english);
   std::set<std::string_view> inEnglish;
   for (const PlaceholderUse& use : placeholderUses(translation.english.text)) inEnglish.insert(use.spelled);
-  TextPlaces places(translation.entry);
   for (const PlaceholderUse& use : placeholderUses(translation.entry.text)) {
     if (inEnglish.contains(use.spelled) || !isMisspelt(use, allowed)) continue;
-    findings.add(translation.entry, places.at(use.offset),
-                 fmt::format("\"{}\" is not a placeholder, so users see it as it is; {}",
-                             escaped(use.spelled), fixFor(use.name, allowed)));
+    findings.add(translation.entry, use.offset, "\"{}\" is not a placeholder, so users see it as it is; {}",
+                 escaped(use.spelled), fixFor(use.name, allowed));
   }
 }
 
@@ -107,9 +102,9 @@ void findUnused(const Translation& translation, Findings& findings) {
   for (const std::string_view name : placeholderNames(english.text)) {
     if (used.contains(name) || name == dispensable) continue;
     findings.add(translation.entry,
-                 fmt::format("the placeholder \"%{{{}}}\" of the English text is missing; write it where its "
-                             "value belongs",
-                             name));
+                 "the placeholder \"%{{{}}}\" of the English text is missing; write it where its "
+                 "value belongs",
+                 name);
   }
 }
 
@@ -130,11 +125,10 @@ void findRepeated(const Translation& translation, Findings& findings) {
   for (const auto& [name, count] : countsIn(translation.entry.text)) {
     const auto most = allowed.find(name);
     if (most == allowed.end() || count <= most->second) continue;
-    findings.add(
-        translation.entry,
-        fmt::format("the placeholder \"%{{{}}}\" is in the text {} times and in the English one {}; write "
-                    "it as often",
-                    name, count, most->second == 1 ? "once" : fmt::format("{} times", most->second)));
+    findings.add(translation.entry,
+                 "the placeholder \"%{{{}}}\" is in the text {} times and in the English one {}; write "
+                 "it as often",
+                 name, count, most->second == 1 ? "once" : fmt::format("{} times", most->second));
   }
 }
 
@@ -144,9 +138,10 @@ void findRepeated(const Translation& translation, Findings& findings) {
 void findOtherEnglish(const Translation& translation, Findings& findings) {
   const EnglishText& english = translation.english;
   if (translation.language != kBase || translation.entry.text == english.text) return;
-  findings.add(translation.entry, fmt::format("the catalogue has \"{}\" here; run zkstrings generate, or "
-                                              "zkstrings change {} to change the English text",
-                                              escaped(english.text), english.entry->key));
+  findings.add(translation.entry,
+               "the catalogue has \"{}\" here; run zkstrings generate, or zkstrings change {} to change the "
+               "English text",
+               escaped(english.text), english.entry->key);
 }
 
 void findMarks(const Translation& translation, Findings& findings) {
@@ -162,12 +157,11 @@ void findMarks(const Translation& translation, Findings& findings) {
     const std::size_t here = countOf(translation.entry.text, opening);
     const std::size_t english = countOf(translation.english.text, opening);
     if (here < english) {
-      findings.add(translation.entry,
-                   fmt::format("there are fewer {} than in the English text; mark the same parts", name));
+      findings.add(translation.entry, "there are fewer {} than in the English text; mark the same parts",
+                   name);
     } else if (here > 0 && english == 0) {
-      findings.add(
-          translation.entry,
-          fmt::format("the English text has no {}, and users may see them as they are; remove them", name));
+      findings.add(translation.entry,
+                   "the English text has no {}, and users may see them as they are; remove them", name);
     }
   }
 }
@@ -177,8 +171,7 @@ void findLineBreaks(const Translation& translation, Findings& findings) {
   const std::size_t english = countOf(translation.english.text, "\n");
   if (here == english) return;
   findings.add(translation.entry,
-               fmt::format("the number of line breaks (\\n) is {}, in the English text {}; write as many",
-                           here, english));
+               "the number of line breaks (\\n) is {}, in the English text {}; write as many", here, english);
 }
 
 void findOuterSpace(const Translation& translation, Findings& findings) {
@@ -186,11 +179,10 @@ void findOuterSpace(const Translation& translation, Findings& findings) {
   const OuterSpace english = outerSpace(translation.english.text);
   if (here == english) return;
   const bool isLeading = here.leading != english.leading;
-  findings.add(translation.entry,
-               fmt::format("the white space {} is \"{}\" but \"{}\" in the English text; write the same",
-                           isLeading ? "before the text" : "after the text",
-                           escaped(isLeading ? here.leading : here.trailing),
-                           escaped(isLeading ? english.leading : english.trailing)));
+  findings.add(
+      translation.entry, "the white space {} is \"{}\" but \"{}\" in the English text; write the same",
+      isLeading ? "before the text" : "after the text", escaped(isLeading ? here.leading : here.trailing),
+      escaped(isLeading ? english.leading : english.trailing));
 }
 
 void findEndPunctuation(const Translation& translation, Findings& findings) {
@@ -199,9 +191,8 @@ void findEndPunctuation(const Translation& translation, Findings& findings) {
   const bool isStop = english == Ending::stop || english == Ending::question;
   const bool mayBeBare = isStop && !translation.glossary.styleOf(translation.language).sentenceStops;
   if (here == english || (mayBeBare && here == Ending::none)) return;
-  findings.add(translation.entry,
-               fmt::format("the text ends with {}, the English text with {}; write the same", nameOf(here),
-                           nameOf(english)));
+  findings.add(translation.entry, "the text ends with {}, the English text with {}; write the same",
+               nameOf(here), nameOf(english));
 }
 
 /// Whether a plural form may write its number as a word.
@@ -217,8 +208,8 @@ void findDigits(const Translation& translation, Findings& findings) {
                             : here == english;
   if (areRight) return;
   findings.add(translation.entry,
-               fmt::format("the numbers in the text are \"{}\" but \"{}\" in the English one; write the same",
-                           fmt::join(here, " "), fmt::join(english, " ")));
+               "the numbers in the text are \"{}\" but \"{}\" in the English one; write the same",
+               fmt::join(here, " "), fmt::join(english, " "));
 }
 
 // Length
@@ -232,9 +223,8 @@ void findSameText(const Translation& translation, Findings& findings) {
   if (text != translation.english.text || translation.english.settings->isSameEverywhere(text)) return;
   const TranslationState state = stateOf(translation.language, &translation.entry, translation.english);
   if (state == TranslationState::untranslated) return;
-  findings.add(
-      translation.entry,
-      fmt::format("\"{}\" is the English text; translate it unless the word is the same", escaped(text)));
+  findings.add(translation.entry, "\"{}\" is the English text; translate it unless the word is the same",
+               escaped(text));
 }
 
 void findLongText(const Translation& translation, Findings& findings) {
@@ -242,18 +232,16 @@ void findLongText(const Translation& translation, Findings& findings) {
   const std::size_t english = lengthOf(withoutPlaceholders(translation.english.text));
   const std::size_t times = english <= kLongestShort ? kTimesForShort : kTimesForLong;
   if (here <= english * times) return;
-  findings.add(
-      translation.entry,
-      fmt::format("the text has {} characters, the English one {}; shorten it, or make sure that it fits",
-                  here, english));
+  findings.add(translation.entry,
+               "the text has {} characters, the English one {}; shorten it, or make sure that it fits", here,
+               english);
 }
 
 void findTooLong(const Translation& translation, Findings& findings) {
   const std::size_t max = translation.english.entry->max;
   const std::size_t here = charactersIn(withoutPlaceholders(translation.entry.text));
   if (max == 0 || here <= max) return;
-  findings.add(translation.entry,
-               fmt::format("the text has {} characters, but only {} fit; shorten it", here, max));
+  findings.add(translation.entry, "the text has {} characters, but only {} fit; shorten it", here, max);
 }
 
 /// `find` for translations, not for the English table.
