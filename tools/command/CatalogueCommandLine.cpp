@@ -7,14 +7,10 @@
 #include <ZKStrings/tools/support/Characters.h>
 #include <ZKStrings/tools/support/Terminal.h>
 
-#include <charconv>
 #include <cstddef>
 #include <filesystem>
-#include <memory>
 #include <string>
 #include <string_view>
-#include <system_error>
-#include <utility>
 #include <vector>
 
 #include <CLI/CLI.hpp>
@@ -51,157 +47,115 @@ void addForms(CLI::App& command, PluralForms& forms) {
 }
 
 void addInitCommand(CLI::App& app) {
-  struct Arguments {
-    std::string directory;
-    CatalogueName name{"", ""};
-  };
-  const auto arguments = std::make_shared<Arguments>();
-  auto* const command = app.add_subcommand("init", "Create a new catalogue");
-  command->add_option("directory", arguments->directory, "The catalogue's folder; created if needed")
-      ->required();
-  command->add_option("--name", arguments->name.name, "The class of the accessors, such as Texts")
-      ->required();
-  command->add_option("--namespace", arguments->name.nameSpace,
-                      "The namespace of that class (default: none)");
-  command->footer("Example: zkstrings init texts --name Texts --namespace myapp");
-  command->callback([arguments] {
-    initCatalogue(arguments->directory, arguments->name);
-    const std::string& directory = arguments->directory;
-    say("Wrote {}; {} explains the next steps.\n", directory,
-        (std::filesystem::path(directory) / "README.md").string());
+  static std::string directory;
+  static CatalogueName name{"", ""};
+  CLI::App& command =
+      addCommand(app, "init", "Create a new catalogue", "init texts --name Texts --namespace myapp");
+  command.add_option("directory", directory, "The catalogue's folder; created if needed")->required();
+  command.add_option("--name", name.name, "The class of the accessors, such as Texts")->required();
+  command.add_option("--namespace", name.nameSpace, "The namespace of that class (default: none)");
+  command.callback([] {
+    initCatalogue(directory, name);
+    const std::string readme = (std::filesystem::path(directory) / "README.md").string();
+    say("Wrote {}; {} explains the next steps.\n", directory, readme);
   });
 }
 
 void addGenerateCommand(CLI::App& app, const RootFinder& inRoot) {
-  const auto output = std::make_shared<std::string>();
-  auto* const command = app.add_subcommand("generate", "Regenerate the accessors and the English table");
-  command->add_option("--output", *output, "Write only the accessors, to this folder")->type_name("DIR");
-  command->footer("Example: zkstrings generate");
-  command->callback([inRoot, output] {
-    if (!output->empty()) return generateInto(*output, inRoot());
+  static std::string output;
+  CLI::App& command =
+      addCommand(app, "generate", "Regenerate the accessors and the English table", "generate");
+  command.add_option("--output", output, "Write only the accessors, to this folder")->type_name("DIR");
+  command.callback([inRoot] {
+    if (!output.empty()) return generateInto(output, inRoot());
     if (const std::size_t marked = generate(inRoot()); marked > 0) say("{}.\n", markedForReview(marked));
   });
 }
 
 void addKeyCommand(CLI::App& app) {
-  const auto text = std::make_shared<std::string>();
-  auto* const command = app.add_subcommand("key", "Print the key derived from a text");
-  command->add_option("text", *text, "The English text; \\n is a line break")->required();
-  command->footer("Example: zkstrings key 'Kick %{username}?'");
-  command->callback([text] { say("{}\n", keyOf(withLineBreaks(*text))); });
+  static std::string text;
+  CLI::App& command = addCommand(app, "key", "Print the key derived from a text", "key 'Kick %{username}?'");
+  command.add_option("text", text, "The English text; \\n is a line break")->required();
+  command.callback([] { say("{}\n", keyOf(withLineBreaks(text))); });
 }
 
 void addAddCommand(CLI::App& app, const RootFinder& inRoot) {
-  const auto entry = std::make_shared<Entry>();
-  const auto isPlain = std::make_shared<bool>(false);
-  auto* const command = app.add_subcommand("add", "Add a text and its accessor");
-  command->add_option("text", entry->text, "The English text; %{name} is a placeholder, \\n a line break")
+  static Entry entry;
+  static bool isPlain = false;
+  CLI::App& command = addCommand(app, "add", "Add a text and its accessor",
+                                 "add --count '%{gifts} gifts' --one '%{gifts} gift'");
+  command.add_option("text", entry.text, "The English text; %{name} is a placeholder, \\n a line break")
       ->required();
-  command->add_flag("--count", entry->plural, "The text has plural forms; needs at least --one");
-  addForms(*command, entry->forms);
-  command->add_option("--key", entry->key, "The key (default: derived from the text)");
-  command->add_option("--comment", entry->comment, "What translators need to know about the text");
-  command->add_option("--max", entry->max, "The maximum number of characters")
-      ->check(isNumberUpTo(kMostCharacters));
-  command->add_flag("--plain", *isPlain, kPlainHelp);
-  command->footer("Example: zkstrings add --count '%{gifts} gifts' --one '%{gifts} gift'");
-  command->callback([entry, isPlain, inRoot] {
-    entry->text = withLineBreaks(entry->text);
-    say("Added {}.\n", addEntry(inRoot(), *entry, *isPlain));
+  command.add_flag("--count", entry.plural, "The text has plural forms; needs at least --one");
+  addForms(command, entry.forms);
+  command.add_option("--key", entry.key, "The key (default: derived from the text)");
+  command.add_option("--comment", entry.comment, "What translators need to know about the text");
+  command.add_option("--max", entry.max, "The maximum number of characters")
+      ->check(CLI::Range(0, kMostCharacters).description(""));
+  command.add_flag("--plain", isPlain, kPlainHelp);
+  command.callback([inRoot] {
+    entry.text = withLineBreaks(entry.text);
+    say("Added {}.\n", addEntry(inRoot(), entry, isPlain));
   });
 }
 
 void addChangeCommand(CLI::App& app, const RootFinder& inRoot) {
-  const auto key = std::make_shared<std::string>();
-  const auto change = std::make_shared<EntryChange>();
-  auto* const command = app.add_subcommand("change", "Change a text, but not its key");
-  command->add_option("key", *key, "The text's key")->required()->type_name("KEY");
-  auto* const text = command->add_option("text", change->text, "The new English text; \\n is a line break");
-  command->add_flag("--same-meaning", change->keepsMeaning, "Do not mark translations for review")
-      ->needs(text);
-  addForms(*command, change->forms);
-  command->add_flag("--count", change->plural, "Add plural forms; needs at least --one");
-  command->add_option("--placeholder", change->placeholder, "Rename a placeholder in all tables")
+  static std::string key;
+  static EntryChange change;
+  CLI::App& command = addCommand(app, "change", "Change a text, but not its key", "change About 'About us'");
+  command.add_option("key", key, "The text's key")->required()->type_name("KEY");
+  auto* const text = command.add_option("text", change.text, "The new English text; \\n is a line break");
+  command.add_flag("--same-meaning", change.keepsMeaning, "Do not mark translations for review")->needs(text);
+  addForms(command, change.forms);
+  command.add_flag("--count", change.plural, "Add plural forms; needs at least --one");
+  command.add_option("--placeholder", change.placeholder, "Rename a placeholder in all tables")
       ->type_name("OLD=NEW")
       ->excludes(text);
-  command->add_option("--comment", change->comment, "What translators need to know; '' removes the comment");
-  command->add_option("--max", change->max, "The maximum number of characters; 0 removes the limit")
-      ->check(isNumberUpTo(kMostCharacters));
-  command->add_flag("--plain", change->isPlain, kPlainHelp);
-  command->footer("Example: zkstrings change About 'About us'");
-  command->callback([key, change, command, inRoot] {
-    if (command->count_all() < 3) throw CLI::RequiredError("A new text or an option");
-    if (change->text) change->text = withLineBreaks(*change->text);
-    const std::size_t marked = changeEntry(inRoot(), *key, *change);
-    say("Changed {}.{}\n", *key, marked > 0 ? fmt::format(" {}.", markedForReview(marked)) : "");
+  command.add_option("--comment", change.comment, "What translators need to know; '' removes the comment");
+  command.add_option("--max", change.max, "The maximum number of characters; 0 removes the limit")
+      ->check(CLI::Range(0, kMostCharacters).description(""));
+  command.add_flag("--plain", change.isPlain, kPlainHelp);
+  command.callback([&command, inRoot] {
+    if (command.count_all() < 3) throw CLI::RequiredError("A new text or an option");
+    if (change.text) change.text = withLineBreaks(*change.text);
+    const std::size_t marked = changeEntry(inRoot(), key, change);
+    say("Changed {}.{}\n", key, marked > 0 ? fmt::format(" {}.", markedForReview(marked)) : "");
   });
 }
 
 void addRenameCommand(CLI::App& app, const RootFinder& inRoot) {
-  const auto keys = std::make_shared<std::pair<std::string, std::string>>();
-  auto* const command = app.add_subcommand("rename", "Change the key of a text in all tables");
-  command->add_option("key", keys->first, "The text's key")->required()->type_name("KEY");
-  command->add_option("new_key", keys->second, "The new key")->required()->type_name("NEW_KEY");
-  command->footer("Example: zkstrings rename About About_the_app");
-  command->callback([keys, inRoot] {
-    renameEntry(inRoot(), keys->first, keys->second);
-    say("Renamed {} to {}.\n", keys->first, keys->second);
+  static std::string key;
+  static std::string newKey;
+  CLI::App& command =
+      addCommand(app, "rename", "Change the key of a text in all tables", "rename About About_the_app");
+  command.add_option("key", key, "The text's key")->required()->type_name("KEY");
+  command.add_option("new_key", newKey, "The new key")->required()->type_name("NEW_KEY");
+  command.callback([inRoot] {
+    renameEntry(inRoot(), key, newKey);
+    say("Renamed {} to {}.\n", key, newKey);
   });
 }
 
 void addRemoveCommand(CLI::App& app, const RootFinder& inRoot) {
-  const auto key = std::make_shared<std::string>();
-  auto* const command = app.add_subcommand("remove", "Remove a text and its translations");
-  command->add_option("key", *key, "The text's key")->required()->type_name("KEY");
-  command->footer("Example: zkstrings remove Out_of_date");
-  command->callback([key, inRoot] {
-    removeEntry(inRoot(), *key);
-    say("Removed {}.\n", *key);
+  static std::string key;
+  CLI::App& command = addCommand(app, "remove", "Remove a text and its translations", "remove Out_of_date");
+  command.add_option("key", key, "The text's key")->required()->type_name("KEY");
+  command.callback([inRoot] {
+    removeEntry(inRoot(), key);
+    say("Removed {}.\n", key);
   });
 }
 
-}  // namespace
-
-CLI::Validator isNumberUpTo(int most) {
-  const auto refusal = [most](const std::string& value) -> std::string {
-    int number = -1;
-    const auto [end, error] = std::from_chars(value.data(), value.data() + value.size(), number);
-    const bool isNumber = error == std::errc() && end == value.data() + value.size();
-    if (isNumber && number >= 0 && number <= most) return "";
-    return fmt::format("\"{}\" is not a whole number from 0 to {}", value, most);
-  };
-  return {refusal, ""};
-}
-
-void addSourcesOption(CLI::App& command, std::vector<std::string>& directories) {
-  command
-      .add_option("--sources", directories,
-                  "Show where the sources in this folder use each text; can be repeated")
-      ->allow_extra_args(false)
-      ->type_name("DIR");
-}
-
-void addCatalogueCommands(CLI::App& app, const RootFinder& inRoot) {
-  addInitCommand(app);
-  addGenerateCommand(app, inRoot);
-  addKeyCommand(app);
-  addAddCommand(app, inRoot);
-  addChangeCommand(app, inRoot);
-  addRenameCommand(app, inRoot);
-  addRemoveCommand(app, inRoot);
-}
-
 void addUnusedCommand(CLI::App& app, const RootFinder& inRoot) {
-  const auto directories = std::make_shared<std::vector<std::string>>();
-  auto* const command = app.add_subcommand("unused", "List the texts that no source file uses");
-  command->add_option("directories", *directories, "The folders of the program's sources")
+  static std::vector<std::string> directories;
+  CLI::App& command = addCommand(app, "unused", "List the texts that no source file uses", "unused src");
+  command.add_option("directories", directories, "The folders of the program's sources")
       ->required()
       ->type_name("DIR");
-  command->footer("Example: zkstrings unused src");
-  command->callback([directories, inRoot] {
+  command.callback([inRoot] {
     const std::string root = inRoot();
     const Catalogue catalogue = Catalogue::read(root);
-    const Uses uses(*directories, catalogue);
+    const Uses uses(directories, catalogue);
     Diagnostics unused;
     for (const Entry& entry : catalogue.entries()) {
       if (uses.of(entry).empty())
@@ -211,6 +165,19 @@ void addUnusedCommand(CLI::App& app, const RootFinder& inRoot) {
     }
     print(stdout, fromWorkingDirectory(unused, root));
   });
+}
+
+}  // namespace
+
+void addCatalogueCommands(CLI::App& app, const RootFinder& inRoot, const RootFinder& aloneInRoot) {
+  addInitCommand(app);
+  addGenerateCommand(app, aloneInRoot);
+  addKeyCommand(app);
+  addAddCommand(app, aloneInRoot);
+  addChangeCommand(app, aloneInRoot);
+  addRenameCommand(app, aloneInRoot);
+  addRemoveCommand(app, aloneInRoot);
+  addUnusedCommand(app, inRoot);
 }
 
 }  // namespace zk::tools

@@ -2,6 +2,8 @@
 #include <ZKStrings/tools/exchange/ExchangeFormat.h>
 #include <ZKStrings/tools/exchange/Export.h>
 #include <ZKStrings/tools/exchange/Import.h>
+#include <ZKStrings/tools/layout/PseudoLocales.h>
+#include <ZKStrings/tools/page/Page.h>
 #include <ZKStrings/tools/project/Table.h>
 #include <ZKStrings/tools/support/Files.h>
 #include <ZKStrings/tools/support/Languages.h>
@@ -10,7 +12,6 @@
 #include <cstddef>
 #include <cstdio>
 #include <filesystem>
-#include <memory>
 #include <string>
 #include <utility>
 #include <vector>
@@ -22,6 +23,18 @@
 namespace zk::tools {
 
 namespace {
+
+constexpr const char* kPage = "build/texts.html";
+constexpr const char* kPseudoResources = "build/pseudo/share/ZKStrings";
+
+/// Adds the option --sources, the folders in which a subcommand searches for the places that use a text.
+void addSourcesOption(CLI::App& command, std::vector<std::string>& directories) {
+  command
+      .add_option("--sources", directories,
+                  "Show where the sources in this folder use each text; can be repeated")
+      ->allow_extra_args(false)
+      ->type_name("DIR");
+}
 
 struct ExportArguments {
   std::string language;
@@ -95,48 +108,87 @@ void runImport(const std::string& root, const ImportArguments& arguments) {
   if (done.refused > 0) throw CommandFailed{};
 }
 
-}  // namespace
-
 void addExportCommand(CLI::App& app, const RootFinder& inRoot) {
-  const auto arguments = std::make_shared<ExportArguments>();
-  auto* const command = app.add_subcommand("export", "Write a language's texts for a translation program");
-  command->add_option("language", arguments->language, "The language: its code, name or table")
+  static ExportArguments arguments;
+  CLI::App& command = addCommand(app, "export", "Write a language's texts for a translation program",
+                                 "export de --missing -o de.xlf");
+  command.add_option("language", arguments.language, "The language: its code, name or table")
       ->required()
       ->type_name("LANGUAGE");
-  command->add_option("-o,--output", arguments->file, "The file to write (default: standard output)")
+  command.add_option("-o,--output", arguments.file, "The file to write (default: standard output)")
       ->type_name("FILE");
   command
-      ->add_option("--format", arguments->format, "xliff, po or csv (default: from the file name, or xliff)")
+      .add_option("--format", arguments.format, "xliff, po or csv (default: from the file name, or xliff)")
       ->check(CLI::IsMember({"xliff", "po", "csv"}))
       ->type_name("FORMAT");
   command
-      ->add_option("--xliff", arguments->xliff,
-                   "The XLIFF version: 1.2, which all programs read, or 2.0 (default: 1.2)")
+      .add_option("--xliff", arguments.xliff,
+                  "The XLIFF version: 1.2, which all programs read, or 2.0 (default: 1.2)")
       ->check(CLI::IsMember({"1.2", "2.0"}))
       ->type_name("VERSION");
-  command->add_flag("--missing", arguments->onlyOpen,
-                    "Export only texts that are not translated or need review");
-  addSourcesOption(*command, arguments->sources);
-  command->footer("Example: zkstrings export de --missing -o de.xlf");
-  command->callback([arguments, inRoot] { runExport(inRoot(), *arguments); });
+  command.add_flag("--missing", arguments.onlyOpen,
+                   "Export only texts that are not translated or need review");
+  addSourcesOption(command, arguments.sources);
+  command.callback([inRoot] { runExport(inRoot(), arguments); });
 }
 
 void addImportCommand(CLI::App& app, const RootFinder& inRoot) {
-  const auto arguments = std::make_shared<ImportArguments>();
-  auto* const command = app.add_subcommand("import", "Import a translated XLIFF, PO or CSV file");
-  command->add_option("file", arguments->file, "The file, as the translation program saved it")->required();
-  command->add_option("--language", arguments->language, "The language (default: from the file)")
+  static ImportArguments arguments;
+  CLI::App& command = addCommand(app, "import", "Import a translated XLIFF, PO or CSV file", "import de.xlf");
+  command.add_option("file", arguments.file, "The file, as the translation program saved it")->required();
+  command.add_option("--language", arguments.language, "The language (default: from the file)")
       ->type_name("LANGUAGE");
-  command->add_flag(
-      "--force", arguments->force,
+  command.add_flag(
+      "--force", arguments.force,
       "Import texts that have changed since the export, and mark them for review if the English text "
       "has changed");
-  command->add_flag("--quiet", arguments->quiet, "Print only warnings and counts");
-  command->footer("Example: zkstrings import de.xlf");
-  command->callback([arguments, inRoot] {
-    arguments->file = std::filesystem::current_path() / arguments->file;
-    runImport(inRoot(), *arguments);
+  command.add_flag("--quiet", arguments.quiet, "Print only warnings and counts");
+  command.callback([inRoot] {
+    arguments.file = std::filesystem::current_path() / arguments.file;
+    runImport(inRoot(), arguments);
   });
+}
+
+void addPageCommand(CLI::App& app, const RootFinder& inRoot) {
+  static std::string file;
+  static std::vector<std::string> sources;
+  CLI::App& command =
+      addCommand(app, "page", "Write an HTML page of all texts in all languages", "page -o texts.html");
+  command.add_option("-o,--output", file, "The HTML file (default: build/texts.html)")->type_name("FILE");
+  addSourcesOption(command, sources);
+  command.callback([inRoot] {
+    const std::string root = inRoot();
+    const std::string page = pageOf(root, sources);
+    writeFile(file.empty() ? root : "",
+              file.empty() ? kPage : (std::filesystem::current_path() / file).string(), page);
+    say("Wrote {}. Open it in a browser.\n", file.empty() ? root + "/" + kPage : file);
+  });
+}
+
+void addPseudoCommand(CLI::App& app, const RootFinder& inRoot) {
+  static std::string directory;
+  CLI::App& command =
+      addCommand(app, "pseudo", "Write the pseudo-locales xa (longer), xb (right to left) and xk (keys)",
+                 "pseudo -o build/share/ZKStrings");
+  command
+      .add_option("-o,--output", directory,
+                  "The app's share/ZKStrings folder (default: build/pseudo/share/ZKStrings)")
+      ->type_name("DIR");
+  command.callback([inRoot] {
+    const std::string root = inRoot();
+    if (directory.empty()) directory = pathInProject(root, kPseudoResources);
+    writePseudoLocales(root, std::filesystem::current_path() / directory);
+    say("Wrote xa, xb and xk into {}. An app that prefers one of them shows it.\n", directory);
+  });
+}
+
+}  // namespace
+
+void addExchangeCommands(CLI::App& app, const RootFinder& inRoot, const RootFinder& aloneInRoot) {
+  addExportCommand(app, inRoot);
+  addImportCommand(app, aloneInRoot);
+  addPageCommand(app, inRoot);
+  addPseudoCommand(app, inRoot);
 }
 
 }  // namespace zk::tools

@@ -7,8 +7,8 @@
 #include <ZKStrings/tools/translation/TableUpdate.h>
 
 #include <algorithm>
+#include <cstddef>
 #include <cstdio>
-#include <memory>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -89,115 +89,107 @@ std::string summaryOf(const TableUpdate& update) {
   return done.empty() ? "refreshed comments" : fmt::format("{}", fmt::join(done, ", "));
 }
 
-}  // namespace
-
 void addCheckCommand(CLI::App& app, const RootFinder& inRoot) {
-  struct Arguments {
-    CheckOptions options;
-    std::string format;
-    bool isStrict = false;
-    bool isForRelease = false;
-    bool showsRules = false;
-  };
-  const auto arguments = std::make_shared<Arguments>();
-  auto* const command = app.add_subcommand("check", "Check the tables and the country list");
+  static CheckOptions options;
+  static std::string format;
+  static bool isStrict = false;
+  static bool isForRelease = false;
+  static bool showsRules = false;
+  CLI::App& command = addCommand(app, "check", "Check the tables and the country list", "check de --strict");
   command
-      ->add_option("languages", arguments->options.languages,
-                   "The languages to check: codes, names or tables (default: everything)")
+      .add_option("languages", options.languages,
+                  "The languages to check: codes, names or tables (default: everything)")
       ->type_name("LANGUAGE");
-  command->add_option("--off", arguments->options.off, "A rule to turn off; can be repeated")
+  command.add_option("--off", options.off, "A rule to turn off; can be repeated")
       ->allow_extra_args(false)
       ->check(CLI::Validator(errorInRuleName, ""))
       ->type_name("RULE");
-  command->add_flag("--strict", arguments->isStrict, "Fail on warnings too");
-  command->add_flag("--complete", arguments->isForRelease,
-                    "Fail on gaps too: missing, untranslated or outdated texts");
-  command->add_flag("--notes", arguments->options.notes,
-                    "Also print notes on texts that may be right but deserve a look");
-  command->add_flag("--rules", arguments->showsRules, "List the rules, and check nothing");
-  addFormat(*command, arguments->format);
-  command->footer("Example: zkstrings check de --strict");
-  command->callback([arguments, inRoot] {
-    if (arguments->showsRules) return printRules();
+  command.add_flag("--strict", isStrict, "Fail on warnings too");
+  command.add_flag("--complete", isForRelease, "Fail on gaps too: missing, untranslated or outdated texts");
+  command.add_flag("--notes", options.notes,
+                   "Also print notes on texts that may be right but deserve a look");
+  command.add_flag("--rules", showsRules, "List the rules, and check nothing");
+  addFormat(command, format);
+  command.callback([inRoot] {
+    if (showsRules) return printRules();
     const std::string root = inRoot();
-    for (std::string& language : arguments->options.languages) language = existingLanguage(root, language);
-    CheckResult result = check(root, arguments->options);
+    for (std::string& language : options.languages) language = existingLanguage(root, language);
+    CheckResult result = check(root, options);
     result.diagnostics = fromWorkingDirectory(std::move(result.diagnostics), root);
-    printResult(result, arguments->format);
-    const auto fails = [&](const Diagnostic& diagnostic) {
+    printResult(result, format);
+    const auto fails = [](const Diagnostic& diagnostic) {
       return diagnostic.severity == Severity::error ||
-             (diagnostic.severity == Severity::warning && arguments->isStrict) ||
-             (diagnostic.severity == Severity::gap && arguments->isForRelease);
+             (diagnostic.severity == Severity::warning && isStrict) ||
+             (diagnostic.severity == Severity::gap && isForRelease);
     };
     if (std::any_of(result.diagnostics.begin(), result.diagnostics.end(), fails)) throw CommandFailed{};
   });
 }
 
 void addCoverageCommand(CLI::App& app, const RootFinder& inRoot) {
-  struct Arguments {
-    std::string format;
-    std::size_t least = 0;
-  };
-  const auto arguments = std::make_shared<Arguments>();
-  auto* const command = app.add_subcommand("coverage", "Show translation progress per language");
-  command
-      ->add_option("--at-least", arguments->least,
-                   "Fail if less than N percent of a language's texts are translated")
-      ->check(isNumberUpTo(100))
+  static std::string format;
+  static std::size_t least = 0;
+  CLI::App& command =
+      addCommand(app, "coverage", "Show translation progress per language", "coverage --at-least 95");
+  command.add_option("--at-least", least, "Fail if less than N percent of a language's texts are translated")
+      ->check(CLI::Range(0, 100).description(""))
       ->type_name("N");
-  addFormat(*command, arguments->format);
-  command->footer("Example: zkstrings coverage --at-least 95");
-  command->callback([arguments, inRoot] {
+  addFormat(command, format);
+  command.callback([inRoot] {
     const std::vector<Coverage> languages = coverageOf(inRoot());
-    if (arguments->format == kJson) {
+    if (format == kJson) {
       fmt::print("{}\n", toJson(languages));
     } else {
       print(stdout, formatted(languages));
     }
-    const auto isBelow = [&](const Coverage& coverage) { return coverage.percent() < arguments->least; };
+    const auto isBelow = [](const Coverage& coverage) { return coverage.percent() < least; };
     if (std::any_of(languages.begin(), languages.end(), isBelow)) throw CommandFailed{};
   });
 }
 
 void addTemplateCommand(CLI::App& app, const RootFinder& inRoot) {
-  const auto language = std::make_shared<std::string>();
-  auto* const command = app.add_subcommand("template", "Create the table for a new language");
-  command->add_option("language", *language, "The language: its code or name")
+  static std::string language;
+  CLI::App& command = addCommand(app, "template", "Create the table for a new language", "template fi");
+  command.add_option("language", language, "The language: its code or name")
       ->required()
       ->type_name("NEW_LANGUAGE");
-  command->footer("Example: zkstrings template fi");
-  command->callback([language, inRoot] {
+  command.callback([inRoot] {
     // "swe" and "Swedish" mean "sv"; a region, as in "pt-BR", is refused.
-    if (const std::string code = languageCodeOf(*language);
-        !code.empty() && language->find_first_of("-_./@") == std::string::npos)
-      *language = code;
+    if (const std::string code = languageCodeOf(language);
+        !code.empty() && language.find_first_of("-_./@") == std::string::npos)
+      language = code;
     const std::string root = inRoot();
-    const std::size_t texts = writeTemplate(root, *language);
-    say("Wrote {} with {} texts to translate.\n", fromWorkingDirectory(tablePath(*language), root), texts);
+    const std::size_t texts = writeTemplate(root, language);
+    say("Wrote {} with {} texts to translate.\n", fromWorkingDirectory(tablePath(language), root), texts);
   });
 }
 
 void addUpdateCommand(CLI::App& app, const RootFinder& inRoot) {
-  struct Arguments {
-    std::string language;
-    bool prunes = false;
-  };
-  const auto arguments = std::make_shared<Arguments>();
-  auto* const command =
-      app.add_subcommand("update", "Add missing texts to a language's table and mark untranslated ones");
-  command->add_option("language", arguments->language, "The language: its code, name or table")
+  static std::string word;
+  static bool prunes = false;
+  CLI::App& command = addCommand(
+      app, "update", "Add missing texts to a language's table and mark untranslated ones", "update de");
+  command.add_option("language", word, "The language: its code, name or table")
       ->required()
       ->type_name("LANGUAGE");
-  command->add_flag("--prune", arguments->prunes, "Remove entries that nothing looks up");
-  command->footer("Example: zkstrings update de");
-  command->callback([arguments, inRoot] {
+  command.add_flag("--prune", prunes, "Remove entries that nothing looks up");
+  command.callback([inRoot] {
     const std::string root = inRoot();
-    const std::string language = existingLanguage(root, arguments->language);
-    const TableUpdate update = updateTable(root, language, arguments->prunes);
+    const std::string language = existingLanguage(root, word);
+    const TableUpdate update = updateTable(root, language, prunes);
     print(stdout, fromWorkingDirectory(update.notLookedUp, root));
     say("{}: {}\n", fromWorkingDirectory(tablePath(language), root),
         update.isChange ? summaryOf(update) : "up to date, nothing changed");
   });
+}
+
+}  // namespace
+
+void addTranslationCommands(CLI::App& app, const RootFinder& inRoot, const RootFinder& aloneInRoot) {
+  addCheckCommand(app, inRoot);
+  addCoverageCommand(app, inRoot);
+  addTemplateCommand(app, aloneInRoot);
+  addUpdateCommand(app, aloneInRoot);
 }
 
 }  // namespace zk::tools

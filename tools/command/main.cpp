@@ -91,16 +91,9 @@ int run(int argc, char** argv) {
     return root;
   };
 
-  addCatalogueCommands(app, aloneInRoot);
-  addCheckCommand(app, inRoot);
-  addCoverageCommand(app, inRoot);
-  addTemplateCommand(app, aloneInRoot);
-  addUpdateCommand(app, aloneInRoot);
-  addExportCommand(app, inRoot);
-  addImportCommand(app, aloneInRoot);
-  addUnusedCommand(app, inRoot);
-  addPageCommands(app, inRoot);
-  for (CLI::App* const command : app.get_subcommands({})) command->fallthrough();
+  addCatalogueCommands(app, inRoot, aloneInRoot);
+  addTranslationCommands(app, inRoot, aloneInRoot);
+  addExchangeCommands(app, inRoot, aloneInRoot);
 
   if (argc > 2 && argv[1] == std::string_view("reference")) {
     printReference(app, {argv + 2, argv + argc});
