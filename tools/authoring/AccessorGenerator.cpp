@@ -1,6 +1,6 @@
 #include <ZKStrings/tools/authoring/AccessorGenerator.h>
-#include <ZKStrings/tools/project/Identifiers.h>
 #include <ZKStrings/tools/project/Table.h>
+#include <ZKStrings/tools/texts/Placeholders.h>
 
 #include <cstddef>
 #include <string>

@@ -3,13 +3,13 @@
 #include <ZKStrings/tools/authoring/CatalogueFiles.h>
 #include <ZKStrings/tools/project/CatalogueSettings.h>
 #include <ZKStrings/tools/project/EnglishTexts.h>
-#include <ZKStrings/tools/project/EntryComments.h>
 #include <ZKStrings/tools/project/Table.h>
 #include <ZKStrings/tools/support/Diagnostic.h>
 #include <ZKStrings/tools/support/Files.h>
 #include <ZKStrings/tools/support/Languages.h>
 #include <ZKStrings/tools/translation/TableEditor.h>
 #include <ZKStrings/tools/translation/TableUpdate.h>
+#include <ZKStrings/tools/translation/TranslationState.h>
 
 #include <algorithm>
 #include <cstddef>

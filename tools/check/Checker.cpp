@@ -4,10 +4,10 @@
 #include <ZKStrings/tools/check/Rules.h>
 #include <ZKStrings/tools/project/Catalogue.h>
 #include <ZKStrings/tools/project/EnglishTexts.h>
-#include <ZKStrings/tools/project/EntryComments.h>
 #include <ZKStrings/tools/support/Languages.h>
 #include <ZKStrings/tools/support/Nearest.h>
 #include <ZKStrings/tools/texts/TextFeatures.h>
+#include <ZKStrings/tools/translation/TranslationState.h>
 
 #include <algorithm>
 #include <filesystem>

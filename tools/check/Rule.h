@@ -1,7 +1,6 @@
 #pragma once
 
 #include <ZKStrings/tools/project/Table.h>
-#include <ZKStrings/tools/project/TextPlaces.h>
 #include <ZKStrings/tools/support/Diagnostic.h>
 
 #include <cstddef>

@@ -2,11 +2,11 @@
 #include <ZKStrings/tools/exchange/Export.h>
 #include <ZKStrings/tools/project/Catalogue.h>
 #include <ZKStrings/tools/project/EnglishTexts.h>
-#include <ZKStrings/tools/project/EntryComments.h>
 #include <ZKStrings/tools/project/Table.h>
 #include <ZKStrings/tools/support/Characters.h>
 #include <ZKStrings/tools/support/Languages.h>
 #include <ZKStrings/tools/texts/TextPieces.h>
+#include <ZKStrings/tools/translation/TranslationState.h>
 
 #include <algorithm>
 #include <cstdint>

@@ -3,12 +3,11 @@
 #include <ZKStrings/tools/exchange/Import.h>
 #include <ZKStrings/tools/project/Catalogue.h>
 #include <ZKStrings/tools/project/EnglishTexts.h>
-#include <ZKStrings/tools/project/EntryComments.h>
 #include <ZKStrings/tools/support/Files.h>
 #include <ZKStrings/tools/support/Languages.h>
 #include <ZKStrings/tools/texts/TextFeatures.h>
 #include <ZKStrings/tools/translation/TableEditor.h>
-#include <ZKStrings/tools/translation/TableUpdate.h>
+#include <ZKStrings/tools/translation/TranslationState.h>
 
 #include <algorithm>
 #include <cstddef>

@@ -5,9 +5,9 @@
 #include <ZKStrings/tools/page/Page.h>
 #include <ZKStrings/tools/page/PageParts.h>
 #include <ZKStrings/tools/page/ShownTexts.h>
-#include <ZKStrings/tools/project/EntryComments.h>
 #include <ZKStrings/tools/support/Characters.h>
 #include <ZKStrings/tools/support/Languages.h>
+#include <ZKStrings/tools/texts/Placeholders.h>
 #include <ZKStrings/tools/texts/TextFeatures.h>
 #include <ZKStrings/tools/translation/TranslationState.h>
 

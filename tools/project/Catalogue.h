@@ -1,7 +1,6 @@
 #pragma once
 
 #include <ZKStrings/tools/project/CatalogueSettings.h>
-#include <ZKStrings/tools/texts/Placeholders.h>
 
 #include <array>
 #include <cstddef>

@@ -1,5 +1,6 @@
+#include <ZKStrings/catalogue/KeyRule.h>
 #include <ZKStrings/tools/project/CatalogueSettings.h>
-#include <ZKStrings/tools/project/Identifiers.h>
+#include <ZKStrings/tools/support/Characters.h>
 #include <ZKStrings/tools/support/Files.h>
 #include <ZKStrings/tools/support/Json.h>
 #include <ZKStrings/tools/texts/TextFeatures.h>
@@ -7,6 +8,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <filesystem>
+#include <iterator>
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -17,6 +19,40 @@
 namespace zk::tools {
 
 namespace {
+
+/// The words that cannot be the name of an accessor: reserved words, and two names that the module's class itself
+/// needs.
+constexpr std::string_view kReserved[] = {
+    "Text",     "ZKStrings", "alignas",  "alignof",   "and",     "and_eq",    "asm",      "auto",
+    "bitand",   "bitor",     "bool",     "break",     "case",    "catch",     "char",     "class",
+    "co_await", "co_return", "co_yield", "compl",     "concept", "const",     "continue", "decltype",
+    "default",  "delete",    "do",       "double",    "else",    "enum",      "explicit", "export",
+    "extern",   "false",     "float",    "for",       "friend",  "goto",      "if",       "inline",
+    "int",      "long",      "mutable",  "namespace", "new",     "noexcept",  "not",      "not_eq",
+    "nullptr",  "operator",  "or",       "or_eq",     "private", "protected", "public",   "register",
+    "requires", "return",    "short",    "signed",    "sizeof",  "static",    "struct",   "switch",
+    "template", "this",      "throw",    "true",      "try",     "typedef",   "typeid",   "typename",
+    "union",    "unsigned",  "using",    "virtual",   "void",    "volatile",  "while",    "xor",
+    "xor_eq"};
+
+bool isReserved(std::string_view name) {
+  return std::find(std::begin(kReserved), std::end(kReserved), name) != std::end(kReserved);
+}
+
+/// Whether `name` has letters, marks, digits and "_" alone, and no digit at its beginning.
+bool hasSignsOfNames(std::string_view name) {
+  if (name.empty() || (name.front() >= '0' && name.front() <= '9')) return false;
+  for (const CodePoint next : CodePoints(name)) {
+    if (next.bytes != "_" && !(next.value && isLetterMarkOrDigit(*next.value))) return false;
+  }
+  return true;
+}
+
+/// Whether `word` is an identifier of C++ with ASCII letters, digits and "_", and not a reserved word.
+bool isIdentifier(std::string_view word) {
+  const auto isAscii = [](char character) { return static_cast<signed char>(character) >= 0; };
+  return hasSignsOfNames(word) && std::all_of(word.begin(), word.end(), isAscii) && !isReserved(word);
+}
 
 bool isNamespace(std::string_view name) {
   for (std::size_t end = 0; end != name.npos;) {
@@ -78,6 +114,11 @@ std::size_t sizeOfName(const std::string& name, Words::const_iterator begin, Wor
 }
 
 }  // namespace
+
+std::string identifierFor(std::string_view name) {
+  const std::string spelled = hasSignsOfNames(name) ? std::string(name) : keyForText(name);
+  return isReserved(spelled) ? spelled + "_" : spelled;
+}
 
 std::string CatalogueName::error() const {
   if (isModule()) return "";

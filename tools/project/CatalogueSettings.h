@@ -12,6 +12,10 @@
 
 namespace zk::tools {
 
+/// Returns the name of the function or argument for `name`, a key or a placeholder. A reserved word of C++ gets an
+/// underscore, and other characters than letters and digits are replaced as in keys. Empty if there is no letter or digit.
+[[nodiscard]] std::string identifierFor(std::string_view name);
+
 /// The name of a catalogue: its accessors are functions of the class `nameSpace::name`, and its resources are in
 /// share/`name`. By default, it is the module's own catalogue.
 struct CatalogueName {

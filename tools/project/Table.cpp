@@ -70,23 +70,26 @@ TableEntry entryFrom(const StringTableReader& reader, std::string_view text, std
 /// The first place on each line where the bytes are not UTF-8.
 std::vector<Position> illFormedPlaces(std::string_view bytes) {
   std::vector<Position> places;
-  const std::vector<std::string_view> lines = linesOf(bytes);
-  for (std::size_t line = 0; line < lines.size(); ++line) {
-    std::size_t column = 1;
-    for (const CodePoint next : CodePoints(lines[line])) {
-      if (!next.value) {
-        places.push_back({line + 1, column});
-        break;
-      }
-      ++column;
-    }
+  PositionFinder positions(bytes);
+  std::size_t offset = 0;
+  for (const CodePoint next : CodePoints(bytes)) {
+    const Position at = positions.at(offset);
+    offset += next.bytes.size();
+    if (!next.value && (places.empty() || places.back().line != at.line)) places.push_back(at);
   }
   return places;
 }
 
-bool isMarkedUtf16Or32(std::string_view bytes) {
-  return bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF") ||
-         bytes.starts_with(std::string_view("\0\0\xFE\xFF", 4));
+/// Returns the size in bytes of the text that is spelled as `spelled`.
+std::size_t textSize(std::string_view spelled) {
+  std::string text(spelled);
+  return unescape(text.data(), text.size());
+}
+
+/// Returns where the next escape after `begin` begins, or the end.
+std::size_t nextEscape(std::string_view spelled, std::size_t begin) {
+  const bool isEscape = spelled.substr(begin).starts_with('\\');
+  return std::min(spelled.find('\\', begin + (isEscape ? 2 : 0)), spelled.size());
 }
 
 }  // namespace
@@ -116,11 +119,6 @@ Table Table::parse(std::string bytes, std::string file) {
     table.diagnostics.push_back({Severity::error, table.file, at.line, at.column, rule, std::move(message)});
   };
   std::optional<std::string> text = decodedText(bytes, UnmarkedText::isUtf8);
-  if (!text && isMarkedUtf16Or32(bytes)) {
-    fail({1, 1}, kEncoding,
-         "the bytes are not text in the encoding that the file's mark declares; save the file as UTF-8");
-    return table;
-  }
   if (!text) {
     if (bytes.starts_with(kByteOrderMark)) bytes.erase(0, kByteOrderMark.size());
     for (const Position at : illFormedPlaces(bytes))
@@ -160,6 +158,29 @@ const TableEntry* Table::entryAt(Position position) const {
   });
   if (next != entries.begin() && std::prev(next)->lastLine >= position.line) return &*std::prev(next);
   return next == entries.end() ? nullptr : &*next;
+}
+
+TextPlaces::TextPlaces(const TableEntry& entry)
+    : spelled_(entry.spelled), positions_(spelled_, entry.textAt) {
+}
+
+void TextPlaces::readOn() {
+  const std::size_t begin = piece_.end;
+  const std::size_t end = nextEscape(spelled_, begin);
+  const std::size_t endOfTwo = nextEscape(spelled_, end);
+  const std::size_t size = textSize(spelled_.substr(begin, end - begin));
+  const std::size_t sizeOfTwo = textSize(spelled_.substr(begin, endOfTwo - begin));
+  // Two escapes that together spell fewer bytes than each by itself are one character, a surrogate pair.
+  const bool isPair = sizeOfTwo < size + textSize(spelled_.substr(end, endOfTwo - end));
+  piece_ = {begin, isPair ? endOfTwo : end};
+  text_ = {text_.end, text_.end + (isPair ? sizeOfTwo : size)};
+}
+
+Position TextPlaces::at(std::size_t offset) {
+  while (text_.end <= offset && piece_.end < spelled_.size()) readOn();
+  // Only an escape has another size than the character that it spells, and it is at the beginning.
+  const std::size_t bytesAfter = text_.end - std::min(offset, text_.end);
+  return positions_.at(offset <= text_.begin ? piece_.begin : piece_.end - bytesAfter);
 }
 
 std::size_t endOfLine(std::string_view text, const TableEntry& entry) {

@@ -69,6 +69,24 @@ struct Table {
   [[nodiscard]] const TableEntry* entryAt(Position position) const;
 };
 
+/// Finds the places in the file of the characters of an entry's text, and reads the text only once.
+class TextPlaces {
+ public:
+  /// `entry` must outlive the places.
+  explicit TextPlaces(const TableEntry& entry);
+  /// The place of the character at the byte `offset` of the text; of the text's end for an offset beyond it.
+  /// Offsets must be queried in rising order.
+  [[nodiscard]] Position at(std::size_t offset);
+
+ private:
+  void readOn();
+
+  std::string_view spelled_;
+  PositionFinder positions_;
+  TableEntry::Span piece_ = {0, 0};  // of `spelled_`: an escape at most, and what follows it up to the next
+  TableEntry::Span text_ = {0, 0};   // the part of the text that the piece spells
+};
+
 /// Returns where the last line of `entry` in the table's `text` ends, with its line break. Comments on the rest of the
 /// line belong to `entry`. If another entry follows on the line, returns the end of `entry`.
 [[nodiscard]] std::size_t endOfLine(std::string_view text, const TableEntry& entry);

@@ -1,4 +1,3 @@
-#include <ZKStrings/tools/project/EntryComments.h>
 #include <ZKStrings/tools/support/Files.h>
 #include <ZKStrings/tools/support/Languages.h>
 #include <ZKStrings/tools/translation/TableUpdate.h>
@@ -13,10 +12,8 @@
 #include <string_view>
 #include <system_error>
 #include <utility>
-#include <vector>
 
 #include <fmt/format.h>
-#include <fmt/ranges.h>
 
 namespace zk::tools {
 
@@ -54,18 +51,6 @@ void updateUnknown(const TableEntry& entry, bool prunes, TableEditor& editor, Ta
 }
 
 }  // namespace
-
-std::string explanationOf(const EnglishText& english) {
-  std::string about = fmt::format("/* {} {}", kExplanation, quotedForComment(english.text));
-  const std::vector<std::string_view> names = english.placeholders();
-  if (!names.empty()) about += fmt::format("; placeholders: %{{{}}}", fmt::join(names, "}, %{"));
-  return about + " */";
-}
-
-std::string contextOf(const EnglishText& english) {
-  const std::string context = english.entry->context();
-  return context.empty() ? "" : fmt::format("/* {} {} */", kContext, context);
-}
 
 std::size_t writeTemplate(const std::string& root, const std::string& language) {
   if (language.empty()) throw std::invalid_argument("the language is empty; give its ISO 639-1 code");

@@ -11,12 +11,6 @@
 
 namespace zk::tools {
 
-/// The comment that explains a text to its translators: the English text and its placeholders.
-[[nodiscard]] std::string explanationOf(const EnglishText& english);
-
-/// The comment with the context of a text, or an empty text: `/* context: At most 14 characters. */`.
-[[nodiscard]] std::string contextOf(const EnglishText& english);
-
 /// Writes the table for a new language into the project at `root`, and returns the number of its texts: it has every key
 /// that the module looks up, in catalogue order, with the English text. Throws `CommandFailed`, and writes nothing, if the
 /// language has a table already, or if the catalogue is wrong; `std::invalid_argument` if the module would never choose the
