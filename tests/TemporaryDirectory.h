@@ -2,6 +2,7 @@
 
 #include <ZKStrings/platform/system/File.h>
 
+#include <cstddef>
 #include <filesystem>
 #include <fstream>
 #include <random>
@@ -33,6 +34,14 @@ class TemporaryDirectory {
     std::filesystem::create_directories(file.parent_path());
     std::ofstream(file, std::ios::binary) << bytes;
     return path;
+  }
+
+  /// The number of files in the directory and those below it.
+  [[nodiscard]] std::size_t files() const {
+    std::size_t files = 0;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(path_))
+      files += entry.is_regular_file() ? 1U : 0U;
+    return files;
   }
 
  private:

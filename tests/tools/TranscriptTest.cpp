@@ -21,7 +21,8 @@
 //   - "  [1]" is its status, if that is not 0.
 //   - Lines without an indent are remarks.
 // Each command runs in a new shell that has the functions of transcript.sh, in one copy of small-project/. $ZK_SHIPPED is
-// the root of the source tree. With ZK_RECORD in the environment, the test also records the transcripts again.
+// the root of the source tree. With ZK_RECORD in the environment, the test also records the transcripts again. With
+// ZK_COMMAND, it runs that program instead of the one that was built. Those in posix/ do not run under Wine.
 
 namespace {
 
@@ -60,13 +61,14 @@ std::string shownLine(std::string_view line) {
 
 /// The output and status of `command` as a transcript shows them.
 std::string shownAnswer(const std::string& folder, const std::string& command) {
-  setenv("ZK_COMMAND", ZK_COMMAND, 1);
+  setenv("ZK_COMMAND", ZK_COMMAND, 0);
   setenv("ZK_FOLDER", folder.c_str(), 1);
   setenv("ZK_SHIPPED", ZK_PROJECT_ROOT, 1);
   Answer answer = outputOf(
       "cd \"$ZK_FOLDER\" || exit; exec 2>&1; set -u; export LC_ALL=C; . "
       "\"$ZK_SHIPPED\"/tests/tools/transcript.sh\n" +
       command);
+  zk::replaceOccurrences(answer.output, "Z:" + folder, folder);  // as Wine shows it
   zk::replaceOccurrences(answer.output, folder, "$PWD");
   zk::replaceOccurrences(answer.output, "\r", "\\r");
   std::string shown;

@@ -1,4 +1,5 @@
 #include <ZKStrings/catalogue/KeyRule.h>
+#include <ZKStrings/platform/system/File.h>
 #include <ZKStrings/tools/authoring/AccessorGenerator.h>
 #include <ZKStrings/tools/authoring/CatalogueFiles.h>
 #include <ZKStrings/tools/project/CatalogueSettings.h>
@@ -13,10 +14,8 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <filesystem>
 #include <iterator>
 #include <string>
-#include <system_error>
 #include <utility>
 #include <vector>
 
@@ -112,10 +111,8 @@ std::size_t writeCatalogue(const std::string& root, const Catalogue& catalogue, 
   // texts.
   files.push_back({tablePath(kBase), syncedBase(base, english)});
   const CatalogueName& name = catalogue.settings().name;
-  std::error_code failure;
   // Another catalogue than the module's may leave its accessors to the build.
-  const bool keepsAccessors =
-      name.isModule() || std::filesystem::exists(std::filesystem::path(root) / name.headerFile(), failure);
+  const bool keepsAccessors = name.isModule() || pathExists(pathBelow(root, name.headerFile()));
   if (change.generates || keepsAccessors) {
     std::ranges::move(accessorFiles(catalogue), std::back_inserter(files));
   }
@@ -152,9 +149,8 @@ void generateInto(const std::string& output, const std::string& root) {
                      Catalogue::kFile));
   }
   std::vector<FileChange> files = accessorFiles(catalogue);
-  for (FileChange& file : files) {
-    file.path = std::filesystem::current_path() / output / std::filesystem::path(file.path).filename();
-  }
+  for (FileChange& file : files)
+    file.path = absolutePath(pathBelow(output, file.path.substr(file.path.rfind('/') + 1)));
   writeFiles("", files);
 }
 

@@ -6,10 +6,8 @@
 #include <ZKStrings/tools/support/Files.h>
 #include <ZKStrings/tools/support/Languages.h>
 
-#include <filesystem>
 #include <stdexcept>
 #include <string>
-#include <system_error>
 #include <vector>
 
 #include <fmt/format.h>
@@ -58,10 +56,9 @@ std::string readmeFor(const CatalogueName& name) {
 void refuseToReplace(const std::string& directory, const std::vector<FileChange>& files) {
   Diagnostics diagnostics;
   for (const FileChange& file : files) {
-    const std::filesystem::path path = std::filesystem::path(directory) / file.path;
-    std::error_code failure;
-    if (std::filesystem::exists(path, failure) && contentsOfFile(path) != file.bytes)
-      diagnostics.push_back({Severity::error, path.string(), 1, 1, "",
+    const std::string path = pathBelow(directory, file.path);
+    if (pathExists(path) && contentsOfFile(path) != file.bytes)
+      diagnostics.push_back({Severity::error, path, 1, 1, "",
                              "the file exists already; use another folder for a new catalogue"});
   }
   if (!diagnostics.empty()) throw CommandFailed{diagnostics};

@@ -1,3 +1,4 @@
+#include <ZKStrings/platform/system/File.h>
 #include <ZKStrings/tools/authoring/AccessorGenerator.h>
 #include <ZKStrings/tools/authoring/Uses.h>
 #include <ZKStrings/tools/support/Characters.h>
@@ -82,7 +83,7 @@ std::map<std::string, std::string> sourceFilesIn(const std::vector<std::string>&
   std::map<std::string, std::string> files;
   for (const std::string& directory : directories) {
     std::error_code failure;
-    fs::recursive_directory_iterator at(directory, failure);
+    fs::recursive_directory_iterator at(nativePath(directory), failure);
     if (failure)
       throw std::invalid_argument(fmt::format("the folder {} cannot be read; check its name", directory));
     for (const fs::recursive_directory_iterator end; !failure && at != end; at.increment(failure)) {
@@ -92,9 +93,9 @@ std::map<std::string, std::string> sourceFilesIn(const std::vector<std::string>&
           std::end(kExtensions))
         continue;
       if (!at->is_regular_file(failure)) continue;
-      std::string code = readFile("", path.string());
+      std::string code = readFile("", path.generic_string());
       if (code.find(kGeneratedNotice) == std::string::npos)
-        files.emplace(path.lexically_normal().string(), std::move(code));
+        files.emplace(path.lexically_normal().generic_string(), std::move(code));
     }
   }
   if (files.empty())

@@ -1,16 +1,17 @@
+#include <ZKStrings/platform/system/File.h>
 #include <ZKStrings/tools/check/Checker.h>
 #include <ZKStrings/tools/check/CountryRules.h>
 #include <ZKStrings/tools/check/Glossary.h>
 #include <ZKStrings/tools/check/Rules.h>
 #include <ZKStrings/tools/project/Catalogue.h>
 #include <ZKStrings/tools/project/EnglishTexts.h>
+#include <ZKStrings/tools/support/Files.h>
 #include <ZKStrings/tools/support/Languages.h>
 #include <ZKStrings/tools/support/Nearest.h>
 #include <ZKStrings/tools/texts/TextFeatures.h>
 #include <ZKStrings/tools/translation/TranslationState.h>
 
 #include <algorithm>
-#include <filesystem>
 #include <functional>
 #include <optional>
 #include <set>
@@ -25,8 +26,6 @@
 #include <fmt/format.h>
 
 namespace zk::tools {
-
-namespace fs = std::filesystem;
 
 namespace {
 
@@ -100,7 +99,7 @@ class Checker {
   /// Whether the module can list the directory of `table`; it skips a language whose directory it cannot list.
   [[nodiscard]] bool isListable(const Table& table) const {
     std::error_code failure;
-    const fs::directory_iterator listing((fs::path(root_) / table.file).parent_path(), failure);
+    static_cast<void>(entriesOf(pathBelow(root_, table.file.substr(0, table.file.rfind('/'))), failure));
     return !failure;
   }
 

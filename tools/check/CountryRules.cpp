@@ -1,5 +1,6 @@
 #include <ZKStrings/platform/formats/Json.h>
 #include <ZKStrings/platform/formats/TextEncoding.h>
+#include <ZKStrings/platform/system/File.h>
 #include <ZKStrings/region/Country.h>
 #include <ZKStrings/tools/check/CountryRules.h>
 #include <ZKStrings/tools/project/Table.h>
@@ -10,13 +11,11 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <filesystem>
 #include <map>
 #include <optional>
 #include <span>
 #include <string>
 #include <string_view>
-#include <system_error>
 #include <vector>
 
 #include <fmt/format.h>
@@ -102,8 +101,7 @@ constexpr RuleFor<CountryFile> kRules[] = {
 }  // namespace
 
 bool CountryFile::isExpected(const std::string& root, bool isModule) {
-  std::error_code failure;
-  return isModule || std::filesystem::exists(std::filesystem::path(root) / kFile, failure);
+  return isModule || pathExists(pathBelow(root, kFile));
 }
 
 CountryFile CountryFile::read(const std::string& root) {

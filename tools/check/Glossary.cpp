@@ -1,11 +1,10 @@
+#include <ZKStrings/platform/system/File.h>
 #include <ZKStrings/tools/check/Glossary.h>
 #include <ZKStrings/tools/support/Files.h>
 #include <ZKStrings/tools/support/Json.h>
 
-#include <filesystem>
 #include <string>
 #include <string_view>
-#include <system_error>
 #include <utility>
 #include <vector>
 
@@ -75,9 +74,8 @@ constexpr KnownMember<Glossary> kGlossaryMembers[] = {
 
 Glossary Glossary::read(const std::string& root) {
   Glossary glossary;
-  std::error_code failure;
-  const bool isMissing = !std::filesystem::exists(std::filesystem::path(root) / kFile, failure) && !failure;
-  if (!isMissing) storeMembers(JsonValue::parse(readFile(root, kFile), kFile), glossary, kGlossaryMembers);
+  if (pathExists(pathBelow(root, kFile)))
+    storeMembers(JsonValue::parse(readFile(root, kFile), kFile), glossary, kGlossaryMembers);
   return glossary;
 }
 

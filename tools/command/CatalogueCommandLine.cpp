@@ -5,10 +5,10 @@
 #include <ZKStrings/tools/authoring/Uses.h>
 #include <ZKStrings/tools/command/Subcommands.h>
 #include <ZKStrings/tools/support/Characters.h>
+#include <ZKStrings/tools/support/Files.h>
 #include <ZKStrings/tools/support/Terminal.h>
 
 #include <cstddef>
-#include <filesystem>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -56,7 +56,7 @@ void addInitCommand(CLI::App& app) {
   command.add_option("--namespace", name.nameSpace, "The namespace of that class (default: none)");
   command.callback([] {
     initCatalogue(directory, name);
-    const std::string readme = (std::filesystem::path(directory) / "README.md").string();
+    const std::string readme = pathBelow(directory, "README.md");
     say("Wrote {}; {} explains the next steps.\n", directory, readme);
   });
 }

@@ -11,7 +11,6 @@
 
 #include <cstddef>
 #include <cstdio>
-#include <filesystem>
 #include <string>
 #include <utility>
 #include <vector>
@@ -62,7 +61,7 @@ void runExport(const std::string& root, const ExportArguments& arguments) {
     fmt::print("{}", bytes);
     return;
   }
-  writeFile("", std::filesystem::current_path() / arguments.file, bytes);
+  writeFile("", absolutePath(arguments.file), bytes);
   const std::size_t count = translations.units.size();
   say("Wrote {} with {} text{}.\n", arguments.file, count, count == 1 ? "" : "s");
 }
@@ -144,7 +143,7 @@ void addImportCommand(CLI::App& app, const RootFinder& inRoot) {
       "has changed");
   command.add_flag("--quiet", arguments.quiet, "Print only warnings and counts");
   command.callback([inRoot] {
-    arguments.file = std::filesystem::current_path() / arguments.file;
+    arguments.file = absolutePath(arguments.file);
     runImport(inRoot(), arguments);
   });
 }
@@ -159,8 +158,7 @@ void addPageCommand(CLI::App& app, const RootFinder& inRoot) {
   command.callback([inRoot] {
     const std::string root = inRoot();
     const std::string page = pageOf(root, sources);
-    writeFile(file.empty() ? root : "",
-              file.empty() ? kPage : (std::filesystem::current_path() / file).string(), page);
+    writeFile(file.empty() ? root : "", file.empty() ? kPage : absolutePath(file), page);
     say("Wrote {}. Open it in a browser.\n", file.empty() ? root + "/" + kPage : file);
   });
 }
@@ -177,7 +175,7 @@ void addPseudoCommand(CLI::App& app, const RootFinder& inRoot) {
   command.callback([inRoot] {
     const std::string root = inRoot();
     if (directory.empty()) directory = pathInProject(root, kPseudoResources);
-    writePseudoLocales(root, std::filesystem::current_path() / directory);
+    writePseudoLocales(root, absolutePath(directory));
     say("Wrote xa, xb and xk into {}. An app that prefers one of them shows it.\n", directory);
   });
 }

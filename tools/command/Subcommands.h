@@ -7,6 +7,9 @@
 
 namespace zk::tools {
 
+/// Runs the command with `arguments`, in UTF-8 and without the program's name. Returns the exit status.
+[[nodiscard]] int runCommandLine(const std::vector<std::string>& arguments);
+
 /// Returns the project's root when a subcommand runs. Throws `CommandFailed` if there is none.
 using RootFinder = std::function<std::string()>;
 

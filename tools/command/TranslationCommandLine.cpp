@@ -2,6 +2,7 @@
 #include <ZKStrings/tools/command/Subcommands.h>
 #include <ZKStrings/tools/project/Table.h>
 #include <ZKStrings/tools/support/Languages.h>
+#include <ZKStrings/tools/support/System.h>
 #include <ZKStrings/tools/support/Terminal.h>
 #include <ZKStrings/tools/translation/Coverage.h>
 #include <ZKStrings/tools/translation/TableUpdate.h>
@@ -17,7 +18,6 @@
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
 #include <fmt/ranges.h>
-#include <unistd.h>
 
 namespace zk::tools {
 
@@ -70,7 +70,7 @@ void printResult(const CheckResult& result, const std::string& format) {
     return;
   }
   print(stdout, result.diagnostics);
-  if (isatty(STDOUT_FILENO) == 1) say("{}\n", summaryOf(result));
+  if (isTerminal(stdout)) say("{}\n", summaryOf(result));
 }
 
 /// "added 3 texts to translate, removed 1 entry".

@@ -1,4 +1,5 @@
 #include <ZKStrings/platform/formats/TextEncoding.h>
+#include <ZKStrings/platform/system/File.h>
 #include <ZKStrings/tools/exchange/ExchangeFormat.h>
 #include <ZKStrings/tools/project/Table.h>
 #include <ZKStrings/tools/support/Characters.h>
@@ -39,7 +40,7 @@ std::string notesWithPrevious(const TranslationUnit& unit) {
 }
 
 ExchangeFormat formatNamedBy(std::string_view path) {
-  const std::string ending = lowerCased(std::filesystem::path(path).extension().string());
+  const std::string ending = lowerCased(nativePath(std::string(path)).extension().string());
   if (ending == ".po" || ending == ".pot") return ExchangeFormat::po;
   if (ending == ".csv" || ending == ".tsv") return ExchangeFormat::csv;
   return ExchangeFormat::xliff12;
@@ -54,7 +55,8 @@ std::string written(const Translations& translations, ExchangeFormat format) {
 
 Translations readTranslations(const std::string& path) {
   std::error_code failure;
-  if (const std::uintmax_t size = std::filesystem::file_size(path, failure); !failure && size > kLargest)
+  if (const std::uintmax_t size = std::filesystem::file_size(nativePath(path), failure);
+      !failure && size > kLargest)
     fail(path, "the file is larger than 32 MiB; no export is that large");
   if (path.ends_with(".strings"))
     fail(path, "string tables are not imported; edit resources/xx.lproj/Localizable.strings in place");

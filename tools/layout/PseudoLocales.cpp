@@ -1,3 +1,4 @@
+#include <ZKStrings/platform/system/File.h>
 #include <ZKStrings/tools/layout/PseudoLocales.h>
 #include <ZKStrings/tools/project/Table.h>
 #include <ZKStrings/tools/support/Characters.h>
@@ -100,7 +101,8 @@ void refuseShipped(const fs::path& resources, const std::string& directory) {
   std::error_code failure;
   const fs::path shipped = fs::canonical(resources, failure);
   if (failure) return;
-  const fs::path folder = fs::weakly_canonical(fs::absolute(directory), failure).lexically_relative(shipped);
+  const fs::path folder =
+      fs::weakly_canonical(fs::absolute(nativePath(directory)), failure).lexically_relative(shipped);
   if (!failure && !folder.empty() && *folder.begin() != "..")  // empty on another drive
     fail(directory,
          "these resources are shipped and must not contain pseudo-locales; name the folder of "
@@ -108,17 +110,17 @@ void refuseShipped(const fs::path& resources, const std::string& directory) {
 }
 
 /// Copies of the files in `resources`, below `folder`.
-std::vector<FileChange> copiesOf(const fs::path& resources, const fs::path& folder) {
+std::vector<FileChange> copiesOf(const fs::path& resources, const std::string& folder) {
   std::vector<FileChange> copies;
   std::error_code failure;
   fs::recursive_directory_iterator file(resources, failure);
   for (; !failure && file != fs::recursive_directory_iterator(); file.increment(failure)) {
     std::error_code brokenLink;
     if (!file->is_regular_file(brokenLink)) continue;
-    const fs::path path = file->path().lexically_relative(resources);
-    copies.push_back({(folder / path).string(), readFile(resources.string(), path.string())});
+    const std::string path = file->path().lexically_relative(resources).generic_string();
+    copies.push_back({pathBelow(folder, path), readFile(resources.generic_string(), path)});
   }
-  if (failure) fail(resources.string(), "the folder cannot be listed; see that it may be read");
+  if (failure) fail(resources.generic_string(), "the folder cannot be listed; see that it may be read");
   return copies;
 }
 
@@ -141,17 +143,17 @@ std::string mirroredText(const EnglishText& english) {
 }
 
 void writePseudoLocales(const std::string& root, const std::string& directory) {
-  const fs::path resources = fs::path(root) / "resources";
+  const fs::path resources = nativePath(root) / "resources";
   refuseShipped(resources, directory);
   const Catalogue catalogue = Catalogue::read(root);
   const EnglishTexts english(catalogue);
-  const fs::path folder = fs::absolute(directory);
+  const std::string output = absolutePath(directory);
   const auto keyOf = [](const EnglishText& text) { return text.key; };
-  std::vector<FileChange> files = copiesOf(resources, folder);
-  files.insert(files.begin(), {{folder / "xa.lproj/Localizable.strings", tableOf(english, accentedText)},
-                               {folder / "xb.lproj/Localizable.strings", tableOf(english, mirroredText)},
-                               {folder / "xk.lproj/Localizable.strings", tableOf(english, keyOf)}});
-  writeFiles(folder.string(), files);
+  std::vector<FileChange> files = copiesOf(resources, output);
+  files.insert(files.begin(), {{output + "/xa.lproj/Localizable.strings", tableOf(english, accentedText)},
+                               {output + "/xb.lproj/Localizable.strings", tableOf(english, mirroredText)},
+                               {output + "/xk.lproj/Localizable.strings", tableOf(english, keyOf)}});
+  writeFiles(output, files);
 }
 
 }  // namespace zk::tools

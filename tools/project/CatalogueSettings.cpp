@@ -1,4 +1,5 @@
 #include <ZKStrings/catalogue/KeyRule.h>
+#include <ZKStrings/platform/system/File.h>
 #include <ZKStrings/tools/project/CatalogueSettings.h>
 #include <ZKStrings/tools/support/Characters.h>
 #include <ZKStrings/tools/support/Files.h>
@@ -7,11 +8,9 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <filesystem>
 #include <iterator>
 #include <string>
 #include <string_view>
-#include <system_error>
 #include <vector>
 
 #include <fmt/format.h>
@@ -134,9 +133,8 @@ std::string CatalogueName::error() const {
 }
 
 CatalogueSettings CatalogueSettings::read(const std::string& root) {
-  std::error_code failure;
   CatalogueSettings settings;
-  if (!std::filesystem::exists(std::filesystem::path(root) / kFile, failure) && !failure) return settings;
+  if (!pathExists(pathBelow(root, kFile))) return settings;
   settings.name = {"", ""};
   const JsonValue object = JsonValue::parse(readFile(root, kFile), kFile);
   storeMembers(object, settings, kMembers);

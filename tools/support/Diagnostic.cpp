@@ -1,3 +1,4 @@
+#include <ZKStrings/platform/system/File.h>
 #include <ZKStrings/tools/support/Characters.h>
 #include <ZKStrings/tools/support/Diagnostic.h>
 
@@ -39,11 +40,13 @@ std::string fromWorkingDirectory(const std::string& file, const std::string& roo
   namespace fs = std::filesystem;
   std::error_code failure;
   const fs::path here = fs::current_path(failure);
-  const fs::path path = (fs::path(root) / file).lexically_normal();
-  const std::string near = path.lexically_proximate(here);
+  const fs::path path = (nativePath(root) / nativePath(file)).lexically_normal();
+  const std::string near = path.lexically_proximate(here).generic_string();
+  const std::string whole = path.generic_string();
   // A build runs the command in a folder that its user does not see.
-  const bool isClear = !near.starts_with("..") || !here.lexically_relative(root).string().starts_with("..");
-  return isClear && near.size() < path.string().size() ? near : path.string();
+  const bool isClear =
+      !near.starts_with("..") || !here.lexically_relative(nativePath(root)).string().starts_with("..");
+  return isClear && near.size() < whole.size() ? near : whole;
 }
 
 Diagnostics fromWorkingDirectory(Diagnostics diagnostics, const std::string& root) {

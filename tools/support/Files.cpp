@@ -1,10 +1,10 @@
 #include <ZKStrings/platform/system/File.h>
 #include <ZKStrings/tools/support/Diagnostic.h>
 #include <ZKStrings/tools/support/Files.h>
+#include <ZKStrings/tools/support/System.h>
 
 #include <algorithm>
-#include <cerrno>
-#include <csignal>
+#include <cstddef>
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
@@ -13,6 +13,7 @@
 #include <list>
 #include <memory>
 #include <optional>
+#include <random>
 #include <set>
 #include <string>
 #include <string_view>
@@ -20,11 +21,7 @@
 #include <utility>
 #include <vector>
 
-#include <fcntl.h>
 #include <fmt/format.h>
-#include <sys/file.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 namespace zk::tools {
 
@@ -34,15 +31,15 @@ namespace {
 
 constexpr const char* kMark = "catalogue/entries.json";
 
-/// The name of a temporary file is that of its file, this text, and six random characters. .gitignore and the rules
+/// The name of a temporary file is that of its file, this text, and six random letters. .gitignore and the rules
 /// for installations (cmake/) name it too.
 constexpr std::string_view kTemporary = ".zkstrings-";
-constexpr std::string_view kRandom = "XXXXXX";
+constexpr std::size_t kRandomLetters = 6;
 
 bool isTemporary(const fs::path& path) {
   const std::string name = path.filename().string();
-  return name.size() > kTemporary.size() + kRandom.size() &&
-         name.rfind(kTemporary) == name.size() - kTemporary.size() - kRandom.size();
+  return name.size() > kTemporary.size() + kRandomLetters &&
+         name.rfind(kTemporary) == name.size() - kTemporary.size() - kRandomLetters;
 }
 
 template <class Iterator>
@@ -57,23 +54,6 @@ void removeTemporaryFiles(const fs::path& folder) {
 [[noreturn]] void failToWrite(const std::string& path) {
   fail(path, "the file cannot be written; check its permissions and its folder's, and the disk space");
 }
-
-/// Blocks, during its lifetime, the signals with which users and systems end a process.
-class SignalsHeldBack {
- public:
-  SignalsHeldBack() {
-    sigset_t ends;
-    sigemptyset(&ends);
-    for (const int signal : {SIGHUP, SIGINT, SIGQUIT, SIGTERM}) sigaddset(&ends, signal);
-    pthread_sigmask(SIG_BLOCK, &ends, &before_);
-  }
-  ~SignalsHeldBack() { pthread_sigmask(SIG_SETMASK, &before_, nullptr); }
-  SignalsHeldBack(const SignalsHeldBack&) = delete;
-  SignalsHeldBack& operator=(const SignalsHeldBack&) = delete;
-
- private:
-  sigset_t before_{};
-};
 
 /// The folders that files need. Its destructor removes those it has made that are still empty.
 class Folders {
@@ -98,70 +78,69 @@ class Folders {
   std::set<fs::path, std::greater<>> made_;  // inner folders come first
 };
 
+/// The ending of the name of a new temporary file.
+std::string randomEnding() {
+  static std::random_device random;
+  std::string ending(kTemporary);
+  while (ending.size() < kTemporary.size() + kRandomLetters)
+    ending += static_cast<char>(std::uniform_int_distribution<int>('a', 'z')(random));
+  return ending;
+}
+
 /// A file next to the one that it may replace. Its destructor removes it unless it did.
 class TemporaryFile {
  public:
-  /// `path` is the name of the file for messages.
-  TemporaryFile(const fs::path& target, const std::string& path, std::string_view bytes) {
-    std::string name = fmt::format("{}{}{}", target.string(), kTemporary, kRandom);
-    const int file = mkstemp(name.data());
-    if (file < 0) failToWrite(path);
-    close(file);
-    name_ = name;
+  /// `path` is the name of the file for messages. If `target` exists, the new file has its attributes.
+  TemporaryFile(const fs::path& target, bool exists, const std::string& path, std::string_view bytes)
+      : name_(target) {
+    name_ += randomEnding();
+    if (!createFile(name_, exists)) failToWrite(path);
     std::ofstream stream(name_, std::ios::binary);
     stream.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     stream.close();
+    if (exists) copyAttributes(target, name_);
     if (stream.good()) return;
-    unlink(name_.c_str());
+    remove();
     failToWrite(path);
   }
-  ~TemporaryFile() {
-    if (!name_.empty()) unlink(name_.c_str());
-  }
+  ~TemporaryFile() { remove(); }
   TemporaryFile(const TemporaryFile&) = delete;
   TemporaryFile& operator=(const TemporaryFile&) = delete;
 
-  /// Takes the owner, group and permissions of `file`, or those of a new file if it is null.
-  void setAttributes(const struct stat* file) const {
-    if (file) {
-      static_cast<void>(!chown(name_.c_str(), file->st_uid, file->st_gid));  // only root may always do this
-      chmod(name_.c_str(), file->st_mode & 07777U);
-    } else {
-      const mode_t mask = umask(0);
-      umask(mask);
-      chmod(name_.c_str(), 0666U & ~mask);
-    }
-  }
-
   /// Whether the file has taken the place of `target`.
   bool replace(const fs::path& target) {
-    if (std::rename(name_.c_str(), target.c_str()) != 0) return false;
+    if (!replaceFile(name_, target)) return false;
     name_.clear();
     return true;
   }
 
  private:
-  std::string name_;
+  void remove() const {
+    std::error_code failure;
+    if (!name_.empty()) fs::remove(name_, failure);
+  }
+
+  fs::path name_;
 };
 
 /// A file that is to change: its new contents and its old ones, in temporary files.
 class StagedFile {
  public:
   StagedFile(const std::string& root, const FileChange& change, Folders& folders)
-      : path_(change.path), target_(pathInProject(root, change.path)) {
+      : path_(change.path), target_(nativePath(pathInProject(root, change.path))) {
     folders.make(target_.parent_path());
-    struct stat before = {};
-    const bool exists = stat(target_.c_str(), &before) == 0;
-    if (exists && (!S_ISREG(before.st_mode) || access(target_.c_str(), W_OK) != 0)) failToWrite(path_);
-    new_ = std::make_unique<TemporaryFile>(target_, path_, change.bytes);
-    new_->setAttributes(exists ? &before : nullptr);
-    if (!exists) return;
-    old_ = std::make_unique<TemporaryFile>(target_, path_, readFile("", target_));
-    old_->setAttributes(&before);
+    std::error_code failure;
+    const bool exists = fs::exists(target_, failure);
+    if (exists && (!fs::is_regular_file(target_, failure) || !mayWrite(target_))) failToWrite(path_);
+    new_ = std::make_unique<TemporaryFile>(target_, exists, path_, change.bytes);
+    if (exists)
+      old_ = std::make_unique<TemporaryFile>(target_, exists, path_, readFile("", target_.string()));
   }
 
   void putInPlace() {
-    if (!new_->replace(target_)) failToWrite(path_);
+    if (!new_->replace(target_))
+      fail(path_,
+           "the file cannot be replaced; close the programs that have it open, and run the command again");
     isInPlace_ = true;
   }
 
@@ -185,11 +164,19 @@ class StagedFile {
 
 }  // namespace
 
+std::string pathBelow(const std::string& folder, const std::string& path) {
+  return (nativePath(folder) / nativePath(path)).generic_string();
+}
+
+std::string absolutePath(const std::string& path) {
+  return (fs::current_path() / nativePath(path)).generic_string();
+}
+
 std::string findRoot() {
   std::error_code failure;
   fs::path directory = fs::current_path(failure);
   while (!failure) {
-    if (fs::exists(directory / kMark, failure)) return directory.string();
+    if (fs::exists(directory / kMark, failure)) return directory.generic_string();
     if (directory == directory.parent_path()) break;
     directory = directory.parent_path();
     failure.clear();
@@ -198,45 +185,42 @@ std::string findRoot() {
 }
 
 std::string rootAt(const std::string& directory) {
-  std::error_code failure;
-  if (fs::exists(fs::path(directory) / kMark, failure)) return directory;
+  if (pathExists(pathBelow(directory, kMark))) return directory;
   fail(kMark, "no such file; --root needs the folder that has catalogue/");
 }
 
 std::string pathInProject(const std::string& root, const std::string& path) {
   std::error_code failure;
-  const fs::path target = fs::weakly_canonical(fs::path(root) / path, failure);
+  const fs::path target = fs::weakly_canonical(nativePath(root) / nativePath(path), failure);
   if (failure) failToWrite(path);
-  if (root.empty()) return target.string();
-  fs::path folder = fs::weakly_canonical(root, failure);
+  if (root.empty()) return target.generic_string();
+  fs::path folder = fs::weakly_canonical(nativePath(root), failure);
   if (!folder.has_filename()) folder = folder.parent_path();  // the name ended in a slash
   if (std::mismatch(folder.begin(), folder.end(), target.begin(), target.end()).first != folder.end())
     fail(path, fmt::format("a symbolic link leads out of the project, to {}; replace the link with a file",
-                           target.string()));
-  return target.string();
+                           target.generic_string()));
+  return target.generic_string();
 }
 
 void lockProject(const std::string& root) {
-  // The folder stays open until the process ends, which releases the lock.
-  const int folder = open(root.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-  if (flock(folder, LOCK_EX | LOCK_NB) != 0) {
-    if (errno != EWOULDBLOCK) return;  // a file system without locks, or no such folder yet
+  const fs::path folder = nativePath(root);
+  const auto say = [] {
     std::fputs("Another zkstrings is changing this project; waiting for it.\n", stderr);
-    if (flock(folder, LOCK_EX) != 0) return;
-  }
-  removeTemporaryFiles<fs::directory_iterator>(root);
+  };
+  if (!lockFolder(folder, say)) return;
+  removeTemporaryFiles<fs::directory_iterator>(folder);
   for (const char* const name : {"catalogue", "resources"})
-    removeTemporaryFiles<fs::recursive_directory_iterator>(fs::path(root) / name);
+    removeTemporaryFiles<fs::recursive_directory_iterator>(folder / name);
 }
 
 std::string readFile(const std::string& root, const std::string& path) {
-  std::optional<std::string> bytes = contentsOfFile((fs::path(root) / path).string());
+  std::optional<std::string> bytes = contentsOfFile(pathBelow(root, path));
   if (!bytes) fail(path, "the file cannot be read; check that it exists, is a file, and is readable");
   return *std::move(bytes);
 }
 
 void writeFiles(const std::string& root, const std::vector<FileChange>& changes) {
-  const SignalsHeldBack heldBack;
+  const std::shared_ptr<void> heldBack = holdBackSignals();
   Folders folders;
   std::list<StagedFile> files;
   for (const FileChange& change : changes) files.emplace_back(root, change, folders);

@@ -6,6 +6,12 @@
 
 namespace zk::tools {
 
+/// `path` below `folder`, or `path` if that is absolute. Paths are in UTF-8, with slashes.
+[[nodiscard]] std::string pathBelow(const std::string& folder, const std::string& path);
+
+/// `path` as seen from the working directory.
+[[nodiscard]] std::string absolutePath(const std::string& path);
+
 /// The root of the project that the working directory is in: the nearest directory upward with
 /// catalogue/entries.json. Throws `CommandFailed` if there is none.
 [[nodiscard]] std::string findRoot();

@@ -1,5 +1,7 @@
+#include <ZKStrings/platform/system/File.h>
 #include <ZKStrings/tools/support/Characters.h>
 #include <ZKStrings/tools/support/Diagnostic.h>
+#include <ZKStrings/tools/support/Files.h>
 #include <ZKStrings/tools/support/Languages.h>
 #include <ZKStrings/tools/support/Nearest.h>
 
@@ -20,8 +22,6 @@
 #include <unicode/ustring.h>
 
 namespace zk::tools {
-
-namespace fs = std::filesystem;
 
 namespace {
 
@@ -89,9 +89,9 @@ std::string_view withoutPath(std::string_view word) {
 std::vector<std::string> languagesIn(const std::string& root) {
   std::vector<std::string> languages;
   std::error_code failure;
-  for (fs::directory_iterator entry(fs::path(root) / kResources, failure), end; !failure && entry != end;
-       entry.increment(failure)) {
-    if (entry->path().extension() == kExtension) languages.push_back(entry->path().stem().string());
+  for (const DirectoryEntry& entry : entriesOf(pathBelow(root, kResources), failure)) {
+    const std::filesystem::path name = nativePath(entry.name);
+    if (name.extension() == kExtension) languages.push_back(name.stem().string());
   }
   if (failure) fail(kResources, "the directory cannot be listed; check that it exists and is readable");
   std::sort(languages.begin(), languages.end());

@@ -1,4 +1,5 @@
 #include <ZKStrings/tools/support/Characters.h>
+#include <ZKStrings/tools/support/System.h>
 #include <ZKStrings/tools/support/Terminal.h>
 
 #include <algorithm>
@@ -7,15 +8,13 @@
 #include <string>
 #include <string_view>
 
-#include <unistd.h>
-
 namespace zk::tools {
 
 namespace {
 
 bool takesColours(std::FILE* stream) {
   const char* const refusal = std::getenv("NO_COLOR");
-  return isatty(fileno(stream)) == 1 && (refusal == nullptr || *refusal == '\0');
+  return isTerminal(stream) && (refusal == nullptr || *refusal == '\0');
 }
 
 }  // namespace

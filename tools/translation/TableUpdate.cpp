@@ -1,16 +1,15 @@
+#include <ZKStrings/platform/system/File.h>
 #include <ZKStrings/tools/support/Files.h>
 #include <ZKStrings/tools/support/Languages.h>
 #include <ZKStrings/tools/translation/TableUpdate.h>
 
 #include <cstddef>
-#include <filesystem>
 #include <functional>
 #include <optional>
 #include <set>
 #include <stdexcept>
 #include <string>
 #include <string_view>
-#include <system_error>
 #include <utility>
 
 #include <fmt/format.h>
@@ -57,10 +56,8 @@ std::size_t writeTemplate(const std::string& root, const std::string& language) 
   const std::string path = tablePath(language);
   if (const std::string reason = whyNeverChosen(language); !reason.empty())
     throw std::invalid_argument(reason);
-  std::error_code failure;
-  if (std::filesystem::exists(std::filesystem::path(root) / path, failure)) {
+  if (pathExists(pathBelow(root, path)))
     fail(path, "the table exists already, and its texts would be lost; remove it first to start again");
-  }
   const Catalogue catalogue = Catalogue::read(root);
   const EnglishTexts english(catalogue);
   std::string table = fmt::format(

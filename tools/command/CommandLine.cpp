@@ -6,7 +6,6 @@
 #include <ZKStrings/tools/support/Terminal.h>
 
 #include <algorithm>
-#include <csignal>
 #include <cstdio>
 #include <exception>
 #include <memory>
@@ -19,9 +18,9 @@
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
 
-namespace {
+namespace zk::tools {
 
-using namespace zk::tools;
+namespace {
 
 /// The exit statuses, the same in each subcommand. The manual page lists them.
 constexpr int kWrongFiles = 1;
@@ -76,11 +75,12 @@ void printReference(const CLI::App& app, const std::vector<std::string>& words) 
 }
 
 /// Runs the command line. Returns the exit status, or throws as the subcommands do.
-int run(int argc, char** argv) {
+int run(const std::vector<std::string>& arguments) {
   CLI::App app{"Manage the text catalogue and its translations", "zkstrings"};
   app.formatter(std::make_shared<HelpFormatter>());
   app.set_version_flag("--version", "zkstrings " ZK_VERSION);
   app.require_subcommand(1);
+  app.allow_windows_style_options(false);  // a text may begin with a slash
   std::string root;
   app.add_option("--root", root,
                  "The project's folder (default: the nearest one at or above the current folder)")
@@ -95,12 +95,12 @@ int run(int argc, char** argv) {
   addTranslationCommands(app, inRoot, aloneInRoot);
   addExchangeCommands(app, inRoot, aloneInRoot);
 
-  if (argc > 2 && argv[1] == std::string_view("reference")) {
-    printReference(app, {argv + 2, argv + argc});
+  if (arguments.size() > 1 && arguments.front() == "reference") {
+    printReference(app, {arguments.begin() + 1, arguments.end()});
     return 0;
   }
   try {
-    app.parse(argc, argv);
+    app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
   } catch (const CLI::ParseError& reason) {
     return exit(app, reason);
   } catch (const CommandFailed& failed) {
@@ -112,11 +112,10 @@ int run(int argc, char** argv) {
 
 }  // namespace
 
-int main(int argc, char** argv) {
-  std::signal(SIGXFSZ, SIG_IGN);  // so writing beyond a limit fails, with a message
+int runCommandLine(const std::vector<std::string>& arguments) {
   int status = kWrongFiles;
   try {
-    status = run(argc, argv);
+    status = run(arguments);
   } catch (const std::invalid_argument& refused) {
     complain(refused.what());
     status = kWrongUsage;
@@ -128,3 +127,5 @@ int main(int argc, char** argv) {
   complain("the output cannot be written; is the disk full?");
   return std::max(status, kWrongFiles);
 }
+
+}  // namespace zk::tools
