@@ -2,7 +2,10 @@
 
 // Functions of POSIX that the tests use and Windows names differently. Included before each test for Windows.
 
+#include <cstddef>
 #include <cstdlib>
+
+#include <malloc.h>
 
 inline int setenv(const char* name, const char* value, int) {
   return _putenv_s(name, value);
@@ -10,4 +13,18 @@ inline int setenv(const char* name, const char* value, int) {
 
 inline int unsetenv(const char* name) {
   return _putenv_s(name, "");
+}
+
+/// The bytes that are allocated on the heap.
+struct mallinfo2 {
+  std::size_t uordblks, hblkhd;
+};
+
+inline struct mallinfo2 mallinfo2() {
+  struct mallinfo2 info = {};
+  _HEAPINFO block = {};
+  while (_heapwalk(&block) == _HEAPOK) {
+    if (block._useflag == _USEDENTRY) info.uordblks += block._size;
+  }
+  return info;
 }
