@@ -37,7 +37,6 @@ add_library(zk_objects OBJECT
   catalogue/ZKStrings.cpp
   engine/BundleGlobals.cpp
   engine/Languages.cpp
-  engine/PlaceholderSubstitution.cpp
   engine/StringLookup.cpp
   engine/Substitutions.cpp
   platform/Bundle.cpp

@@ -1,12 +1,11 @@
 #include <ZKStrings/engine/BundleGlobals.h>
 #include <ZKStrings/engine/EntryText.h>
 #include <ZKStrings/engine/LookupRules.h>
-#include <ZKStrings/engine/PlaceholderSubstitution.h>
 #include <ZKStrings/engine/StringLookup.h>
 #include <ZKStrings/platform/ServiceView.h>
-#include <ZKStrings/platform/text/Bytes.h>
 #include <ZKStrings/region/Language.h>
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <initializer_list>
@@ -19,21 +18,28 @@ namespace zk {
 
 namespace {
 
-/// A key with its plural suffix, on the stack if it fits there, or else on the heap.
-class SuffixedKey {
+/// The key to look up: `key` with the suffix for `count`, if there is one. On the stack if it fits there, or else on the
+/// heap.
+class LookupKey {
  public:
-  SuffixedKey(std::string_view key, std::string_view suffix) : size_(key.size() + suffix.size()) {
-    if (size_ > sizeof(short_)) long_.resize(size_);
+  LookupKey(std::string_view key, std::optional<std::int64_t> count) : key_(key) {
+    if (!count) return;
+    const std::string_view suffix = pluralSuffix(*count);
+    const std::size_t size = key.size() + suffix.size();
+    if (size > sizeof(short_)) long_.resize(size);
     char* const begin = long_.empty() ? short_ : long_.data();
-    copyBytes(copyBytes(begin, key.data(), key.size()), suffix.data(), suffix.size());
+    std::copy(suffix.begin(), suffix.end(), std::copy(key.begin(), key.end(), begin));
+    key_ = {begin, size};
   }
+  LookupKey(const LookupKey&) = delete;
+  LookupKey& operator=(const LookupKey&) = delete;
 
-  operator std::string_view() const { return {long_.empty() ? short_ : long_.data(), size_}; }
+  operator std::string_view() const { return key_; }
 
  private:
   char short_[120];
   std::string long_{};
-  std::size_t size_;
+  std::string_view key_;
 };
 
 /// The bundle to look a text up in: one without resources while that temporarily cannot be found.
@@ -43,15 +49,6 @@ const Bundle& chosenBundle(const Bundle* resources, const SharedArray<std::strin
   } catch (const std::system_error&) {
   }
   return Bundle::withoutResources("");
-}
-
-std::string finishedText(const Bundle* resources, std::string_view suffixedKey, std::string_view defaultValue,
-                         const Substitutions& substitutions) {
-  const ServiceView<Language> language;
-  const Bundle& chosen = chosenBundle(resources, language->preferredLanguages);
-  const std::string_view text = chosen.localizedStringForKey(suffixedKey, defaultValue);
-  const bool isFinished = substitutions.begin() == substitutions.end();
-  return isFinished ? std::string(text) : applySubstitutions(text, substitutions);
 }
 
 }  // namespace
@@ -71,8 +68,12 @@ std::string localizedString(std::string_view key, std::string_view defaultValue,
 
 std::string localizedString(const Bundle* resources, std::string_view key, std::string_view defaultValue,
                             std::optional<std::int64_t> count, const Substitutions& substitutions) {
-  if (!count) return finishedText(resources, key, defaultValue, substitutions);
-  return finishedText(resources, SuffixedKey(key, pluralSuffix(*count)), defaultValue, substitutions);
+  const LookupKey lookupKey(key, count);
+  const ServiceView<Language> language;
+  const Bundle& chosen = chosenBundle(resources, language->preferredLanguages);
+  const std::string_view text = chosen.localizedStringForKey(lookupKey, defaultValue);
+  const bool isFinished = substitutions.begin() == substitutions.end();
+  return isFinished ? std::string(text) : internal::applySubstitutions(text, substitutions);
 }
 
 std::string entryText(std::string_view key, std::string_view english) {

@@ -3,23 +3,82 @@
 #include <ZKStrings/platform/text/TextSearch.h>
 
 #include <algorithm>
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace zk {
 
-void Substitutions::stopIfSame(std::string_view one, std::string_view other) {
-  const bool areAscii = isAsciiWithout(one, {}) && isAsciiWithout(other, {});
-  if (areAscii ? one == other : canonicalForm(one) == canonicalForm(other)) __builtin_trap();
+namespace {
+
+/// Whether all names are ASCII and cannot contain the beginning or the end of a placeholder.
+bool haveSimpleNames(const Substitutions& substitutions) {
+  const auto isSimple = [](const auto& pair) { return isAsciiWithout<'%', '}'>(pair.name); };
+  return std::all_of(substitutions.begin(), substitutions.end(), isSimple);
 }
 
-void Substitutions::stopAtRepetition(const std::vector<Pair>& pairs) {
+/// The pair whose placeholder is at the beginning of `text`, which begins with "%{"; null if there is none.
+const Substitutions::Pair* pairAt(std::string_view text, const Substitutions& substitutions) {
+  const std::string_view rest = text.substr(2);
+  for (const Substitutions::Pair& pair : substitutions) {
+    const std::size_t end = pair.name.size();
+    if (rest.size() > end && rest[end] == '}' && rest.starts_with(pair.name)) return &pair;
+  }
+  return nullptr;
+}
+
+constexpr std::size_t kRoom = 512;
+
+/// Writes `text` with all placeholders filled in to `to`, which has room for `kRoom` bytes, and returns the end. Returns
+/// null if the result is too long, or may differ from replacing one pair after the other: if a placeholder has no
+/// pair, if an accent follows a placeholder, or if a value completes a new placeholder.
+char* fillInAtOnce(char* to, std::string_view text, const Substitutions& substitutions) {
+  const char* const begin = to;
+  std::size_t room = kRoom - kCopySlack;
+  if (text.size() > room || !haveSimpleNames(substitutions)) return nullptr;
+  room -= text.size();
+  bool hasPercent = false;
+  for (std::size_t at = 0;;) {
+    const std::size_t mark = copyUntil('%', to, text, at);
+    to += mark - at;
+    if (mark == text.size()) break;
+    if (!text.substr(mark).starts_with("%{")) {
+      hasPercent = true;
+      *to++ = '%';
+      at = mark + 1;
+      continue;
+    }
+    const Substitutions::Pair* const pair = pairAt(text.substr(mark), substitutions);
+    if (!pair) return nullptr;
+    const std::string_view value = pair->text;
+    at = mark + pair->name.size() + 3;
+    if (value.size() > room || !hasBorderBefore(value) || !hasBorderBefore(text.substr(at))) return nullptr;
+    room -= value.size();
+    if (!isAsciiWithout<'%'>(value)) hasPercent = true;
+    to = copyBytes(to, value.data(), value.size());
+  }
+  const bool makesAnother = hasPercent && std::string_view(begin, to).find("%{") != std::string_view::npos;
+  return makesAnother ? nullptr : to;
+}
+
+}  // namespace
+
+void Substitutions::stopIfRepeated() const {
   std::vector<std::string> names;
-  names.reserve(pairs.size());
-  for (const Pair& pair : pairs) names.push_back(canonicalForm(pair.name));
+  for (const Pair& pair : *this) names.push_back(canonicalForm(pair.name));
   std::sort(names.begin(), names.end());
   if (std::adjacent_find(names.begin(), names.end()) != names.end()) __builtin_trap();
+}
+
+std::string internal::applySubstitutions(std::string_view text, const Substitutions& substitutions) {
+  char filled[kRoom];
+  if (char* const end = fillInAtOnce(filled, text, substitutions)) return {filled, end};
+  std::string result(text);
+  for (const auto& [name, value] : substitutions) {
+    replaceOccurrences(result, std::string("%{").append(name).append("}"), value);
+  }
+  return result;
 }
 
 }  // namespace zk

@@ -5,9 +5,9 @@
 
 #include <concepts>
 #include <cstddef>
-#include <initializer_list>
 #include <iterator>
 #include <memory>
+#include <string>
 #include <string_view>
 #include <type_traits>
 #include <utility>
@@ -32,7 +32,7 @@ namespace zk {
 ///     const zk::Substitutions substitutions = {{"seconds", seconds}};                // right
 ///     const zk::Substitutions substitutions = {{"seconds", std::to_string(5)}};      // wrong: the text is destroyed
 ///
-/// Pairs in braces need no memory from the heap. Different objects may be used on different threads at the
+/// Up to five pairs rarely need memory from the heap. Different objects may be used on different threads at the
 /// same time.
 ///
 /// Stops the process if a name occurs twice. Canonically equivalent names, such as é and e + U+0301, are the same.
@@ -68,7 +68,6 @@ class ZK_EXPORT Substitutions {
     while (size_ < kFew && !few_[size_].isAbsent()) ++size_;
     stopAtRepetition();
   }
-
   /// Constructs a dictionary of the pairs in a `std::map`, a vector or any other range that stores its pairs. A range
   /// that computes them does not compile, because nothing would own the texts.
   template <class Pairs>
@@ -77,57 +76,35 @@ class ZK_EXPORT Substitutions {
     requires std::is_lvalue_reference_v<decltype(*std::begin(pairs))>;
   }
   Substitutions(const Pairs& pairs ZK_REFERRED_TO) : size_(0) {
-    if constexpr (std::is_convertible_v<const Pairs&, std::initializer_list<Pair>>) {
-      adopt(std::data(pairs), std::size(pairs));
-    } else {
-      const std::vector<Pair> list(std::begin(pairs), std::end(pairs));
-      adopt(list.data(), list.size());
-    }
+    for (const auto& pair : pairs) add(pair);
+    stopAtRepetition();
   }
-
-  /// Constructs a copy that views the same texts.
-  Substitutions(const Substitutions&) = default;
-  /// Constructs a dictionary of the pairs of `other`, which is empty afterwards.
-  Substitutions(Substitutions&& other) noexcept
-      : size_(std::exchange(other.size_, 0)), many_(std::move(other.many_)) {
-    if (size_ <= kFew) std::uninitialized_copy_n(other.few_, size_, few_);
-  }
-  /// Replaces the pairs with those of `other`.
-  Substitutions& operator=(Substitutions other) noexcept {
-    size_ = other.size_;
-    many_.swap(other.many_);
-    if (size_ <= kFew) std::uninitialized_copy_n(other.few_, size_, few_);
-    return *this;
-  }
-  ~Substitutions() = default;
 
   /// The first pair, in the order of construction.
-  [[nodiscard]] const Pair* begin() const ZK_REFERRED_TO { return size_ > kFew ? many_.data() : few_; }
+  [[nodiscard]] const Pair* begin() const ZK_REFERRED_TO { return many_.empty() ? few_ : many_.data(); }
   /// The end of the pairs, after the last one.
-  [[nodiscard]] const Pair* end() const ZK_REFERRED_TO { return begin() + size_; }
+  [[nodiscard]] const Pair* end() const ZK_REFERRED_TO { return begin() + size_ + many_.size(); }
 
  private:
   static constexpr std::size_t kFew = 5;
 
-  void adopt(const Pair* pairs, std::size_t size) {
-    size_ = size;
-    if (size > kFew) {
-      many_.assign(pairs, pairs + size);
-      stopAtRepetition(many_);
+  void add(const Pair& pair) {
+    if (many_.empty() && size_ < kFew) {
+      std::construct_at(few_ + size_++, pair);
       return;
     }
-    std::uninitialized_copy_n(pairs, size, few_);
-    stopAtRepetition();
+    if (many_.empty()) many_.assign(few_, few_ + std::exchange(size_, 0));
+    many_.push_back(pair);
   }
-
+  // Inline, because names that were just stored are slow to read again.
   void stopAtRepetition() const {
+    if (!many_.empty()) return stopIfRepeated();
     for (std::size_t i = 1; i < size_; ++i) {
       for (std::size_t earlier = 0; earlier < i; ++earlier) {
-        if (mayBeSame(few_[earlier].name, few_[i].name)) stopIfSame(few_[earlier].name, few_[i].name);
+        if (mayBeSame(few_[earlier].name, few_[i].name)) return stopIfRepeated();
       }
     }
   }
-
   /// False for nearly all different names: canonically equivalent texts have the same ASCII characters at their ends.
   static bool mayBeSame(std::string_view one, std::string_view other) {
     const auto mayAgree = [](char a, char b) {
@@ -136,14 +113,22 @@ class ZK_EXPORT Substitutions {
     if (one.empty() || other.empty()) return one.empty() && other.empty();
     return mayAgree(one.front(), other.front()) && mayAgree(one.back(), other.back());
   }
-  static void stopIfSame(std::string_view one, std::string_view other);
-  static void stopAtRepetition(const std::vector<Pair>& pairs);
+  void stopIfRepeated() const;
 
-  std::size_t size_;
+  std::size_t size_;  // the number of pairs in `few_`; 0 if they are in `many_`
   union {
     Pair few_[kFew];  // in a union, so an empty dictionary initialises none
   };
   std::vector<Pair> many_{};
 };
+
+namespace internal {
+
+/// Returns `text` with each placeholder "%{name}" replaced with the text for its name in `substitutions`. The pairs
+/// are applied one after the other, in order. A value that contains the placeholder of a later pair is filled in as
+/// well. Other placeholders stay as they are. A placeholder cannot be escaped.
+[[nodiscard]] std::string applySubstitutions(std::string_view text, const Substitutions& substitutions);
+
+}  // namespace internal
 
 }  // namespace zk

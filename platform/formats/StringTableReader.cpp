@@ -3,12 +3,17 @@
 #include <ZKStrings/platform/text/UnicodeText.h>
 
 #include <algorithm>
+#include <charconv>
+#include <cstddef>
+#include <cstdint>
 #include <cstring>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
+
+#include <unicode/utf16.h>
 
 namespace zk {
 
@@ -133,28 +138,12 @@ struct Number {
   std::size_t digits = 0;
 };
 
-/// The number that up to `most` digits of `base` spell at the beginning of `text`, and how many digits those
-/// are.
-Number numberAt(std::string_view text, char32_t base, std::size_t most) {
-  constexpr std::string_view kDigits = "0123456789abcdef";
-  Number number;
-  while (number.digits < most && number.digits < text.size()) {
-    const char digit = text[number.digits];
-    const char lower = digit >= 'A' && digit <= 'F' ? static_cast<char>(digit - 'A' + 'a') : digit;
-    const std::size_t value = kDigits.find(lower);
-    if (value >= base) break;
-    number.value = number.value * base + static_cast<char32_t>(value);
-    ++number.digits;
-  }
-  return number;
-}
-
-bool isLead(char32_t unit) {
-  return unit >= 0xD800 && unit <= 0xDBFF;
-}
-
-bool isTrail(char32_t unit) {
-  return unit >= 0xDC00 && unit <= 0xDFFF;
+/// The number that up to `most` digits of `base` spell at the beginning of `text`, and how many digits those are.
+Number numberAt(std::string_view text, int base, std::size_t most) {
+  std::uint32_t value = 0;
+  const char* const end = text.data() + std::min(most, text.size());
+  const char* const after = std::from_chars(text.data(), end, value, base).ptr;
+  return {value, static_cast<std::size_t>(after - text.data())};
 }
 
 struct Escape {
@@ -174,12 +163,12 @@ std::optional<Escape> escapeAt(std::string_view text) {
     return Escape{octal.value & 0xFF, octal.digits};
   const Number unit = text[0] == 'U' ? numberAt(text.substr(1), 16, 4) : Number{};
   if (unit.digits == 0) return std::nullopt;
-  if (isLead(unit.value) && text.substr(5, 2) == "\\U") {
+  if (U16_IS_LEAD(unit.value) && text.substr(5, 2) == "\\U") {
     const Number trail = numberAt(text.substr(7), 16, 4);
-    if (isTrail(trail.value))
-      return Escape{0x10000 + ((unit.value - 0xD800) << 10) + (trail.value - 0xDC00), 11};
+    if (U16_IS_TRAIL(trail.value))
+      return Escape{static_cast<char32_t>(U16_GET_SUPPLEMENTARY(unit.value, trail.value)), 11};
   }
-  return Escape{isLead(unit.value) || isTrail(unit.value) ? U'\uFFFD' : unit.value, 1 + unit.digits};
+  return Escape{U16_IS_SURROGATE(unit.value) ? U'\uFFFD' : unit.value, 1 + unit.digits};
 }
 
 }  // namespace

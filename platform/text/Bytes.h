@@ -5,7 +5,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
-#include <initializer_list>
 #include <string_view>
 
 /// Hashing, searching and copying of short texts, inline and by whole words. For such texts, calling the library's
@@ -79,46 +78,28 @@ inline std::uint64_t wordOf(std::string_view text) {
 }
 
 /// Whether `text` is ASCII and contains none of the ASCII characters `excluded`.
-inline bool isAsciiWithout(std::string_view text, std::initializer_list<char> excluded) {
+template <char... excluded>
+bool isAsciiWithout(std::string_view text) {
   std::uint64_t found = 0;
-  const char* at = text.data();
-  std::size_t left = text.size();
   const auto look = [&](std::uint64_t eight) {
-    found |= eight & internal::kHighBits;
-    for (const char character : excluded) found |= internal::marksOf(character, eight);
+    found |= ((eight & internal::kHighBits) | ... | internal::marksOf(excluded, eight));
   };
-  for (; left >= 8; at += 8, left -= 8) look(internal::load<std::uint64_t>(at));
-  if (left > 0) look(internal::wordOf(at, left));
+  for (; text.size() >= 8; text.remove_prefix(8)) look(internal::load<std::uint64_t>(text.data()));
+  look(internal::wordOf(text.data(), text.size()));
   return found == 0;
-}
-
-/// Returns the place of the first wanted byte of `text` from `from` on; the size of `text`, or more, if there is
-/// none. `isWanted` tests a byte, `marksOfWord` tests eight: the lowest bit it sets is in the first wanted byte.
-template <class MarksOfWord, class IsWanted>
-std::size_t findByte(std::string_view text, std::size_t from, MarksOfWord marksOfWord, IsWanted isWanted) {
-  for (; from + 8 <= text.size(); from += 8) {
-    const std::uint64_t marks = marksOfWord(internal::load<std::uint64_t>(text.data() + from));
-    if (marks == 0) continue;
-    if constexpr (std::endian::native != std::endian::little) break;
-    return from + static_cast<std::size_t>(std::countr_zero(marks)) / 8;
-  }
-  while (from < text.size() && !isWanted(text[from])) ++from;
-  return from;
 }
 
 /// Returns the place of the first of two ASCII characters from `from` on; the size of `text`, or more, if there is none.
 inline std::size_t findEither(char one, char other, std::string_view text, std::size_t from) {
-  return findByte(
-      text, from,
-      [=](std::uint64_t eight) { return internal::marksOf(one, eight) | internal::marksOf(other, eight); },
-      [=](char character) { return character == one || character == other; });
-}
-
-/// Returns the place of the first byte that is not ASCII from `from` on; the size of `text`, or more, if there is none.
-inline std::size_t findNonAscii(std::string_view text, std::size_t from) {
-  return findByte(
-      text, from, [](std::uint64_t eight) { return eight & internal::kHighBits; },
-      [](char character) { return static_cast<signed char>(character) < 0; });
+  for (; from + 8 <= text.size(); from += 8) {
+    const auto eight = internal::load<std::uint64_t>(text.data() + from);
+    const std::uint64_t marks = internal::marksOf(one, eight) | internal::marksOf(other, eight);
+    if (marks == 0) continue;
+    if constexpr (std::endian::native != std::endian::little) break;
+    return from + static_cast<std::size_t>(std::countr_zero(marks)) / 8;
+  }
+  while (from < text.size() && text[from] != one && text[from] != other) ++from;
+  return from;
 }
 
 /// Copies `size` bytes to `to`, which must not overlap them, and returns the place after the copy.

@@ -40,13 +40,13 @@ bool isBorderBefore(const CodePoint& codePoint) {
 struct Unit {
   char32_t value;  // kFirstByteValue and more for a byte that is not UTF-8
   std::uint8_t combiningClass;
-  std::size_t begin, end;  // the bytes of the text between two borders, which all units between them share
+  std::size_t segment;  // the place in the text of the last border at or before the unit
 };
 
 /// Appends the code points that `codePoint` decomposes to.
-void appendDecomposed(std::vector<Unit>& units, const CodePoint& codePoint) {
+void appendDecomposed(std::vector<Unit>& units, const CodePoint& codePoint, std::size_t segment) {
   const auto append = [&](char32_t value, std::uint8_t combiningClass) {
-    units.push_back({value, combiningClass, 0, 0});
+    units.push_back({value, combiningClass, segment});
   };
   if (!codePoint.value) return append(kFirstByteValue + static_cast<unsigned char>(codePoint.bytes[0]), 0);
   if (*codePoint.value < 0x80) return append(*codePoint.value, 0);
@@ -76,33 +76,18 @@ void reorderMarks(std::vector<Unit>& units) {
 /// The canonical decomposition of `text`.
 std::vector<Unit> decomposed(std::string_view text) {
   std::vector<Unit> units;
-  std::size_t firstUnit = 0;
-  std::size_t begin = 0;
+  std::size_t segment = 0;
   bool isAfterByte = false;  // a byte that is not UTF-8 has borders on both sides
-  const auto endSegment = [&](std::size_t end) {
-    for (; firstUnit < units.size(); ++firstUnit) {
-      units[firstUnit].begin = begin;
-      units[firstUnit].end = end;
-    }
-    begin = end;
-  };
   for (std::size_t at = 0; at < text.size();) {
     const CodePoint next = firstCodePoint(text.substr(at));
-    if (isAfterByte || isBorderBefore(next)) endSegment(at);
-    appendDecomposed(units, next);
+    if (isAfterByte || isBorderBefore(next)) segment = at;
+    appendDecomposed(units, next, segment);
     isAfterByte = !next.value;
     at += next.bytes.size();
   }
-  endSegment(text.size());
   reorderMarks(units);
   return units;
 }
-
-/// The bytes [begin, end) of a text.
-struct Occurrence {
-  std::size_t begin;
-  std::size_t end;
-};
 
 /// For each prefix of `target`, the length of the longest shorter prefix that is also its suffix: where the search by
 /// Knuth, Morris and Pratt continues if the next unit differs.
@@ -117,48 +102,6 @@ std::vector<std::size_t> repeatedPrefixes(const std::vector<Unit>& target) {
   return lengths;
 }
 
-/// Finds `target` by canonical equivalence.
-std::vector<Occurrence> canonicalOccurrences(std::string_view text, std::string_view target) {
-  const std::vector<Unit> units = decomposed(text);
-  const std::vector<Unit> wanted = decomposed(target);
-  const std::vector<std::size_t> repeated = repeatedPrefixes(wanted);
-  const auto isBorder = [&](std::size_t at) {
-    return at == 0 || at == units.size() || units[at].begin != units[at - 1].begin;
-  };
-  std::vector<Occurrence> found;
-  std::size_t same = 0;
-  for (std::size_t at = 0; at < units.size() && !wanted.empty();) {
-    const char32_t value = units[at++].value;
-    while (same > 0 && wanted[same].value != value) same = repeated[same - 1];
-    if (wanted[same].value == value) ++same;
-    if (same < wanted.size()) continue;
-    const std::size_t begin = at - same;
-    const bool isWhole = isBorder(begin) && isBorder(at);
-    if (isWhole) found.push_back({units[begin].begin, units[at - 1].end});
-    same = isWhole ? 0 : repeated[same - 1];
-  }
-  return found;
-}
-
-/// Whether `target` can be found by comparing bytes: no character but itself is equivalent to one of its characters.
-bool isPlain(std::string_view target) {
-  // The Kelvin sign, the Greek question mark and the Greek varia decompose to these, and nothing else to ASCII.
-  constexpr std::size_t kLongest = 64;  // it is compared at each place of a text
-  return !target.empty() && target.size() <= kLongest && isAsciiWithout(target, {'K', ';', '`'});
-}
-
-/// Finds a plain `target`: the same places as `canonicalOccurrences`, faster.
-std::vector<Occurrence> plainOccurrences(std::string_view text, std::string_view target) {
-  std::vector<Occurrence> found;
-  for (std::size_t at = text.find(target); at != text.npos; at = text.find(target, at)) {
-    const std::size_t end = at + target.size();
-    const bool isWhole = hasBorderBefore(text.substr(end));
-    if (isWhole) found.push_back({at, end});
-    at = isWhole ? end : at + 1;
-  }
-  return found;
-}
-
 }  // namespace
 
 bool internal::isBorderBeforeNonAscii(std::string_view text) {
@@ -167,7 +110,7 @@ bool internal::isBorderBeforeNonAscii(std::string_view text) {
 
 // Not by ICU's normalisation, whose work grows with the square of the number of marks on one letter.
 std::string canonicalForm(std::string_view text) {
-  if (isAsciiWithout(text, {})) return std::string(text);
+  if (isAsciiWithout<>(text)) return std::string(text);
   std::string form;
   for (const Unit& unit : decomposed(text)) {
     if (unit.value < kFirstByteValue) {
@@ -180,14 +123,26 @@ std::string canonicalForm(std::string_view text) {
 }
 
 void replaceOccurrences(std::string& text, std::string_view target, std::string_view replacement) {
-  const auto found = isPlain(target) ? plainOccurrences(text, target) : canonicalOccurrences(text, target);
-  if (found.empty()) return;
+  const std::vector<Unit> units = decomposed(text);
+  const std::vector<Unit> wanted = decomposed(target);
+  const std::vector<std::size_t> repeated = repeatedPrefixes(wanted);
+  const auto isBorder = [&](std::size_t at) {
+    return at == 0 || at == units.size() || units[at].segment != units[at - 1].segment;
+  };
   std::string result;
-  result.reserve(text.size() + found.size() * replacement.size());
   std::size_t done = 0;
-  for (const Occurrence& occurrence : found) {
-    result.append(text, done, occurrence.begin - done).append(replacement);
-    done = occurrence.end;
+  std::size_t same = 0;
+  for (std::size_t at = 0; at < units.size() && !wanted.empty();) {
+    const char32_t value = units[at++].value;
+    while (same > 0 && wanted[same].value != value) same = repeated[same - 1];
+    if (wanted[same].value == value) ++same;
+    if (same < wanted.size()) continue;
+    const std::size_t begin = at - same;
+    const bool isWhole = isBorder(begin) && isBorder(at);
+    same = isWhole ? 0 : repeated[same - 1];
+    if (!isWhole) continue;
+    result.append(text, done, units[begin].segment - done).append(replacement);
+    done = at == units.size() ? text.size() : units[at].segment;
   }
   text = result.append(text, done);
 }

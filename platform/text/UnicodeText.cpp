@@ -20,37 +20,9 @@ namespace zk {
 
 namespace {
 
-#pragma GCC diagnostic ignored "-Wsign-conversion"  // within the library's macros
-
-/// Returns the code point at `at` and moves `at` after it; negative for a byte that is not UTF-8.
-UChar32 nextCodePoint(std::string_view text, std::size_t& at) {
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wconversion"  // within the library's macro
-  UChar32 value = 0;
-  U8_NEXT(text.data(), at, text.size(), value);  // NOLINT(bugprone-inc-dec-in-conditions)
-  return value;
-#pragma GCC diagnostic pop
-}
-
-bool isAscii(char byte) {
-  return static_cast<unsigned char>(byte) < 0x80;
-}
-
-/// Appends one code point in upper case. Without regard to a language, none depends on its neighbours.
-void appendUpperCased(std::string& text, std::string_view codePoint) {
-  if (isAscii(codePoint[0])) {
-    const char letter = codePoint[0];
-    text += letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - 'a' + 'A') : letter;
-    return;
-  }
-  char capitals[16];  // the longest, of U+0390 and others, has six bytes
-  UErrorCode status = U_ZERO_ERROR;
-  const std::int32_t size =
-      icu::CaseMap::utf8ToUpper("", 0, codePoint.data(), static_cast<std::int32_t>(codePoint.size()),
-                                capitals, sizeof(capitals), nullptr, status);
-  if (U_FAILURE(status)) throw std::bad_alloc();
-  text.append(capitals, static_cast<std::size_t>(size));
-}
+// Within the library's macros.
+#pragma GCC diagnostic ignored "-Wconversion"
+#pragma GCC diagnostic ignored "-Wsign-conversion"
 
 /// This thread's iterator over user-perceived characters. Opening one takes microseconds, so it is kept.
 UBreakIterator* characterIterator() {
@@ -115,8 +87,9 @@ std::string_view internal::firstTwoClusters(std::string_view text) {
 }
 
 CodePoint firstCodePoint(std::string_view text) {
+  UChar32 value = 0;
   std::size_t length = 0;
-  const UChar32 value = nextCodePoint(text, length);
+  U8_NEXT(text.data(), length, text.size(), value);  // NOLINT(bugprone-inc-dec-in-conditions)
   if (value < 0) return {std::nullopt, text.substr(0, 1)};
   return {static_cast<char32_t>(value), text.substr(0, length)};
 }
@@ -138,10 +111,15 @@ bool isDecimalDigit(char32_t codePoint) {
 }
 
 bool isUtf8(std::string_view bytes) {
-  for (std::size_t at = 0; (at = findNonAscii(bytes, at)) < bytes.size();) {
-    while (at < bytes.size() && !isAscii(bytes[at])) {
-      if (nextCodePoint(bytes, at) < 0) return false;
+  for (std::size_t at = 0; at < bytes.size();) {
+    UChar32 value = 0;
+    if (at + 8 <= bytes.size() &&
+        (internal::load<std::uint64_t>(bytes.data() + at) & internal::kHighBits) == 0) {
+      at += 8;
+    } else {
+      U8_NEXT(bytes.data(), at, bytes.size(), value);  // NOLINT(bugprone-inc-dec-in-conditions)
     }
+    if (value < 0) return false;
   }
   return true;
 }
@@ -162,18 +140,15 @@ bool isRightToLeft(std::string_view code) {
 }
 
 std::string upperCased(std::string_view text) {
-  std::string result;
-  result.reserve(text.size());
-  for (std::size_t at = 0; at < text.size();) {
-    const CodePoint next = firstCodePoint(text.substr(at));
-    if (next.value) {
-      appendUpperCased(result, next.bytes);
-    } else {
-      result += next.bytes;
-    }
-    at += next.bytes.size();
-  }
-  return result;
+  if (text.size() > INT32_MAX / 3) throw std::bad_alloc();
+  std::string capitals(text.size() * 3, '\0');  // the longest, of U+0390 and others
+  UErrorCode status = U_ZERO_ERROR;
+  const std::int32_t size =
+      icu::CaseMap::utf8ToUpper("", 0, text.data(), static_cast<std::int32_t>(text.size()), capitals.data(),
+                                static_cast<std::int32_t>(capitals.size()), nullptr, status);
+  if (U_FAILURE(status)) throw std::bad_alloc();
+  capitals.resize(static_cast<std::size_t>(size));
+  return capitals;
 }
 
 }  // namespace zk

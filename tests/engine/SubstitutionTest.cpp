@@ -1,4 +1,4 @@
-#include <ZKStrings/engine/PlaceholderSubstitution.h>
+#include <ZKStrings/engine/Substitutions.h>
 #include <ZKStrings/platform/text/TextSearch.h>
 #include <ZKStrings/platform/text/UnicodeText.h>
 #include <ZKStrings/tests/RandomTexts.h>
@@ -21,6 +21,7 @@
 namespace zk {
 namespace {
 
+using internal::applySubstitutions;
 using Texts = std::vector<std::pair<std::string, std::string>>;
 
 TEST(Substitution, FillsInThePlaceholdersThatHaveAText) {
@@ -81,9 +82,7 @@ TEST(Substitution, IsAValue) {
     const std::string expected = applySubstitutions(text, original);
     Substitutions copy = original;
     Substitutions moved = std::move(copy);
-    EXPECT_EQ(applySubstitutions(text, copy), text) << count;
     copy = std::move(moved);
-    EXPECT_EQ(applySubstitutions(text, moved), text) << count;
     moved = copy;
     EXPECT_EQ(applySubstitutions(text, copy), expected) << count;
     EXPECT_EQ(applySubstitutions(text, moved), expected) << count;
@@ -115,7 +114,7 @@ TEST(Substitution, FillsInTextsOfEverySize) {
     EXPECT_EQ(applySubstitutions(plain + "%{a}" + plain, {{"a", "kim"}}), plain + "kim" + plain) << size;
     EXPECT_EQ(applySubstitutions("%{a} 5% %{a}", {{"a", plain}}), plain + " 5% " + plain) << size;
     EXPECT_EQ(applySubstitutions(plain + "%{a}", {{"a", plain}}), plain + plain) << size;
-    for (const std::size_t whole : {500U, 508U}) {
+    for (const std::size_t whole : {504U, 512U}) {
       const std::string rest(whole - std::min(whole, size), 'y');
       EXPECT_EQ(applySubstitutions("%{a}" + plain, {{"a", rest}}), rest + plain) << size;
     }
