@@ -2,7 +2,6 @@
 #include <ZKStrings/platform/formats/TextEncoding.h>
 
 #include <cstddef>
-#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -26,11 +25,8 @@ class Builder final : public nlohmann::json_sax<nlohmann::json> {
  public:
   bool null() override { return add(nullptr); }
   bool boolean(bool value) override { return add(value); }
-  bool number_integer(number_integer_t value) override { return add(std::int64_t{value}); }
-  bool number_unsigned(number_unsigned_t value) override {
-    if (value <= INT64_MAX) return add(static_cast<std::int64_t>(value));
-    return add(static_cast<double>(value));
-  }
+  bool number_integer(number_integer_t value) override { return add(value); }
+  bool number_unsigned(number_unsigned_t value) override { return add(value); }
   bool number_float(number_float_t value, const string_t&) override { return add(value); }
   // Copied, because the parser reuses its buffer.
   bool string(string_t& value) override { return add(std::as_const(value)); }
@@ -54,42 +50,35 @@ class Builder final : public nlohmann::json_sax<nlohmann::json> {
  private:
   template <class Content>
   bool add(Content&& content) {
-    if (unkept_ == 0) place(std::forward<Content>(content));
+    place(std::forward<Content>(content));
     return true;
   }
 
-  /// Adds a value at the top, or to the innermost open list or dictionary.
+  /// Adds a value at the top, or to the innermost open list or dictionary. Returns null if that is not kept.
   template <class Content>
-  Value& place(Content&& content) {
-    if (open_.empty()) return root_ = Value(std::forward<Content>(content));
+  Value* place(Content&& content) {
+    if (open_.empty()) return &(root_ = Value(std::forward<Content>(content)));
+    if (!open_.back()) return nullptr;
     if (auto* const list = open_.back()->as<Value::List>())
-      return list->emplace_back(std::forward<Content>(content));
-    return open_.back()->as<Dictionary>()->append(name_, std::forward<Content>(content));
+      return &list->emplace_back(std::forward<Content>(content));
+    return &open_.back()->as<Dictionary>()->append(name_, std::forward<Content>(content));
   }
 
   template <class Container>
   bool open(Container empty) {
-    if (unkept_ > 0 || open_.size() == kDeepestKept) {
-      ++unkept_;
-    } else {
-      open_.push_back(&place(std::move(empty)));
-    }
+    open_.push_back(open_.size() < kDeepestKept ? place(std::move(empty)) : nullptr);
     return true;
   }
 
   bool close() {
-    if (unkept_ > 0) {
-      --unkept_;
-    } else {
-      open_.pop_back();
-    }
+    open_.pop_back();
     return true;
   }
 
   Value root_{};
-  std::vector<Value*> open_{};  // from the outermost on; an element is closed before the next one is added
-  std::string name_{};          // of the member whose value comes next
-  std::size_t unkept_ = 0;      // the number of open levels below the deepest kept one
+  /// From the outermost on; null for levels that are not kept. An element is closed before the next one is added.
+  std::vector<Value*> open_{};
+  std::string name_{};  // of the member whose value comes next
 };
 
 /// Whether the library would ignore characters that are not JSON: a byte-order mark at the beginning, and everything
@@ -101,7 +90,7 @@ bool holdsUnseen(std::string_view text) {
 }  // namespace
 
 std::optional<Value> parseJson(std::string bytes) {
-  const std::optional<std::string> text = decodedText(std::move(bytes), UnmarkedText::mayBeUtf16Or32);
+  const std::optional<std::string> text = decodedText(std::move(bytes));
   if (!text || holdsUnseen(*text)) return std::nullopt;
   Builder builder;
   if (!nlohmann::json::sax_parse(*text, &builder)) return std::nullopt;

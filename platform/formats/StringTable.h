@@ -16,9 +16,9 @@ namespace zk {
 /// thread-safe.
 class alignas(kCacheLine) StringTable {
  public:
-  /// Reads the table in the file at `path`, in UTF-8 (with or without byte-order mark) or UTF-16 (with it). Returns a
-  /// table without texts if the file cannot be read, or is not well-formed from its first byte to its last. `failure`
-  /// is the reason why the file could not be read, and is cleared if it could.
+  /// Reads the table in the file at `path`, in an encoding that `decodedText` reads. Returns a table without texts if the
+  /// file cannot be read, or is not well-formed from its first byte to its last. `failure` is the reason why the file
+  /// could not be read, and is cleared if it could.
   [[nodiscard]] static StringTable inFile(const std::string& path, std::error_code& failure);
 
   /// Returns the text of `key`, which lives as long as the table; nothing if there is none. If a key occurs several
@@ -31,9 +31,8 @@ class alignas(kCacheLine) StringTable {
  private:
   struct Slot {
     std::uint32_t hash;
-    // The key is the `keySize` bytes of `text_` from `key` on. The value is stored in the same way.
-    std::uint32_t key, keySize;
-    std::uint32_t value, valueSize;
+    // The key is the `keySize` bytes of `text_` from `key` on. The value is the `valueSize` bytes after it.
+    std::uint32_t key, keySize, valueSize;
   };
 
   StringTable();

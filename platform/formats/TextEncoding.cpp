@@ -1,7 +1,9 @@
 #include <ZKStrings/platform/formats/TextEncoding.h>
 #include <ZKStrings/platform/text/UnicodeText.h>
 
+#include <algorithm>
 #include <cstddef>
+#include <iterator>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -71,16 +73,12 @@ std::optional<std::string> toUtf8(std::string_view bytes, Encoding encoding) {
 
 }  // namespace
 
-std::optional<std::string> decodedText(std::string bytes, UnmarkedText unmarked) {
-  Encoding encoding{1, false};
-  std::size_t markSize = 0;
-  if (unmarked == UnmarkedText::mayBeUtf16Or32) encoding = unmarkedEncoding(bytes);
-  for (const Mark& mark : kMarks) {
-    if (!std::string_view(bytes).starts_with(mark.bytes)) continue;
-    encoding = mark.encoding;
-    markSize = mark.bytes.size();
-    break;
-  }
+std::optional<std::string> decodedText(std::string bytes) {
+  const auto isAtBegin = [&](const Mark& mark) { return bytes.starts_with(mark.bytes); };
+  const auto* const mark = std::find_if(std::begin(kMarks), std::end(kMarks), isAtBegin);
+  const bool isMarked = mark != std::end(kMarks);
+  const Encoding encoding = isMarked ? mark->encoding : unmarkedEncoding(bytes);
+  const std::size_t markSize = isMarked ? mark->bytes.size() : 0;
   if (encoding.unit > 1) return toUtf8(std::string_view(bytes).substr(markSize), encoding);
   if (!isUtf8(bytes)) return std::nullopt;
   bytes.erase(0, markSize);

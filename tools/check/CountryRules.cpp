@@ -108,7 +108,7 @@ CountryFile CountryFile::read(const std::string& root) {
   CountryFile file;
   try {
     const std::string bytes = readFile(root, kFile);
-    const std::optional<std::string> text = decodedText(bytes, UnmarkedText::mayBeUtf16Or32);
+    const std::optional<std::string> text = decodedText(bytes);
     if (!text) fail(kFile, "the file is not text; save it as UTF-8");
     const std::vector<JsonValue> elements = JsonValue::parse(*text, kFile).elements();
     const std::optional<Value> content = parseJson(bytes);

@@ -118,7 +118,7 @@ Table Table::parse(std::string bytes, std::string file) {
   const auto fail = [&](Position at, const char* rule, std::string message) {
     table.diagnostics.push_back({Severity::error, table.file, at.line, at.column, rule, std::move(message)});
   };
-  std::optional<std::string> text = decodedText(bytes, UnmarkedText::isUtf8);
+  std::optional<std::string> text = decodedText(bytes);
   if (!text) {
     if (bytes.starts_with(kByteOrderMark)) bytes.erase(0, kByteOrderMark.size());
     for (const Position at : illFormedPlaces(bytes))
