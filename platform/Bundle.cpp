@@ -44,10 +44,6 @@ ResourcePath::ResourcePath(std::string path, bool isDirectory)
   type_ = fileName.substr(dot + 1);
 }
 
-ResourcePath::~ResourcePath() {
-  delete table_.load();
-}
-
 /// The string table in this file; null if it temporarily cannot be read.
 inline const StringTable* ResourcePath::table() const {
   const StringTable* const open = table_.load(std::memory_order_acquire);
@@ -56,7 +52,7 @@ inline const StringTable* ResourcePath::table() const {
 
 const StringTable* ResourcePath::openTable() const {
   const std::lock_guard lock(opening());
-  if (const StringTable* open = table_.load()) return open;
+  if (const StringTable* const open = table_.load()) return open;
   std::error_code failure;
   auto table = std::make_unique<const StringTable>(StringTable::inFile(path_, failure));
   if (isTemporary(failure) || isRefusal(failure)) return nullptr;

@@ -126,7 +126,6 @@ class ZK_EXPORT alignas(kCacheLine) ResourcePath {
   /// Whether it was a directory when it was listed.
   [[nodiscard]] bool isDirectory() const { return isDirectory_; }
 
-  ~ResourcePath();
   ResourcePath(const ResourcePath&) = delete;
   ResourcePath& operator=(const ResourcePath&) = delete;
 

@@ -31,11 +31,11 @@ struct alignas(kCacheLine) Entry {
   const std::type_info& type;
   const std::optional<std::string> name;
 
-  std::atomic<std::uint64_t> generation{0};  // counts the changes of the registration
+  std::atomic<std::uint64_t> generation{0};  // a number of its own for each change of a registration
   std::mutex mutex{};
   std::shared_ptr<Registration> registration{};  // guarded by `mutex`
-  std::recursive_mutex
-      making{};  // held while a factory of the application scope runs; recursive, because the factory may resolve again
+  /// Held while a factory of the application scope runs. Recursive, because the factory may resolve again.
+  std::recursive_mutex making{};
 };
 
 namespace {
@@ -53,10 +53,6 @@ namespace {
 
 }  // namespace
 
-Registration::Registration() = default;
-
-Registration::~Registration() = default;
-
 Service Registration::made(const Entry& entry) {
   Service service = make();
   if (!service) stop(entry, "has a factory that returned nothing");
@@ -65,9 +61,8 @@ Service Registration::made(const Entry& entry) {
 
 Service Registration::service(Entry& entry) {
   if (scope != ResolverScope::application) return made(entry);
-  if (isKept_.load(std::memory_order_acquire)) return kept_;
   const std::lock_guard lock(entry.making);
-  if (isKept_) return kept_;
+  if (kept_) return kept_;
   if (isBeingMade_) stop(entry, "is resolved by its own factory, directly or through others");
   isBeingMade_ = true;
   try {
@@ -76,7 +71,6 @@ Service Registration::service(Entry& entry) {
     isBeingMade_ = false;
     throw;
   }
-  isKept_.store(true, std::memory_order_release);
   return kept_;
 }
 
@@ -118,58 +112,50 @@ Service resolveFrom(Entry& entry) {
 
 namespace {
 
-// The services that this thread keeps. A plain pointer needs no construction, so reading it is cheap and safe at any
-// time.
+// The service that this thread keeps. A plain pointer needs no construction, so reading it is cheap and safe at any time.
 thread_local constinit Kept* keptByThread = nullptr;
 
-void freeAllKept(void* first);
-
-const ThreadPointer& firstKeptAtThreadEnd() {
-  static const ThreadPointer& pointer = *new ThreadPointer(freeAllKept);
-  return pointer;
+void freeKept(void* kept) {
+  keptByThread = nullptr;  // the service may be viewed again while it is destroyed
+  delete static_cast<Kept*>(kept);
 }
 
-void freeAllKept(void* first) {
-  keptByThread = static_cast<Kept*>(first);  // some systems have reset it by now
-  while (keptByThread) delete std::exchange(keptByThread, keptByThread->next);
-  static_cast<void>(firstKeptAtThreadEnd().set(nullptr));  // needs no room
-}
-
-/// The place where this thread keeps the service of `entry`; null if it cannot keep any.
-Kept* placeFor(const Entry& entry) {
-  for (Kept* kept = keptByThread; kept; kept = kept->next) {
-    if (kept->entry == &entry) return kept;
-  }
-  std::unique_ptr<Kept> kept(new Kept{&entry, nullptr, 0, 0, nullptr, keptByThread});
-  if (!firstKeptAtThreadEnd().set(kept.get())) return nullptr;
+/// The place where this thread keeps a service; null if it cannot keep any.
+Kept* placeOfThread() {
+  static const ThreadPointer& freedAtThreadEnd = *new ThreadPointer(freeKept);
+  if (keptByThread) return keptByThread;
+  auto kept = std::make_unique<Kept>();
+  if (!freedAtThreadEnd.set(kept.get())) return nullptr;
   return keptByThread = kept.release();
+}
+
+std::uint64_t nextGeneration() {
+  static constinit std::atomic<std::uint64_t> last{0};
+  return ++last;
 }
 
 }  // namespace
 
-Hold::Hold(Entry& entry) : kept_(keptByThread) {
+Hold::Hold(Entry& entry) {
   const std::uint64_t generation = entry.generation.load(std::memory_order_acquire);
-  for (; kept_; kept_ = kept_->next) {
-    if (kept_->entry != &entry || kept_->generation != generation) continue;
+  if (keptByThread && keptByThread->generation == generation) {
+    kept_ = keptByThread;
     ++kept_->openViews;
-    service_ = kept_->service;
-    return;
+  } else {
+    resolve(entry, generation);
   }
-  resolve(entry, generation);
 }
 
 void Hold::resolve(Entry& entry, std::uint64_t generation) {
   const std::shared_ptr<Registration> registration = current(entry);
-  owner_ = registration->service(entry);
-  service_ = owner_.get();
+  owned_ = registration->service(entry);
   if (registration->scope != ResolverScope::application) return;
-  Kept* const place = placeFor(entry);
+  Kept* const place = placeOfThread();
   if (!place || place->openViews > 0) return;  // a view further up the stack still reads the older service
   kept_ = place;
   kept_->openViews = 1;
-  kept_->service = service_;
   kept_->generation = generation;
-  kept_->owner.swap(owner_);  // last, as releasing the older service may open a view
+  kept_->service.swap(owned_);  // the older service ends with this view
 }
 
 }  // namespace internal
@@ -179,13 +165,13 @@ ResolverOptions::ResolverOptions(internal::Entry& entry,
     : entry_(entry), registration_(registration) {
   const std::lock_guard lock(entry.mutex);
   entry.registration.swap(registration);  // releases the replaced one after the lock
-  entry.generation.fetch_add(1, std::memory_order_release);
+  entry.generation.store(internal::nextGeneration(), std::memory_order_release);
 }
 
 ResolverOptions& ResolverOptions::scope(ResolverScope scope) {
   registration_->scope = scope;
   // Services that threads keep were kept under the old scope.
-  entry_.generation.fetch_add(1, std::memory_order_release);
+  entry_.generation.store(internal::nextGeneration(), std::memory_order_release);
   return *this;
 }
 

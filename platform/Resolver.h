@@ -31,26 +31,21 @@ using Service = std::shared_ptr<const void>;
 /// A factory, its scope, and the service that the application scope keeps.
 class ZK_EXPORT Registration {
  public:
-  Registration(const Registration&) = delete;
-  Registration& operator=(const Registration&) = delete;
-  virtual ~Registration();
+  virtual ~Registration() = default;
 
   /// Returns a new service or the kept one, depending on the scope. `entry` is the entry that is being resolved.
   [[nodiscard]] Service service(Entry& entry);
 
   std::atomic<ResolverScope> scope{ResolverScope::everyResolve};
 
- protected:
-  Registration();
-
  private:
   /// Calls the factory; null if it returned nothing.
   [[nodiscard]] virtual Service make() = 0;
   [[nodiscard]] Service made(const Entry& entry);
 
-  bool isBeingMade_ = false;  // guarded by the entry's lock, as are writes to `kept_`
-  std::atomic<bool> isKept_{false};
-  Service kept_{};  // written once, before `isKept_` is set
+  // Guarded by the entry's lock `making`.
+  bool isBeingMade_ = false;
+  Service kept_{};
 };
 
 template <class Type, class Make>

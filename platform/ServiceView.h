@@ -10,15 +10,12 @@ namespace zk {
 
 namespace internal {
 
-/// The service that one thread keeps of one entry, so that viewing it again costs no reference count. Only its
-/// thread writes to it, so it has cache lines of its own.
+/// The service that one thread keeps, so viewing it again counts no reference. Only its thread writes to it, so it has
+/// cache lines of its own.
 struct alignas(128) Kept {
-  const Entry* entry;
-  const void* service;
-  std::uint64_t generation;  // of `entry`, when the service was resolved
-  unsigned openViews;
-  Service owner;
-  Kept* next;
+  Service service{};
+  std::uint64_t generation = 0;  // of the service's entry, when the service was resolved
+  unsigned openViews = 0;
 };
 
 /// Keeps a service alive: the one that the thread keeps, or else one that this object owns.
@@ -30,22 +27,21 @@ class Hold {
   ~Hold() {
     if (kept_) --kept_->openViews;
   }
-  [[nodiscard]] const void* service() const { return service_; }
+  [[nodiscard]] const void* service() const { return kept_ ? kept_->service.get() : owned_.get(); }
 
  private:
   /// Not inlined, to keep the common case short.
   [[gnu::noinline]] void resolve(Entry& entry, std::uint64_t generation);
 
-  const void* service_ = nullptr;
-  Kept* kept_;
-  Service owner_{};
+  Kept* kept_ = nullptr;
+  Service owned_{};
 };
 
 }  // namespace internal
 
-/// Resolves the unnamed service of the type `Service` without copying it. While nothing new is registered, it
-/// takes no lock and writes to no memory that threads share. In return, each thread keeps the last value that it
-/// viewed until its next view of that service, or until it ends.
+/// Resolves the unnamed service of the type `Service` without copying it. While nothing new is registered, it takes no
+/// lock and writes to no memory that threads share. In return, each thread keeps the last service that it viewed, until
+/// its next view or its end.
 ///
 ///     const ServiceView<Language> language;
 ///     read(language->preferredLanguages);
