@@ -93,16 +93,6 @@ std::string end(const CatalogueName& catalogue) {
   return catalogue.nameSpace.empty() ? "" : fmt::format("\n}}  // namespace {}\n", catalogue.nameSpace);
 }
 
-/// `text` as the contents of a C++ string literal. It also fits in a comment, since no control character ends the line.
-std::string literal(std::string_view text) {
-  std::string result;
-  for (const char character : escaped(text)) {
-    const auto byte = static_cast<unsigned char>(character);
-    result += byte < 0x20 || byte == 0x7F ? fmt::format("\\{:03o}", byte) : std::string(1, character);
-  }
-  return result;
-}
-
 std::string parametersOf(const Entry& entry, const CatalogueName& catalogue) {
   std::vector<std::string> parameters;
   for (const std::string_view name : placeholderNames(entry.text)) {

@@ -74,23 +74,17 @@ class CSVReader {
     const std::size_t english = requiredColumn("en");
     const std::size_t state = columnOf("state");
     const std::size_t notes = columnOf("notes");
-    const auto isLanguage = [&](const std::string& title) {
-      constexpr std::string_view kOthers[] = {"key", "en", "state", "notes"};
-      return std::find(std::begin(kOthers), std::end(kOthers), title) == std::end(kOthers) &&
-             !languageCodeOf(title).empty();
-    };
-    const auto language = std::find_if(titles_.begin(), titles_.end(), isLanguage);
-    if (language == titles_.end())
+    std::vector<std::size_t> targets;
+    for (std::size_t i = 0; i < titles_.size(); ++i) {
+      const bool isOther = i == key || i == english || i == state || i == notes;
+      if (!isOther && !languageCodeOf(titles_[i]).empty()) targets.push_back(i);
+    }
+    if (targets.size() != 1)
       fail(file_,
-           "no column has a language code as its title; give the column of translations one, such as \"de\"");
-    const auto other = std::find_if(language + 1, titles_.end(), isLanguage);
-    if (other != titles_.end())
-      fail(file_,
-           fmt::format("the columns \"{}\" and \"{}\" are both titled with a language; remove or rename one",
-                       *language, *other));
-    const auto target = static_cast<std::size_t>(language - titles_.begin());
+           fmt::format("the first line names {} languages; name exactly one, as in key,en,de,state,notes",
+                       targets.size()));
 
-    Translations translations{*language, {}};
+    Translations translations{titles_[targets[0]], {}};
     while (at_ < text_.size()) {
       const Position at = positions.at(at_);
       Row row = takeRow();
@@ -101,10 +95,13 @@ class CSVReader {
              fmt::format("the line has more cells than the first line; put a text with \"{}\" in quotes",
                          separator_));
       }
-      // Rows may be shorter than the row of titles.
+      // Rows may be shorter than the row of titles. Translators leave words such as "missing" in the column of states.
       const auto cellOf = [&](std::size_t column) { return column < row.size() ? row[column] : ""; };
+      const bool needsReview = cellOf(state) == nameOf(TranslationState::needsReview);
       translations.units.push_back(
-          {cellOf(key), cellOf(english), cellOf(target), stateFrom(cellOf(state)), cellOf(notes), "", at});
+          {cellOf(key), cellOf(english), cellOf(targets[0]),
+           needsReview ? TranslationState::needsReview : TranslationState::translated, cellOf(notes), "",
+           at});
     }
     return translations;
   }
@@ -121,16 +118,8 @@ class CSVReader {
     const std::size_t column = columnOf(title);
     if (column == titles_.size())
       fail(file_,
-           fmt::format(
-               "no column has the title \"{}\"; the first line must be key,en,de,state,notes or similar",
-               title));
+           fmt::format("no column has the title \"{}\"; write one, as in key,en,de,state,notes", title));
     return column;
-  }
-
-  /// Translators leave other words, such as "missing", in this column when they fill in a text.
-  static TranslationState stateFrom(std::string_view name) {
-    return name == nameOf(TranslationState::needsReview) ? TranslationState::needsReview
-                                                         : TranslationState::translated;
   }
 
   /// Takes the next row, including its line end.

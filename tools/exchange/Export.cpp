@@ -23,33 +23,21 @@ namespace zk::tools {
 
 namespace {
 
-std::string pluralNote(const EnglishText& english) {
-  return fmt::format("The plural form {} is used for {}. It must be right for every such number.",
-                     english.form->suffix, english.form->counts);
-}
-
-std::string placeholderNote(const EnglishText& english) {
-  const std::vector<std::string_view> names = english.placeholders();
-  std::string note =
-      fmt::format("The app fills in %{{{}}}. Copy placeholders exactly.", fmt::join(names, "}, %{"));
-  if (!english.dispensable().empty())
-    note += fmt::format(" %{{{}}} may be omitted if the text spells the number out.", english.dispensable());
-  return note;
-}
-
-bool hasMarks(const EnglishText& english) {
-  const std::vector<TextPiece> pieces = piecesOf(english.text);
-  return std::any_of(pieces.begin(), pieces.end(),
-                     [](const TextPiece& piece) { return piece.kind == TextPiece::Kind::opening; });
-}
-
 /// The notes for a translator who sees only `english`.
 std::vector<std::string> notesOn(const EnglishText& english) {
   std::vector<std::string> notes;
   if (std::string context = english.entry->context(); !context.empty()) notes.push_back(std::move(context));
-  if (english.form) notes.push_back(pluralNote(english));
-  if (!english.placeholders().empty()) notes.push_back(placeholderNote(english));
-  if (hasMarks(english))
+  if (const PluralForm* const form = english.form)
+    notes.push_back(fmt::format("The plural form {} is used for {}. It must be right for every such number.",
+                                form->suffix, form->counts));
+  if (const std::vector<std::string_view> names = english.placeholders(); !names.empty())
+    notes.push_back(
+        fmt::format("The app fills in %{{{}}}. Copy placeholders exactly.", fmt::join(names, "}, %{")));
+  if (const std::string_view name = english.dispensable(); !name.empty())
+    notes.back() += fmt::format(" %{{{}}} may be omitted if the text spells the number out.", name);
+  const std::vector<TextPiece> pieces = piecesOf(english.text);
+  if (std::any_of(pieces.begin(), pieces.end(),
+                  [](const TextPiece& piece) { return piece.kind == TextPiece::Kind::opening; }))
     notes.emplace_back("Words between <b> and </b> are bold, words between * and * are emphasised.");
   notes.push_back(fmt::format("The English text has {} characters.", lengthOf(english.text)));
   return notes;

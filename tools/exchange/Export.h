@@ -1,6 +1,6 @@
 #pragma once
 
-#include <ZKStrings/tools/exchange/Translations.h>
+#include <ZKStrings/tools/exchange/ExchangeFormat.h>
 #include <ZKStrings/tools/project/Table.h>
 
 #include <string>

@@ -56,24 +56,15 @@ std::string keyNamedBy(std::string_view reference) {
   return key;
 }
 
-std::string quoted(std::string_view text) {
-  std::string result;
-  for (const char character : escaped(text)) {
-    const auto byte = static_cast<unsigned char>(character);
-    result += byte < 0x20 ? fmt::format("\\{:03o}", byte) : std::string(1, character);
-  }
-  return fmt::format("\"{}\"", result);
-}
-
 /// A keyword and its text. A text of several lines is on lines of its own.
 std::string statement(std::string_view keyword, std::string_view text) {
   const std::size_t lineBreak = text.find('\n');
   if (lineBreak == std::string_view::npos || lineBreak + 1 == text.size())
-    return fmt::format("{} {}\n", keyword, quoted(text));
+    return fmt::format("{} \"{}\"\n", keyword, literal(text));
   std::string lines = fmt::format("{} \"\"\n", keyword);
   while (!text.empty()) {
     const std::string_view line = text.substr(0, std::min(text.find('\n'), text.size() - 1) + 1);
-    lines += quoted(line) + "\n";
+    lines += fmt::format("\"{}\"\n", literal(line));
     text.remove_prefix(line.size());
   }
   return lines;
@@ -85,7 +76,7 @@ std::string entryOf(const TranslationUnit& unit) {
   // Programs that drop the context keep the reference.
   lines += fmt::format("#: {}\n", referenceTo(unit.key));
   if (unit.state == TranslationState::needsReview) lines += "#, fuzzy\n";
-  if (!unit.previousSource.empty()) lines += fmt::format("#| msgid {}\n", quoted(unit.previousSource));
+  if (!unit.previousSource.empty()) lines += fmt::format("#| msgid \"{}\"\n", literal(unit.previousSource));
   return lines + statement("msgctxt", unit.key) + statement("msgid", unit.source) +
          statement("msgstr", unit.target);
 }
@@ -138,7 +129,8 @@ class POReader {
       readLine(line);
     }
     endEntry();
-    if (!hasEntries_) fail(file_, "the file has no entries; a PO file has lines such as msgid \"...\"");
+    if (translations_.units.empty() && translations_.language.empty())
+      fail(file_, "the file has no entries; a PO file has lines such as msgid \"...\"");
     return std::move(translations_);
   }
 
@@ -219,7 +211,6 @@ class POReader {
     text_ = nullptr;
     if (!entry.texts[context] && !entry.texts[source]) return;
     if (!entry.texts[target]) fail(file_, at_, "the last entry has no msgstr; the file may be damaged");
-    hasEntries_ = true;
     entry.unit.source = entry.texts[source].value_or("");
     entry.unit.target = entry.texts[target].value_or("");
     const std::string key = entry.texts[context].value_or("");
@@ -246,7 +237,6 @@ class POReader {
   Translations translations_;
   Pending entry_;
   std::string* text_ = nullptr;  // the part to which texts in quotes are added
-  bool hasEntries_ = false;
 };
 
 }  // namespace

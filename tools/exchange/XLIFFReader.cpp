@@ -1,3 +1,4 @@
+#include <ZKStrings/platform/formats/StringTableReader.h>
 #include <ZKStrings/tools/exchange/ExchangeFormat.h>
 #include <ZKStrings/tools/support/Characters.h>
 #include <ZKStrings/tools/support/Diagnostic.h>
@@ -32,23 +33,18 @@ pugi::xml_node childNamed(pugi::xml_node element, std::string_view name) {
   return element.find_child([&](pugi::xml_node child) { return localName(child.name()) == name; });
 }
 
-/// The offset of the first reference in `xml` to an entity that XML does not define; `npos` if there is none.
+/// The offset of the first reference in the well-formed `xml` to an entity that XML does not define; `npos` if there is
+/// none.
 std::size_t unknownEntity(std::string_view xml) {
-  constexpr std::string_view kKnown[] = {"amp", "lt", "gt", "quot", "apos"};
-  constexpr std::pair<std::string_view, std::string_view> kVerbatim[] = {{"<!--", "-->"},
-                                                                         {"<![CDATA[", "]]>"}};
-  for (std::size_t at = xml.find_first_of("<&"); at < xml.size(); at = xml.find_first_of("<&", at + 1)) {
+  constexpr std::string_view kKnown[] = {"&#", "&amp;", "&lt;", "&gt;", "&quot;", "&apos;"};
+  for (std::size_t at = xml.find_first_of("<&"); at != xml.npos; at = xml.find_first_of("<&", at + 1)) {
     const std::string_view rest = xml.substr(at);
-    for (const auto& [begin, end] : kVerbatim) {
-      if (rest.starts_with(begin)) at = std::min(xml.find(end, at + begin.size()), xml.size());
-    }
-    if (rest[0] == '<') continue;
-    const std::string_view name = rest.substr(1, rest.substr(0, 12).find(';') - 1);
-    const bool isCharacter = name.starts_with('#') &&
-                             name.find_first_not_of("0123456789abcdefABCDEFx", 1) == std::string_view::npos;
-    if (!isCharacter && std::find(std::begin(kKnown), std::end(kKnown), name) == std::end(kKnown)) return at;
+    if (rest.starts_with("<!--")) at = xml.find("-->", at);
+    if (rest.starts_with("<![CDATA[")) at = xml.find("]]>", at);
+    const auto isHere = [&](std::string_view reference) { return rest.starts_with(reference); };
+    if (rest[0] == '&' && std::none_of(std::begin(kKnown), std::end(kKnown), isHere)) return at;
   }
-  return std::string_view::npos;
+  return xml.npos;
 }
 
 /// The text of the <context> with that type in `unit`; empty if there is none.
@@ -97,14 +93,6 @@ std::string notesOf(pugi::xml_node unit) {
     }
   }
   return notes;
-}
-
-/// Qt's programs write control characters as escapes.
-std::string unescapedByQt(std::string text) {
-  for (const auto& [escape, character] :
-       {std::pair("\\t", "\t"), std::pair("\\n", "\n"), std::pair("\\r", "\r")})
-    text = replaceAll(text, escape, character);
-  return text;
 }
 
 /// Reads a document such as
@@ -272,7 +260,11 @@ class XLIFFReader {
     const std::string_view name = localName(code.name());
     if (std::find(std::begin(kAnnotations), std::end(kAnnotations), name) != std::end(kAnnotations))
       return text;
-    if (std::string_view(code.attribute("ctype").value()).starts_with("x-ch-")) return unescapedByQt(text);
+    // Qt's programs write control characters as escapes.
+    if (std::string_view(code.attribute("ctype").value()).starts_with("x-ch-")) {
+      text.resize(unescape(text.data(), text.size()));
+      return text;
+    }
     const std::string id = code.attribute("id").value();
     if (text.empty()) text = repeated(codes.byId, id, code);
     if (text.empty()) text = code.attribute("equiv-text").value();

@@ -215,6 +215,15 @@ std::string escaped(std::string_view text) {
   return result;
 }
 
+std::string literal(std::string_view text) {
+  std::string result;
+  for (const char character : escaped(text)) {
+    const auto byte = static_cast<unsigned char>(character);
+    result += byte < 0x20 || byte == 0x7F ? fmt::format("\\{:03o}", byte) : std::string(1, character);
+  }
+  return result;
+}
+
 std::string tableLine(std::string_view key, std::string_view text) {
   return fmt::format("\"{}\" = \"{}\";\n", escaped(key), escaped(text));
 }

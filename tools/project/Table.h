@@ -97,6 +97,9 @@ class TextPlaces {
 /// `text` as it is written between quotes in string tables and C++, with the escapes \" \\ \n \t.
 [[nodiscard]] std::string escaped(std::string_view text);
 
+/// `text` as it is written between quotes in C++ and PO: `escaped`, and with octal escapes for control characters.
+[[nodiscard]] std::string literal(std::string_view text);
+
 /// A table's line for one entry, with its line break.
 [[nodiscard]] std::string tableLine(std::string_view key, std::string_view text);
 
