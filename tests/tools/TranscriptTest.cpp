@@ -2,7 +2,7 @@
 #include <ZKStrings/tests/CommandOutput.h>
 #include <ZKStrings/tests/tools/TemporaryProject.h>
 #include <ZKStrings/tools/support/Files.h>
-#include <ZKStrings/tools/support/Position.h>
+#include <ZKStrings/tools/support/Diagnostic.h>
 
 #include <algorithm>
 #include <cstddef>

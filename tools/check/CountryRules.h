@@ -2,7 +2,7 @@
 
 #include <ZKStrings/platform/Dictionary.h>
 #include <ZKStrings/tools/check/Rule.h>
-#include <ZKStrings/tools/support/Position.h>
+#include <ZKStrings/tools/support/Diagnostic.h>
 
 #include <optional>
 #include <span>

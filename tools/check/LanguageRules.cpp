@@ -51,7 +51,7 @@ std::string searchable(std::string_view text) {
 }
 
 void findOtherTerms(const Translation& translation, Findings& findings) {
-  const Words english(translation.english.text);
+  const Words english = proseWords(translation.english.text);
   const std::string text = searchable(translation.entry.text);
   for (const Term& term : translation.glossary.terms) {
     const auto stems = term.stems.find(translation.language);
@@ -67,10 +67,10 @@ void findOtherTerms(const Translation& translation, Findings& findings) {
 void findWrongAddress(const Translation& translation, Findings& findings) {
   const Phrases& wrong = translation.glossary.styleOf(translation.language).wrongAddress;
   if (wrong.empty()) return;
-  const Words words(translation.entry.text);
+  const Words words = proseWords(translation.entry.text);
   for (std::size_t at = 0; at < words.size(); ++at) {
     if (sizeAt(wrong, words, at) == 0) continue;
-    findings.add(translation.entry, words.offsetOf(at),
+    findings.add(translation.entry, words[at].offset,
                  "\"{}\" is another form of address; address the player as the other texts do",
                  words[at].spelled);
   }
@@ -80,19 +80,19 @@ void findWrongAddress(const Translation& translation, Findings& findings) {
 
 /// Whether `text` has nothing but white space between the word `first` and the next one.
 bool areNeighbours(std::string_view text, const Words& words, std::size_t first) {
-  const std::size_t end = words.offsetOf(first) + words[first].spelled.size();
-  return isBlank(text.substr(end, words.offsetOf(first + 1) - end));
+  const std::size_t end = words[first].offset + words[first].spelled.size();
+  return isBlank(text.substr(end, words[first + 1].offset - end));
 }
 
 void findDoubledWords(const Translation& translation, Findings& findings) {
   const LanguageStyle& style = translation.glossary.styleOf(translation.language);
   if (style.doublesWords) return;
-  const Words words(translation.entry.text);
+  const Words words = proseWords(translation.entry.text);
   for (std::size_t at = 0; at + 1 < words.size(); ++at) {
     if (words[at].folded != words[at + 1].folded) continue;
     if (sizeAt(style.doubledWords, words, at) > 0 || !areNeighbours(translation.entry.text, words, at))
       continue;
-    findings.add(translation.entry, words.offsetOf(at + 1),
+    findings.add(translation.entry, words[at + 1].offset,
                  "the word \"{}\" is repeated; remove one of the two", words[at].spelled);
   }
 }
@@ -138,7 +138,7 @@ std::vector<std::string> runsIn(std::string_view text, const CatalogueSettings& 
   constexpr std::size_t kLongestAbbreviation = 3;
   const std::string prose = proseOf(text);
   std::vector<std::string_view> words = settings.wordsToTranslate(prose);
-  std::erase_if(words, [&](std::string_view word) { return sizeAt(loanWords, Words(word), 0) > 0; });
+  std::erase_if(words, [&](std::string_view word) { return sizeAt(loanWords, proseWords(word), 0) > 0; });
   std::vector<std::string> runs;
   for (auto word = words.begin(); words.end() - word >= static_cast<std::ptrdiff_t>(count); ++word) {
     if (count == 1 && lengthOf(*word) <= kLongestAbbreviation) continue;

@@ -76,16 +76,17 @@ std::string proseOf(std::string_view text) {
   return prose;
 }
 
-Words::Words(std::string_view text) : prose_(proseOf(text)) {
-  for (const std::string_view word : wordsOf(prose_)) words_.push_back({word, caseFolded(word)});
-}
-
-std::size_t Words::offsetOf(std::size_t at) const {
-  return static_cast<std::size_t>(words_[at].spelled.data() - prose_.data());
+Words proseWords(std::string_view text) {
+  const std::string prose = proseOf(text);
+  Words words;
+  for (const std::string_view word : wordsOf(prose))
+    words.push_back(
+        {static_cast<std::size_t>(word.data() - prose.data()), std::string(word), caseFolded(word)});
+  return words;
 }
 
 bool Phrase::Pattern::matches(const Word& word) const {
-  const std::string_view here = hasCapitals ? word.spelled : std::string_view(word.folded);
+  const std::string_view here = hasCapitals ? word.spelled : word.folded;
   if (isOpenBefore && isOpenAfter) return here.find(text) != std::string_view::npos;
   if (isOpenBefore) return here.ends_with(text);
   return isOpenAfter ? here.starts_with(text) : here == text;

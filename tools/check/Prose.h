@@ -14,28 +14,16 @@ namespace zk::tools {
 /// stay the same.
 [[nodiscard]] std::string proseOf(std::string_view text);
 
-/// A word of a text as it is written and case-folded.
+/// A word of a text.
 struct Word {
-  std::string_view spelled;
-  std::string folded;
+  std::size_t offset;  ///< in the text
+  std::string spelled;
+  std::string folded;  ///< case-folded
 };
 
-/// The words of the text.
-class Words {
- public:
-  explicit Words(std::string_view text);
-  Words(const Words&) = delete;
-  Words& operator=(const Words&) = delete;
-
-  [[nodiscard]] std::size_t size() const { return words_.size(); }
-  [[nodiscard]] const Word& operator[](std::size_t at) const { return words_[at]; }
-  /// The offset in the text.
-  [[nodiscard]] std::size_t offsetOf(std::size_t at) const;
-
- private:
-  std::string prose_;
-  std::vector<Word> words_;
-};
+using Words = std::vector<Word>;
+/// The words of the prose of `text`.
+[[nodiscard]] Words proseWords(std::string_view text);
 
 /// One or several words in a row to find in texts. A star at the beginning or end of a word matches any letters. A word
 /// with capitals matches only the same capitals, other words match any case.

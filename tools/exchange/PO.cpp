@@ -1,7 +1,6 @@
 #include <ZKStrings/tools/exchange/ExchangeFormat.h>
 #include <ZKStrings/tools/project/Table.h>
 #include <ZKStrings/tools/support/Diagnostic.h>
-#include <ZKStrings/tools/support/Position.h>
 
 #include <algorithm>
 #include <array>

@@ -20,7 +20,6 @@
 #include <fmt/format.h>
 #include <nlohmann/json.hpp>
 #include <unicode/locid.h>
-#include <unicode/unistr.h>
 
 namespace zk::tools {
 
@@ -28,14 +27,9 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-/// The name of `language` in the language of `reader`, with a capital letter, as in a list.
-std::string nameIn(const icu::Locale& reader, const icu::Locale& language) {
-  icu::UnicodeString name;
-  std::string bytes;
-  language.getDisplayLanguage(reader, name).toUTF8String(bytes);
-  if (bytes.empty()) return bytes;
-  const std::string_view first = firstCodePoint(bytes).bytes;
-  return upperCased(first) + bytes.substr(first.size());
+std::string capitalized(std::string_view text) {
+  const std::string_view first = text.empty() ? text : firstCodePoint(text).bytes;
+  return upperCased(first).append(text.substr(first.size()));
 }
 
 std::string familyOf(const Entry& entry) {
@@ -106,7 +100,6 @@ class DataMaker {
 
   [[nodiscard]] Json dataOf(std::string_view language) const {
     const std::string tag(language == kBase ? "en" : language);
-    const icu::Locale locale(tag.c_str());
     const Table table = Table::read(root_, language);
     Json texts = Json::array();
     Json characters = Json::array();
@@ -122,9 +115,9 @@ class DataMaker {
       states += nameOf(stateOf(language, entry, english)).front();
     }
     return {{"tag", tag},
-            {"english", nameIn(icu::Locale::getEnglish(), locale)},
-            {"native", nameIn(locale, locale)},
-            {"isRightToLeft", locale.isRightToLeft() != 0},
+            {"english", capitalized(languageName(tag, "en"))},
+            {"native", capitalized(languageName(tag, tag))},
+            {"isRightToLeft", icu::Locale(tag.c_str()).isRightToLeft() != 0},
             {"isWellFormed", table.diagnostics.empty()},
             {"texts", std::move(texts)},
             {"characters", std::move(characters)},

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <ZKStrings/tools/support/Position.h>
+#include <ZKStrings/tools/support/Diagnostic.h>
 
 #include <cstdint>
 #include <functional>

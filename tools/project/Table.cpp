@@ -3,8 +3,8 @@
 #include <ZKStrings/platform/text/UnicodeText.h>
 #include <ZKStrings/tools/project/Table.h>
 #include <ZKStrings/tools/support/Characters.h>
+#include <ZKStrings/tools/support/Diagnostic.h>
 #include <ZKStrings/tools/support/Files.h>
-#include <ZKStrings/tools/support/Position.h>
 
 #include <algorithm>
 #include <cstddef>

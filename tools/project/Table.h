@@ -1,7 +1,6 @@
 #pragma once
 
 #include <ZKStrings/tools/support/Diagnostic.h>
-#include <ZKStrings/tools/support/Position.h>
 
 #include <cstddef>
 #include <functional>

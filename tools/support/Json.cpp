@@ -1,3 +1,4 @@
+#include <ZKStrings/platform/formats/TextEncoding.h>
 #include <ZKStrings/tools/support/Diagnostic.h>
 #include <ZKStrings/tools/support/Json.h>
 
@@ -42,7 +43,6 @@ class JsonBuilder : public nlohmann::json_sax<Json> {
  public:
   JsonBuilder(std::string_view text, std::string_view file, Position begin)
       : text_(text), file_(file), positions_(text, begin) {
-    constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
     if (text.starts_with(kByteOrderMark)) end_ = kByteOrderMark.size();
   }
 
@@ -63,7 +63,7 @@ class JsonBuilder : public nlohmann::json_sax<Json> {
   bool end_object() override { return close(); }
   bool key(string_t& name) override {
     const Position at = nextToken();
-    if (dropped_ == 0) std::get<std::vector<JsonMember>>(open_.back().content_).push_back({name, at, {}});
+    std::get<std::vector<JsonMember>>(open_.back().content_).push_back({name, at, {}});
     return true;
   }
   bool parse_error(std::size_t position, const std::string& /*token*/,
@@ -90,7 +90,7 @@ class JsonBuilder : public nlohmann::json_sax<Json> {
     return value;
   }
 
-  void store(JsonValue value) {
+  bool store(JsonValue value) {
     if (open_.empty()) {
       root_ = std::move(value);
     } else if (auto* const list = std::get_if<std::vector<JsonValue>>(&open_.back().content_)) {
@@ -98,34 +98,22 @@ class JsonBuilder : public nlohmann::json_sax<Json> {
     } else {
       std::get<std::vector<JsonMember>>(open_.back().content_).back().value = std::move(value);
     }
-  }
-
-  bool add(JsonValue::Content content) {
-    JsonValue value = valueOf(std::move(content));
-    if (dropped_ == 0) store(std::move(value));
     return true;
   }
 
+  bool add(JsonValue::Content content) { return store(valueOf(std::move(content))); }
+
   bool open(JsonValue::Content content) {
-    JsonValue value = valueOf(std::move(content));
-    if (open_.size() == kDeepest) {
-      ++dropped_;
-    } else {
-      open_.push_back(std::move(value));
-    }
+    open_.push_back(valueOf(std::move(content)));
+    if (open_.size() > kDeepest) open_.back().fail("nested too deeply; remove some of the levels");
     return true;
   }
 
   bool close() {
     nextToken();
-    if (dropped_ > 0) {
-      --dropped_;
-      return true;
-    }
     JsonValue value = std::move(open_.back());
     open_.pop_back();
-    store(std::move(value));
-    return true;
+    return store(std::move(value));
   }
 
   std::string_view text_;
@@ -133,7 +121,6 @@ class JsonBuilder : public nlohmann::json_sax<Json> {
   PositionFinder positions_;
   std::size_t end_ = 0;  // of the last token
   std::vector<JsonValue> open_;
-  std::size_t dropped_ = 0;  // how many containers are open that are nested too deeply
   JsonValue root_;
 };
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <ZKStrings/tools/support/Position.h>
+#include <ZKStrings/tools/support/Diagnostic.h>
 
 #include <cstddef>
 #include <cstdint>
@@ -21,8 +21,7 @@ struct JsonMember;
 class JsonValue {
  public:
   /// Parses `text`, the content of `file`, whose first character is at `begin`. `file` must outlive the value. Throws
-  /// `CommandFailed` with the place where the text stops being JSON. Values nested more than 100 levels deep are
-  /// dropped.
+  /// `CommandFailed` with the place where the text stops being JSON or is nested more than 100 levels deep.
   [[nodiscard]] static JsonValue parse(std::string_view text, std::string_view file, Position begin = {1, 1});
 
   [[nodiscard]] Position at() const { return at_; }

@@ -18,8 +18,9 @@
 #include <vector>
 
 #include <fmt/format.h>
+#include <unicode/locid.h>
 #include <unicode/uloc.h>
-#include <unicode/ustring.h>
+#include <unicode/unistr.h>
 
 namespace zk::tools {
 
@@ -36,40 +37,25 @@ bool isLanguageCode(std::string_view code) {
   return *known != nullptr;
 }
 
-/// The name of `language` in the language `in`, in lower case.
-std::string nameOf(const char* language, const char* in) {
-  UErrorCode status = U_ZERO_ERROR;
-  std::array<UChar, 128> name{};
-  uloc_getDisplayLanguage(language, in, name.data(), static_cast<std::int32_t>(name.size()), &status);
-  std::array<char, 512> bytes{};
-  u_strToUTF8(bytes.data(), static_cast<std::int32_t>(bytes.size()), nullptr, name.data(), -1, &status);
-  return U_SUCCESS(status) ? lowerCased(bytes.data()) : "";
-}
-
-/// The codes of all languages by their names, in lower case, in English and in the language itself. ICU is slow to find
-/// them, so they are kept.
-const std::map<std::string, std::string, std::less<>>& codesByName() {
+/// The code of the language with the name `name`, in lower case, in English or in the language itself; else empty. ICU is
+/// slow to find the names, so they are kept.
+std::string codeOfName(std::string_view name) {
   static const auto codes = [] {
     std::map<std::string, std::string, std::less<>> found;
     for (const char* const* code = uloc_getISOLanguages(); *code; ++code) {
       if (!isLanguageCode(*code)) continue;
-      for (const char* const in : {"en", *code}) found.emplace(nameOf(*code, in), *code);
+      for (const char* const in : {"en", *code}) found.emplace(lowerCased(languageName(*code, in)), *code);
     }
     return found;
   }();
-  return codes;
-}
-
-/// The code of the language with the name `name`, in lower case, or an empty text.
-std::string codeOfName(std::string_view name) {
-  const auto found = codesByName().find(name);
-  return found == codesByName().end() ? "" : found->second;
+  const auto found = codes.find(name);
+  return found == codes.end() ? "" : found->second;
 }
 
 /// What to do about `name`, which ICU does not know as a language.
 std::string adviceFor(std::string_view name, const std::vector<std::string>& languages) {
   std::vector<std::string> names = languages;
-  for (const std::string& language : languages) names.push_back(nameOf(language.c_str(), "en"));
+  for (const std::string& language : languages) names.push_back(lowerCased(languageName(language, "en")));
   const auto meant = nearest(name, {names.begin(), names.end()});
   return didYouMean(meant, "zkstrings coverage lists the languages that have one");
 }
@@ -85,6 +71,13 @@ std::string_view withoutPath(std::string_view word) {
 }
 
 }  // namespace
+
+std::string languageName(const std::string& language, const std::string& in) {
+  icu::UnicodeString name;
+  std::string bytes;
+  icu::Locale(language.c_str()).getDisplayLanguage(in.c_str(), name).toUTF8String(bytes);
+  return bytes;
+}
 
 std::vector<std::string> languagesIn(const std::string& root) {
   std::vector<std::string> languages;

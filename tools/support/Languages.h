@@ -13,6 +13,9 @@ inline constexpr std::string_view kBase = "Base";
 /// `CommandFailed` if resources/ cannot be listed.
 [[nodiscard]] std::vector<std::string> languagesIn(const std::string& root);
 
+/// The name of `language` in the language `in`. Both are codes.
+[[nodiscard]] std::string languageName(const std::string& language, const std::string& in);
+
 /// The two-letter code of the language that `word` means: a code of two or three letters ("sv", "swe"), an identifier
 /// ("sv-SE", "sv_SE.UTF-8"), the path of its table or directory, or its name in English or in the language
 /// itself, whatever the case of ASCII letters. Empty if the word means no language, or one without a two-letter code.

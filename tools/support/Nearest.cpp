@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include <fmt/format.h>
@@ -18,18 +19,16 @@ namespace {
 /// The most changes that still count as a misspelling.
 constexpr std::size_t kMostChanges = 6;
 
-/// The distance of the words, or any number above `most` when it is greater than that.
+/// The distance of the words, or any number above `most` if it is greater than that.
 std::size_t distance(std::string_view from, std::string_view to, std::size_t most) {
   if (std::max(from.size(), to.size()) - std::min(from.size(), to.size()) > most) return most + 1;
   std::vector<std::size_t> row(to.size() + 1);
   std::iota(row.begin(), row.end(), std::size_t{0});
   for (std::size_t i = 0; i < from.size(); ++i) {
-    std::size_t diagonal = row[0];
-    row[0] = i + 1;
+    std::size_t diagonal = std::exchange(row[0], i + 1);
     for (std::size_t j = 0; j < to.size(); ++j) {
       const std::size_t replaced = diagonal + (from[i] == to[j] ? 0 : 1);
-      diagonal = row[j + 1];
-      row[j + 1] = std::min({replaced, diagonal + 1, row[j] + 1});
+      diagonal = std::exchange(row[j + 1], std::min({replaced, row[j + 1] + 1, row[j] + 1}));
     }
     if (*std::min_element(row.begin(), row.end()) > most) return most + 1;
   }
@@ -42,13 +41,13 @@ std::optional<std::string_view> nearest(std::string_view word,
                                         const std::vector<std::string_view>& candidates) {
   const std::string wanted = lowerCased(word);
   std::optional<std::string_view> best;
-  std::size_t bound = std::min((word.size() + 2) / 3, kMostChanges);
+  std::size_t tooMany = std::min((word.size() + 2) / 3, kMostChanges) + 1;
   for (const std::string_view candidate : candidates) {
-    if (best && bound == 0) break;
-    const std::size_t changes = distance(wanted, lowerCased(candidate), best ? bound - 1 : bound);
-    if (changes > (best ? bound - 1 : bound)) continue;
+    if (tooMany == 0) break;
+    const std::size_t changes = distance(wanted, lowerCased(candidate), tooMany - 1);
+    if (changes >= tooMany) continue;
     best = candidate;
-    bound = changes;
+    tooMany = changes;
   }
   return best;
 }

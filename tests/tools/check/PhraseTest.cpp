@@ -10,7 +10,7 @@ namespace {
 using namespace zk::tools;
 
 bool isIn(const std::string& phrase, const std::string& text) {
-  const Words words(text);
+  const Words words = proseWords(text);
   for (std::size_t at = 0; at < words.size(); ++at) {
     if (Phrase(phrase).sizeAt(words, at) > 0) return true;
   }
@@ -25,9 +25,9 @@ TEST(Phrase, MatchesWholeWords) {
 }
 
 TEST(Phrase, KeepsOffsetsAfterPlaceholdersAndHandles) {
-  const Words words("%{name}, @zk: los");
+  const Words words = proseWords("%{name}, @zk: los");
   ASSERT_EQ(words.size(), 1u);
-  EXPECT_EQ(words.offsetOf(0), 14u);
+  EXPECT_EQ(words[0].offset, 14u);
 }
 
 }  // namespace
