@@ -1,6 +1,5 @@
 #include <ZKStrings/platform/system/File.h>
 #include <ZKStrings/tools/check/Checker.h>
-#include <ZKStrings/tools/check/CountryRules.h>
 #include <ZKStrings/tools/check/Glossary.h>
 #include <ZKStrings/tools/check/Rules.h>
 #include <ZKStrings/tools/project/Catalogue.h>

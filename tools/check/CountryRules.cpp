@@ -2,7 +2,7 @@
 #include <ZKStrings/platform/formats/TextEncoding.h>
 #include <ZKStrings/platform/system/File.h>
 #include <ZKStrings/region/Country.h>
-#include <ZKStrings/tools/check/CountryRules.h>
+#include <ZKStrings/tools/check/Rules.h>
 #include <ZKStrings/tools/project/Table.h>
 #include <ZKStrings/tools/support/Files.h>
 #include <ZKStrings/tools/support/Json.h>

@@ -1,12 +1,16 @@
 #pragma once
 
+#include <ZKStrings/platform/Dictionary.h>
 #include <ZKStrings/tools/check/Glossary.h>
 #include <ZKStrings/tools/check/Rule.h>
 #include <ZKStrings/tools/project/EnglishTexts.h>
 #include <ZKStrings/tools/project/Table.h>
 
+#include <optional>
 #include <span>
+#include <string>
 #include <string_view>
+#include <vector>
 
 namespace zk::tools {
 
@@ -40,5 +44,24 @@ struct Translation {
 
 /// The rules for the language of a text: the glossary's terms, words and typography.
 [[nodiscard]] std::span<const RuleFor<Translation>> languageRules();
+
+/// The readable part of the country list.
+struct CountryFile {
+  static constexpr const char* kFile = "resources/countries.json";
+
+  struct Element {
+    Position at;
+    Value value;
+  };
+  std::vector<Element> elements;
+  std::optional<Finding> error;  ///< why the file is not an array of countries
+
+  /// Returns whether the project at `root` must have a list: the module's own catalogue must, others may.
+  [[nodiscard]] static bool isExpected(const std::string& root, bool isModule);
+  /// Reads the list of the project at `root`.
+  [[nodiscard]] static CountryFile read(const std::string& root);
+};
+
+[[nodiscard]] std::span<const RuleFor<CountryFile>> countryRules();
 
 }  // namespace zk::tools

@@ -30,81 +30,58 @@ namespace {
 
 using Names = std::vector<std::string_view>;
 
-/// The placeholder names that a translation may use.
-struct AllowedNames {
-  /// With more names than accessors have, misspellings are not looked up, because that is slow.
-  static constexpr std::size_t kMostNearest = 10;
+bool contains(const Names& names, std::string_view name) {
+  return std::find(names.begin(), names.end(), name) != names.end();
+}
 
-  Names inOrder;
-  std::set<std::string_view> sorted;
-
-  explicit AllowedNames(const EnglishText& english)
-      : inOrder(english.placeholders()), sorted(inOrder.begin(), inOrder.end()) {}
-
-  [[nodiscard]] bool contains(std::string_view name) const { return sorted.contains(name); }
-  /// Returns the allowed name that equals `name` or is nearest to it.
-  [[nodiscard]] std::optional<std::string_view> meantBy(std::string_view name) const {
-    if (const auto same = sorted.find(name); same != sorted.end()) return *same;
-    return inOrder.size() > kMostNearest ? std::nullopt : nearest(name, inOrder);
-  }
-};
+/// Returns the one of the names `allowed` that `name` is or most likely misspells; nothing if there is none.
+std::optional<std::string_view> meantBy(std::string_view name, const Names& allowed) {
+  return contains(allowed, name) ? name : nearest(name, allowed);
+}
 
 /// Returns what to do about a wrong placeholder.
-std::string fixFor(std::string_view name, const AllowedNames& allowed) {
-  if (const auto meant = allowed.meantBy(name)) return fmt::format("write \"%{{{}}}\"", *meant);
-  const Names& names = allowed.inOrder;
-  if (names.empty()) return "remove it, because the English text has no placeholders";
-  if (names.size() > AllowedNames::kMostNearest) return "write one of those that the English text has";
-  return fmt::format("write {}\"%{{{}}}\"", names.size() == 1 ? "" : "one of ",
-                     fmt::join(names, "}\", \"%{"));
+std::string fixFor(std::string_view name, const Names& allowed) {
+  if (const auto meant = meantBy(name, allowed)) return fmt::format("write \"%{{{}}}\"", *meant);
+  if (allowed.empty()) return "remove it, because the English text has no placeholders";
+  return fmt::format("write {}\"%{{{}}}\"", allowed.size() == 1 ? "" : "one of ",
+                     fmt::join(allowed, "}\", \"%{"));
 }
 
 void findUnknown(const Translation& translation, Findings& findings) {
-  const AllowedNames allowed(translation.english);
+  const Names allowed = translation.english.placeholders();
   for (const PlaceholderUse& use : placeholderUses(translation.entry.text)) {
-    if (!use.isRight || allowed.contains(use.name)) continue;
+    if (!use.isRight || contains(allowed, use.name)) continue;
     findings.add(translation.entry, use.offset, "the English text has no placeholder \"{}\"; {}", use.spelled,
                  fixFor(use.name, allowed));
   }
 }
 
-/// Whether `use` is a misspelt placeholder. Braces have no other use. After a percent sign, only a word like a name
-/// counts.
-bool isMisspelt(const PlaceholderUse& use, const AllowedNames& allowed) {
-  if (use.isRight) return false;
-  return use.hasBrace || allowed.meantBy(use.name);
-}
-
 void findMisspelt(const Translation& translation, Findings& findings) {
-  const AllowedNames allowed(translation.english);
-  std::set<std::string_view> inEnglish;
-  for (const PlaceholderUse& use : placeholderUses(translation.english.text)) inEnglish.insert(use.spelled);
+  const Names allowed = translation.english.placeholders();
+  Names inEnglish;
+  for (const PlaceholderUse& use : placeholderUses(translation.english.text))
+    inEnglish.push_back(use.spelled);
   for (const PlaceholderUse& use : placeholderUses(translation.entry.text)) {
-    if (inEnglish.contains(use.spelled) || !isMisspelt(use, allowed)) continue;
+    if (use.isRight || contains(inEnglish, use.spelled)) continue;
+    // Braces have no other use. After a percent sign, only a word like a name counts.
+    if (!use.hasBrace && !meantBy(use.name, allowed)) continue;
     findings.add(translation.entry, use.offset, "\"{}\" is not a placeholder, so users see it as it is; {}",
                  escaped(use.spelled), fixFor(use.name, allowed));
   }
 }
 
-/// Returns the names of placeholders in `text`, including misspelt ones, which another rule reports.
-std::set<std::string_view> usedNames(std::string_view text, const AllowedNames& allowed) {
-  std::set<std::string_view> used;
-  for (const PlaceholderUse& use : placeholderUses(text)) {
-    if (const auto meant = allowed.meantBy(use.name)) used.insert(*meant);
-  }
-  return used;
-}
-
 void findUnused(const Translation& translation, Findings& findings) {
   const EnglishText& english = translation.english;
-  const std::set<std::string_view> used = usedNames(translation.entry.text, AllowedNames(english));
-  const std::string_view dispensable = english.dispensable();
+  const Names allowed = english.placeholders();
+  std::set<std::string_view> used = {english.dispensable()};
+  // Another rule reports the misspelt ones.
+  for (const PlaceholderUse& use : placeholderUses(translation.entry.text))
+    used.insert(meantBy(use.name, allowed).value_or(""));
   for (const std::string_view name : placeholderNames(english.text)) {
-    if (used.contains(name) || name == dispensable) continue;
-    findings.add(translation.entry,
-                 "the placeholder \"%{{{}}}\" of the English text is missing; write it where its "
-                 "value belongs",
-                 name);
+    if (used.contains(name)) continue;
+    findings.add(
+        translation.entry,
+        "the placeholder \"%{{{}}}\" of the English text is missing; write it where its value belongs", name);
   }
 }
 

@@ -67,50 +67,46 @@ std::vector<std::string> wordsOf(std::string_view type, const std::vector<std::s
   return words;
 }
 
+/// Returns the argument of `command` with the number `at`, from 0; null if there is none.
+const CLI::Option* argumentAt(const CLI::App& command, std::size_t at) {
+  const auto all = command.get_options([](const CLI::Option* option) { return option->get_positional(); });
+  const bool isRepeated = !all.empty() && all.back()->get_items_expected_max() > 1;
+  if (at < all.size()) return all[at];
+  return isRepeated ? all.back() : nullptr;
+}
+
 /// All words that can follow `line`, whose last word begins as `begun`.
 std::vector<Candidate> candidatesAfter(const CLI::App& app, const std::vector<std::string>& line,
                                        std::string_view begun) {
   const CLI::App* command = &app;
-  const CLI::Option* awaitsValue = nullptr;
+  const CLI::Option* value = nullptr;  // the option whose value comes next
   std::size_t arguments = 0;
   for (auto word = line.begin(); word != line.end() - 1; ++word) {
     if (*word == "=") continue;
-    if (awaitsValue) {
-      awaitsValue = nullptr;
-    } else if (word->starts_with('-')) {
+    if (std::exchange(value, nullptr)) continue;
+    if (word->starts_with('-')) {
       for (const CLI::Option* const option : optionsOf(app, *command))
-        if (option->check_name(*word) && option->get_items_expected_max() > 0) awaitsValue = option;
-    } else if (const auto all =
-                   app.get_subcommands([&](const CLI::App* one) { return one->get_name() == *word; });
-               command == &app && !all.empty()) {
-      command = all.front();
-    } else {
-      ++arguments;
+        if (option->check_name(*word) && option->get_items_expected_max() > 0) value = option;
+      continue;
     }
+    const auto named = [&](const CLI::App* one) { return command == &app && one->get_name() == *word; };
+    const auto found = app.get_subcommands(named);
+    if (found.empty()) ++arguments;
+    if (!found.empty()) command = found.front();
   }
 
   std::vector<Candidate> candidates;
-  if (!awaitsValue && begun.starts_with('-')) {
+  if (!value && begun.starts_with('-')) {
     for (const CLI::Option* const option : optionsOf(app, *command)) {
       for (const std::string& name : option->get_lnames())
         candidates.emplace_back("--" + name, option->get_description());
     }
-    return candidates;
-  }
-  if (!awaitsValue && command == &app) {
-    if (arguments > 0) return {};  // an unknown subcommand
+  } else if (!value && command == &app && arguments == 0) {
     for (const CLI::App* const subcommand : app.get_subcommands({}))
       candidates.emplace_back(subcommand->get_name(), subcommand->get_description());
-    return candidates;
+  } else if (const CLI::Option* const next = value ? value : argumentAt(*command, arguments)) {
+    for (const std::string& word : wordsOf(next->get_type_name(), line)) candidates.emplace_back(word, "");
   }
-  const std::vector<const CLI::Option*> all =
-      command->get_options([](const CLI::Option* option) { return option->get_positional(); });
-  const bool isRepeated = !all.empty() && all.back()->get_items_expected_max() > 1;
-  if (!awaitsValue && (arguments < all.size() || isRepeated))
-    awaitsValue = all[std::min(arguments, all.size() - 1)];
-  if (!awaitsValue) return {};
-  for (std::string& word : wordsOf(awaitsValue->get_type_name(), line))
-    candidates.emplace_back(std::move(word), "");
   return candidates;
 }
 
