@@ -1,7 +1,7 @@
 #include <ZKStrings/tests/fuzz/Fuzzing.h>
 #include <ZKStrings/tests/tools/TemporaryProject.h>
+#include <ZKStrings/tools/exchange/Exchange.h>
 #include <ZKStrings/tools/exchange/ExchangeFormat.h>
-#include <ZKStrings/tools/exchange/Import.h>
 #include <ZKStrings/tools/project/Table.h>
 
 #include <algorithm>

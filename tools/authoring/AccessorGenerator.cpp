@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include <fmt/format.h>
@@ -138,21 +139,21 @@ std::string accessorOf(const Entry& entry, const CatalogueName& catalogue) {
   return name == catalogue.name ? name + "_" : name;
 }
 
-Accessors generateAccessors(const Catalogue& catalogue) {
+std::vector<FileChange> generateAccessors(const Catalogue& catalogue) {
   const CatalogueName& name = catalogue.settings().name;
-  Accessors accessors{begin(kHeaderBegin, name),
-                      begin(name.isModule() ? kModuleSourceBegin : kSourceBegin, name)};
+  std::string header = begin(kHeaderBegin, name);
+  std::string source = begin(name.isModule() ? kModuleSourceBegin : kSourceBegin, name);
   for (const Entry& entry : catalogue.entries()) {
     const std::string accessor = accessorOf(entry, name);
     const std::string parameters = parametersOf(entry, name);
-    accessors.header += fmt::format("\n{}  [[nodiscard]] static std::string {}({});\n", commentOf(entry),
-                                    accessor, parameters);
-    accessors.source += fmt::format("\nstd::string {}::{}({}) {{\n  return {};\n}}\n", name.name, accessor,
-                                    parameters, lookupOf(entry, name));
+    header += fmt::format("\n{}  [[nodiscard]] static std::string {}({});\n", commentOf(entry), accessor,
+                          parameters);
+    source += fmt::format("\nstd::string {}::{}({}) {{\n  return {};\n}}\n", name.name, accessor, parameters,
+                          lookupOf(entry, name));
   }
-  accessors.header += "};\n" + end(name);
-  accessors.source += end(name);
-  return accessors;
+  header += "};\n" + end(name);
+  source += end(name);
+  return {{name.headerFile(), std::move(header)}, {name.sourceFile(), std::move(source)}};
 }
 
 std::string accessorCall(const Entry& entry, const CatalogueName& name) {

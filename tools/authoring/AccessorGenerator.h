@@ -1,20 +1,16 @@
 #pragma once
 
 #include <ZKStrings/tools/project/Catalogue.h>
+#include <ZKStrings/tools/support/Files.h>
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace zk::tools {
 
-/// The contents of the generated header and source file.
-struct Accessors {
-  std::string header;
-  std::string source;
-};
-
-/// Generates one accessor for each entry, in the class that the catalogue's settings name.
-[[nodiscard]] Accessors generateAccessors(const Catalogue& catalogue);
+/// Generates the header and the source file with one accessor for each entry, in the class that the settings name.
+[[nodiscard]] std::vector<FileChange> generateAccessors(const Catalogue& catalogue);
 
 /// The first line of generated files.
 inline constexpr std::string_view kGeneratedNotice =

@@ -2,8 +2,8 @@
 #include <ZKStrings/platform/system/File.h>
 #include <ZKStrings/tools/authoring/AccessorGenerator.h>
 #include <ZKStrings/tools/authoring/CatalogueFiles.h>
+#include <ZKStrings/tools/project/Catalogue.h>
 #include <ZKStrings/tools/project/CatalogueSettings.h>
-#include <ZKStrings/tools/project/EnglishTexts.h>
 #include <ZKStrings/tools/project/Table.h>
 #include <ZKStrings/tools/support/Diagnostic.h>
 #include <ZKStrings/tools/support/Files.h>
@@ -79,12 +79,6 @@ void findUndecided(const Table& table, Diagnostics& diagnostics) {
   }
 }
 
-std::vector<FileChange> accessorFiles(const Catalogue& catalogue) {
-  const CatalogueName& name = catalogue.settings().name;
-  Accessors accessors = generateAccessors(catalogue);
-  return {{name.headerFile(), std::move(accessors.header)}, {name.sourceFile(), std::move(accessors.source)}};
-}
-
 }  // namespace
 
 std::size_t writeCatalogue(const std::string& root, const Catalogue& catalogue, const TableChange& change) {
@@ -114,7 +108,7 @@ std::size_t writeCatalogue(const std::string& root, const Catalogue& catalogue, 
   // Another catalogue than the module's may leave its accessors to the build.
   const bool keepsAccessors = name.isModule() || pathExists(pathBelow(root, name.headerFile()));
   if (change.generates || keepsAccessors) {
-    std::ranges::move(accessorFiles(catalogue), std::back_inserter(files));
+    std::ranges::move(generateAccessors(catalogue), std::back_inserter(files));
   }
   files.push_back({Catalogue::kFile, std::move(json)});
   writeFiles(root, files);
@@ -148,7 +142,7 @@ void generateInto(const std::string& output, const std::string& root) {
          fmt::format("the English of \"{}\" is not that of {}; run zkstrings generate", escaped(text.key),
                      Catalogue::kFile));
   }
-  std::vector<FileChange> files = accessorFiles(catalogue);
+  std::vector<FileChange> files = generateAccessors(catalogue);
   for (FileChange& file : files)
     file.path = absolutePath(pathBelow(output, file.path.substr(file.path.rfind('/') + 1)));
   writeFiles("", files);

@@ -42,4 +42,9 @@ std::size_t generate(const std::string& root);
 /// with files named from `root`, if the catalogue is wrong or the English table differs from it.
 void generateInto(const std::string& output, const std::string& root);
 
+/// Writes a new catalogue to `directory`, which is created if needed: two texts, one of them counted, their English
+/// table, the settings, and a README that explains the next steps. Throws `CommandFailed`, and writes nothing, if there is
+/// a catalogue already or a file cannot be written; `std::invalid_argument` if `name` cannot name a catalogue.
+void initCatalogue(const std::string& directory, const CatalogueName& name);
+
 }  // namespace zk::tools

@@ -43,13 +43,15 @@ void refuseWrongBytes(const std::string& text) {
   if (hasCarriageReturnOrNul(text)) refuse(kNoCarriageReturn);
 }
 
-/// Refuses what other systems take for a placeholder: "%s", "%1", "%@", "{name}", "{count, plural, ...}".
-void refuseForeignPlaceholders(const std::string& text) {
+/// Refuses wrong bytes and, unless it is plain, what other systems take for a placeholder: "%s", "%1", "%@", "{name}",
+/// "{count, plural, ...}".
+void refuseWrongText(const std::string& text, bool isPlain) {
+  refuseWrongBytes(text);
   std::string_view foreign = text.find("%@") == std::string::npos ? "" : "%@";
   for (const PlaceholderUse& use : placeholderUses(text)) {
     if (foreign.empty() && !use.isRight && !use.spelled.starts_with("%{")) foreign = use.spelled;
   }
-  if (foreign.empty()) return;
+  if (foreign.empty() || isPlain) return;
   refuse(fmt::format(
       "\"{}\" is not a placeholder; write %{{name}}, and plural forms with --count and --one, or take "
       "it as plain text with --plain",
@@ -59,12 +61,8 @@ void refuseForeignPlaceholders(const std::string& text) {
 void refuseWrongTexts(const std::string& text, bool isCounted, const PluralForms& forms, bool isPlain) {
   if (!isCounted && forms != PluralForms{})
     refuse("a text without a count has no plural forms; leave them out, or give it a count with --count");
-  refuseWrongBytes(text);
-  if (!isPlain) refuseForeignPlaceholders(text);
-  for (const std::optional<std::string>& form : forms) {
-    refuseWrongBytes(form.value_or(""));
-    if (!isPlain) refuseForeignPlaceholders(form.value_or(""));
-  }
+  refuseWrongText(text, isPlain);
+  for (const std::optional<std::string>& form : forms) refuseWrongText(form.value_or(""), isPlain);
 }
 
 void setForms(Entry& entry, const PluralForms& forms) {

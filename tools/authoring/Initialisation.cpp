@@ -1,5 +1,5 @@
 #include <ZKStrings/platform/system/File.h>
-#include <ZKStrings/tools/authoring/Initialisation.h>
+#include <ZKStrings/tools/authoring/CatalogueFiles.h>
 #include <ZKStrings/tools/project/Catalogue.h>
 #include <ZKStrings/tools/project/Table.h>
 #include <ZKStrings/tools/support/Characters.h>
@@ -52,18 +52,6 @@ std::string readmeFor(const CatalogueName& name) {
                      fmt::arg("target", lowerCased(name.name)), fmt::arg("call", scope + name.name + "::"));
 }
 
-/// Throws if one of the files of a new catalogue exists with other contents. A killed command leaves the same ones.
-void refuseToReplace(const std::string& directory, const std::vector<FileChange>& files) {
-  Diagnostics diagnostics;
-  for (const FileChange& file : files) {
-    const std::string path = pathBelow(directory, file.path);
-    if (pathExists(path) && contentsOfFile(path) != file.bytes)
-      diagnostics.push_back({Severity::error, path, 1, 1, "",
-                             "the file exists already; use another folder for a new catalogue"});
-  }
-  if (!diagnostics.empty()) throw CommandFailed{diagnostics};
-}
-
 }  // namespace
 
 void initCatalogue(const std::string& directory, const CatalogueName& name) {
@@ -77,7 +65,12 @@ void initCatalogue(const std::string& directory, const CatalogueName& name) {
                                          {"README.md", readmeFor(name)},
                                          {Catalogue::kFile, kEntries}};
   lockProject(directory);
-  refuseToReplace(directory, files);
+  for (const FileChange& file : files) {
+    const std::string path = pathBelow(directory, file.path);
+    // A command that was killed leaves files with these contents.
+    if (pathExists(path) && contentsOfFile(path) != file.bytes)
+      fail(path, "the file exists already; use another folder for a new catalogue");
+  }
   writeFiles(directory, files);
 }
 

@@ -129,10 +129,9 @@ Uses::Uses(const std::vector<std::string>& directories, const Catalogue& catalog
   }
 }
 
-const std::vector<std::string>& Uses::of(const Entry& entry) const {
-  static const std::vector<std::string> none;
+std::vector<std::string> Uses::of(const Entry& entry) const {
   const auto places = places_.find(entry.key);
-  return places == places_.end() ? none : places->second;
+  return places == places_.end() ? std::vector<std::string>() : places->second;
 }
 
 std::string Uses::noteOn(const Entry& entry) const {

@@ -18,7 +18,7 @@ class Uses {
   Uses(const std::vector<std::string>& directories, const Catalogue& catalogue);
 
   /// The places that call the accessor of `entry`, with or without a count: "src/menu.cpp:12".
-  [[nodiscard]] const std::vector<std::string>& of(const Entry& entry) const;
+  [[nodiscard]] std::vector<std::string> of(const Entry& entry) const;
   /// Those places for people: "Used in src/menu.cpp:12, src/shop.cpp:3."; empty if there are none.
   [[nodiscard]] std::string noteOn(const Entry& entry) const;
 

@@ -3,7 +3,6 @@
 #include <ZKStrings/tools/check/Glossary.h>
 #include <ZKStrings/tools/check/Rules.h>
 #include <ZKStrings/tools/project/Catalogue.h>
-#include <ZKStrings/tools/project/EnglishTexts.h>
 #include <ZKStrings/tools/support/Files.h>
 #include <ZKStrings/tools/support/Languages.h>
 #include <ZKStrings/tools/support/Nearest.h>

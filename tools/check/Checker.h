@@ -1,7 +1,7 @@
 #pragma once
 
 #include <ZKStrings/tools/check/Rule.h>
-#include <ZKStrings/tools/project/EnglishTexts.h>
+#include <ZKStrings/tools/project/Catalogue.h>
 #include <ZKStrings/tools/project/Table.h>
 #include <ZKStrings/tools/support/Diagnostic.h>
 

@@ -3,7 +3,7 @@
 #include <ZKStrings/platform/Dictionary.h>
 #include <ZKStrings/tools/check/Glossary.h>
 #include <ZKStrings/tools/check/Rule.h>
-#include <ZKStrings/tools/project/EnglishTexts.h>
+#include <ZKStrings/tools/project/Catalogue.h>
 #include <ZKStrings/tools/project/Table.h>
 
 #include <optional>

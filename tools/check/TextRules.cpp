@@ -5,7 +5,6 @@
 #include <ZKStrings/tools/support/Nearest.h>
 #include <ZKStrings/tools/texts/Placeholders.h>
 #include <ZKStrings/tools/texts/TextFeatures.h>
-#include <ZKStrings/tools/texts/TextPieces.h>
 #include <ZKStrings/tools/translation/TranslationState.h>
 
 #include <algorithm>

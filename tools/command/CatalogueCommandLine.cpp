@@ -1,7 +1,6 @@
 #include <ZKStrings/tools/authoring/AccessorGenerator.h>
 #include <ZKStrings/tools/authoring/CatalogueFiles.h>
 #include <ZKStrings/tools/authoring/EntryCommands.h>
-#include <ZKStrings/tools/authoring/Initialisation.h>
 #include <ZKStrings/tools/authoring/Uses.h>
 #include <ZKStrings/tools/command/Subcommands.h>
 #include <ZKStrings/tools/support/Characters.h>

@@ -1,7 +1,6 @@
 #include <ZKStrings/tools/command/Subcommands.h>
+#include <ZKStrings/tools/exchange/Exchange.h>
 #include <ZKStrings/tools/exchange/ExchangeFormat.h>
-#include <ZKStrings/tools/exchange/Export.h>
-#include <ZKStrings/tools/exchange/Import.h>
 #include <ZKStrings/tools/layout/PseudoLocales.h>
 #include <ZKStrings/tools/page/Page.h>
 #include <ZKStrings/tools/project/Table.h>

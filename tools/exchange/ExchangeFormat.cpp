@@ -1,7 +1,6 @@
 #include <ZKStrings/platform/formats/TextEncoding.h>
 #include <ZKStrings/platform/system/File.h>
 #include <ZKStrings/tools/exchange/ExchangeFormat.h>
-#include <ZKStrings/tools/project/Table.h>
 #include <ZKStrings/tools/support/Characters.h>
 #include <ZKStrings/tools/support/Diagnostic.h>
 #include <ZKStrings/tools/support/Files.h>
@@ -22,16 +21,6 @@ namespace {
 
 constexpr std::uintmax_t kLargest = 32U << 20U;
 
-void refuseControlCharacters(const Translations& translations) {
-  for (const TranslationUnit& unit : translations.units) {
-    if (fitsXLIFF(unit.key + unit.source + unit.target + notesWithPrevious(unit))) continue;
-    fail(tablePath(translations.language),
-         fmt::format("the text of \"{}\" has a control character, which XLIFF cannot hold; "
-                     "remove it, or export with --format po",
-                     escaped(unit.key)));
-  }
-}
-
 }  // namespace
 
 std::string notesWithPrevious(const TranslationUnit& unit) {
@@ -49,7 +38,6 @@ ExchangeFormat formatNamedBy(std::string_view path) {
 std::string written(const Translations& translations, ExchangeFormat format) {
   if (format == ExchangeFormat::po) return toPO(translations);
   if (format == ExchangeFormat::csv) return toCSV(translations);
-  refuseControlCharacters(translations);
   return format == ExchangeFormat::xliff20 ? toXLIFF20(translations) : toXLIFF12(translations);
 }
 

@@ -54,8 +54,6 @@ enum class ExchangeFormat { xliff12, xliff20, po, csv };
 [[nodiscard]] std::string toXLIFF12(const Translations& translations);
 /// XLIFF 2.0. Codes are <ph> and <pc> elements that refer to the unit's original data.
 [[nodiscard]] std::string toXLIFF20(const Translations& translations);
-/// Whether XLIFF can hold `text`: it has no control characters except tabs and line feeds.
-[[nodiscard]] bool fitsXLIFF(std::string_view text);
 /// Reads XLIFF 1.x or 2.x, including files written by translate-toolkit and Qt, which keep keys elsewhere.
 [[nodiscard]] Translations fromXLIFF(const std::string& text, const std::string& file);
 

@@ -1,11 +1,10 @@
 #include <ZKStrings/tools/authoring/Uses.h>
-#include <ZKStrings/tools/exchange/Export.h>
+#include <ZKStrings/tools/exchange/Exchange.h>
 #include <ZKStrings/tools/project/Catalogue.h>
-#include <ZKStrings/tools/project/EnglishTexts.h>
 #include <ZKStrings/tools/project/Table.h>
 #include <ZKStrings/tools/support/Characters.h>
 #include <ZKStrings/tools/support/Languages.h>
-#include <ZKStrings/tools/texts/TextPieces.h>
+#include <ZKStrings/tools/texts/Placeholders.h>
 #include <ZKStrings/tools/translation/TranslationState.h>
 
 #include <algorithm>

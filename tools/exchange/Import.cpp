@@ -1,8 +1,6 @@
 #include <ZKStrings/tools/check/Checker.h>
-#include <ZKStrings/tools/exchange/Export.h>
-#include <ZKStrings/tools/exchange/Import.h>
+#include <ZKStrings/tools/exchange/Exchange.h>
 #include <ZKStrings/tools/project/Catalogue.h>
-#include <ZKStrings/tools/project/EnglishTexts.h>
 #include <ZKStrings/tools/support/Files.h>
 #include <ZKStrings/tools/support/Languages.h>
 #include <ZKStrings/tools/texts/TextFeatures.h>

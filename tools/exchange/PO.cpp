@@ -55,20 +55,6 @@ std::string keyNamedBy(std::string_view reference) {
   return key;
 }
 
-/// A keyword and its text. A text of several lines is on lines of its own.
-std::string statement(std::string_view keyword, std::string_view text) {
-  const std::size_t lineBreak = text.find('\n');
-  if (lineBreak == std::string_view::npos || lineBreak + 1 == text.size())
-    return fmt::format("{} \"{}\"\n", keyword, literal(text));
-  std::string lines = fmt::format("{} \"\"\n", keyword);
-  while (!text.empty()) {
-    const std::string_view line = text.substr(0, std::min(text.find('\n'), text.size() - 1) + 1);
-    lines += fmt::format("\"{}\"\n", literal(line));
-    text.remove_prefix(line.size());
-  }
-  return lines;
-}
-
 std::string entryOf(const TranslationUnit& unit) {
   std::string lines = "\n";
   for (const std::string_view note : linesOf(unit.notes)) lines += fmt::format("#. {}\n", note);
@@ -76,8 +62,8 @@ std::string entryOf(const TranslationUnit& unit) {
   lines += fmt::format("#: {}\n", referenceTo(unit.key));
   if (unit.state == TranslationState::needsReview) lines += "#, fuzzy\n";
   if (!unit.previousSource.empty()) lines += fmt::format("#| msgid \"{}\"\n", literal(unit.previousSource));
-  return lines + statement("msgctxt", unit.key) + statement("msgid", unit.source) +
-         statement("msgstr", unit.target);
+  return lines + fmt::format("msgctxt \"{}\"\nmsgid \"{}\"\nmsgstr \"{}\"\n", literal(unit.key),
+                             literal(unit.source), literal(unit.target));
 }
 
 /// Removes an escape, of which the backslash is already removed, from the beginning of `text` and returns its

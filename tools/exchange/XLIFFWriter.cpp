@@ -1,6 +1,7 @@
 #include <ZKStrings/tools/exchange/ExchangeFormat.h>
 #include <ZKStrings/tools/project/Table.h>
-#include <ZKStrings/tools/texts/TextPieces.h>
+#include <ZKStrings/tools/support/Diagnostic.h>
+#include <ZKStrings/tools/texts/Placeholders.h>
 
 #include <algorithm>
 #include <cstddef>
@@ -115,6 +116,21 @@ void addUnit20(pugi::xml_node file, const TranslationUnit& unit, std::size_t num
   if (!data.first_child()) element.remove_child(data);
 }
 
+/// XML cannot hold control characters, except tabs and line breaks, nor two noncharacters.
+void refuseControlCharacters(const Translations& translations) {
+  for (const TranslationUnit& unit : translations.units) {
+    const std::string text = unit.key + unit.source + unit.target + notesWithPrevious(unit);
+    const bool isRefused = std::any_of(text.begin(), text.end(), [](char character) {
+      return static_cast<unsigned char>(character) < 0x20 && character != '\t' && character != '\n';
+    });
+    if (!isRefused && text.find("\uFFFE") == text.npos && text.find("\uFFFF") == text.npos) continue;
+    fail(tablePath(translations.language),
+         fmt::format("the text of \"{}\" has a control character, which XLIFF cannot hold; "
+                     "remove it, or export with --format po",
+                     escaped(unit.key)));
+  }
+}
+
 std::string saved(const pugi::xml_document& document) {
   std::ostringstream stream;
   document.save(stream, "  ", pugi::format_default, pugi::encoding_utf8);
@@ -123,16 +139,8 @@ std::string saved(const pugi::xml_document& document) {
 
 }  // namespace
 
-bool fitsXLIFF(std::string_view text) {
-  const bool hasNoncharacter =
-      text.find("\uFFFE") != std::string_view::npos || text.find("\uFFFF") != std::string_view::npos;
-  return !hasNoncharacter && std::none_of(text.begin(), text.end(), [](char character) {
-    const auto byte = static_cast<unsigned char>(character);
-    return byte < 0x20 && character != '\t' && character != '\n';
-  });
-}
-
 std::string toXLIFF12(const Translations& translations) {
+  refuseControlCharacters(translations);
   pugi::xml_document document;
   const pugi::xml_node root =
       addElement(document, "xliff", {{"version", "1.2"}, {"xmlns", "urn:oasis:names:tc:xliff:document:1.2"}});
@@ -147,6 +155,7 @@ std::string toXLIFF12(const Translations& translations) {
 }
 
 std::string toXLIFF20(const Translations& translations) {
+  refuseControlCharacters(translations);
   pugi::xml_document document;
   const pugi::xml_node root = addElement(document, "xliff",
                                          {{"version", "2.0"},

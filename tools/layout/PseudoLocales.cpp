@@ -4,7 +4,7 @@
 #include <ZKStrings/tools/support/Characters.h>
 #include <ZKStrings/tools/support/Diagnostic.h>
 #include <ZKStrings/tools/support/Files.h>
-#include <ZKStrings/tools/texts/TextPieces.h>
+#include <ZKStrings/tools/texts/Placeholders.h>
 
 #include <algorithm>
 #include <cstddef>

@@ -1,8 +1,8 @@
 #pragma once
 
 #include <ZKStrings/platform/Bundle.h>
+#include <ZKStrings/tools/project/Catalogue.h>
 #include <ZKStrings/tools/project/CatalogueSettings.h>
-#include <ZKStrings/tools/project/EnglishTexts.h>
 
 #include <cstdint>
 #include <optional>

@@ -1,4 +1,4 @@
-#include <ZKStrings/tools/project/EnglishTexts.h>
+#include <ZKStrings/tools/project/Catalogue.h>
 #include <ZKStrings/tools/texts/Placeholders.h>
 
 #include <algorithm>

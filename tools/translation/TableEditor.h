@@ -1,6 +1,6 @@
 #pragma once
 
-#include <ZKStrings/tools/project/EnglishTexts.h>
+#include <ZKStrings/tools/project/Catalogue.h>
 #include <ZKStrings/tools/project/Table.h>
 #include <ZKStrings/tools/translation/TranslationState.h>
 

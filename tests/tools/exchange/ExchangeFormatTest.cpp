@@ -1,7 +1,7 @@
 #include <ZKStrings/tests/Rows.h>
 #include <ZKStrings/tests/TemporaryDirectory.h>
+#include <ZKStrings/tools/exchange/Exchange.h>
 #include <ZKStrings/tools/exchange/ExchangeFormat.h>
-#include <ZKStrings/tools/exchange/Export.h>
 #include <ZKStrings/tools/support/Languages.h>
 
 #include <cstddef>

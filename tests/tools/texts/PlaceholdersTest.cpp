@@ -1,5 +1,5 @@
 #include <ZKStrings/tests/Rows.h>
-#include <ZKStrings/tools/texts/TextPieces.h>
+#include <ZKStrings/tools/texts/Placeholders.h>
 
 #include <cstddef>
 #include <string>
@@ -25,7 +25,7 @@ std::string shown(std::string_view text) {
 
 TEST(TextPieces, SeparateWordsFromCodes) {
   for (const auto& [text, pieces] :
-       zk::testing::rowsOf<std::string, std::string>("tools/texts/TextPiecesTest.json"))
+       zk::testing::rowsOf<std::string, std::string>("tools/texts/PlaceholdersTest.json"))
     EXPECT_EQ(shown(text), pieces) << text;
 }
 
