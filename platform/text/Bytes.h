@@ -1,6 +1,5 @@
 #pragma once
 
-#include <algorithm>
 #include <bit>
 #include <cstddef>
 #include <cstdint>
@@ -127,10 +126,8 @@ inline constexpr std::size_t kCopySlack = 8;
 inline std::size_t copyUntil(char mark, char* to, std::string_view text, std::size_t from) {
   using internal::load;
   if (std::endian::native != std::endian::little || text.size() < 8) {
-    const std::string_view rest = text.substr(from);
-    const std::size_t size = std::min(rest.find(mark), rest.size());
-    copyBytes(to, rest.data(), size);
-    return from + size;
+    while (from < text.size() && text[from] != mark) *to++ = text[from++];
+    return from;
   }
   const auto copyWord = [&](std::uint64_t word) {
     std::memcpy(to, &word, sizeof(word));
