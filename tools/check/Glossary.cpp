@@ -5,7 +5,6 @@
 
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 namespace zk::tools {
@@ -16,66 +15,54 @@ Phrases phrasesIn(const JsonValue& value) {
   return phrasesOf(value.texts());
 }
 
-constexpr KnownMember<Term> kTermMembers[] = {
-    {"concept", [](Term& term, const JsonValue& value) { term.name = value.nonEmptyText(); }},
-    {"english", [](Term& term, const JsonValue& value) { term.english = phrasesIn(value); }},
-    {"except", [](Term& term, const JsonValue& value) { term.exceptions = phrasesIn(value); }},
-    {"stems",
-     [](Term& term, const JsonValue& value) {
-       for (const auto& [language, nameAt, stems] : value.members()) {
-         for (const std::string& stem : stems.texts()) term.stems[language].push_back(caseFolded(stem));
-       }
-     }},
-};
+Term termFrom(const JsonValue& object) {
+  Term term;
+  const auto storeStems = [&](const JsonValue& value) {
+    for (const auto& [language, nameAt, stems] : value.members()) {
+      for (const std::string& stem : stems.texts()) term.stems[language].push_back(caseFolded(stem));
+    }
+  };
+  storeMembers(object, {{"concept", [&](const JsonValue& value) { term.name = value.nonEmptyText(); }},
+                        {"english", [&](const JsonValue& value) { term.english = phrasesIn(value); }},
+                        {"except", [&](const JsonValue& value) { term.exceptions = phrasesIn(value); }},
+                        {"stems", storeStems}});
+  if (term.name.empty() || term.english.empty())
+    object.fail("the term has no concept or no English words; add both");
+  return term;
+}
 
-constexpr KnownMember<LanguageStyle> kStyleMembers[] = {
-    {"quotationMarks",
-     [](LanguageStyle& style, const JsonValue& value) { style.quotationMarks = value.nonEmptyText(); }},
-    {"wrongAddress",
-     [](LanguageStyle& style, const JsonValue& value) { style.wrongAddress = phrasesIn(value); }},
-    {"doubledWords",
-     [](LanguageStyle& style, const JsonValue& value) {
-       const std::vector<std::string> words = value.texts();
-       style.doublesWords = words == std::vector<std::string>{"*"};
-       style.doubledWords = phrasesOf(words);
-     }},
-    {"loanWords", [](LanguageStyle& style, const JsonValue& value) { style.loanWords = phrasesIn(value); }},
-    {"noBreakBefore",
-     [](LanguageStyle& style, const JsonValue& value) { style.noBreakBefore = value.texts(); }},
-    {"noBreakAfter",
-     [](LanguageStyle& style, const JsonValue& value) { style.noBreakAfter = value.texts(); }},
-    {"nounsInflect",
-     [](LanguageStyle& style, const JsonValue& value) { style.nounsInflect = value.boolean(); }},
-    {"sentenceStops",
-     [](LanguageStyle& style, const JsonValue& value) { style.sentenceStops = value.boolean(); }},
-};
-
-constexpr KnownMember<Glossary> kGlossaryMembers[] = {
-    {"terms",
-     [](Glossary& glossary, const JsonValue& value) {
-       for (const JsonValue& element : value.elements()) {
-         Term term;
-         storeMembers(element, term, kTermMembers);
-         if (term.name.empty() || term.english.empty()) {
-           element.fail("the term has no concept or no English words; add both");
-         }
-         glossary.terms.push_back(std::move(term));
-       }
-     }},
-    {"languages",
-     [](Glossary& glossary, const JsonValue& value) {
-       for (const auto& [language, nameAt, style] : value.members()) {
-         storeMembers(style, glossary.styles[language], kStyleMembers);
-       }
-     }},
-};
+void storeStyle(const JsonValue& object, LanguageStyle& style) {
+  const auto storeDoubledWords = [&](const JsonValue& value) {
+    const std::vector<std::string> words = value.texts();
+    style.doublesWords = words == std::vector<std::string>{"*"};
+    style.doubledWords = phrasesOf(words);
+  };
+  storeMembers(
+      object,
+      {{"quotationMarks", [&](const JsonValue& value) { style.quotationMarks = value.nonEmptyText(); }},
+       {"wrongAddress", [&](const JsonValue& value) { style.wrongAddress = phrasesIn(value); }},
+       {"doubledWords", storeDoubledWords},
+       {"loanWords", [&](const JsonValue& value) { style.loanWords = phrasesIn(value); }},
+       {"noBreakBefore", [&](const JsonValue& value) { style.noBreakBefore = value.texts(); }},
+       {"noBreakAfter", [&](const JsonValue& value) { style.noBreakAfter = value.texts(); }},
+       {"nounsInflect", [&](const JsonValue& value) { style.nounsInflect = value.boolean(); }},
+       {"sentenceStops", [&](const JsonValue& value) { style.sentenceStops = value.boolean(); }}});
+}
 
 }  // namespace
 
 Glossary Glossary::read(const std::string& root) {
   Glossary glossary;
-  if (pathExists(pathBelow(root, kFile)))
-    storeMembers(JsonValue::parse(readFile(root, kFile), kFile), glossary, kGlossaryMembers);
+  if (!pathExists(pathBelow(root, kFile))) return glossary;
+  const auto storeTerms = [&](const JsonValue& value) {
+    for (const JsonValue& term : value.elements()) glossary.terms.push_back(termFrom(term));
+  };
+  const auto storeStyles = [&](const JsonValue& value) {
+    for (const auto& [language, nameAt, style] : value.members())
+      storeStyle(style, glossary.styles[language]);
+  };
+  storeMembers(JsonValue::parse(readFile(root, kFile), kFile),
+               {{"terms", storeTerms}, {"languages", storeStyles}});
   return glossary;
 }
 

@@ -32,51 +32,40 @@ constexpr const char* kFile = Catalogue::kFile;
 constexpr std::pair<Entry::Kept, const char*> kKeptNames[] = {{Entry::Kept::key, "key"},
                                                               {Entry::Kept::place, "place"}};
 
-template <std::size_t form>
-void storeForm(PluralForms& forms, const JsonValue& value) {
-  forms[form] = value.text();
-}
-
-constexpr KnownMember<PluralForms> kFormMembers[] = {{"zero", storeForm<0>},
-                                                     {"one", storeForm<1>},
-                                                     {"two", storeForm<2>},
-                                                     {"few", storeForm<3>},
-                                                     {"many", storeForm<4>}};
-
-void storePlural(Entry& entry, const JsonValue& value) {
+void storePlural(const JsonValue& value, Entry& entry) {
   entry.plural = true;
   if (value.isTrue()) return;
   if (!value.isObject() || value.members().empty()) value.fail("write true, or forms: {\"one\": \"...\"}");
-  storeMembers(value, entry.forms, kFormMembers);
+  std::vector<KnownMember> known;
+  for (std::size_t i = 0; i < entry.forms.size(); ++i)
+    known.push_back({kPluralForms[i].suffix.substr(1),
+                     [&entry, i](const JsonValue& form) { entry.forms[i] = form.text(); }});
+  storeMembers(value, known);
 }
 
-void storeKept(Entry& entry, const JsonValue& value) {
+void storeKept(const JsonValue& value, Entry& entry) {
   for (const auto& [kept, name] : kKeptNames) {
     if (value.text() == name) entry.kept = kept;
   }
   if (entry.kept == Entry::Kept::nothing) value.fail("write \"key\" or \"place\"");
 }
 
-void storeMax(Entry& entry, const JsonValue& value) {
+void storeMax(const JsonValue& value, Entry& entry) {
   if (value.integer() < 1) value.fail("write a number from 1");
   entry.max = static_cast<std::size_t>(value.integer());
 }
-
-constexpr KnownMember<Entry> kEntryMembers[] = {
-    {"key", [](Entry& entry, const JsonValue& value) { entry.key = value.nonEmptyText(); }},
-    {"text", [](Entry& entry, const JsonValue& value) { entry.text = value.nonEmptyText(); }},
-    {"plural", storePlural},
-    {"kept", storeKept},
-    {"comment", [](Entry& entry, const JsonValue& value) { entry.comment = value.text(); }},
-    {"max", storeMax},
-};
 
 /// Returns the entry of one line, without its comma.
 Entry entryFrom(std::string_view line, std::size_t number) {
   const JsonValue object = JsonValue::parse(line, kFile, {number, 1});
   Entry entry;
   entry.line = number;
-  storeMembers(object, entry, kEntryMembers);
+  storeMembers(object, {{"key", [&](const JsonValue& value) { entry.key = value.nonEmptyText(); }},
+                        {"text", [&](const JsonValue& value) { entry.text = value.nonEmptyText(); }},
+                        {"plural", [&](const JsonValue& value) { storePlural(value, entry); }},
+                        {"kept", [&](const JsonValue& value) { storeKept(value, entry); }},
+                        {"comment", [&](const JsonValue& value) { entry.comment = value.text(); }},
+                        {"max", [&](const JsonValue& value) { storeMax(value, entry); }}});
   if (entry.key.empty() || entry.text.empty()) object.fail("the entry needs a \"key\" and a \"text\"");
   return entry;
 }
@@ -218,7 +207,8 @@ std::string formsOf(const Entry& entry) {
   std::vector<std::string> members;
   for (std::size_t i = 0; i < entry.forms.size(); ++i) {
     const std::string form = entry.forms[i].value_or(entry.text);
-    if (form != entry.text) members.push_back(fmt::format("\"{}\": {}", kFormMembers[i].name, quoted(form)));
+    if (form != entry.text)
+      members.push_back(fmt::format("\"{}\": {}", kPluralForms[i].suffix.substr(1), quoted(form)));
   }
   return members.empty() ? "true" : fmt::format("{{{}}}", fmt::join(members, ", "));
 }

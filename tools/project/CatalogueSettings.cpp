@@ -63,45 +63,18 @@ bool isNamespace(std::string_view name) {
 }
 
 using Words = std::vector<std::string_view>;
-using Example = CatalogueSettings::Example;
 
-constexpr KnownMember<Example> kExampleMembers[] = {
-    {"key", [](Example& example, const JsonValue& value) { example.key = value.nonEmptyText(); }},
-    {"count", [](Example& example, const JsonValue& value) { example.count = value.integer(); }},
-};
-
-Example exampleFrom(const JsonValue& value) {
-  Example example;
+CatalogueSettings::Example exampleFrom(const JsonValue& value) {
+  CatalogueSettings::Example example;
   if (!value.isObject()) {
     example.text = value.nonEmptyText();
     return example;
   }
-  storeMembers(value, example, kExampleMembers);
+  storeMembers(value, {{"key", [&](const JsonValue& key) { example.key = key.nonEmptyText(); }},
+                       {"count", [&](const JsonValue& count) { example.count = count.integer(); }}});
   if (example.key.empty()) value.fail("the example has no key; write {\"key\": \"...\"}");
   return example;
 }
-
-using Settings = CatalogueSettings;
-
-constexpr KnownMember<Settings> kMembers[] = {
-    {"name", [](Settings& settings, const JsonValue& value) { settings.name.name = value.text(); }},
-    {"namespace", [](Settings& settings, const JsonValue& value) { settings.name.nameSpace = value.text(); }},
-    {"appName", [](Settings& settings, const JsonValue& value) { settings.appName = value.nonEmptyText(); }},
-    {"names", [](Settings& settings, const JsonValue& value) { settings.names = value.texts(); }},
-    {"rulesOff",
-     [](Settings& settings, const JsonValue& value) {
-       for (const JsonValue& rule : value.elements())
-         settings.rulesOff.push_back({rule.nonEmptyText(), rule.at()});
-     }},
-    {"numberPlaceholders",
-     [](Settings& settings, const JsonValue& value) { settings.numberPlaceholders = value.texts(); }},
-    {"examples",
-     [](Settings& settings, const JsonValue& value) {
-       for (const JsonMember& member : value.members()) {
-         settings.examples[member.name] = exampleFrom(member.value);
-       }
-     }},
-};
 
 /// Returns how many of the words from `begin` on are `name`, 0 if they are another word.
 std::size_t sizeOfName(const std::string& name, Words::const_iterator begin, Words::const_iterator end) {
@@ -136,8 +109,24 @@ CatalogueSettings CatalogueSettings::read(const std::string& root) {
   CatalogueSettings settings;
   if (!pathExists(pathBelow(root, kFile))) return settings;
   settings.name = {"", ""};
+  const auto storeRules = [&](const JsonValue& value) {
+    for (const JsonValue& rule : value.elements())
+      settings.rulesOff.push_back({rule.nonEmptyText(), rule.at()});
+  };
+  const auto storeExamples = [&](const JsonValue& value) {
+    for (const JsonMember& member : value.members())
+      settings.examples[member.name] = exampleFrom(member.value);
+  };
   const JsonValue object = JsonValue::parse(readFile(root, kFile), kFile);
-  storeMembers(object, settings, kMembers);
+  storeMembers(
+      object,
+      {{"name", [&](const JsonValue& value) { settings.name.name = value.text(); }},
+       {"namespace", [&](const JsonValue& value) { settings.name.nameSpace = value.text(); }},
+       {"appName", [&](const JsonValue& value) { settings.appName = value.nonEmptyText(); }},
+       {"names", [&](const JsonValue& value) { settings.names = value.texts(); }},
+       {"rulesOff", storeRules},
+       {"numberPlaceholders", [&](const JsonValue& value) { settings.numberPlaceholders = value.texts(); }},
+       {"examples", storeExamples}});
   if (const std::string error = settings.name.error(); !error.empty()) object.fail(error);
   return settings;
 }

@@ -181,14 +181,19 @@ void JsonValue::failAt(Position at, std::string message) const {
   tools::fail(std::string(file_), at, std::move(message));
 }
 
-void requireMembers(const JsonValue& object, const std::vector<std::string_view>& known) {
+void storeMembers(const JsonValue& object, const std::vector<KnownMember>& known) {
   std::set<std::string_view> seen;
   for (const auto& [name, nameAt, value] : object.members()) {
-    if (std::find(known.begin(), known.end(), name) == known.end()) {
-      object.failAt(nameAt, fmt::format("unknown member \"{}\"; known are {}", name, fmt::join(known, ", ")));
+    const auto member =
+        std::find_if(known.begin(), known.end(), [&](const auto& one) { return one.name == name; });
+    if (member == known.end()) {
+      std::vector<std::string_view> names;
+      for (const KnownMember& one : known) names.push_back(one.name);
+      object.failAt(nameAt, fmt::format("unknown member \"{}\"; known are {}", name, fmt::join(names, ", ")));
     }
     if (!seen.insert(name).second)
       object.failAt(nameAt, fmt::format("repeated member \"{}\"; remove one", name));
+    member->store(value);
   }
 }
 

@@ -2,8 +2,8 @@
 
 #include <ZKStrings/tools/support/Diagnostic.h>
 
-#include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -60,28 +60,13 @@ struct JsonMember {
   JsonValue value;
 };
 
-/// A member that an object may have, and the function that stores its value in `Owner`.
-template <class Owner>
+/// A member that an object may have, and the function that stores its value.
 struct KnownMember {
   std::string_view name;
-  void (*store)(Owner& owner, const JsonValue& value);
+  std::function<void(const JsonValue& value)> store;
 };
 
-/// Throws `CommandFailed` for the first member of `object` that is repeated or is not one of `known`.
-void requireMembers(const JsonValue& object, const std::vector<std::string_view>& known);
-
-/// Stores the members of `object` in `owner`. Throws `CommandFailed` for a member that is repeated or unknown, or has
-/// a wrong value.
-template <class Owner, std::size_t count>
-void storeMembers(const JsonValue& object, Owner& owner, const KnownMember<Owner> (&known)[count]) {
-  std::vector<std::string_view> names;
-  for (const KnownMember<Owner>& one : known) names.push_back(one.name);
-  requireMembers(object, names);
-  for (const JsonMember& member : object.members()) {
-    for (const KnownMember<Owner>& one : known) {
-      if (one.name == member.name) one.store(owner, member.value);
-    }
-  }
-}
+/// Stores the members of `object`. Throws `CommandFailed` for the first that is repeated, unknown or has a wrong value.
+void storeMembers(const JsonValue& object, const std::vector<KnownMember>& known);
 
 }  // namespace zk::tools
