@@ -274,11 +274,14 @@ void ifTranslated(const Translation& translation, Findings& findings) {
 constexpr RuleFor<Translation> kRules[] = {
     {{"glossary-term", Severity::warning, "a translation without the glossary's term for a concept"},
      ifTranslated<findOtherTerms>},
-    {{"address", Severity::warning, "a word of another form of address"}, ifTranslated<findWrongAddress>},
+    {{"address", Severity::warning, "a word that belongs to a wrong form of address"},
+     ifTranslated<findWrongAddress>},
     {{"doubled-word", Severity::warning, "a repeated word, unless the glossary allows it"}, findDoubledWords},
-    {{"mixed-scripts", Severity::warning, "Latin, Cyrillic or Greek letters in one word"}, findMixedScripts},
+    {{"mixed-scripts", Severity::warning, "a word with letters of two scripts: Latin, Cyrillic or Greek"},
+     findMixedScripts},
     {{"english-words", Severity::warning,
-      "words of the English text that are not names: three in a row, or one in a non-Latin script"},
+      "words of the English text that are not names: three in a row, or one if the language does not use "
+      "Latin letters"},
      ifTranslated<findEnglishWords>},
     {{"quotation-marks", Severity::warning, "straight quotation marks, or those of another language"},
      ifTranslated<findQuotationMarks>},

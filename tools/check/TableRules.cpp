@@ -250,7 +250,7 @@ void withCatalogue(const CheckedTable& subject, Findings& findings) {
 }
 
 constexpr RuleFor<CheckedTable> kRules[] = {
-    {{"language-directory", Severity::error, "a directory whose name the module never chooses"},
+    {{"language-directory", Severity::error, "a directory that the module never uses because of its name"},
      findDirectory},
     {{Table::kMissing, Severity::error, "a language's directory without a readable table"}, findMissingTable},
     {{Table::kEncoding, Severity::error, "bytes that are invalid in the file's encoding"},
@@ -269,7 +269,7 @@ constexpr RuleFor<CheckedTable> kRules[] = {
      inEntries<findUnknownComments>},
     {{"missing-english", Severity::warning, "a key of the catalogue that is missing from the English table"},
      withCatalogue<findMissingEnglish>},
-    {{"unknown-key", Severity::warning, "a key that nothing looks up"}, withCatalogue<findUnknownKeys>},
+    {{"unknown-key", Severity::warning, "a key that the app never looks up"}, withCatalogue<findUnknownKeys>},
     {{"missing-key", Severity::gap, "texts that are missing from a translation's table"},
      withCatalogue<findMissing>},
     {{kUntranslatedRule, Severity::gap, "texts that are still in English"}, withCatalogue<findUntranslated>},

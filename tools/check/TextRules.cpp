@@ -243,7 +243,7 @@ constexpr RuleFor<Translation> kRules[] = {
     {{"outer-space", Severity::warning, "leading or trailing white space that differs from the English text"},
      findOuterSpace},
     {{"end-punctuation", Severity::warning,
-      "final punctuation of another kind than in the English text, in any script"},
+      "final punctuation of a different kind from the English text's; its script does not matter"},
      findEndPunctuation},
     {{"digits", Severity::warning,
       "numbers that differ from the English text; _zero, _one and _two may spell them out"},
@@ -252,7 +252,7 @@ constexpr RuleFor<Translation> kRules[] = {
     {{"same-text", Severity::note, "a word that is the same as in English and is not a name"},
      exceptInEnglish<findSameText>},
     {{"long-text", Severity::note,
-      "a text more than twice as long as the English one, or more than three times if that is short"},
+      "a text more than twice as long as the English one (three times if the English one is short)"},
      exceptInEnglish<findLongText>},
 };
 

@@ -85,7 +85,7 @@ std::string summaryOf(const TableUpdate& update) {
   add("marked", update.marked, "text as untranslated", "texts as untranslated");
   add("unmarked", update.unmarked, "translated text", "translated texts");
   add("marked", update.reviews, "translation for review", "translations for review");
-  add("removed", update.removed, "entry that nothing looks up", "entries that nothing looks up");
+  add("removed", update.removed, "entry that the app never looks up", "entries that the app never looks up");
   return done.empty() ? "refreshed comments" : fmt::format("{}", fmt::join(done, ", "));
 }
 
@@ -108,7 +108,7 @@ void addCheckCommand(CLI::App& app, const RootFinder& inRoot) {
   command.add_flag("--complete", isForRelease, "Fail on gaps too: missing, untranslated or outdated texts");
   command.add_flag("--notes", options.notes,
                    "Also print notes on texts that may be right but deserve a look");
-  command.add_flag("--rules", showsRules, "List the rules, and check nothing");
+  command.add_flag("--rules", showsRules, "List the rules and exit");
   addFormat(command, format);
   command.callback([inRoot] {
     if (showsRules) return printRules();
@@ -172,7 +172,7 @@ void addUpdateCommand(CLI::App& app, const RootFinder& inRoot) {
   command.add_option("language", word, "The language: its code, name or table")
       ->required()
       ->type_name("LANGUAGE");
-  command.add_flag("--prune", prunes, "Remove entries that nothing looks up");
+  command.add_flag("--prune", prunes, "Remove entries that the app never looks up");
   command.callback([inRoot] {
     const std::string root = inRoot();
     const std::string language = existingLanguage(root, word);
