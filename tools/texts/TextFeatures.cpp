@@ -1,18 +1,15 @@
+#include <ZKStrings/platform/text/UnicodeText.h>
 #include <ZKStrings/tools/support/Characters.h>
 #include <ZKStrings/tools/texts/Placeholders.h>
 #include <ZKStrings/tools/texts/TextFeatures.h>
 
 #include <algorithm>
 #include <cstddef>
-#include <cstdint>
-#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include <unicode/brkiter.h>
 #include <unicode/uchar.h>
-#include <unicode/utext.h>
 
 namespace zk::tools {
 
@@ -24,15 +21,6 @@ bool isWhiteSpace(const CodePoint& character) {
 
 bool isSpace(const CodePoint& character) {
   return character.value && u_charType(static_cast<UChar32>(*character.value)) == U_SPACE_SEPARATOR;
-}
-
-icu::BreakIterator& characterBorders() {
-  static thread_local const std::unique_ptr<icu::BreakIterator> borders = [] {
-    UErrorCode status = U_ZERO_ERROR;
-    return std::unique_ptr<icu::BreakIterator>(
-        icu::BreakIterator::createCharacterInstance(icu::Locale::getRoot(), status));
-  }();
-  return *borders;
 }
 
 }  // namespace
@@ -128,14 +116,9 @@ std::vector<std::string_view> wordsToRead(std::string_view text) {
 }
 
 std::size_t charactersIn(std::string_view text) {
-  UErrorCode status = U_ZERO_ERROR;
-  UText view = UTEXT_INITIALIZER;
-  utext_openUTF8(&view, text.data(), static_cast<std::int64_t>(text.size()), &status);
-  icu::BreakIterator& borders = characterBorders();
-  borders.setText(&view, status);
   std::size_t characters = 0;
-  for (borders.first(); borders.next() != icu::BreakIterator::DONE;) ++characters;
-  utext_close(&view);
+  for (; !text.empty(); ++characters)
+    text.remove_prefix(internal::beginsWithPlainAscii(text) ? 1 : internal::firstClusterSize(text));
   return characters;
 }
 

@@ -85,15 +85,15 @@ std::optional<std::string> quotedIn(const TableEntry& entry, std::string_view na
 }
 
 bool isSwitchedOff(const TableEntry& entry, std::string_view rule) {
-  return std::any_of(entry.comments.begin(), entry.comments.end(), [&](const TableEntry::Comment& comment) {
+  return std::ranges::any_of(entry.comments, [&](const TableEntry::Comment& comment) {
     const auto words = wordsTold(comment, kCheck);
     return words && !words->empty() && words->front() == "off" &&
-           std::find(words->begin() + 1, words->end(), rule) != words->end();
+           std::ranges::find(words->begin() + 1, words->end(), rule) != words->end();
   });
 }
 
 bool isMarked(const TableEntry& entry, TranslationState state) {
-  return std::any_of(entry.comments.begin(), entry.comments.end(), [&](const TableEntry::Comment& comment) {
+  return std::ranges::any_of(entry.comments, [&](const TableEntry::Comment& comment) {
     const auto words = wordsTold(comment, kState);
     return words && !words->empty() && words->front() == nameOf(state);
   });
