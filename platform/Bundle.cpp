@@ -6,6 +6,7 @@
 #include <ZKStrings/platform/text/Bytes.h>
 
 #include <algorithm>
+#include <array>
 #include <atomic>
 #include <bit>
 #include <cstddef>
@@ -63,65 +64,58 @@ const StringTable* ResourcePath::openTable() const {
 /// The named entries of a directory, in a hash index with open addressing.
 class Bundle::Listing {
  public:
-  explicit Listing(const std::string& path, const std::vector<DirectoryEntry>& entries) {
-    const std::size_t size = std::bit_ceil(std::max<std::size_t>(entries.size() * 4, 64));
-    slots_ = std::make_unique<Slot[]>(size);
-    last_ = size - 1;
+  Listing(const std::string& path, const std::vector<DirectoryEntry>& entries)
+      : slots_(std::bit_ceil(std::max<std::size_t>(entries.size() * 4, 64))) {
     for (const DirectoryEntry& entry : entries) {
       std::unique_ptr<const ResourcePath> resource(
           new ResourcePath(path + "/" + entry.name, entry.isDirectory));
       if (resource->name_.empty()) continue;  // cannot be looked up
-      const Name name(resource->name_, resource->type_);
-      std::size_t at = name.place() & last_;
-      while (slots_[at].path) at = (at + 1) & last_;
-      slots_[at] = {name, std::move(resource)};
+      const Name name = nameOf(resource->name_, resource->type_);
+      slots_[slotOf(name, resource->name_, resource->type_)] = {name, std::move(resource)};
     }
   }
 
   template <class Visit>
   void forEach(Visit visit) const {
-    for (std::size_t at = 0; at <= last_; ++at) {
-      if (slots_[at].path) visit(*slots_[at].path);
+    for (const Slot& slot : slots_) {
+      if (slot.path) visit(*slot.path);
     }
   }
 
   [[nodiscard]] const ResourcePath* find(std::string_view name, std::string_view type) const {
-    const Name wanted(name, type);
-    for (std::size_t at = wanted.place() & last_; slots_[at].path; at = (at + 1) & last_) {
-      if (slots_[at].name != wanted) continue;
-      const ResourcePath* const path = slots_[at].path.get();
-      const bool areShort = name.size() <= 8 && type.size() <= 8;
-      if (areShort || (path->name_ == name && path->type_ == type)) return path;
-    }
-    return nullptr;
+    return slots_[slotOf(nameOf(name, type), name, type)].path.get();
   }
 
  private:
-  /// A name and a type in a few machine words. Short names that differ have different words.
-  struct Name {
-    Name() = default;
-    Name(std::string_view name, std::string_view type)
-        : nameWord(wordOf(name)),
-          typeWord(wordOf(type)),
-          sizes(std::uint64_t{name.size()} << 32 | type.size()) {}
-    [[nodiscard]] std::size_t place() const {
-      return static_cast<std::size_t>(hashOfWords(typeWord, nameWord) >> 32);
-    }
-    friend bool operator==(const Name&, const Name&) = default;
-
-    std::uint64_t nameWord = 0, typeWord = 0, sizes = 0;
-  };
+  /// A name, a type and their sizes in machine words. Short names that differ have different words.
+  using Name = std::array<std::uint64_t, 3>;
   struct Slot {
     Name name{};
     std::unique_ptr<const ResourcePath> path{};
   };
-  std::unique_ptr<Slot[]> slots_{};  // a power of two
-  std::size_t last_ = 0;
+
+  static Name nameOf(std::string_view name, std::string_view type) {
+    return {wordOf(name), wordOf(type), std::uint64_t{name.size()} << 32 | type.size()};
+  }
+
+  /// The slot of a file, or the free slot where it belongs.
+  [[nodiscard]] std::size_t slotOf(const Name& words, std::string_view name, std::string_view type) const {
+    const std::size_t last = slots_.size() - 1;
+    std::size_t at = static_cast<std::size_t>(hashOfWords(words[1], words[0]) >> 32) & last;
+    for (; slots_[at].path; at = (at + 1) & last) {
+      if (slots_[at].name != words) continue;
+      const bool areShort = name.size() <= 8 && type.size() <= 8;
+      if (areShort || (slots_[at].path->name_ == name && slots_[at].path->type_ == type)) break;
+    }
+    return at;
+  }
+
+  std::vector<Slot> slots_;  // a power of two
 };
 
-Bundle::Bundle(std::string path, std::unique_ptr<const Listing> listing)
+Bundle::Bundle(std::string path, const std::vector<DirectoryEntry>& entries)
     : path_(std::move(path)),
-      listing_(std::move(listing)),
+      listing_(std::make_unique<const Listing>(path_, entries)),
       defaultTable_(listing_->find("Localizable", "strings")) {
 }
 
@@ -160,8 +154,7 @@ const Bundle& Bundle::withoutResources(const std::string& path) {
   static auto& bundles = *new BundlesByPath;  // never destroyed, like the lock
   const std::lock_guard lock(opening());
   std::unique_ptr<const Bundle>& bundle = bundles[path];
-  if (!bundle)
-    bundle.reset(new Bundle(path, std::make_unique<const Listing>(path, std::vector<DirectoryEntry>())));
+  if (!bundle) bundle.reset(new Bundle(path, {}));
   return *bundle;
 }
 
@@ -189,7 +182,7 @@ const Bundle* Bundle::open(const std::string& path, std::error_code& failure) {
   if (const auto open = bundles.find(path); open != bundles.end()) return open->second.get();
   const std::vector<DirectoryEntry> entries = entriesOf(path, failure);
   if (failure) return nullptr;
-  std::unique_ptr<const Bundle> bundle(new Bundle(path, std::make_unique<const Listing>(path, entries)));
+  std::unique_ptr<const Bundle> bundle(new Bundle(path, entries));
   return (bundles[path] = std::move(bundle)).get();
 }
 

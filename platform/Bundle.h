@@ -16,6 +16,7 @@ namespace zk {
 
 class ResourcePath;
 class StringTable;
+struct DirectoryEntry;
 
 namespace internal {
 struct ResourcePlaces;
@@ -107,7 +108,7 @@ class ZK_EXPORT alignas(kCacheLine) Bundle {
  private:
   class Listing;
 
-  Bundle(std::string path, std::unique_ptr<const Listing> listing);
+  Bundle(std::string path, const std::vector<DirectoryEntry>& entries);
   static const Bundle* open(const std::string& path, std::error_code& failure);
   static const Bundle* openListed(const ResourcePath& path);
   static const Bundle& openOrThrow(const std::string& path, std::error_code failure);
