@@ -11,10 +11,8 @@ namespace {
 
 /// The letter after the backslash that means `character` in source code; 0 if it is not escaped.
 char escapeLetter(std::string_view character) {
-  if (character == "\n") return 'n';
-  if (character == "\t") return 't';
-  if (character == "\r") return 'r';
-  return 0;
+  const std::size_t place = std::string_view("\n\t\r").find(character);
+  return place < 3 ? "ntr"[place] : '\0';
 }
 
 }  // namespace

@@ -43,7 +43,6 @@ add_library(zk_objects OBJECT
   platform/Export.cpp
   ${system_sources}
   platform/system/ResourceDirectory.cpp
-  platform/system/ThreadPointer.cpp
   platform/formats/Json.cpp
   platform/Locale.cpp
   platform/Resolver.cpp
@@ -59,7 +58,7 @@ add_library(zk_objects OBJECT
   region/Language.cpp)
 target_include_directories(zk_objects PUBLIC ${PROJECT_BINARY_DIR}/include)
 target_link_libraries(zk_objects PRIVATE zk_compile_options ICU::uc nlohmann_json::nlohmann_json)
-set_source_files_properties(platform/system/ResourceDirectory.cpp PROPERTIES COMPILE_DEFINITIONS
+set_source_files_properties(platform/Bundle.cpp PROPERTIES COMPILE_DEFINITIONS
   "ZK_RESOURCES_ABOVE=\"${resources_above}\";ZK_RESOURCES_INSTALLED=\"${resources_installed}\"")
 # Accessors write to no buffers, so guarding their stacks would only make each a third longer.
 set_source_files_properties(catalogue/ZKStrings.cpp PROPERTIES COMPILE_OPTIONS -fno-stack-protector)

@@ -5,18 +5,14 @@
 
 namespace zk {
 
-/// The module's own bundle: the directory with the language directories and countries.json. Found on the first call
-/// and the same object on every later call. Thread-safe.
-///
-/// Returns a bundle without resources while the directory temporarily cannot be found or listed; the next call looks
-/// again.
+/// The module's own bundle: the directory with the language directories and countries.json. Found on the first call and
+/// the same object on every later call. Thread-safe. Returns a bundle without resources while the directory temporarily
+/// cannot be found or listed; the next call looks again.
 [[nodiscard]] ZK_EXPORT const Bundle& bundle();
 
 /// The app's main bundle: the directory of its executable. Found on the first call and the same object on every later
-/// call. The module itself reads nothing from it. Thread-safe.
-///
-/// Returns a bundle without resources while the directory temporarily cannot be found or listed; the next call looks
-/// again.
+/// call. Thread-safe. Returns a bundle without resources while the directory temporarily cannot be found or listed; the
+/// next call looks again.
 [[nodiscard]] ZK_EXPORT const Bundle& mainBundle();
 
 namespace internal {

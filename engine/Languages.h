@@ -23,26 +23,24 @@ struct TextLanguage {
 ///     ...
 ///     zk::Current::language->preferredLanguages = {picker.selected()};
 ///
-/// Returns an empty list while the module's resources temporarily cannot be found. Thread-safe. Throws std::bad_alloc
-/// if memory runs out.
+/// Returns an empty list while the resources temporarily cannot be found. Thread-safe. Throws std::bad_alloc if memory
+/// runs out.
 [[nodiscard]] ZK_EXPORT std::vector<TextLanguage> availableLanguages();
 
-/// Returns the languages of a catalogue with its own resources, which are in `resources`. Returns an empty list if
-/// `resources` is null, which means that they temporarily cannot be found. Thread-safe.
+/// Returns the languages of a catalogue whose resources are in `resources`. Returns an empty list if `resources` is
+/// null. Thread-safe.
 [[nodiscard]] ZK_EXPORT std::vector<TextLanguage> availableLanguages(const Bundle* resources);
 
-/// Returns the language of the texts: the first available one that `Current::language` prefers, or else
-/// English.
+/// Returns the language of the texts: the first available one that `Current::language` prefers, or else English.
 ///
 ///     window.setMirrored(zk::chosenLanguage().direction == zk::TextDirection::rtl);
 ///
-/// Texts that are missing from the table of the chosen language are in English. Returns English while the
-/// resources temporarily cannot be opened. Thread-safe. Throws std::bad_alloc if memory runs out. Stops the process
-/// if a lookup would: if `Current::language` was not assigned, and if Base.lproj is needed but missing.
+/// Returns English while the resources temporarily cannot be opened. Thread-safe. Throws std::bad_alloc if memory runs
+/// out. Stops the process if `Current::language` was not assigned, and if Base.lproj is needed but missing.
 [[nodiscard]] ZK_EXPORT TextLanguage chosenLanguage();
 
-/// Returns the chosen language of a catalogue with its own resources, which are in `resources`. Returns English if
-/// `resources` is null, which means that they temporarily cannot be found. Thread-safe.
+/// Returns the chosen language of a catalogue whose resources are in `resources`. Returns English if `resources` is
+/// null. Thread-safe.
 [[nodiscard]] ZK_EXPORT TextLanguage chosenLanguage(const Bundle* resources);
 
 }  // namespace zk

@@ -44,9 +44,8 @@ namespace zk {
 /// first entry that exists and opens, or else Base.lproj. Stops the process if Base.lproj is needed, but missing or
 /// not a directory, and if a directory vanishes between two steps.
 ///
-/// `PlatformBundle` is `Bundle`, or a test class with the same operations. Nothing is remembered between
-/// calls: an entry's directory is looked up once to see that it exists and once to open it, and for the winner both
-/// steps are repeated.
+/// `PlatformBundle` is `Bundle`, or a test class. An entry's directory is looked up once to see that it exists and once
+/// to open it, and for the winner both steps are repeated.
 template <class PlatformBundle>
 const PlatformBundle& chosenLanguageBundle(const PlatformBundle& bundle,
                                            const SharedArray<std::string>& preferredLanguages) {

@@ -35,9 +35,8 @@ namespace zk {
                                                     std::optional<std::int64_t> count,
                                                     const Substitutions& substitutions);
 
-/// Returns the finished text of one entry of a catalogue with its own resources. `resources` is a directory with language
-/// directories such as Base.lproj and de.lproj; null means that it temporarily cannot be found, and then the English
-/// text is returned. Otherwise like `localizedString` without `resources`.
+/// Returns the finished text of one entry of a catalogue with its own resources, as `localizedString` does for the module's.
+/// `resources` contains language directories such as Base.lproj. If it is null, the English text is used.
 ///
 ///     const zk::Bundle& texts = zk::Bundle::bundleForClass(typeid(MyTexts), "MyTexts");
 ///     zk::localizedString(&texts, "Hello", "Hello", std::nullopt, {})

@@ -28,12 +28,9 @@ namespace zk {
 /// a call, but not for a variable:
 ///
 ///     zk::localizedString(key, english, 5, {{"seconds", std::to_string(5)}});        // right
-///     const std::string seconds = std::to_string(5);
-///     const zk::Substitutions substitutions = {{"seconds", seconds}};                // right
 ///     const zk::Substitutions substitutions = {{"seconds", std::to_string(5)}};      // wrong: the text is destroyed
 ///
-/// Up to five pairs rarely need memory from the heap. Different objects may be used on different threads at the
-/// same time.
+/// Up to five pairs rarely need memory from the heap. Different objects may be used on different threads.
 ///
 /// Stops the process if a name occurs twice. Canonically equivalent names, such as é and e + U+0301, are the same.
 class ZK_EXPORT Substitutions {

@@ -6,7 +6,6 @@
 #include <ZKStrings/platform/text/Bytes.h>
 
 #include <algorithm>
-#include <array>
 #include <atomic>
 #include <bit>
 #include <cstddef>
@@ -62,55 +61,51 @@ const StringTable* ResourcePath::openTable() const {
 }
 
 /// The named entries of a directory, in a hash index with open addressing.
-class Bundle::Listing {
- public:
-  Listing(const std::string& path, const std::vector<DirectoryEntry>& entries)
-      : slots_(std::bit_ceil(std::max<std::size_t>(entries.size() * 4, 64))) {
-    for (const DirectoryEntry& entry : entries) {
-      std::unique_ptr<const ResourcePath> resource(
-          new ResourcePath(path + "/" + entry.name, entry.isDirectory));
-      if (resource->name_.empty()) continue;  // cannot be looked up
-      const Name name = nameOf(resource->name_, resource->type_);
-      slots_[slotOf(name, resource->name_, resource->type_)] = {name, std::move(resource)};
-    }
-  }
-
-  template <class Visit>
-  void forEach(Visit visit) const {
-    for (const Slot& slot : slots_) {
-      if (slot.path) visit(*slot.path);
-    }
-  }
-
-  [[nodiscard]] const ResourcePath* find(std::string_view name, std::string_view type) const {
-    return slots_[slotOf(nameOf(name, type), name, type)].path.get();
-  }
-
- private:
-  /// A name, a type and their sizes in machine words. Short names that differ have different words.
-  using Name = std::array<std::uint64_t, 3>;
+struct Bundle::Listing {
+  /// A name and a type in a few machine words. Short names that differ have different words.
+  struct Name {
+    std::uint64_t nameWord = 0, typeWord = 0, sizes = 0;
+    friend bool operator==(const Name&, const Name&) = default;
+  };
   struct Slot {
     Name name{};
     std::unique_ptr<const ResourcePath> path{};
   };
 
+  Listing(const std::string& path, const std::vector<DirectoryEntry>& entries)
+      : slots(std::bit_ceil(std::max<std::size_t>(entries.size() * 4, 64))) {
+    for (const DirectoryEntry& entry : entries) {
+      std::unique_ptr<const ResourcePath> resource(
+          new ResourcePath(path + "/" + entry.name, entry.isDirectory));
+      if (resource->name_.empty()) continue;  // cannot be looked up
+      const Name name = nameOf(resource->name_, resource->type_);
+      std::size_t at = placeOf(name);
+      while (slots[at].path) at = placeAfter(at);
+      slots[at] = {name, std::move(resource)};
+    }
+  }
+
+  [[nodiscard]] const ResourcePath* find(std::string_view name, std::string_view type) const {
+    const Name wanted = nameOf(name, type);
+    for (std::size_t at = placeOf(wanted); slots[at].path; at = placeAfter(at)) {
+      if (slots[at].name != wanted) continue;
+      const ResourcePath* const path = slots[at].path.get();
+      const bool areShort = name.size() <= 8 && type.size() <= 8;
+      if (areShort || (path->name_ == name && path->type_ == type)) return path;
+    }
+    return nullptr;
+  }
+
   static Name nameOf(std::string_view name, std::string_view type) {
     return {wordOf(name), wordOf(type), std::uint64_t{name.size()} << 32 | type.size()};
   }
-
-  /// The slot of a file, or the free slot where it belongs.
-  [[nodiscard]] std::size_t slotOf(const Name& words, std::string_view name, std::string_view type) const {
-    const std::size_t last = slots_.size() - 1;
-    std::size_t at = static_cast<std::size_t>(hashOfWords(words[1], words[0]) >> 32) & last;
-    for (; slots_[at].path; at = (at + 1) & last) {
-      if (slots_[at].name != words) continue;
-      const bool areShort = name.size() <= 8 && type.size() <= 8;
-      if (areShort || (slots_[at].path->name_ == name && slots_[at].path->type_ == type)) break;
-    }
-    return at;
+  [[nodiscard]] std::size_t placeOf(const Name& name) const {
+    return static_cast<std::size_t>(hashOfWords(name.typeWord, name.nameWord) >> 32) & last;
   }
+  [[nodiscard]] std::size_t placeAfter(std::size_t place) const { return (place + 1) & last; }
 
-  std::vector<Slot> slots_;  // a power of two
+  std::vector<Slot> slots;  // a power of two
+  std::size_t last = slots.size() - 1;
 };
 
 Bundle::Bundle(std::string path, const std::vector<DirectoryEntry>& entries)
@@ -122,7 +117,7 @@ Bundle::Bundle(std::string path, const std::vector<DirectoryEntry>& entries)
 Bundle::~Bundle() = default;
 
 const Bundle& Bundle::bundleForClass(const std::type_info& type) {
-  return bundleOfCode(type, internal::modulePlaces());
+  return bundleOfCode(type, {ZK_RESOURCES_ABOVE, ZK_RESOURCES_INSTALLED});
 }
 
 const Bundle& Bundle::bundleForClass(const std::type_info& type, std::string_view name) {
@@ -193,9 +188,9 @@ const ResourcePath* Bundle::pathForResource(std::string_view name, std::string_v
 
 std::vector<std::string_view> Bundle::directoriesOfType(std::string_view type) const {
   std::vector<std::string_view> names;
-  listing_->forEach([&](const ResourcePath& resource) {
-    if (resource.type_ == type && resource.isDirectory()) names.push_back(resource.name_);
-  });
+  for (const Listing::Slot& slot : listing_->slots) {
+    if (slot.path && slot.path->type_ == type && slot.path->isDirectory()) names.push_back(slot.path->name_);
+  }
   return names;
 }
 

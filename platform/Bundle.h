@@ -30,51 +30,40 @@ struct ResourcePlaces;
 ///       }
 ///     }
 ///
-/// A bundle lists its directory once, when it is opened. It does not see directories and tables that are added
-/// or removed later. Bundles and their tables live until the process ends and are shared by all threads.
+/// A bundle lists its directory once, when it is opened, and does not see later changes. Bundles and their tables live
+/// until the process ends.
 ///
-/// Thread-safe. Only the first opening of a directory or table takes a lock.
-///
-/// Throws std::bad_alloc if memory runs out, and std::system_error where a function says so. After either, the
-/// same call succeeds once the shortage is over.
+/// Thread-safe. Only the first opening of a directory or table takes a lock. Throws std::bad_alloc if memory runs out, and
+/// std::system_error where a function says so. After either, the same call succeeds once the shortage is over.
 class ZK_EXPORT alignas(kCacheLine) Bundle {
  public:
-  /// Returns the bundle of the module that defines the type `type`: the nearest directory `share/ZKStrings` at or
-  /// above the directory of the module's shared library or executable, at most two levels up, or else the place
-  /// where the module was configured to be installed. Returns a bundle without resources, whose path is empty, if
-  /// there is no such directory.
-  ///
-  /// Throws std::system_error if the directory temporarily cannot be found or listed.
+  /// Returns the bundle of the module that defines the type `type`: the nearest directory `share/ZKStrings` at or above
+  /// the directory of the module's shared library or executable, at most two levels up, or else the configured place of
+  /// installation. Returns a bundle without resources, whose path is empty, if there is no such directory. Throws
+  /// std::system_error if the directory temporarily cannot be found or listed.
   [[nodiscard]] static const Bundle& bundleForClass(const std::type_info& type);
 
   /// Returns the bundle of other code with its own resources: the nearest directory `share/NAME` at or above the
-  /// directory of the file that defines the type `type`, at most two levels up. `name` is the name of one directory.
-  /// For any other text, such as "" or "a/b", returns a bundle without resources.
+  /// directory of the file that defines the type `type`, at most two levels up. Returns a bundle without resources if
+  /// there is none, or if `name` is not the name of one directory, such as "" or "a/b". Throws std::system_error if the
+  /// directory temporarily cannot be found or listed.
   ///
   ///     const zk::Bundle& texts = zk::Bundle::bundleForClass(typeid(MyTexts), "MyTexts");
-  ///
-  /// Throws std::system_error if the directory temporarily cannot be found or listed.
   [[nodiscard]] static const Bundle& bundleForClass(const std::type_info& type, std::string_view name);
 
-  /// Returns the bundle of the running app: the directory of its executable. It has no resources if the directory
-  /// cannot be listed.
-  ///
-  /// Throws std::system_error if the directory temporarily cannot be found or listed.
+  /// Returns the bundle of the running app: the directory of its executable. It has no resources if the directory cannot
+  /// be listed. Throws std::system_error if the directory temporarily cannot be found or listed.
   [[nodiscard]] static const Bundle& mainBundle();
 
   /// Returns a bundle without resources at `path`. The same path returns the same bundle.
   [[nodiscard]] static const Bundle& withoutResources(const std::string& path);
 
-  /// Opens the directory at `path`. Returns null if it is not a directory or cannot be listed. The same path
-  /// returns the same bundle.
-  ///
-  /// Throws std::system_error if the directory temporarily cannot be listed.
+  /// Opens the directory at `path`. Returns null if it is not a directory or cannot be listed. The same path returns the
+  /// same bundle. Throws std::system_error if the directory temporarily cannot be listed.
   [[nodiscard]] static const Bundle* initWithPath(const std::string& path);
 
-  /// Opens a directory that another bundle lists. Returns null if it is not a directory or cannot be listed. The
-  /// same path returns the same bundle.
-  ///
-  /// Throws std::system_error if the directory temporarily cannot be listed.
+  /// Opens a directory that another bundle lists. Returns null if it is not a directory or cannot be listed. The same
+  /// path returns the same bundle. Throws std::system_error if the directory temporarily cannot be listed.
   [[nodiscard]] static const Bundle* initWithPath(const ResourcePath& path);
 
   /// Returns the directory `name`.`type` among the bundle's resources, for example "de" and "lproj"; null if there
@@ -102,11 +91,9 @@ class ZK_EXPORT alignas(kCacheLine) Bundle {
   [[nodiscard]] const std::string& path() const { return path_; }
 
   ~Bundle();
-  Bundle(const Bundle&) = delete;
-  Bundle& operator=(const Bundle&) = delete;
 
  private:
-  class Listing;
+  struct Listing;
 
   Bundle(std::string path, const std::vector<DirectoryEntry>& entries);
   static const Bundle* open(const std::string& path, std::error_code& failure);
@@ -126,9 +113,6 @@ class ZK_EXPORT alignas(kCacheLine) ResourcePath {
   [[nodiscard]] const std::string& string() const { return path_; }
   /// Whether it was a directory when it was listed.
   [[nodiscard]] bool isDirectory() const { return isDirectory_; }
-
-  ResourcePath(const ResourcePath&) = delete;
-  ResourcePath& operator=(const ResourcePath&) = delete;
 
  private:
   friend class Bundle;

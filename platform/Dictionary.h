@@ -25,7 +25,7 @@ class Dictionary {
   using Member = std::pair<std::string, Value>;
 
   /// Constructs an empty dictionary.
-  Dictionary();
+  Dictionary() = default;
   /// Constructs a dictionary of `members`, in their order. A name may occur twice.
   Dictionary(std::initializer_list<Member> members);
 
@@ -41,7 +41,7 @@ class Dictionary {
   [[nodiscard]] const Type* find(std::string_view name) const;
 
  private:
-  std::vector<Member> members_;
+  std::vector<Member> members_{};
 };
 
 /// Any integer type except `bool` and the character types.
@@ -57,9 +57,7 @@ class Value {
   using List = std::vector<Value>;
 
   /// Constructs null.
-  Value() = default;
-  /// Constructs null.
-  Value(std::nullptr_t) {}
+  Value(std::nullptr_t = nullptr) {}
   /// Constructs a boolean. A pointer or a number does not become one.
   Value(std::same_as<bool> auto value) : value_(value) {}
   /// Constructs an integer. An integer outside the range of `std::int64_t` becomes the nearest `double`, as in JSON.
@@ -97,9 +95,6 @@ class Value {
  private:
   std::variant<std::nullptr_t, bool, std::int64_t, double, std::string, List, Dictionary> value_ = nullptr;
 };
-
-inline Dictionary::Dictionary() : members_() {
-}
 
 inline Dictionary::Dictionary(std::initializer_list<Member> members) : members_(members) {
 }

@@ -18,17 +18,13 @@ struct LocaleSettings {
 
 /// The user's current locale. The value stores nothing: it reads the settings on every query.
 ///
-/// Both the locale and the preferred languages come from the environment:
+/// Both the locale and the preferred languages come from the environment. On Windows, they come from the user's settings
+/// if LC_ALL, LC_MESSAGES and LANG are unset or empty.
 ///
 /// - The locale is the first of LC_ALL, LC_MESSAGES and LANG that is set and not empty. It is "en" if none is set, and if
-///   it is C, POSIX or does not name a language.
+///   it is C, POSIX or does not name a language. LANGUAGE is ignored then.
 /// - The preferred languages are those in LANGUAGE, a list separated by colons, and then the locale, without
-///   repetitions. C and POSIX in LANGUAGE mean "en". LANGUAGE is ignored if the locale is C, POSIX or does not name a
-///   language.
-///
-/// On Windows, both come from the user's settings if none of LC_ALL, LC_MESSAGES and LANG is set and not empty.
-///
-/// `setlocale` is neither called nor queried.
+///   repetitions. C and POSIX in LANGUAGE mean "en".
 ///
 /// Thread-safe, except that a program must not change its environment (`setenv`) during a query on another thread. An
 /// app whose settings change at run time uses `readSettingsFrom`.

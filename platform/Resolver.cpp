@@ -53,20 +53,19 @@ namespace {
 
 }  // namespace
 
-Service Registration::made(const Entry& entry) {
-  Service service = make();
-  if (!service) stop(entry, "has a factory that returned nothing");
-  return service;
-}
-
 Service Registration::service(Entry& entry) {
-  if (scope != ResolverScope::application) return made(entry);
+  const auto made = [&] {
+    Service service = make();
+    if (!service) stop(entry, "has a factory that returned nothing");
+    return service;
+  };
+  if (scope != ResolverScope::application) return made();
   const std::lock_guard lock(entry.making);
   if (kept_) return kept_;
   if (isBeingMade_) stop(entry, "is resolved by its own factory, directly or through others");
   isBeingMade_ = true;
   try {
-    kept_ = made(entry);
+    kept_ = made();
   } catch (...) {
     isBeingMade_ = false;
     throw;

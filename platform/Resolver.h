@@ -41,7 +41,6 @@ class ZK_EXPORT Registration {
  private:
   /// Calls the factory; null if it returned nothing.
   [[nodiscard]] virtual Service make() = 0;
-  [[nodiscard]] Service made(const Entry& entry);
 
   // Guarded by the entry's lock `making`.
   bool isBeingMade_ = false;
@@ -49,18 +48,15 @@ class ZK_EXPORT Registration {
 };
 
 template <class Type, class Make>
-class RegistrationOf final : public Registration {
- public:
+struct RegistrationOf final : Registration {
   explicit RegistrationOf(Make made) : factory(std::move(made)) {}
-
-  Make factory;
-
- private:
   Service make() override {
     std::optional<Type> service = factory();
     if (!service) return nullptr;
     return std::allocate_shared<const Type>(CacheLineAllocator<Type>(), *std::move(service));
   }
+
+  Make factory;
 };
 
 /// The entry for a type and a name, which lives until the process ends.
@@ -73,8 +69,7 @@ class RegistrationOf final : public Registration {
 /// The options of one registration, returned by `Resolver::register_`.
 class ZK_EXPORT ResolverOptions {
  public:
-  /// Sets how long the factory's result is kept. Until this call, the scope is `everyResolve`, even for other
-  /// threads.
+  /// Sets how long the factory's result is kept. Until this call, the scope is `everyResolve`.
   ResolverOptions& scope(ResolverScope scope);
 
   /// For `Resolver::register_`: makes `registration` the current one of `entry`. Allocates nothing.
@@ -85,28 +80,24 @@ class ZK_EXPORT ResolverOptions {
   std::shared_ptr<internal::Registration> registration_;
 };
 
-/// The app-wide service registry. Code that needs a service asks for it by its type and, if there are several
-/// of that type, by name.
+/// The app-wide service registry. A service is identified by its type and an optional name.
 ///
 ///     zk::Resolver::register_<Theme>([] { return Theme::dark(); }).scope(zk::ResolverScope::application);
 ///     Theme theme = zk::Resolver::resolve<Theme>();
 ///
-/// Thread-safe. A new registration replaces the earlier one of its type and name for all later resolves. A
-/// factory may register and resolve other services. Several threads may call a factory of the scope
-/// `everyResolve` at the same time.
+/// Thread-safe. A new registration replaces the earlier one of its type and name for all later resolves. A factory may
+/// register and resolve other services. Several threads may call a factory of the scope `everyResolve` at the same time.
 ///
-/// Stops the process, after one line on standard error, if a service is resolved that is not registered, if a
-/// factory returns nothing, and if a factory of the application scope needs its own service, directly or
-/// through other factories. If such a cycle is entered by several threads at the same time, they may wait for
-/// each other forever.
+/// Stops the process, after one line on standard error, if a service is resolved that is not registered, if a factory
+/// returns nothing, and if a factory of the application scope needs its own service, directly or through other factories.
+/// If several threads enter such a cycle at the same time, they may wait for each other forever.
 ///
-/// A plug-in that registered a factory must stay loaded. After a `fork`, the child may use the registry only
-/// if no other thread of the parent was using it at that moment.
+/// A plug-in that registered a factory must stay loaded. After a `fork`, the child may use the registry only if no other
+/// thread of the parent was using it at that moment.
 class ZK_EXPORT Resolver {
  public:
-  /// Registers `factory`, a function without arguments that returns a `Service` or an optional one, for the
-  /// type `Service` and `name`. Moves the factory and never copies it. Omitting the name is not the same as
-  /// passing an empty one.
+  /// Registers `factory`, a function without arguments that returns a `Service` or an optional one, for the type
+  /// `Service` and `name`. Never copies the factory. Omitting the name is not the same as passing an empty one.
   template <class Service, class Make>
   static ResolverOptions register_(Make factory, std::optional<std::string_view> name = std::nullopt) {
     using Registration = internal::RegistrationOf<Service, Make>;

@@ -78,15 +78,12 @@ class ZK_EXPORT LanguageProperty {
 ///     for (const zk::Country& country : zk::Current::language.get().countries) ...   // right
 ///     for (const zk::Country& country : zk::Current::language->countries) ...        // wrong: the list is destroyed
 ///
-/// The setting is kept in `Resolver`, as the unnamed service of type `Language` with application scope.
-///
 /// Thread-safe. A change with `->` or `change` is written back when it ends, and then replaces what another thread
-/// has assigned in the meantime. Make only one change in one full expression: if there are several, only the one that
-/// ends last takes effect. Reading in the same expression as a change is safe, as in
-/// `language->preferredLanguages = {language->preferredLanguages[0], "en"}`.
+/// has assigned in the meantime. If one full expression makes several changes, only the one that ends last takes effect.
+/// Reading in the same expression as a change is safe.
 ///
-/// After a lookup, a thread keeps the language in memory until its next lookup. A plug-in that assigned or changed the
-/// language must stay loaded.
+/// The setting is kept in `Resolver`, as the unnamed service of type `Language` with application scope. A plug-in that
+/// assigned or changed the language must stay loaded.
 ///
 /// Stops the process, after one line on standard error, if it is read or changed before it is assigned. Throws
 /// std::bad_alloc if memory runs out; the setting is then unchanged.

@@ -25,9 +25,6 @@ class alignas(kCacheLine) StringTable {
   /// times, the last entry counts.
   [[nodiscard]] std::optional<std::string_view> find(std::string_view key) const;
 
-  /// The size of the table in memory, in bytes.
-  [[nodiscard]] std::size_t heldBytes() const { return text_.capacity() + slots_.capacity() * sizeof(Slot); }
-
  private:
   struct Slot {
     std::uint32_t hash;

@@ -133,42 +133,38 @@ void StringTableReader::recover() {
 
 namespace {
 
-struct Number {
+/// A character and the number of bytes that spell it.
+struct Spelled {
   char32_t value = 0;
-  std::size_t digits = 0;
+  std::size_t size = 0;
 };
 
-/// The number that up to `most` digits of `base` spell at the beginning of `text`, and how many digits those are.
-Number numberAt(std::string_view text, int base, std::size_t most) {
+/// The number that up to `most` digits of `base` spell at the beginning of `text`; of size 0 if there are none.
+Spelled numberAt(std::string_view text, int base, std::size_t most) {
   std::uint32_t value = 0;
   const char* const end = text.data() + std::min(most, text.size());
   const char* const after = std::from_chars(text.data(), end, value, base).ptr;
   return {value, static_cast<std::size_t>(after - text.data())};
 }
 
-struct Escape {
-  char32_t value;
-  std::size_t size;
-};
-
 /// The meaning of the escape whose backslash is before `text`, and how many bytes of `text` belong to it;
 /// nothing for an unknown one.
-std::optional<Escape> escapeAt(std::string_view text) {
+std::optional<Spelled> escapeAt(std::string_view text) {
   constexpr std::string_view kLetters = "\"\\ntrabfv";
   constexpr std::string_view kMeanings = "\"\\\n\t\r\a\b\f\v";
   if (const std::size_t letter = kLetters.find(text[0]); letter != std::string_view::npos) {
-    return Escape{static_cast<unsigned char>(kMeanings[letter]), 1};
+    return Spelled{static_cast<unsigned char>(kMeanings[letter]), 1};
   }
-  if (const Number octal = numberAt(text, 8, 3); octal.digits > 0)
-    return Escape{octal.value & 0xFF, octal.digits};
-  const Number unit = text[0] == 'U' ? numberAt(text.substr(1), 16, 4) : Number{};
-  if (unit.digits == 0) return std::nullopt;
+  if (const Spelled octal = numberAt(text, 8, 3); octal.size > 0)
+    return Spelled{octal.value & 0xFF, octal.size};
+  const Spelled unit = text[0] == 'U' ? numberAt(text.substr(1), 16, 4) : Spelled{};
+  if (unit.size == 0) return std::nullopt;
   if (U16_IS_LEAD(unit.value) && text.substr(5, 2) == "\\U") {
-    const Number trail = numberAt(text.substr(7), 16, 4);
+    const Spelled trail = numberAt(text.substr(7), 16, 4);
     if (U16_IS_TRAIL(trail.value))
-      return Escape{static_cast<char32_t>(U16_GET_SUPPLEMENTARY(unit.value, trail.value)), 11};
+      return Spelled{static_cast<char32_t>(U16_GET_SUPPLEMENTARY(unit.value, trail.value)), 11};
   }
-  return Escape{U16_IS_SURROGATE(unit.value) ? U'\uFFFD' : unit.value, 1 + unit.digits};
+  return Spelled{U16_IS_SURROGATE(unit.value) ? U'\uFFFD' : unit.value, 1 + unit.size};
 }
 
 }  // namespace
@@ -182,7 +178,7 @@ std::size_t unescape(char* token, std::size_t size, std::vector<std::size_t>* un
       token[written++] = text[at++];
       continue;
     }
-    const std::optional<Escape> escape = escapeAt(text.substr(at + 1));
+    const std::optional<Spelled> escape = escapeAt(text.substr(at + 1));
     if (!escape) {
       if (unknown) unknown->push_back(at);
       ++at;

@@ -9,8 +9,8 @@
 
 namespace zk {
 
-/// Whether the same call may succeed soon: the process or the system is short of descriptors or memory, a network
-/// file system does not answer, or the call was interrupted. Every other failure is an answer, and may be kept.
+/// Whether the same call may succeed soon: the system is short of descriptors or memory, a network file system does not
+/// answer, or the call was interrupted. Every other failure is an answer, and may be kept.
 [[nodiscard]] bool isTemporary(const std::error_code& failure);
 
 /// Whether the call failed for lack of permission.
@@ -31,9 +31,8 @@ namespace zk {
 /// Whether a directory or a link to one is at `path`. If not, `failure` is the reason; it is cleared otherwise.
 [[nodiscard]] bool directoryExists(const std::string& path, std::error_code& failure);
 
-/// Returns all bytes of the regular file at `path`. Returns nothing if there is no such file, if it cannot be
-/// read, if it is larger than 256 MiB, and if it is not a regular file (a directory, FIFO or device is refused
-/// without waiting for it). `failure` is the reason, and is cleared on success.
+/// Returns all bytes of the regular file at `path`. Returns nothing if there is none, if it cannot be read, and if it is
+/// larger than 256 MiB. Never waits for a FIFO or device. `failure` is the reason, and is cleared on success.
 [[nodiscard]] std::optional<std::string> contentsOfFile(const std::string& path, std::error_code& failure);
 /// Returns all bytes of the regular file at `path`, or nothing, for callers that do not need the reason.
 [[nodiscard]] inline std::optional<std::string> contentsOfFile(const std::string& path) {

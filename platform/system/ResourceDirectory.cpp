@@ -26,11 +26,6 @@ std::string resourcesSeenFrom(fs::path directory, const ResourcePlaces& places, 
 
 }  // namespace
 
-const ResourcePlaces& modulePlaces() {
-  static const auto& places = *new ResourcePlaces{ZK_RESOURCES_ABOVE, ZK_RESOURCES_INSTALLED};
-  return places;
-}
-
 std::string resourceDirectory(const std::string& codeFile, const ResourcePlaces& places,
                               std::error_code& failure) {
   failure.clear();

@@ -11,9 +11,6 @@ struct ResourcePlaces {
   std::string installed;  ///< if they are not above: an absolute or relative path, or empty
 };
 
-/// The places of this module's resources, as the module was configured to be installed.
-[[nodiscard]] const ResourcePlaces& modulePlaces();
-
 /// Returns the directory with the resources of the code in `codeFile`, an absolute path: the nearest of `places`. The
 /// search starts at that path as it is, and then at that path without links. Returns an empty path if there is none,
 /// or if `codeFile` is empty; `failure` is then the reason.

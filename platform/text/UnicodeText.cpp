@@ -42,18 +42,15 @@ UBreakIterator* characterIterator() {
   throw std::bad_alloc();
 }
 
-}  // namespace
-
-void internal::requireMemoryForICU() {
-  constexpr std::size_t kPlenty = std::size_t{64} * 1024;
-  // From malloc, as ICU's is. Volatile, because compilers otherwise remove an allocation that is only freed.
-  void* const volatile memory = std::malloc(kPlenty);
-  if (!memory) throw std::bad_alloc();
-  std::free(memory);
+/// Whether the first byte of `text` is a user-perceived character by itself, as all ASCII before ASCII is. Only CR and LF
+/// are one character together.
+bool beginsWithPlainAscii(std::string_view text) {
+  const auto isAscii = [](char byte) { return static_cast<signed char>(byte) >= 0; };
+  return isAscii(text[0]) && text[0] != '\r' && (text.size() == 1 || isAscii(text[1]));
 }
 
 // The iterator reads UTF-16, so the beginning of the text is converted: more of it if the character is that long.
-std::size_t internal::firstClusterSize(std::string_view text) {
+std::size_t clusterSizeByICU(std::string_view text) {
   UBreakIterator* const iterator = characterIterator();
   for (std::size_t most = 32;; most *= 4) {
     std::u16string units;
@@ -80,9 +77,23 @@ std::size_t internal::firstClusterSize(std::string_view text) {
   }
 }
 
-std::string_view internal::firstTwoClusters(std::string_view text) {
+}  // namespace
+
+void internal::requireMemoryForICU() {
+  constexpr std::size_t kPlenty = std::size_t{64} * 1024;
+  // From malloc, as ICU's is. Volatile, because compilers otherwise remove an allocation that is only freed.
+  void* const volatile memory = std::malloc(kPlenty);
+  if (!memory) throw std::bad_alloc();
+  std::free(memory);
+}
+
+std::size_t internal::firstClusterSize(std::string_view text) {
+  return beginsWithPlainAscii(text) ? 1 : clusterSizeByICU(text);
+}
+
+std::string_view firstTwoCharacters(std::string_view text) {
   std::size_t size = 0;
-  for (int i = 0; i < 2 && size < text.size(); ++i) size += firstClusterSize(text.substr(size));
+  for (int i = 0; i < 2 && size < text.size(); ++i) size += internal::firstClusterSize(text.substr(size));
   return text.substr(0, size);
 }
 
@@ -127,7 +138,7 @@ bool isUtf8(std::string_view bytes) {
 std::size_t findCharacter(std::string_view text, char wanted) {
   for (std::size_t at = 0; at < text.size();) {
     const std::string_view rest = text.substr(at);
-    const std::size_t size = internal::beginsWithPlainAscii(rest) ? 1 : internal::firstClusterSize(rest);
+    const std::size_t size = internal::firstClusterSize(rest);
     if (size == 1 && text[at] == wanted) return at;
     at += size;
   }

@@ -29,7 +29,7 @@ void appendCodePoint(std::string& text, char32_t codePoint);
 
 /// Returns the first two user-perceived characters (extended grapheme clusters) of `text`, or all of it if it has
 /// fewer.
-[[nodiscard]] inline std::string_view firstTwoCharacters(std::string_view text);
+[[nodiscard]] std::string_view firstTwoCharacters(std::string_view text);
 
 /// Returns the place of the first `wanted`, an ASCII character, that is a user-perceived character by itself and not
 /// the base of one with accents or joiners; `npos` if there is none.
@@ -43,30 +43,13 @@ void appendCodePoint(std::string& text, char32_t codePoint);
 
 namespace internal {
 
-/// Whether the first byte of `text`, which is not empty, is a user-perceived character by itself, as all ASCII before
-/// ASCII is. Only CR and LF are one character together.
-[[nodiscard]] inline bool beginsWithPlainAscii(std::string_view text) {
-  const auto isAscii = [](char byte) { return static_cast<signed char>(byte) >= 0; };
-  return isAscii(text[0]) && text[0] != '\r' && (text.size() == 1 || isAscii(text[1]));
-}
-
 /// The size in bytes of the first user-perceived character of `text`, which is not empty.
 [[nodiscard]] std::size_t firstClusterSize(std::string_view text);
-/// Returns the first two characters of `text`, which may be any text.
-[[nodiscard]] std::string_view firstTwoClusters(std::string_view text);
 
 /// Throws std::bad_alloc if memory is short. Called before a step for which ICU allocates once: if memory runs out
 /// during such a step, ICU never tries it again.
 void requireMemoryForICU();
 
 }  // namespace internal
-
-inline std::string_view firstTwoCharacters(std::string_view text) {
-  using internal::beginsWithPlainAscii;
-  if (text.size() < 2 || !beginsWithPlainAscii(text)) return internal::firstTwoClusters(text);
-  const std::string_view fromSecond(text.data() + 1, text.size() - 1);
-  return beginsWithPlainAscii(fromSecond) ? std::string_view(text.data(), 2)
-                                          : internal::firstTwoClusters(text);
-}
 
 }  // namespace zk

@@ -48,7 +48,6 @@ TEST(UnicodeText, ClustersAreThoseOfICU) {
     for (std::string_view rest = text; !rest.empty(); rest.remove_prefix(internal::firstClusterSize(rest)))
       divided.append(rest.substr(0, internal::firstClusterSize(rest))) += '|';
     ASSERT_EQ(divided, dividedByICU(text));
-    ASSERT_EQ(firstTwoCharacters(text), internal::firstTwoClusters(text)) << text;
   }
 }
 
