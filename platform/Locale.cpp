@@ -18,21 +18,13 @@ namespace {
 
 constexpr std::string_view kDefaultIdentifier = "en";
 
-/// The modifiers of POSIX locale names that name a script.
+/// The modifiers of POSIX locale names that mean a script.
 constexpr std::pair<std::string_view, std::string_view> kScripts[] = {
-    {"latin", "Latn"}, {"cyrillic", "Cyrl"}, {"devanagari", "Deva"}, {"iqtelif", "Latn"}};
+    {"@latin", "-Latn"}, {"@cyrillic", "-Cyrl"}, {"@devanagari", "-Deva"}, {"@iqtelif", "-Latn"}};
 
 std::string_view environment(const char* name) {
   const char* const value = std::getenv(name);
   return value ? value : "";
-}
-
-/// The script that the modifier means, for example "Latn" for "latin"; empty for other modifiers.
-std::string_view scriptOf(std::string_view modifier) {
-  for (const auto& [name, script] : kScripts) {
-    if (name == modifier) return script;
-  }
-  return {};
 }
 
 /// A POSIX locale name, language[_region][.encoding][@modifier], without encoding and modifier.
@@ -54,9 +46,9 @@ std::optional<std::string> identifierOf(std::string_view posixName) {
   const std::size_t languageSize = std::min(identifier.find('-'), identifier.size());
   if (languageSize == 0) return std::nullopt;
 
-  const std::size_t at = posixName.find('@');
-  const std::string_view script = at == std::string_view::npos ? "" : scriptOf(posixName.substr(at + 1));
-  if (!script.empty()) identifier.insert(languageSize, 1, '-').insert(languageSize + 1, script);
+  for (const auto& [modifier, script] : kScripts) {
+    if (posixName.ends_with(modifier)) identifier.insert(languageSize, script);
+  }
   return identifier;
 }
 

@@ -51,30 +51,6 @@ namespace {
   std::abort();
 }
 
-}  // namespace
-
-Service Registration::service(Entry& entry) {
-  const auto made = [&] {
-    Service service = make();
-    if (!service) stop(entry, "has a factory that returned nothing");
-    return service;
-  };
-  if (scope != ResolverScope::application) return made();
-  const std::lock_guard lock(entry.making);
-  if (kept_) return kept_;
-  if (isBeingMade_) stop(entry, "is resolved by its own factory, directly or through others");
-  isBeingMade_ = true;
-  try {
-    kept_ = made();
-  } catch (...) {
-    isBeingMade_ = false;
-    throw;
-  }
-  return kept_;
-}
-
-namespace {
-
 using Key = std::pair<std::type_index, std::optional<std::string>>;
 
 struct HashOfKey {
@@ -85,31 +61,11 @@ struct HashOfKey {
 
 /// The current registration of `entry`. Stops the process if there is none.
 std::shared_ptr<Registration> current(Entry& entry) {
-  std::unique_lock lock(entry.mutex);
-  std::shared_ptr<Registration> registration = entry.registration;
-  lock.unlock();
-  if (!registration)
+  const std::lock_guard lock(entry.mutex);
+  if (!entry.registration)
     stop(entry, "is not registered; register it (for Language: assign Current::language) first");
-  return registration;
+  return entry.registration;
 }
-
-}  // namespace
-
-Entry& entryFor(const std::type_info& type, std::optional<std::string_view> name) {
-  // Never destroyed: a service may be resolved in the last destructor of an app.
-  static std::mutex& mutex = *new std::mutex;
-  // Not ordered by type: on 32-bit ARM, GCC's order of types is inconsistent within one source file.
-  static auto& entries = *new std::unordered_map<Key, Entry, HashOfKey>;
-  const Key key(type, name);
-  const std::lock_guard lock(mutex);
-  return entries.try_emplace(key, type, key.second).first->second;
-}
-
-Service resolveFrom(Entry& entry) {
-  return current(entry)->service(entry);
-}
-
-namespace {
 
 // The service that this thread keeps. A plain pointer needs no construction, so reading it is cheap and safe at any time.
 thread_local constinit Kept* keptByThread = nullptr;
@@ -134,6 +90,40 @@ std::uint64_t nextGeneration() {
 }
 
 }  // namespace
+
+Service Registration::service(Entry& entry) {
+  const auto made = [&] {
+    Service service = make();
+    if (!service) stop(entry, "has a factory that returned nothing");
+    return service;
+  };
+  if (scope != ResolverScope::application) return made();
+  const std::lock_guard lock(entry.making);
+  if (kept_) return kept_;
+  if (isBeingMade_) stop(entry, "is resolved by its own factory, directly or through others");
+  isBeingMade_ = true;
+  try {
+    kept_ = made();
+  } catch (...) {
+    isBeingMade_ = false;
+    throw;
+  }
+  return kept_;
+}
+
+Entry& entryFor(const std::type_info& type, std::optional<std::string_view> name) {
+  // Never destroyed: a service may be resolved in the last destructor of an app.
+  static std::mutex& mutex = *new std::mutex;
+  // Not ordered by type: on 32-bit ARM, GCC's order of types is inconsistent within one source file.
+  static auto& entries = *new std::unordered_map<Key, Entry, HashOfKey>;
+  const Key key(type, name);
+  const std::lock_guard lock(mutex);
+  return entries.try_emplace(key, type, key.second).first->second;
+}
+
+Service resolveFrom(Entry& entry) {
+  return current(entry)->service(entry);
+}
 
 Hold::Hold(Entry& entry) {
   const std::uint64_t generation = entry.generation.load(std::memory_order_acquire);

@@ -2,7 +2,6 @@
 #include <ZKStrings/platform/system/File.h>
 #include <ZKStrings/region/CountryList.h>
 
-#include <algorithm>
 #include <optional>
 #include <string>
 #include <utility>
@@ -17,13 +16,14 @@ SharedArray<Country> countriesIn(const Bundle& bundle) {
   if (!bytes) return {};
   const std::optional<Value> content = parseJson(*std::move(bytes));
   const Value::List* const elements = content ? content->as<Value::List>() : nullptr;
-  const auto isObject = [](const Value& element) { return element.as<Dictionary>() != nullptr; };
-  if (!elements || !std::all_of(elements->begin(), elements->end(), isObject)) return {};
+  if (!elements) return {};
 
   std::vector<Country> countries;
   countries.reserve(elements->size());
   for (const Value& element : *elements) {
-    std::optional<Country> country = Country::fromDictionary(*element.as<Dictionary>());
+    const auto* const object = element.as<Dictionary>();
+    if (!object) return {};
+    std::optional<Country> country = Country::fromDictionary(*object);
     if (country) countries.push_back(*std::move(country));
   }
   return countries;

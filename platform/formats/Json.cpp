@@ -81,17 +81,12 @@ class Builder final : public nlohmann::json_sax<nlohmann::json> {
   std::string name_{};  // of the member whose value comes next
 };
 
-/// Whether the library would ignore characters that are not JSON: a byte-order mark at the beginning, and everything
-/// after a NUL.
-bool holdsUnseen(std::string_view text) {
-  return text.starts_with(kByteOrderMark) || text.find('\0') != std::string_view::npos;
-}
-
 }  // namespace
 
 std::optional<Value> parseJson(std::string bytes) {
   const std::optional<std::string> text = decodedText(std::move(bytes));
-  if (!text || holdsUnseen(*text)) return std::nullopt;
+  // The library would ignore a byte-order mark and everything after a NUL, which are not JSON.
+  if (!text || text->starts_with(kByteOrderMark) || text->find('\0') != text->npos) return std::nullopt;
   Builder builder;
   if (!nlohmann::json::sax_parse(*text, &builder)) return std::nullopt;
   return builder.takeValue();

@@ -14,7 +14,7 @@ namespace zk {
 ///     "About" = "Über uns";     // quoted, with the escapes of `unescape`
 ///     Cancel = Abbrechen;       // unquoted: letters, digits and _ $ / : . -
 ///
-/// It does not copy or change the text: a token is a range of it. Requires: one thread uses a reader at a time.
+/// A token is a range of the text, which is neither copied nor changed. Requires: one thread uses a reader at a time.
 class StringTableReader {
  public:
   /// A key, a value or a comment: the bytes [begin, end) of the text, without quotes and comment marks.
@@ -46,8 +46,8 @@ class StringTableReader {
   /// After `next` returned false: the error, or nothing at the end of the text.
   [[nodiscard]] const std::optional<Error>& error() const { return error_; }
 
-  /// Clears the error and continues with what looks like the next entry, for tools that show all errors at
-  /// once. Everything after an unterminated comment belongs to the comment.
+  /// Clears the error and continues with what looks like the next entry. Everything after an unterminated comment
+  /// belongs to the comment.
   void recover();
 
  private:

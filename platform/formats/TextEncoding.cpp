@@ -1,9 +1,7 @@
 #include <ZKStrings/platform/formats/TextEncoding.h>
 #include <ZKStrings/platform/text/UnicodeText.h>
 
-#include <algorithm>
 #include <cstddef>
-#include <iterator>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -17,30 +15,28 @@ namespace {
 using namespace std::string_view_literals;
 
 struct Encoding {
+  std::string_view mark;
   std::size_t unit;  // bytes per code unit
   bool bigEndian;
 };
 
-struct Mark {
-  std::string_view bytes;
-  Encoding encoding;
-};
-
 // The mark of UTF-32 begins with that of UTF-16, so it comes first.
-constexpr Mark kMarks[] = {
-    {kByteOrderMark, {1, false}}, {"\xFF\xFE\0\0"sv, {4, false}}, {"\0\0\xFE\xFF"sv, {4, true}},
-    {"\xFF\xFE"sv, {2, false}},   {"\xFE\xFF"sv, {2, true}},
+constexpr Encoding kMarked[] = {
+    {kByteOrderMark, 1, false}, {"\xFF\xFE\0\0"sv, 4, false}, {"\0\0\xFE\xFF"sv, 4, true},
+    {"\xFF\xFE"sv, 2, false},   {"\xFE\xFF"sv, 2, true},
 };
 
-/// The encoding of a text that begins with an ASCII character, from the place of its zero bytes.
-Encoding unmarkedEncoding(std::string_view bytes) {
+/// The encoding of a text that begins with a byte-order mark or with an ASCII character, whose zero bytes show it.
+Encoding encodingOf(std::string_view bytes) {
+  for (const Encoding& encoding : kMarked) {
+    if (bytes.starts_with(encoding.mark)) return encoding;
+  }
   const auto isZero = [&](std::size_t at) { return at < bytes.size() && bytes[at] == '\0'; };
   const bool longEnough = bytes.size() >= 4;
-  if (longEnough && isZero(0) && isZero(1) && isZero(2)) return {4, true};
-  if (longEnough && isZero(1) && isZero(2) && isZero(3)) return {4, false};
-  if (isZero(0)) return {2, true};
-  if (isZero(1)) return {2, false};
-  return {1, false};
+  if (longEnough && isZero(0) && isZero(1) && isZero(2)) return {"", 4, true};
+  if (longEnough && isZero(1) && isZero(2) && isZero(3)) return {"", 4, false};
+  if (isZero(0)) return {"", 2, true};
+  return {"", isZero(1) ? std::size_t{2} : 1, false};
 }
 
 char32_t codeUnit(std::string_view bytes, Encoding encoding) {
@@ -74,14 +70,10 @@ std::optional<std::string> toUtf8(std::string_view bytes, Encoding encoding) {
 }  // namespace
 
 std::optional<std::string> decodedText(std::string bytes) {
-  const auto isAtBegin = [&](const Mark& mark) { return bytes.starts_with(mark.bytes); };
-  const auto* const mark = std::find_if(std::begin(kMarks), std::end(kMarks), isAtBegin);
-  const bool isMarked = mark != std::end(kMarks);
-  const Encoding encoding = isMarked ? mark->encoding : unmarkedEncoding(bytes);
-  const std::size_t markSize = isMarked ? mark->bytes.size() : 0;
-  if (encoding.unit > 1) return toUtf8(std::string_view(bytes).substr(markSize), encoding);
+  const Encoding encoding = encodingOf(bytes);
+  if (encoding.unit > 1) return toUtf8(std::string_view(bytes).substr(encoding.mark.size()), encoding);
   if (!isUtf8(bytes)) return std::nullopt;
-  bytes.erase(0, markSize);
+  bytes.erase(0, encoding.mark.size());
   return bytes;
 }
 

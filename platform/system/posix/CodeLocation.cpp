@@ -32,15 +32,11 @@ std::string loadedName(const void* address) {
   return isInExecutable ? "" : file.dli_fname;
 }
 
-struct Closer {
-  void operator()(FILE* file) const { std::fclose(file); }
-};
-
 /// The absolute path, without links, of the file that the kernel has mapped at `address`.
 std::string mappedFile(const void* address, std::error_code& failure) {
   failure.clear();
   const auto wanted = reinterpret_cast<std::uintptr_t>(address);
-  const std::unique_ptr<FILE, Closer> maps(std::fopen("/proc/self/maps", "re"));
+  const std::unique_ptr<FILE, int (*)(FILE*)> maps(std::fopen("/proc/self/maps", "re"), &std::fclose);
   if (!maps) {
     failure = {errno, std::generic_category()};
     return {};

@@ -28,18 +28,9 @@ std::error_code lastFailure() {
   return {errno, std::generic_category()};
 }
 
-class Descriptor {
- public:
-  explicit Descriptor(int number) : number_(number) {}
-  Descriptor(const Descriptor&) = delete;
-  Descriptor& operator=(const Descriptor&) = delete;
-  ~Descriptor() {
-    if (number_ >= 0) close(number_);
-  }
-  int number() const { return number_; }
-
- private:
-  int number_;
+struct Closer {
+  void operator()(const int* file) const { close(*file); }
+  void operator()(DIR* directory) const { closedir(directory); }
 };
 
 /// Fills `bytes` from the file, and shortens them if the file is shorter. False if reading fails.
@@ -55,10 +46,6 @@ bool readInto(std::string& bytes, int file) {
   bytes.resize(filled);
   return true;
 }
-
-struct Closer {
-  void operator()(DIR* directory) const { closedir(directory); }
-};
 
 /// Whether `entry` of the directory at `path` is a directory. Sets `failure` if that is temporarily unknown.
 bool isDirectory(const dirent& entry, const std::string& path, std::error_code& failure) {
@@ -112,14 +99,15 @@ std::optional<std::string> contentsOfFile(const std::string& path, std::error_co
   if (path.find('\0') != std::string::npos)
     return fail(make_error_code(std::errc::no_such_file_or_directory));
   // Without O_NONBLOCK, opening a FIFO would wait for a writer.
-  const Descriptor file(open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
-  if (file.number() < 0) return fail(lastFailure());
+  const int file = open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+  if (file < 0) return fail(lastFailure());
+  const std::unique_ptr<const int, Closer> closer(&file);
   struct stat status = {};
-  if (fstat(file.number(), &status) != 0) return fail(lastFailure());
+  if (fstat(file, &status) != 0) return fail(lastFailure());
   if (!S_ISREG(status.st_mode)) return fail(make_error_code(std::errc::not_supported));
   if (status.st_size > kLargestFile) return fail(make_error_code(std::errc::file_too_large));
   std::string bytes(static_cast<std::size_t>(status.st_size), '\0');
-  if (!readInto(bytes, file.number())) return fail(lastFailure());
+  if (!readInto(bytes, file)) return fail(lastFailure());
   return bytes;
 }
 
