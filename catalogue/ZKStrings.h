@@ -55,7 +55,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Accept();
 
   /// "Accept friend"
-  /// Treat it as a button; "friend" is someone whose friend request is meant.
+  /// Treat it as a button; "friend" is a player, and a friend request is meant.
   [[nodiscard]] static std::string Accept_friend();
 
   /// "Account"
@@ -71,7 +71,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Add();
 
   /// "Add friend"
-  /// Treat it as a button; "friend" is someone whose friend request is meant.
+  /// Treat it as a button; "friend" is a player, and a friend request is meant.
   [[nodiscard]] static std::string Add_friend();
 
   /// "Add Friends on ZK"
@@ -143,7 +143,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Apply_referral_code();
 
   /// "Approved"
-  /// Where this appears is not recorded; what it describes is open, so use a form that fits things of any gender and number, for example an impersonal one.
+  /// Where this appears is not recorded; what it describes is not known, so use a form that fits things of any gender and number, for example an impersonal one.
   [[nodiscard]] static std::string Approved();
 
   /// "Are you sure you want to block %{username}?"
@@ -166,7 +166,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Art_Design();
 
   /// "Available"
-  /// Where this appears is not recorded; what it describes is open, so use a form that fits things of any gender and number, for example an impersonal one.
+  /// Where this appears is not recorded; what it describes is not known, so use a form that fits things of any gender and number, for example an impersonal one.
   [[nodiscard]] static std::string Available();
 
   /// "Available Balance"
@@ -262,7 +262,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Bonus();
 
   /// "%{bonusStrikeCount} Bonus Strikes"
-  /// Whether a bonus strike is one more mistake that the player may make is not recorded; it probably is, as a bonus is good.
+  /// A bonus strike is probably one more mistake that the player may make.
   /// - 0: "%{bonusStrikeCount} Bonus Strikes"
   /// - 1: "%{bonusStrikeCount} Bonus Strike"
   /// - 2: "%{bonusStrikeCount} Bonus Strikes"
@@ -456,7 +456,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Coming_soon_To_get_in_early_play_near_someone_with_access_and_their_nearby_setting_enabled();
 
   /// "Complete!"
-  /// Where this appears is not recorded; what it describes is open, so use a form that fits things of any gender and number, for example an impersonal one.
+  /// Where this appears is not recorded; what it describes is not known, so use a form that fits things of any gender and number, for example an impersonal one.
   [[nodiscard]] static std::string Complete();
 
   /// "Confirm"
@@ -517,7 +517,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Continue_watching();
 
   /// "Continue with"
-  /// The end is open: probably the name of a service such as Apple, or its logo, follows. Avoid endings that fit only one name.
+  /// The text is not complete: probably the name of a service such as Apple, or its logo, follows. Avoid endings that fit only one name.
   [[nodiscard]] static std::string Continue_with();
 
   /// "Correct"
@@ -561,11 +561,11 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Daily_Questions();
 
   /// "Day"
-  /// Where this appears is not recorded; it may stand alone or follow a number that the app shows. It has no plural forms: the singular is for one, the plural is for all other numbers.
+  /// Where this appears is not recorded; it may stand alone or follow a number that the app shows. There are no plural forms: use the singular for 1 and the plural for all other numbers.
   [[nodiscard]] static std::string Day();
 
   /// "Days"
-  /// Where this appears is not recorded; it may stand alone or follow a number that the app shows. It has no plural forms: the singular is for one, the plural is for all other numbers.
+  /// Where this appears is not recorded; it may stand alone or follow a number that the app shows. There are no plural forms: use the singular for 1 and the plural for all other numbers.
   [[nodiscard]] static std::string Days();
 
   /// "%{days} day streak complete!"
@@ -637,7 +637,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Done();
 
   /// "Download on "
-  /// The blank at the end stays: the name of a store probably follows.
+  /// Keep the space at the end: the name of a store probably follows.
   [[nodiscard]] static std::string Download_on();
 
   /// "Drag into order"
@@ -659,7 +659,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Earned_date(Text date);
 
   /// "Earned this game"
-  /// What was earned is not recorded; use a word that fits points as well as things one gets. "This game" says when.
+  /// What was earned is not recorded; use a word that fits points as well as things one gets. "This game" means during this game.
   [[nodiscard]] static std::string Earned_this_game();
 
   /// "+%{earnedPoints} points"
@@ -745,7 +745,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Entertainment();
 
   /// "Entries closed"
-  /// No one can join any more. Entries are entries in a game or competition.
+  /// No one can enter the game or competition any more.
   [[nodiscard]] static std::string Entries_closed();
 
   /// "Eraser"
@@ -831,7 +831,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Facebook();
 
   /// "Failed"
-  /// Where this appears is not recorded; what it describes is open, so use a form that fits things of any gender and number, for example an impersonal one.
+  /// Where this appears is not recorded; what it describes is not known, so use a form that fits things of any gender and number, for example an impersonal one.
   [[nodiscard]] static std::string Failed();
 
   /// "Failed to accept friend request"
@@ -855,7 +855,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Finalists();
 
   /// "Find all the"
-  /// The end is open: probably the name of a group of words to find follows. Avoid articles and endings that fit only one gender.
+  /// The text is not complete: probably the name of a group of words to find follows. Avoid articles and endings that fit only one gender.
   [[nodiscard]] static std::string Find_all_the();
 
   /// "Finding nearby players to collect an *Eraser* power up"
@@ -1283,11 +1283,11 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string level_Bonus_Strikes(Text level);
 
   /// "Level %{level} rewards"
-  /// The level is a number, such as Level 3. It names the level and does not count.
+  /// The level is a number, such as Level 3. The number identifies the level; it is not a count.
   [[nodiscard]] static std::string Level_level_rewards(Text level);
 
   /// "Level %{levelNumber}"
-  /// The level is a number, such as Level 3. It names the level and does not count.
+  /// The level is a number, such as Level 3. The number identifies the level; it is not a count.
   [[nodiscard]] static std::string Level_levelNumber(Text levelNumber);
 
   /// "Level Unlock"
@@ -1349,7 +1349,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Loading_schedule();
 
   /// "Locked"
-  /// Where this appears is not recorded; what is locked is open; a game, a level or a Badge is possible. Use a form that fits all of them.
+  /// Where this appears is not recorded; a game, a level or a Badge may be locked. Use a form that fits all of them.
   [[nodiscard]] static std::string Locked();
 
   /// "Log in or sign up"
@@ -1381,11 +1381,11 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string minPoints_maxPoints_points(Text minPoints, Text maxPoints);
 
   /// "Month"
-  /// Where this appears is not recorded; it may stand alone or follow a number that the app shows. It has no plural forms: the singular is for one, the plural is for all other numbers.
+  /// Where this appears is not recorded; it may stand alone or follow a number that the app shows. There are no plural forms: use the singular for 1 and the plural for all other numbers.
   [[nodiscard]] static std::string Month();
 
   /// "Months"
-  /// Where this appears is not recorded; it may stand alone or follow a number that the app shows. It has no plural forms: the singular is for one, the plural is for all other numbers.
+  /// Where this appears is not recorded; it may stand alone or follow a number that the app shows. There are no plural forms: use the singular for 1 and the plural for all other numbers.
   [[nodiscard]] static std::string Months();
 
   /// "Movies"
@@ -1393,7 +1393,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Movies();
 
   /// "Multipliers"
-  /// The app knows a count, but the text does not show it. The number probably appears next to it, so use the noun form that goes with that number, or one label for all. What is multiplied is not recorded; "Point Multipliers" is a text of its own.
+  /// The app knows a count, but the text does not show it. The number probably appears next to it, so use the noun form that goes with that number, or one label for all. What is multiplied is not recorded; "Point Multipliers" is a separate text.
   /// - 0: "Multipliers"
   /// - 1: "Multiplier"
   /// - 2: "Multipliers"
@@ -1409,7 +1409,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Music();
 
   /// "My new record on %{socialNetwork}"
-  /// The player says this to friends. %{socialNetwork} is a name; whether of a network or of the account of ZK on it is not recorded.
+  /// The player says this to friends. %{socialNetwork} is the name of a social network, or of the account of ZK on it.
   [[nodiscard]] static std::string My_new_record_on_socialNetwork(Text socialNetwork);
 
   /// "Nah"
@@ -1497,14 +1497,14 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string No_internet_connection();
 
   /// "No progress yet"
-  /// Which progress is not recorded; towards a Badge is possible.
+  /// What kind of progress is not recorded; it may be progress towards a Badge.
   [[nodiscard]] static std::string No_progress_yet();
 
   /// "No winners"
   [[nodiscard]] static std::string No_winners();
 
   /// "No winners? No worries"
-  /// Two short sentences: what follows if nobody wins is explained in another text.
+  /// Two short sentences. Another text explains what happens if nobody wins.
   [[nodiscard]] static std::string No_winners_No_worries();
 
   /// "Not now"
@@ -1518,7 +1518,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Notifications();
 
   /// "Now playing in Rewards Mode"
-  /// The game goes on for rewards other than the cash prize; more is not recorded.
+  /// The game goes on for rewards other than the cash prize.
   [[nodiscard]] static std::string Now_playing_in_Rewards_Mode();
 
   /// "%{number} correct"
@@ -1618,7 +1618,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Pick_username();
 
   /// "Pick your favorite"
-  /// Where this appears is not recorded. What is picked is open, so use a form that fits things of any gender.
+  /// Where this appears is not recorded. What the player picks is not known, so use a form that fits things of any gender.
   [[nodiscard]] static std::string Pick_your_favorite();
 
   /// "Play"
@@ -1629,11 +1629,11 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Play_a_game_tonight_to_win_some_cash();
 
   /// "Play again now for"
-  /// The end is open: a price or an item probably follows. Avoid articles and endings that fit only one of them.
+  /// The text is not complete: a price or an item probably follows. Avoid articles and endings that fit only one of them.
   [[nodiscard]] static std::string Play_again_now_for();
 
   /// "Play %{days} more days in a row"
-  /// The count is the number of days still missing. One day cannot be in a row; at 0 nothing is missing.
+  /// The count is the number of days still missing. For 1, omit "in a row". At 0, the player has played enough days.
   /// - 0: "You've played enough days in a row"
   /// - 1: "Play %{days} more day"
   /// - 2: "Play %{days} more days in a row"
@@ -1642,7 +1642,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Play_days_more_days_in_a_row(Text days, std::int64_t count);
 
   /// "Play %{days} more days in a row to earn an Extra Life!"
-  /// The count is the number of days still missing. One day cannot be in a row; at 0 nothing is missing.
+  /// The count is the number of days still missing. For 1, omit "in a row". At 0, the player has played enough days.
   /// - 0: "You've played enough days in a row to earn an Extra Life!"
   /// - 1: "Play %{days} more day to earn an Extra Life!"
   /// - 2: "Play %{days} more days in a row to earn an Extra Life!"
@@ -1654,7 +1654,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Play_for_points();
 
   /// "Play %{game} now with"
-  /// The end is open: an item such as an Extra Life, or a player, probably follows. %{game} is the name of a game.
+  /// The text is not complete: an item such as an Extra Life, or a player, probably follows. %{game} is the name of a game.
   [[nodiscard]] static std::string Play_game_now_with(Text game);
 
   /// "Play %{gameCount} games"
@@ -1786,7 +1786,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string points();
 
   /// "Points"
-  /// Where this appears is not recorded; treat it as a title or label. After a number the app uses "points", or "Points" too; choose a form that fits both if your language has one.
+  /// Where this appears is not recorded; treat it as a title or label. It may also follow a number, as "points" does; choose a form that fits both uses if your language has one.
   [[nodiscard]] static std::string Points();
 
   /// "Points on this game"
@@ -1832,7 +1832,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Pull_down_to_leave_the_game();
 
   /// "Puzzle %{puzzleNumber}"
-  /// The number names the round or puzzle, such as Round 3. It does not count.
+  /// The number identifies the round or puzzle, such as Round 3; it is not a count.
   [[nodiscard]] static std::string Puzzle_puzzleNumber(Text puzzleNumber);
 
   /// "Q1 is about to start!"
@@ -1995,14 +1995,14 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Rewards();
 
   /// "Rewards Mode"
-  /// The game goes on for rewards other than the cash prize; more is not recorded.
+  /// The game goes on for rewards other than the cash prize.
   [[nodiscard]] static std::string Rewards_Mode();
 
   /// "Round 1 is about to start!"
   [[nodiscard]] static std::string Round_1_is_about_to_start();
 
   /// "Round %{roundNumber}"
-  /// The number names the round or puzzle, such as Round 3. It does not count.
+  /// The number identifies the round or puzzle, such as Round 3; it is not a count.
   [[nodiscard]] static std::string Round_roundNumber(Text roundNumber);
 
   /// "Round %{roundNumber} Results"
@@ -2071,7 +2071,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Send_notification();
 
   /// "Sent"
-  /// Where this appears is not recorded; what it describes is open, so use a form that fits things of any gender and number, for example an impersonal one.
+  /// Where this appears is not recorded; what it describes is not known, so use a form that fits things of any gender and number, for example an impersonal one.
   [[nodiscard]] static std::string Sent();
 
   /// "Set Reminder"
@@ -2098,7 +2098,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Share_code();
 
   /// "Share code: %{username}"
-  /// %{username} is the player's name, which is also the referral code. Whether "Share" is a verb or the text means "the code to share" is not recorded.
+  /// %{username} is the player's name, which is also the referral code. "Share" may be a verb, or the text may mean "the code to share".
   [[nodiscard]] static std::string Share_code_username(Text username);
 
   /// "Share to Facebook"
@@ -2141,7 +2141,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string six();
 
   /// "Solved"
-  /// Where this appears is not recorded; treat it as a state of a puzzle: someone has solved it. Who, and whether a number follows, is open.
+  /// Where this appears is not recorded; treat it as a state of a puzzle: someone has solved it. It is not known who has solved it or whether a number follows.
   [[nodiscard]] static std::string Solved();
 
   /// "Solved Points"
@@ -2149,7 +2149,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Solved_Points();
 
   /// "Solving"
-  /// Where this appears is not recorded; treat it as a state: a puzzle is being solved now. Whether it says so of the puzzle or of a player is open; use a form that fits both.
+  /// Where this appears is not recorded; treat it as a state: a puzzle is being solved now. The text may describe the puzzle or a player; use a form that fits both.
   [[nodiscard]] static std::string Solving();
 
   /// "Something went wrong"
@@ -2252,7 +2252,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Submit_trivia();
 
   /// "Submitted"
-  /// Where this appears is not recorded; what it describes is open, so use a form that fits things of any gender and number, for example an impersonal one.
+  /// Where this appears is not recorded; what it describes is not known, so use a form that fits things of any gender and number, for example an impersonal one.
   [[nodiscard]] static std::string Submitted();
 
   /// "Subscribe"
@@ -2578,7 +2578,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Upgrade_to_Super_Wheel();
 
   /// "Uploading"
-  /// Where this appears is not recorded; it says what the app is doing now; what it uploads is open.
+  /// Where this appears is not recorded; it says what the app is doing now. What it uploads is not known.
   [[nodiscard]] static std::string Uploading();
 
   /// "Use a Game Unlock"
@@ -2595,7 +2595,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Use_an_Eraser_to_eliminate_one_wrong_answer_during_a_question();
 
   /// "Use my code: "
-  /// The blank at the end stays: the player's referral code follows. The player says this to friends.
+  /// Keep the space at the end: the player's referral code follows. The player says this to friends.
   [[nodiscard]] static std::string Use_my_code();
 
   /// "Use my code \"%{code}\" to sign up %{url}"
@@ -2808,7 +2808,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string We_were_unable_to_update_your_username_Please_try_again_later();
 
   /// "Week"
-  /// Where this appears is not recorded; it may stand alone or follow a number that the app shows. It has no plural forms: the singular is for one, the plural is for all other numbers.
+  /// Where this appears is not recorded; it may stand alone or follow a number that the app shows. There are no plural forms: use the singular for 1 and the plural for all other numbers.
   [[nodiscard]] static std::string Week();
 
   /// "Weekly rank"
@@ -2816,7 +2816,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Weekly_rank();
 
   /// "Weeks"
-  /// Where this appears is not recorded; it may stand alone or follow a number that the app shows. It has no plural forms: the singular is for one, the plural is for all other numbers.
+  /// Where this appears is not recorded; it may stand alone or follow a number that the app shows. There are no plural forms: use the singular for 1 and the plural for all other numbers.
   [[nodiscard]] static std::string Weeks();
 
   /// "Welcome back."
@@ -2876,7 +2876,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Wrong_answer_Keep_playing_with_an_Extra_Life_Get_one_every_time_a_new_ZK_user_signs_up_with_your_ref();
 
   /// "Yay! You played %{days} days in a row!"
-  /// The count is the number of days. One day cannot be in a row; at 0 there is nothing to cheer about.
+  /// The count is the number of days. For 1, omit "in a row". At 0, do not cheer.
   /// - 0: "You haven't played any days in a row yet."
   /// - 1: "Yay! You played %{days} day!"
   /// - 2: "Yay! You played %{days} days in a row!"
@@ -2885,11 +2885,11 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Yay_You_played_days_days_in_a_row(Text days, std::int64_t count);
 
   /// "Year"
-  /// Where this appears is not recorded; it may stand alone or follow a number that the app shows. It has no plural forms: the singular is for one, the plural is for all other numbers.
+  /// Where this appears is not recorded; it may stand alone or follow a number that the app shows. There are no plural forms: use the singular for 1 and the plural for all other numbers.
   [[nodiscard]] static std::string Year();
 
   /// "Years"
-  /// Where this appears is not recorded; it may stand alone or follow a number that the app shows. It has no plural forms: the singular is for one, the plural is for all other numbers.
+  /// Where this appears is not recorded; it may stand alone or follow a number that the app shows. There are no plural forms: use the singular for 1 and the plural for all other numbers.
   [[nodiscard]] static std::string Years();
 
   /// "Yep!"
@@ -2919,7 +2919,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string You_can_t_win_the_cash_prize_but_get_pointsToGo_more_points_to_earn_an_Extra_Life(Text pointsToGo, std::int64_t count);
 
   /// "You can use your purchased ticket for the next game."
-  /// What the ticket is, is not recorded; no other text speaks of one.
+  /// What kind of ticket this is, is not recorded; no other text mentions one.
   [[nodiscard]] static std::string You_can_use_your_purchased_ticket_for_the_next_game();
 
   /// "You didn’t enter a number yet"
@@ -3044,11 +3044,11 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string You_got_the_n_product(Text product);
 
   /// "You got to Level %{level}"
-  /// The level is a number, such as Level 3. It names the level and does not count.
+  /// The level is a number, such as Level 3. The number identifies the level; it is not a count.
   [[nodiscard]] static std::string You_got_to_Level_level(Text level);
 
   /// "*You have 0 Extra Lives*\nBuy some to help you win!"
-  /// The count is the number of Extra Lives. The text has no placeholder for it, so it says the amount in words: none, one, two, a few, plenty.
+  /// The count is the number of Extra Lives. The text has no placeholder for the number; each form states its own amount: 0, 1, 2, a few, plenty.
   /// - 0: "*You have 0 Extra Lives*\nBuy some to help you win!"
   /// - 1: "*You have 1 Extra Life*\nBuy more to help you win!"
   /// - 2: "*You have 2 Extra Lives*\nBuy more to help you win!"
@@ -3078,7 +3078,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string You_have_reached_the_maximum_number_of_Friends_We_are_working_to_increase_this_limit_soon();
 
   /// "You leveled up to Level %{level}"
-  /// The level is a number, such as Level 3. It names the level and does not count.
+  /// The level is a number, such as Level 3. The number identifies the level; it is not a count.
   [[nodiscard]] static std::string You_leveled_up_to_Level_level(Text level);
 
   /// "You'll receive an email with further instructions."
@@ -3246,7 +3246,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Your_friend_has_reached_the_maximum_number_of_Friends_We_are_working_to_increase_this_limit_soon();
 
   /// "Your In App Purchase is on the way!"
-  /// The thing that was bought will arrive soon; the buying is over.
+  /// The player has paid, and the item that was bought will arrive soon.
   [[nodiscard]] static std::string Your_In_App_Purchase_is_on_the_way();
 
   /// "Your location is required to participate."
