@@ -57,13 +57,13 @@ class JsonBuilder : public nlohmann::json_sax<Json> {
   bool number_float(number_float_t /*value*/, const string_t& /*spelled*/) override { return add(nullptr); }
   bool string(string_t& value) override { return add(std::move(value)); }
   bool binary(binary_t& /*value*/) override { return add(nullptr); }
-  bool start_array(std::size_t /*size*/) override { return open(std::vector<JsonValue>()); }
-  bool start_object(std::size_t /*size*/) override { return open(std::vector<JsonMember>()); }
+  bool start_array(std::size_t /*size*/) override { return open(JsonValue::Elements()); }
+  bool start_object(std::size_t /*size*/) override { return open(JsonValue::Members()); }
   bool end_array() override { return close(); }
   bool end_object() override { return close(); }
   bool key(string_t& name) override {
     const Position at = nextToken();
-    std::get<std::vector<JsonMember>>(open_.back().content_).push_back({name, at, {}});
+    std::get<JsonValue::Members>(open_.back().content_).push_back({name, at, {}});
     return true;
   }
   bool parse_error(std::size_t position, const std::string& /*token*/,
@@ -93,10 +93,10 @@ class JsonBuilder : public nlohmann::json_sax<Json> {
   bool store(JsonValue value) {
     if (open_.empty()) {
       root_ = std::move(value);
-    } else if (auto* const list = std::get_if<std::vector<JsonValue>>(&open_.back().content_)) {
+    } else if (auto* const list = std::get_if<JsonValue::Elements>(&open_.back().content_)) {
       list->push_back(std::move(value));
     } else {
-      std::get<std::vector<JsonMember>>(open_.back().content_).back().value = std::move(value);
+      std::get<JsonValue::Members>(open_.back().content_).back().value = std::move(value);
     }
     return true;
   }
@@ -120,7 +120,7 @@ class JsonBuilder : public nlohmann::json_sax<Json> {
   std::string_view file_;
   PositionFinder positions_;
   std::size_t end_ = 0;  // of the last token
-  std::vector<JsonValue> open_;
+  JsonValue::Elements open_;
   JsonValue root_;
 };
 
@@ -128,26 +128,6 @@ JsonValue JsonValue::parse(std::string_view text, std::string_view file, Positio
   JsonBuilder builder(text, file, begin);
   Json::sax_parse(text, &builder);
   return builder.take();
-}
-
-template <class Type>
-const Type& JsonValue::contentAs(const char* example) const {
-  const Type* const content = std::get_if<Type>(&content_);
-  if (!content) fail(fmt::format("wrong type of value; write {}", example));
-  return *content;
-}
-
-bool JsonValue::isObject() const {
-  return std::holds_alternative<std::vector<JsonMember>>(content_);
-}
-
-bool JsonValue::isTrue() const {
-  const bool* const value = std::get_if<bool>(&content_);
-  return value && *value;
-}
-
-const std::string& JsonValue::text() const {
-  return contentAs<std::string>(R"(a text, "...")");
 }
 
 const std::string& JsonValue::nonEmptyText() const {
@@ -161,39 +141,24 @@ std::vector<std::string> JsonValue::texts() const {
   return texts;
 }
 
-bool JsonValue::boolean() const {
-  return contentAs<bool>("true or false");
-}
-
-std::int64_t JsonValue::integer() const {
-  return contentAs<std::int64_t>("an integer");
-}
-
-const std::vector<JsonValue>& JsonValue::elements() const {
-  return contentAs<std::vector<JsonValue>>("an array, [...]");
-}
-
-const std::vector<JsonMember>& JsonValue::members() const {
-  return contentAs<std::vector<JsonMember>>("an object, {...}");
-}
-
 void JsonValue::failAt(Position at, std::string message) const {
   tools::fail(std::string(file_), at, std::move(message));
 }
 
 void storeMembers(const JsonValue& object, const std::vector<KnownMember>& known) {
   std::set<std::string_view> seen;
-  for (const auto& [name, nameAt, value] : object.members()) {
-    const auto member =
-        std::find_if(known.begin(), known.end(), [&](const auto& one) { return one.name == name; });
-    if (member == known.end()) {
+  for (const JsonMember& member : object.members()) {
+    const auto isIt = [&](const KnownMember& one) { return one.name == member.name; };
+    const auto found = std::find_if(known.begin(), known.end(), isIt);
+    if (found == known.end()) {
       std::vector<std::string_view> names;
       for (const KnownMember& one : known) names.push_back(one.name);
-      object.failAt(nameAt, fmt::format("unknown member \"{}\"; known are {}", name, fmt::join(names, ", ")));
+      object.failAt(member.nameAt,
+                    fmt::format("unknown member \"{}\"; known are {}", member.name, fmt::join(names, ", ")));
     }
-    if (!seen.insert(name).second)
-      object.failAt(nameAt, fmt::format("repeated member \"{}\"; remove one", name));
-    member->store(value);
+    if (!seen.insert(member.name).second)
+      object.failAt(member.nameAt, fmt::format("repeated member \"{}\"; remove one", member.name));
+    found->store(member.value);
   }
 }
 
