@@ -117,8 +117,7 @@ std::vector<std::string_view> wordsToRead(std::string_view text) {
 
 std::size_t charactersIn(std::string_view text) {
   std::size_t characters = 0;
-  for (; !text.empty(); ++characters)
-    text.remove_prefix(internal::beginsWithPlainAscii(text) ? 1 : internal::firstClusterSize(text));
+  for (; !text.empty(); ++characters) text.remove_prefix(internal::firstClusterSize(text));
   return characters;
 }
 
