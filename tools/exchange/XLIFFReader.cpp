@@ -122,18 +122,12 @@ class XLIFFReader {
   XLIFFReader(const std::string& text, const std::string& file)
       : file_(file), text_(text), positions_(text), expansionLeft_(text.size() + kMostExpansion) {
     const pugi::xml_parse_result result = document_.load_buffer(
-        text.data(), text.size(), pugi::parse_default | pugi::parse_ws_pcdata | pugi::parse_doctype,
-        pugi::encoding_utf8);
-    const auto isDoctype = [](pugi::xml_node node) { return node.type() == pugi::node_doctype; };
-    // Entities can make a small file grow without end, and translations do not need them.
-    if (document_.find_child(isDoctype))
-      refuse(text.find("<!DOCTYPE"),
-             "document types and entities are not supported; remove the DOCTYPE, or save the file as XLIFF "
-             "again");
+        text.data(), text.size(), pugi::parse_default | pugi::parse_ws_pcdata, pugi::encoding_utf8);
     if (!result)
       refuse(static_cast<std::size_t>(result.offset),
              fmt::format("the document is not well-formed XML ({}); the file may be damaged, save it again",
                          lowerCased(result.description())));
+    // The parser leaves them as they are.
     if (const std::size_t entity = unknownEntity(text); entity != std::string::npos)
       refuse(entity,
              "\"&\" does not start an entity that XML defines; write \"&amp;\" for the character itself");

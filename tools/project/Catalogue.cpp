@@ -162,7 +162,9 @@ std::string signatureOf(const Entry& entry) {
                      entry.plural ? ", count" : "");
 }
 
-void checkTogether(const std::vector<Entry>& entries, Diagnostics& diagnostics) {
+/// Throws if `diagnostics` or the entries, each by itself or together, have errors.
+void checkEntries(const std::vector<Entry>& entries, Diagnostics diagnostics) {
+  for (const Entry& entry : entries) checkEntry(entry, diagnostics);
   std::map<std::string, const Entry*> accessors;
   std::map<std::string_view, const Entry*> texts;
   std::map<std::string, const Entry*> inTables;
@@ -196,6 +198,7 @@ void checkTogether(const std::vector<Entry>& entries, Diagnostics& diagnostics) 
       previous = &entry;
     }
   }
+  if (!diagnostics.empty()) throw CommandFailed{std::move(diagnostics)};
 }
 
 std::string quoted(const std::string& text) {
@@ -252,9 +255,7 @@ Catalogue Catalogue::parse(std::string_view json) {
   Diagnostics diagnostics;
   Catalogue catalogue;
   catalogue.entries_ = readEntries(json, false, diagnostics);
-  for (const Entry& entry : catalogue.entries_) checkEntry(entry, diagnostics);
-  checkTogether(catalogue.entries_, diagnostics);
-  if (!diagnostics.empty()) throw CommandFailed{std::move(diagnostics)};
+  checkEntries(catalogue.entries_, std::move(diagnostics));
   return catalogue;
 }
 
@@ -266,12 +267,9 @@ Catalogue Catalogue::readEdited(const std::string& root, const std::function<boo
   catalogue.sort();
   std::set<std::string> seen;
   std::erase_if(catalogue.entries_, [&](const Entry& entry) { return !seen.insert(lineOf(entry)).second; });
-  for (Entry& entry : catalogue.entries_) {
+  for (Entry& entry : catalogue.entries_)
     if (isKnown(entry)) keepKeyIfNeeded(entry);
-    checkEntry(entry, diagnostics);
-  }
-  checkTogether(catalogue.entries_, diagnostics);
-  if (!diagnostics.empty()) throw CommandFailed{std::move(diagnostics)};
+  checkEntries(catalogue.entries_, std::move(diagnostics));
   return catalogue;
 }
 
