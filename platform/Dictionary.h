@@ -25,7 +25,7 @@ class Dictionary {
   using Member = std::pair<std::string, Value>;
 
   /// Constructs an empty dictionary.
-  Dictionary() = default;
+  Dictionary();
   /// Constructs a dictionary of `members`, in their order. A name may occur twice.
   Dictionary(std::initializer_list<Member> members);
 
@@ -41,7 +41,7 @@ class Dictionary {
   [[nodiscard]] const Type* find(std::string_view name) const;
 
  private:
-  std::vector<Member> members_{};
+  std::vector<Member> members_;
 };
 
 /// Any integer type except `bool` and the character types.
@@ -95,6 +95,9 @@ class Value {
  private:
   std::variant<std::nullptr_t, bool, std::int64_t, double, std::string, List, Dictionary> value_ = nullptr;
 };
+
+inline Dictionary::Dictionary() : members_() {
+}
 
 inline Dictionary::Dictionary(std::initializer_list<Member> members) : members_(members) {
 }

@@ -47,6 +47,7 @@ TEST(Substitution, TakesAnyRangeOfPairs) {
   const std::pair<const char*, std::string_view> array[] = {{"a", "3"}, {"b", "4"}};
   EXPECT_EQ(applySubstitutions("%{a}%{b}", array), "34");
   EXPECT_EQ(applySubstitutions("%{a}", Texts()), "%{a}");
+  EXPECT_EQ(applySubstitutions("%{maxPoints}%{minPoints}", {{"minPoints", "1"}, {"maxPoints", "2"}}), "21");
   EXPECT_EQ(applySubstitutions("%{n0} %{n4}", numbered(5)), "0 4");
   EXPECT_EQ(applySubstitutions("%{n0} %{n999}", numbered(1000)), "0 999");
   static_assert(!std::is_constructible_v<Substitutions, std::vector<std::string>>);

@@ -40,6 +40,7 @@ TEST(StringTable, FindsTheTextsOfTheFile) {
     EXPECT_EQ(text ? Json(*text) : Json(), expected) << file;
   }
   EXPECT_EQ(textIn(directory.write("utf16", "\xFF\xFE\"\0a\0\"\0=\0\"\0\x16\x30\"\0;\0"s)), "〖");
+  EXPECT_EQ(textIn(directory.write("unmarked", "\"\0a\0\"\0=\0\"\0b\0\"\0;\0"s)), "b");
   EXPECT_EQ(textIn(directory.write("bytes", "\"a\" = \"b\"; \"c\" = \"\xFF\";")), std::nullopt);
 }
 
