@@ -136,16 +136,20 @@ bool CatalogueSettings::isNumber(std::string_view placeholder) const {
                                                      placeholder) != numberPlaceholders.end();
 }
 
-bool CatalogueSettings::isSameEverywhere(std::string_view text) const {
-  const std::string plain = withoutPlaceholders(text);
-  const Words words = wordsToRead(plain);
+std::vector<std::string_view> CatalogueSettings::wordsToTranslate(std::string_view text) const {
+  const Words words = wordsToRead(text);
+  Words translatable;
   for (auto word = words.begin(); word != words.end();) {
     std::size_t longest = 0;
     for (const std::string& one : names) longest = std::max(longest, sizeOfName(one, word, words.end()));
-    if (longest == 0) return false;
-    word += static_cast<std::ptrdiff_t>(longest);
+    if (longest == 0) translatable.push_back(*word);
+    word += static_cast<std::ptrdiff_t>(std::max<std::size_t>(longest, 1));
   }
-  return true;
+  return translatable;
+}
+
+bool CatalogueSettings::isSameEverywhere(std::string_view text) const {
+  return wordsToTranslate(withoutPlaceholders(text)).empty();
 }
 
 }  // namespace zk::tools

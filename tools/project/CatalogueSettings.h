@@ -72,7 +72,9 @@ struct CatalogueSettings {
 
   /// Returns whether `placeholder` is a number.
   [[nodiscard]] bool isNumber(std::string_view placeholder) const;
-  /// Returns whether `text` has no words to translate, only placeholders, `names`, numbers and single letters.
+  /// Returns the words of `text` that need translation: all except `names`, numbers and single letters.
+  [[nodiscard]] std::vector<std::string_view> wordsToTranslate(std::string_view text) const;
+  /// Returns whether `text` has no words to translate apart from placeholders.
   [[nodiscard]] bool isSameEverywhere(std::string_view text) const;
 };
 
