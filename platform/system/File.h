@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 #include <system_error>
+#include <utility>
 #include <vector>
 
 namespace zk {
@@ -31,10 +32,20 @@ namespace zk {
 /// Whether a directory or a link to one is at `path`. If not, `failure` is the reason; it is cleared otherwise.
 [[nodiscard]] bool directoryExists(const std::string& path, std::error_code& failure);
 
-/// Returns all bytes of the regular file at `path`. Returns nothing if there is none, if it cannot be read, and if it is
-/// larger than 256 MiB. Never waits for a FIFO or device. `failure` is the reason, and is cleared on success.
-[[nodiscard]] std::optional<std::string> contentsOfFile(const std::string& path, std::error_code& failure);
-/// Returns all bytes of the regular file at `path`, or nothing, for callers that do not need the reason.
+/// Reads all bytes of the regular file at `path`, which has no NUL. Returns an error if there is none, if it cannot be
+/// read, and if it is larger than 256 MiB. Never waits for a FIFO or device.
+[[nodiscard]] std::error_code readRegularFile(const std::string& path, std::string& bytes);
+
+/// Returns all bytes of the file at `path`. If `readRegularFile` fails, returns nothing, and `failure` is the reason.
+[[nodiscard]] inline std::optional<std::string> contentsOfFile(const std::string& path,
+                                                               std::error_code& failure) {
+  std::optional<std::string> bytes(std::in_place);
+  const bool isPath = path.find('\0') == std::string::npos;
+  failure = isPath ? readRegularFile(path, *bytes) : make_error_code(std::errc::no_such_file_or_directory);
+  if (failure) bytes.reset();
+  return bytes;
+}
+/// Returns all bytes of the file at `path`, or nothing, for callers that do not need the reason.
 [[nodiscard]] inline std::optional<std::string> contentsOfFile(const std::string& path) {
   std::error_code unused;
   return contentsOfFile(path, unused);

@@ -90,25 +90,17 @@ bool directoryExists(const std::string& path, std::error_code& failure) {
   return std::filesystem::is_directory(path, failure);
 }
 
-std::optional<std::string> contentsOfFile(const std::string& path, std::error_code& failure) {
-  const auto fail = [&](std::error_code reason) {
-    failure = reason;
-    return std::nullopt;
-  };
-  failure.clear();
-  if (path.find('\0') != std::string::npos)
-    return fail(make_error_code(std::errc::no_such_file_or_directory));
+std::error_code readRegularFile(const std::string& path, std::string& bytes) {
   // Without O_NONBLOCK, opening a FIFO would wait for a writer.
   const int file = open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
-  if (file < 0) return fail(lastFailure());
+  if (file < 0) return lastFailure();
   const std::unique_ptr<const int, Closer> closer(&file);
   struct stat status = {};
-  if (fstat(file, &status) != 0) return fail(lastFailure());
-  if (!S_ISREG(status.st_mode)) return fail(make_error_code(std::errc::not_supported));
-  if (status.st_size > kLargestFile) return fail(make_error_code(std::errc::file_too_large));
-  std::string bytes(static_cast<std::size_t>(status.st_size), '\0');
-  if (!readInto(bytes, file)) return fail(lastFailure());
-  return bytes;
+  if (fstat(file, &status) != 0) return lastFailure();
+  if (!S_ISREG(status.st_mode)) return make_error_code(std::errc::not_supported);
+  if (status.st_size > kLargestFile) return make_error_code(std::errc::file_too_large);
+  bytes.resize(static_cast<std::size_t>(status.st_size));
+  return readInto(bytes, file) ? std::error_code() : lastFailure();
 }
 
 // Not std::filesystem::directory_iterator, which ends the process if there is no memory for it.

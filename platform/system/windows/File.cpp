@@ -92,31 +92,22 @@ bool directoryExists(const std::string& path, std::error_code& failure) {
   return false;
 }
 
-std::optional<std::string> contentsOfFile(const std::string& path, std::error_code& failure) {
-  const auto fail = [&](std::error_code reason) {
-    failure = reason;
-    return std::nullopt;
-  };
-  failure.clear();
-  if (path.find('\0') != std::string::npos)
-    return fail(make_error_code(std::errc::no_such_file_or_directory));
+std::error_code readRegularFile(const std::string& path, std::string& bytes) {
   // Other programs may go on writing, renaming and removing the file. Without backup semantics, a directory would be
   // reported as a file that must not be read.
   constexpr DWORD kShared = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
   const Handle file(CreateFileW(systemPath(path).c_str(), GENERIC_READ, kShared, nullptr, OPEN_EXISTING,
                                 FILE_FLAG_BACKUP_SEMANTICS, nullptr),
                     CloseHandle);
-  if (!file.isOpen()) return fail(lastFailure());
+  if (!file.isOpen()) return lastFailure();
   BY_HANDLE_FILE_INFORMATION status{};
-  if (GetFileType(file.get()) != FILE_TYPE_DISK) return fail(make_error_code(std::errc::not_supported));
-  if (!GetFileInformationByHandle(file.get(), &status)) return fail(lastFailure());
-  if (status.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY)
-    return fail(make_error_code(std::errc::not_supported));
+  if (GetFileType(file.get()) != FILE_TYPE_DISK) return make_error_code(std::errc::not_supported);
+  if (!GetFileInformationByHandle(file.get(), &status)) return lastFailure();
+  if (status.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) return make_error_code(std::errc::not_supported);
   const LONGLONG size = LONGLONG{status.nFileSizeHigh} << 32 | status.nFileSizeLow;
-  if (size > kLargestFile) return fail(make_error_code(std::errc::file_too_large));
-  std::string bytes(static_cast<std::size_t>(size), '\0');
-  if (!readInto(bytes, file.get())) return fail(lastFailure());
-  return bytes;
+  if (size > kLargestFile) return make_error_code(std::errc::file_too_large);
+  bytes.resize(static_cast<std::size_t>(size));
+  return readInto(bytes, file.get()) ? std::error_code() : lastFailure();
 }
 
 std::vector<DirectoryEntry> entriesOf(const std::string& path, std::error_code& failure) {
