@@ -59,7 +59,7 @@ std::size_t clusterSizeByICU(std::string_view text) {
       next = firstCodePoint(text.substr(at));
       if (!next.value) break;
       if (*next.value > 0xFFFF) units += U16_LEAD(*next.value);
-      units += static_cast<char16_t>(*next.value > 0xFFFF ? U16_TRAIL(*next.value) : *next.value);
+      units += *next.value > 0xFFFF ? U16_TRAIL(*next.value) : static_cast<char16_t>(*next.value);
     }
     if (units.empty()) return 1;
     UErrorCode status = U_ZERO_ERROR;
