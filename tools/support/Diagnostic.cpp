@@ -51,8 +51,9 @@ Position positionOf(std::string_view text, std::size_t offset) {
 std::vector<std::string_view> linesOf(std::string_view text) {
   std::vector<std::string_view> lines;
   while (!text.empty()) {
-    const std::string_view line = text.substr(0, text.find('\n'));
+    std::string_view line = text.substr(0, text.find('\n'));
     text.remove_prefix(std::min(line.size() + 1, text.size()));
+    if (line.ends_with('\r')) line.remove_suffix(1);
     lines.push_back(line);
   }
   return lines;

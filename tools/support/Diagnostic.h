@@ -30,7 +30,7 @@ class PositionFinder {
 /// The position of the byte `offset` of the UTF-8 text `text`.
 [[nodiscard]] Position positionOf(std::string_view text, std::size_t offset);
 
-/// The lines of `text`, without the line feeds that end them.
+/// The lines of `text`, without the LF or CR LF that ends them.
 [[nodiscard]] std::vector<std::string_view> linesOf(std::string_view text);
 
 /// The severity of a diagnostic, the worst first. A gap is a text that is not translated yet, which is not an error.
