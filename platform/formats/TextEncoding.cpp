@@ -39,7 +39,7 @@ Encoding encodingOf(std::string_view bytes) {
   return {"", isZero(1) ? std::size_t{2} : 1, false};
 }
 
-char32_t codeUnit(std::string_view bytes, Encoding encoding) {
+char32_t codeUnit(std::string_view bytes, const Encoding& encoding) {
   char32_t unit = 0;
   for (std::size_t i = 0; i < encoding.unit; ++i) {
     const char byte = bytes[encoding.bigEndian ? i : encoding.unit - 1 - i];
@@ -48,7 +48,7 @@ char32_t codeUnit(std::string_view bytes, Encoding encoding) {
   return unit;
 }
 
-std::optional<std::string> toUtf8(std::string_view bytes, Encoding encoding) {
+std::optional<std::string> toUtf8(std::string_view bytes, const Encoding& encoding) {
   if (bytes.size() % encoding.unit != 0) return std::nullopt;
   std::string text;
   text.reserve(bytes.size());

@@ -142,7 +142,7 @@ void replaceOccurrences(std::string& text, std::string_view target, std::string_
     same = isWhole ? 0 : repeated[same - 1];
     if (!isWhole) continue;
     result.append(text, done, units[begin].segment - done).append(replacement);
-    done = at == units.size() ? text.size() : units[at].segment;
+    done = at < units.size() ? units[at].segment : text.size();
   }
   text = result.append(text, done);
 }

@@ -1,8 +1,8 @@
 #include <ZKStrings/platform/text/TextSearch.h>
 #include <ZKStrings/tests/CommandOutput.h>
 #include <ZKStrings/tests/tools/TemporaryProject.h>
-#include <ZKStrings/tools/support/Files.h>
 #include <ZKStrings/tools/support/Diagnostic.h>
+#include <ZKStrings/tools/support/Files.h>
 
 #include <algorithm>
 #include <cstddef>
