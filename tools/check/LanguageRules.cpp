@@ -100,13 +100,13 @@ void findDoubledWords(const Translation& translation, Findings& findings) {
 /// Returns the first letter of `word` that belongs to another script than its first letter, if both look alike.
 std::optional<std::string_view> firstStrayLetter(std::string_view word) {
   constexpr UScriptCode kLookAlikes[] = {USCRIPT_LATIN, USCRIPT_CYRILLIC, USCRIPT_GREEK};
-  const UScriptCode* first = nullptr;
+  std::optional<UScriptCode> first;
   for (const CodePoint letter : CodePoints(word)) {
-    for (const UScriptCode& script : kLookAlikes) {
-      if (!uscript_hasScript(static_cast<UChar32>(letter.value.value_or(0)), script)) continue;
-      if (first && first != &script) return letter.bytes;
-      first = &script;
-    }
+    UErrorCode status = U_ZERO_ERROR;
+    const UScriptCode script = uscript_getScript(static_cast<UChar32>(letter.value.value_or(0)), &status);
+    if (std::find(std::begin(kLookAlikes), std::end(kLookAlikes), script) == std::end(kLookAlikes)) continue;
+    if (first.value_or(script) != script) return letter.bytes;
+    first = script;
   }
   return std::nullopt;
 }
