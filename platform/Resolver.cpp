@@ -27,11 +27,16 @@ namespace internal {
 struct alignas(kCacheLine) Entry {
   Entry(const std::type_info& service, const std::optional<std::string>& given)
       : type(service), name(given) {}
+  static std::uint64_t nextGeneration() {
+    static constinit std::atomic<std::uint64_t> last{0};
+    return ++last;
+  }
 
   const std::type_info& type;
   const std::optional<std::string> name;
 
-  std::atomic<std::uint64_t> generation{0};  // a number of its own for each change of a registration
+  /// Different for all entries, and different after each change of the registration.
+  std::atomic<std::uint64_t> generation = nextGeneration();
   std::mutex mutex{};
   std::shared_ptr<Registration> registration{};  // guarded by `mutex`
   /// Held while a factory of the application scope runs. Recursive, because the factory may resolve again.
@@ -82,11 +87,6 @@ Kept* placeOfThread() {
   auto kept = std::make_unique<Kept>();
   if (!freedAtThreadEnd.set(kept.get())) return nullptr;
   return keptByThread = kept.release();
-}
-
-std::uint64_t nextGeneration() {
-  static constinit std::atomic<std::uint64_t> last{0};
-  return ++last;
 }
 
 }  // namespace
@@ -154,13 +154,13 @@ ResolverOptions::ResolverOptions(internal::Entry& entry,
     : entry_(entry), registration_(registration) {
   const std::lock_guard lock(entry.mutex);
   entry.registration.swap(registration);  // releases the replaced one after the lock
-  entry.generation.store(internal::nextGeneration(), std::memory_order_release);
+  entry.generation.store(internal::Entry::nextGeneration(), std::memory_order_release);
 }
 
 ResolverOptions& ResolverOptions::scope(ResolverScope scope) {
   registration_->scope = scope;
   // Services that threads keep were kept under the old scope.
-  entry_.generation.store(internal::nextGeneration(), std::memory_order_release);
+  entry_.generation.store(internal::Entry::nextGeneration(), std::memory_order_release);
   return *this;
 }
 
