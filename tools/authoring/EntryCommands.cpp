@@ -4,7 +4,6 @@
 #include <ZKStrings/tools/authoring/EntryCommands.h>
 #include <ZKStrings/tools/project/Table.h>
 #include <ZKStrings/tools/support/Characters.h>
-#include <ZKStrings/tools/support/Nearest.h>
 #include <ZKStrings/tools/texts/Placeholders.h>
 #include <ZKStrings/tools/texts/TextFeatures.h>
 

@@ -3,9 +3,9 @@
 #include <ZKStrings/tools/check/Glossary.h>
 #include <ZKStrings/tools/check/Rules.h>
 #include <ZKStrings/tools/project/Catalogue.h>
+#include <ZKStrings/tools/support/Characters.h>
 #include <ZKStrings/tools/support/Files.h>
 #include <ZKStrings/tools/support/Languages.h>
-#include <ZKStrings/tools/support/Nearest.h>
 #include <ZKStrings/tools/texts/TextFeatures.h>
 #include <ZKStrings/tools/translation/TranslationState.h>
 

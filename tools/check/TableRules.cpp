@@ -1,8 +1,8 @@
 #include <ZKStrings/tools/check/Checker.h>
 #include <ZKStrings/tools/check/Rules.h>
 #include <ZKStrings/tools/project/Table.h>
+#include <ZKStrings/tools/support/Characters.h>
 #include <ZKStrings/tools/support/Languages.h>
-#include <ZKStrings/tools/support/Nearest.h>
 #include <ZKStrings/tools/texts/TextFeatures.h>
 #include <ZKStrings/tools/translation/TranslationState.h>
 

@@ -2,7 +2,6 @@
 #include <ZKStrings/tools/check/Rules.h>
 #include <ZKStrings/tools/support/Characters.h>
 #include <ZKStrings/tools/support/Languages.h>
-#include <ZKStrings/tools/support/Nearest.h>
 #include <ZKStrings/tools/texts/Placeholders.h>
 #include <ZKStrings/tools/texts/TextFeatures.h>
 #include <ZKStrings/tools/translation/TranslationState.h>

@@ -1,8 +1,8 @@
 #include <ZKStrings/tools/command/Subcommands.h>
 #include <ZKStrings/tools/reference/Reference.h>
+#include <ZKStrings/tools/support/Characters.h>
 #include <ZKStrings/tools/support/Diagnostic.h>
 #include <ZKStrings/tools/support/Files.h>
-#include <ZKStrings/tools/support/Nearest.h>
 #include <ZKStrings/tools/support/Terminal.h>
 
 #include <algorithm>

@@ -1,16 +1,19 @@
+#include <ZKStrings/engine/StringLookup.h>
+#include <ZKStrings/platform/Bundle.h>
 #include <ZKStrings/platform/text/UnicodeText.h>
+#include <ZKStrings/region/CurrentLanguage.h>
 #include <ZKStrings/tools/authoring/AccessorGenerator.h>
 #include <ZKStrings/tools/authoring/Uses.h>
 #include <ZKStrings/tools/check/Checker.h>
 #include <ZKStrings/tools/page/Page.h>
 #include <ZKStrings/tools/page/PageParts.h>
-#include <ZKStrings/tools/page/ShownTexts.h>
 #include <ZKStrings/tools/support/Characters.h>
 #include <ZKStrings/tools/support/Languages.h>
 #include <ZKStrings/tools/texts/Placeholders.h>
 #include <ZKStrings/tools/texts/TextFeatures.h>
 #include <ZKStrings/tools/translation/TranslationState.h>
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -44,6 +47,73 @@ Json formsData() {
     forms.push_back({{"name", suffix.substr(1)}, {"counts", counts}, {"example", example}});
   return forms;
 }
+
+/// Returns the example for `placeholder` in `english`; null if the settings have none.
+const CatalogueSettings::Example* exampleFor(const EnglishText& english, std::string_view placeholder) {
+  const auto& examples = english.settings->examples;
+  auto example = examples.find(fmt::format("{}.{}", english.entry->key, placeholder));
+  if (example == examples.end()) example = examples.find(placeholder);
+  return example == examples.end() ? nullptr : &example->second;
+}
+
+/// The texts of a project as its app shows them: the engine looks them up and fills in example values.
+class ShownTexts {
+ public:
+  /// Opens the resources of the project at `root`. `english`, the project's texts, must outlive this object.
+  /// Throws `CommandFailed` if Base.lproj is missing or cannot be opened: the engine cannot run without it.
+  ShownTexts(const std::string& root, const EnglishTexts& english)
+      : resources_(Bundle::initWithPath(root + "/resources")), english_(english) {
+    const ResourcePath* const base = resources_ ? resources_->pathForResource(kBase, "lproj") : nullptr;
+    if (!base || !Bundle::initWithPath(*base))
+      fail("resources/Base.lproj", "the folder of the English texts cannot be read; see that it exists");
+  }
+
+  /// The text of the key of `english` in the language of the process. With `isMarked`, each value is U+FDD0, the
+  /// placeholder's name, U+FDD1, the value, U+FDD2. Unicode reserves these noncharacters for internal use.
+  [[nodiscard]] std::string text(const EnglishText& english, bool isMarked) const {
+    const auto count = english.form ? std::optional(english.form->example) : std::nullopt;
+    Values values = valuesFor(english, count, false);
+    for (auto& [name, value] : values)
+      if (isMarked) value = fmt::format("\uFDD0{}\uFDD1{}\uFDD2", name, value);
+    return filledIn(english, count, values);
+  }
+
+ private:
+  using Values = std::vector<std::pair<std::string, std::string>>;
+
+  [[nodiscard]] std::string filledIn(const EnglishText& english, std::optional<std::int64_t> count,
+                                     const Values& values) const {
+    return localizedString(resources_, english.entry->key, english.entry->text, count, values);
+  }
+
+  /// A nested example does not refer to another text, so no text can contain itself.
+  [[nodiscard]] Values valuesFor(const EnglishText& english, std::optional<std::int64_t> count,
+                                 bool isNested) const {
+    Values values;
+    for (const std::string_view name : placeholderNames(english.entry->text)) {
+      const CatalogueSettings::Example* const example = exampleFor(english, name);
+      std::string value(name);
+      if (count && name == english.countPlaceholder()) {
+        value = std::to_string(*count);
+      } else if (example && !isNested) {
+        value = textOf(*example);
+      } else if (example && !example->text.empty()) {
+        value = example->text;
+      }
+      values.emplace_back(name, std::move(value));
+    }
+    return values;
+  }
+
+  [[nodiscard]] std::string textOf(const CatalogueSettings::Example& example) const {
+    const EnglishText* const english = english_.find(example.key + (example.count ? "_many" : ""));
+    if (!english) return example.key.empty() ? example.text : example.key;
+    return filledIn(*english, example.count, valuesFor(*english, example.count, true));
+  }
+
+  const Bundle* resources_;
+  const EnglishTexts& english_;
+};
 
 /// Makes the data that the script of the page reads:
 ///
@@ -105,7 +175,9 @@ class DataMaker {
     Json characters = Json::array();
     std::string states;
     Json previous = Json::object();
-    shown_.choose(language);
+    Language chosen;
+    chosen.preferredLanguages = {tag};
+    Current::language = chosen;
     for (const EnglishText& english : english_.all()) {
       texts.push_back(shown_.text(english, true));
       characters.push_back(charactersIn(shown_.text(english, false)));

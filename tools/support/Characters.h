@@ -4,8 +4,10 @@
 
 #include <cstddef>
 #include <iterator>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace zk::tools {
 
@@ -51,5 +53,13 @@ class CodePoints {
 
 /// `text` with each control character as an escape, such as \U000d for a carriage return. If `keepsLines`, line feeds stay.
 [[nodiscard]] std::string withoutControls(std::string_view text, bool keepsLines = false);
+
+/// The one of `candidates` that `word` most likely misspells, the first of several that are equally near, or nothing if
+/// none is near enough. Distance is the number of bytes to insert, remove or replace, whatever the case of ASCII letters.
+[[nodiscard]] std::optional<std::string_view> nearest(std::string_view word,
+                                                      const std::vector<std::string_view>& candidates);
+
+/// The end of a message about a word that is not known: `did you mean "X"?`, or `otherwise` without a nearest word.
+[[nodiscard]] std::string didYouMean(std::optional<std::string_view> nearest, std::string_view otherwise);
 
 }  // namespace zk::tools

@@ -3,7 +3,6 @@
 #include <ZKStrings/tools/support/Diagnostic.h>
 #include <ZKStrings/tools/support/Files.h>
 #include <ZKStrings/tools/support/Languages.h>
-#include <ZKStrings/tools/support/Nearest.h>
 
 #include <algorithm>
 #include <array>
