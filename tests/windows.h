@@ -16,12 +16,12 @@ inline int unsetenv(const char* name) {
 }
 
 /// The bytes that are allocated on the heap.
-struct mallinfo2 {
+struct HeapUse {
   std::size_t uordblks, hblkhd;
 };
 
-inline struct mallinfo2 mallinfo2() {
-  struct mallinfo2 info = {};
+inline HeapUse mallinfo2() {
+  HeapUse info = {};
   _HEAPINFO block = {};
   while (_heapwalk(&block) == _HEAPOK) {
     if (block._useflag == _USEDENTRY) info.uordblks += block._size;

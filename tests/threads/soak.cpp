@@ -198,7 +198,7 @@ bool areFirstUsesTheSame() {
 
 /// The bytes that are allocated. Sanitizers have an allocator of their own, which reports none.
 std::size_t allocatedBytes() {
-  const struct mallinfo2 info = mallinfo2();
+  const auto info = mallinfo2();
   return info.uordblks + info.hblkhd;
 }
 

@@ -2,12 +2,13 @@
 #include <ZKStrings/tests/TemporaryDirectory.h>
 #include <ZKStrings/tools/check/Checker.h>
 #include <ZKStrings/tools/layout/PseudoLocales.h>
+#include <ZKStrings/tools/project/Catalogue.h>
 #include <ZKStrings/tools/support/Diagnostic.h>
+#include <ZKStrings/tools/support/Files.h>
 #include <ZKStrings/tools/texts/TextFeatures.h>
 
 #include <algorithm>
 #include <cstddef>
-#include <filesystem>
 #include <iterator>
 #include <string>
 #include <string_view>
@@ -18,8 +19,6 @@ namespace {
 
 using namespace zk::tools;
 using zk::testing::TemporaryDirectory;
-
-namespace fs = std::filesystem;
 
 TEST(PseudoLocales, ChangeLettersOnly) {
   using Text = std::string;
@@ -39,8 +38,7 @@ TEST(PseudoLocales, ChangeLettersOnly) {
 class PseudoTables : public ::testing::Test {
  protected:
   PseudoTables() : resources_(directory_.path() + "/resources") {
-    fs::create_directories(directory_.path() + "/catalogue");
-    fs::copy(std::string(ZK_PROJECT_ROOT) + "/catalogue/entries.json", directory_.path() + "/catalogue/");
+    directory_.write(Catalogue::kFile, readFile(ZK_PROJECT_ROOT, Catalogue::kFile));
     writePseudoLocales(ZK_PROJECT_ROOT, resources_);
   }
 
