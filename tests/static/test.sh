@@ -20,5 +20,5 @@ cppcheck --quiet --std=c++20 --language=c++ -j "$(nproc)" --enable=warning,perfo
 
 echo "clang-tidy"
 git ls-files -z 'engine/*.cpp' 'region/*.cpp' 'platform/*.cpp' 'catalogue/[!Z]*.cpp' 'tools/*.cpp' 'examples/*.cpp' \
-  ':!platform/system/windows' |
+  ':!*/windows/*' |
   xargs -0 -n 1 -P "$(nproc)" clang-tidy --quiet -p "$build" 2>/dev/null

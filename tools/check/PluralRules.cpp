@@ -5,7 +5,6 @@
 #include <ZKStrings/tools/texts/TextFeatures.h>
 
 #include <algorithm>
-#include <cstddef>
 #include <iterator>
 #include <map>
 #include <set>

@@ -59,7 +59,7 @@ class Findings {
  private:
   /// Reads the text again only if it is another entry's, or if the offset is before the last one.
   Position placeOf(const TableEntry& entry, std::size_t offset) {
-    if (entry_ != &entry || offset < offset_) places_.emplace(entry);
+    if (!places_ || entry_ != &entry || offset < offset_) places_.emplace(entry);
     entry_ = &entry;
     offset_ = offset;
     return places_->at(offset);

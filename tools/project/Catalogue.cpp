@@ -37,6 +37,7 @@ void storePlural(const JsonValue& value, Entry& entry) {
   if (value.isTrue()) return;
   if (!value.isObject() || value.members().empty()) value.fail("write true, or forms: {\"one\": \"...\"}");
   std::vector<KnownMember> known;
+  known.reserve(entry.forms.size());
   for (std::size_t i = 0; i < entry.forms.size(); ++i)
     known.push_back({kPluralForms[i].suffix.substr(1),
                      [&entry, i](const JsonValue& form) { entry.forms[i] = form.text(); }});
