@@ -40,7 +40,7 @@ TableEditor changed(const std::string& root, const std::string& language, const 
     }
     if (key != entry.key && editor.table().find(key)) {
       fail(editor.table().file, entry.keyAt,
-           fmt::format("the table has both \"{}\" and \"{}\"; remove the entry that nothing looks up",
+           fmt::format("the table has both \"{}\" and \"{}\"; remove the one that is not in the catalogue",
                        escaped(entry.key), escaped(key)));
     }
     if (key != entry.key) editor.replaceKey(entry, key);
@@ -76,7 +76,7 @@ void findUndecided(const Table& table, Diagnostics& diagnostics) {
     const TableEntry& last = *table.find(entry.key);
     if (last.text == entry.text) continue;
     diagnostics.push_back({Severity::error, table.file, entry.keyAt.line, entry.keyAt.column, "",
-                           fmt::format("the key \"{}\" has a different text in line {}; keep one of the two",
+                           fmt::format("the key \"{}\" has a different text on line {}; keep one of the two",
                                        escaped(entry.key), last.keyAt.line)});
   }
 }
@@ -177,7 +177,7 @@ void generateInto(const std::string& output, const std::string& root) {
     const TableEntry* const entry = base.find(text.key);
     if (!entry || entry->text == text.text) continue;
     fail(base.file, entry->textAt,
-         fmt::format("the English of \"{}\" is not that of {}; run zkstrings generate", escaped(text.key),
+         fmt::format("the English text of \"{}\" differs from {}; run zkstrings generate", escaped(text.key),
                      Catalogue::kFile));
   }
   std::vector<FileChange> files = generateAccessors(catalogue);
@@ -188,7 +188,8 @@ void generateInto(const std::string& output, const std::string& root) {
 
 void initCatalogue(const std::string& directory, const CatalogueName& name) {
   if (name.name == CatalogueName::kModule)
-    throw std::invalid_argument(fmt::format("the name {} is the module's own; choose another", name.name));
+    throw std::invalid_argument(
+        fmt::format("the name {} is reserved for the module; choose another", name.name));
   if (const std::string error = name.error(); !error.empty()) throw std::invalid_argument(error);
   const std::string settings =
       fmt::format("{{\"name\": \"{}\", \"namespace\": \"{}\"}}\n", name.name, name.nameSpace);
@@ -201,7 +202,7 @@ void initCatalogue(const std::string& directory, const CatalogueName& name) {
     const std::string path = pathBelow(directory, file.path);
     // A command that was killed leaves files with these contents.
     if (pathExists(path) && contentsOfFile(path) != file.bytes)
-      fail(path, "the file exists already; use another folder for a new catalogue");
+      fail(path, "the file already exists; use another folder for a new catalogue");
   }
   writeFiles(directory, files);
 }

@@ -38,7 +38,7 @@ void finish(Entry& entry) {
 }
 
 void refuseWrongBytes(const std::string& text) {
-  if (!isUtf8(text)) refuse("the text is not UTF-8; see that your terminal writes UTF-8");
+  if (!isUtf8(text)) refuse("the text is not UTF-8; set your terminal to UTF-8");
   if (hasCarriageReturnOrNul(text)) refuse(kNoCarriageReturn);
 }
 
@@ -51,28 +51,28 @@ void refuseWrongText(const std::string& text, bool isPlain) {
     if (foreign.empty() && !use.isRight && !use.spelled.starts_with("%{")) foreign = use.spelled;
   }
   if (foreign.empty() || isPlain) return;
-  refuse(fmt::format(
-      "\"{}\" is not a placeholder; write %{{name}}, and plural forms with --count and --one, or take "
-      "it as plain text with --plain",
-      foreign));
+  refuse(
+      fmt::format("\"{}\" is not a placeholder; write %{{name}}, or use --count and --one for plural forms, "
+                  "or --plain for plain text",
+                  foreign));
 }
 
 void refuseWrongTexts(const std::string& text, bool isCounted, const PluralForms& forms, bool isPlain) {
   if (!isCounted && forms != PluralForms{})
-    refuse("a text without a count has no plural forms; leave them out, or give it a count with --count");
+    refuse("a text without a count has no plural forms; omit them, or add --count");
   refuseWrongText(text, isPlain);
   for (const std::optional<std::string>& form : forms) refuseWrongText(form.value_or(""), isPlain);
 }
 
 void setForms(Entry& entry, const PluralForms& forms) {
-  if (!forms[kFormForOne]) refuse("a counted text needs its form for one; add --one 'TEXT'");
+  if (!forms[kFormForOne]) refuse("a text with a count needs the form for one; add --one 'TEXT'");
   entry.forms = forms;
 }
 
 /// Refuses a key that cannot name a function.
 void refuseWrongKey(const std::string& key) {
   if (keyForText(key) != key)
-    refuse(fmt::format("the key \"{}\" cannot name a function; write \"{}\"", key, keyForText(key)));
+    refuse(fmt::format("the key \"{}\" is not a valid function name; use \"{}\"", key, keyForText(key)));
 }
 
 /// The entries of `key`, counted or not. Throws with the nearest key if there are none.
@@ -86,7 +86,7 @@ std::vector<Entry*> entriesOf(Catalogue& catalogue, const std::string& key) {
   if (!found.empty()) return found;
   const std::optional<std::string_view> meant = nearest(key, keys);
   refuse(fmt::format("the catalogue has no key \"{}\"; {}", key,
-                     didYouMean(meant, fmt::format("see {} for those it has", Catalogue::kFile))));
+                     didYouMean(meant, fmt::format("{} lists all keys", Catalogue::kFile))));
 }
 
 /// The keys of `entry` in the tables, and those that they become if its key becomes `newKey`; empty ones if that is empty.
@@ -107,7 +107,7 @@ void changeTexts(Entry& entry, const EntryChange& change) {
       form.reset();
     } else if (entry.text != old) {
       const auto& [suffix, counts, example] = kPluralForms[i];
-      refuse(fmt::format("the form for {} is \"{}\"; say what it is now with --{} 'TEXT'", counts,
+      refuse(fmt::format("the form for {} is still \"{}\"; set the new one with --{} 'TEXT'", counts,
                          escaped(*form), suffix.substr(1)));
     }
   }
@@ -116,11 +116,11 @@ void changeTexts(Entry& entry, const EntryChange& change) {
 void renamePlaceholder(Entry& entry, const std::string& renaming, TableChange& tables) {
   const std::size_t equals = renaming.find('=');
   if (equals == std::string::npos)
-    refuse("write the old and the new name of the placeholder, as in value=player");
+    refuse("expected the old and the new name of the placeholder, as in value=player");
   const std::string name = renaming.substr(0, equals);
   const std::vector<std::string_view> names = placeholderNames(entry.text);
   if (std::find(names.begin(), names.end(), name) == names.end()) {
-    refuse(fmt::format("the text of \"{}\" has no placeholder \"%{{{}}}\"; it is \"{}\"", entry.key, name,
+    refuse(fmt::format("\"{}\" has no placeholder \"%{{{}}}\"; its text is \"{}\"", entry.key, name,
                        escaped(entry.text)));
   }
   tables.oldPlaceholder = "%{" + name + "}";
@@ -145,7 +145,7 @@ void addCount(Entry& entry, const PluralForms& forms, TableChange& tables) {
 std::string keyOf(const std::string& text) {
   refuseWrongBytes(text);
   std::string key = keyForText(text);
-  if (key.empty()) refuse("the text has no letter or digit to make a key of");
+  if (key.empty()) refuse("the text has no letters or digits to derive a key from");
   return key;
 }
 
@@ -154,14 +154,14 @@ std::string addEntry(const std::string& root, const Entry& added, bool isPlain) 
   refuseWrongTexts(added.text, added.plural, added.forms, isPlain);
   Entry entry = added;
   if (entry.key.empty()) entry.key = keyForText(entry.text);
-  if (entry.text.empty()) refuse("the text is empty; give one");
-  if (entry.key.empty()) refuse("the text has no letter or digit to make a key of; give it one with --key");
+  if (entry.text.empty()) refuse("the text is empty; write one");
+  if (entry.key.empty()) refuse("the text has no letters or digits to derive a key from; set one with --key");
   refuseWrongKey(entry.key);
   if (entry.plural) setForms(entry, added.forms);
   finish(entry);
   for (const Entry& present : catalogue.entries()) {
     if (present.key == entry.key && (present.plural == entry.plural || present.text != entry.text))
-      refuse(fmt::format("the key \"{}\" is that of the text \"{}\"; give the new text another with --key",
+      refuse(fmt::format("the key \"{}\" already belongs to the text \"{}\"; set another with --key",
                          entry.key, escaped(present.text)));
   }
   catalogue.entries().push_back(entry);
@@ -175,8 +175,9 @@ std::size_t changeEntry(const std::string& root, const std::string& key, const E
   const std::vector<Entry*> entries = entriesOf(catalogue, key);
   const bool hasCount = entries.back()->plural;
   refuseWrongTexts(change.text.value_or(""), hasCount || change.plural, change.forms, change.isPlain);
-  if (change.text && change.text->empty()) refuse("the new text is empty; zkstrings remove removes one");
-  if (change.plural && hasCount) refuse(fmt::format("\"{}\" has a count already; leave --count out", key));
+  if (change.text && change.text->empty())
+    refuse("the new text is empty; to remove a text, use zkstrings remove");
+  if (change.plural && hasCount) refuse(fmt::format("\"{}\" already has a count; omit --count", key));
   TableChange tables;
   tables.keepsMeaning = change.keepsMeaning;
   for (Entry* const entry : entries) {
@@ -196,7 +197,7 @@ void renameEntry(const std::string& root, const std::string& key, const std::str
   refuseWrongKey(newKey);
   for (const Entry& present : catalogue.entries()) {
     if (present.key == newKey)
-      refuse(fmt::format("the key \"{}\" is that of the text \"{}\"; choose another", newKey,
+      refuse(fmt::format("the key \"{}\" already belongs to the text \"{}\"; choose another", newKey,
                          escaped(present.text)));
   }
   TableChange tables;

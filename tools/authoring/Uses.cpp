@@ -100,7 +100,7 @@ std::map<std::string, std::string> sourceFilesIn(const std::vector<std::string>&
   }
   if (files.empty())
     throw std::invalid_argument(
-        fmt::format("no C++ source file in {}; check the folder", fmt::join(directories, ", ")));
+        fmt::format("no C++ source files in {}; check the folder", fmt::join(directories, ", ")));
   return files;
 }
 

@@ -174,7 +174,8 @@ std::string errorInRuleName(std::string_view name) {
   for (const Rule& rule : checkRules()) names.push_back(rule.name);
   if (std::find(names.begin(), names.end(), name) != names.end()) return "";
   const std::optional<std::string_view> meant = nearest(name, names);
-  return fmt::format("unknown rule \"{}\"; {}", name, didYouMean(meant, "zkstrings check --rules lists all"));
+  return fmt::format("unknown rule \"{}\"; {}", name,
+                     didYouMean(meant, "zkstrings check --rules lists all rules"));
 }
 
 CheckResult check(const std::string& root, const CheckOptions& options) {

@@ -30,7 +30,7 @@ void findNoList(const CountryFile& file, Findings& findings) {
   for (const auto& [at, value] : file.elements) {
     if (value.as<Dictionary>()) continue;
     findings.add(at,
-                 "the element is not an object, so the module offers no country at all; write {{\"name\": "
+                 "the element is not an object, so the module offers no countries; write {{\"name\": "
                  "\"...\", \"phoneCode\": 0, \"iso\": \"...\"}}");
   }
 }
@@ -43,7 +43,7 @@ void findDuplicates(const CountryFile& file, Findings& findings) {
     if (!code) continue;
     const auto [first, isNew] = lines.try_emplace(*code, at.line);
     if (isNew) continue;
-    findings.add(at, "the code \"{}\" is already in line {}; remove one of the two", escaped(*code),
+    findings.add(at, "the code \"{}\" is already on line {}; remove one of the two", escaped(*code),
                  first->second);
   }
 }
@@ -64,7 +64,7 @@ std::string whyDropped(const Dictionary& country) {
   if (!country.find<std::string>("name")) wrong.push_back("\"name\" (a text)");
   if (!country.find<std::int64_t>("phoneCode")) wrong.push_back("\"phoneCode\" (an integer without quotes)");
   if (!country.find<std::string>("iso")) wrong.push_back("\"iso\" (a text)");
-  return fmt::format("the module drops this country because {} is missing; add it", fmt::join(wrong, ", "));
+  return fmt::format("the module drops this country; it needs {}", fmt::join(wrong, ", "));
 }
 
 std::string errorInCode(const Dictionary& country) {
@@ -77,7 +77,7 @@ std::string errorInCode(const Dictionary& country) {
 
 std::string errorInName(const Dictionary& country) {
   const auto* const name = country.find<std::string>("name");
-  return name && isBlank(*name) ? "the country has an empty name; write the name users choose it by" : "";
+  return name && isBlank(*name) ? "the country has an empty name; write the name that users see" : "";
 }
 
 std::string errorInPhoneCode(const Dictionary& country) {
@@ -90,7 +90,7 @@ std::string errorInPhoneCode(const Dictionary& country) {
 constexpr RuleFor<CountryFile> kRules[] = {
     {{"country-list", Severity::error, "a country list that is not an array of objects, or is empty"},
      findNoList},
-    {{"dropped-country", Severity::error, "a country that the module leaves out"}, inCountries<whyDropped>},
+    {{"dropped-country", Severity::error, "a country that the module drops"}, inCountries<whyDropped>},
     {{"duplicate-country", Severity::error, "two countries with the same ISO code"}, findDuplicates},
     {{"country-code", Severity::error, "an ISO code that is not two capital letters"},
      inCountries<errorInCode>},
@@ -113,12 +113,13 @@ CountryFile CountryFile::read(const std::string& root) {
     const std::vector<JsonValue> elements = JsonValue::parse(*text, kFile).elements();
     const std::optional<Value> content = parseJson(bytes);
     const auto* const list = content ? content->as<Value::List>() : nullptr;
-    if (!list || list->size() != elements.size()) fail(kFile, "it cannot read the file; save it as UTF-8");
+    if (!list || list->size() != elements.size())
+      fail(kFile, "the module cannot read the file; save it as UTF-8");
     if (list->empty()) fail(kFile, "the list is empty; add the countries");
     for (std::size_t i = 0; i < list->size(); ++i) file.elements.push_back({elements[i].at(), (*list)[i]});
   } catch (const CommandFailed& failed) {
     const Diagnostic& error = failed.diagnostics.front();
-    file.error = Finding{{error.line, error.column}, "the module offers no country: " + error.message};
+    file.error = Finding{{error.line, error.column}, "the module offers no countries: " + error.message};
   }
   return file;
 }

@@ -27,7 +27,7 @@ Term termFrom(const JsonValue& object) {
                         {"except", [&](const JsonValue& value) { term.exceptions = phrasesIn(value); }},
                         {"stems", storeStems}});
   if (term.name.empty() || term.english.empty())
-    object.fail("the term has no concept or no English words; add both");
+    object.fail("the term needs both a concept and English words");
   return term;
 }
 

@@ -71,7 +71,7 @@ void findWrongAddress(const Translation& translation, Findings& findings) {
   for (std::size_t at = 0; at < words.size(); ++at) {
     if (sizeAt(wrong, words, at) == 0) continue;
     findings.add(translation.entry, words[at].offset,
-                 "\"{}\" is another form of address; address the player as the other texts do",
+                 "\"{}\" is the wrong form of address; address the player as in the other texts",
                  words[at].spelled);
   }
 }
@@ -117,7 +117,7 @@ void findMixedScripts(const Translation& translation, Findings& findings) {
     const std::optional<std::string_view> stray = firstStrayLetter(word);
     if (!stray) continue;
     findings.add(translation.entry, static_cast<std::size_t>(stray->data() - prose.data()),
-                 "the letters of \"{}\" are of two scripts from \"{}\" on; use one script", word, *stray);
+                 "\"{}\" mixes letters of two scripts, starting at \"{}\"; use one script", word, *stray);
   }
 }
 
@@ -187,7 +187,7 @@ void findQuotationMarks(const Translation& translation, Findings& findings) {
   for (const std::string_view mark : kQuotationMarks) {
     const std::size_t offset = translation.entry.text.find(mark);
     if (offset == std::string::npos || right.find(mark) != std::string::npos) continue;
-    findings.add(translation.entry, offset, "{} is not a quotation mark of the language; use {}", mark,
+    findings.add(translation.entry, offset, "{} is not one of the language's quotation marks; use {}", mark,
                  right);
   }
 }
@@ -201,7 +201,7 @@ void findApostrophes(const Translation& translation, Findings& findings) {
 void findDots(const Translation& translation, Findings& findings) {
   const std::size_t offset = translation.entry.text.find("...");
   if (offset != std::string::npos)
-    findings.add(translation.entry, offset, "three dots are used as an ellipsis; write …");
+    findings.add(translation.entry, offset, "three dots instead of an ellipsis; write …");
 }
 
 /// Returns the offset of the first of two blanks in a row; `npos` if there are none.
@@ -220,7 +220,7 @@ std::size_t findTwoBlanks(std::string_view text) {
 void findDoubledBlanks(const Translation& translation, Findings& findings) {
   const std::size_t offset = findTwoBlanks(translation.entry.text);
   if (offset == std::string::npos || findTwoBlanks(translation.english.text) != std::string::npos) return;
-  findings.add(translation.entry, offset, "two blanks in a row; write one");
+  findings.add(translation.entry, offset, "two spaces in a row; write one");
 }
 
 /// Whether `mark`, at the offset `at`, needs no no-break space before it: at the beginning of the text or of a line,
@@ -274,20 +274,20 @@ void ifTranslated(const Translation& translation, Findings& findings) {
 constexpr RuleFor<Translation> kRules[] = {
     {{"glossary-term", Severity::warning, "a translation without the glossary's term for a concept"},
      ifTranslated<findOtherTerms>},
-    {{"address", Severity::warning, "a word that belongs to a wrong form of address"},
+    {{"address", Severity::warning, "a word that belongs to the wrong form of address"},
      ifTranslated<findWrongAddress>},
     {{"doubled-word", Severity::warning, "a repeated word, unless the glossary allows it"}, findDoubledWords},
     {{"mixed-scripts", Severity::warning, "a word with letters of two scripts: Latin, Cyrillic or Greek"},
      findMixedScripts},
     {{"english-words", Severity::warning,
-      "words of the English text that are not names: three in a row, or one if the language does not use "
+      "untranslated English words, except names: three in a row, or one if the language does not use "
       "Latin letters"},
      ifTranslated<findEnglishWords>},
     {{"quotation-marks", Severity::warning, "straight quotation marks, or those of another language"},
      ifTranslated<findQuotationMarks>},
     {{"apostrophe", Severity::warning, "a straight apostrophe"}, ifTranslated<findApostrophes>},
     {{"ellipsis", Severity::warning, "three dots instead of an ellipsis"}, ifTranslated<findDots>},
-    {{"doubled-blank", Severity::warning, "two blanks in a row, unless the English text has them"},
+    {{"doubled-blank", Severity::warning, "two spaces in a row, unless the English text has them"},
      findDoubledBlanks},
     {{"no-break-space", Severity::warning, "a mark without the no-break space that the language requires"},
      ifTranslated<findNoBreakSpaces>},

@@ -91,8 +91,8 @@ void findWrongForOne(const CheckedTable& subject, Findings& findings) {
     for (const std::string& word : wordsAfterNumbers(entry->text, *english->settings)) {
       if (!isElsewhere(forMany, word, english->entry) || isElsewhere(forOne, word, english->entry)) continue;
       findings.add(*entry,
-                   "\"{}\" follows a number that may be 1; write a text that fits it, or "
-                   "/* check: off wrong-for-one */ before it if the text does",
+                   "\"{}\" follows a number that may be 1; write a text that is right for 1 too, or /* "
+                   "check: off wrong-for-one */ before it if it already is",
                    word);
       break;
     }

@@ -41,14 +41,14 @@ void findMissingTable(const CheckedTable& subject, Findings& findings) {
   const bool isMissing = !isWellFormed(subject) && table.diagnostics.front().rule == Table::kMissing;
   const bool isEmpty = isWellFormed(subject) && table.entries.empty();
   if (subject.language == kBase && (isMissing || isEmpty)) {
-    findings.add(kFileBegin,
-                 "the English table is missing, empty or not readable, and without it an app stops at its "
-                 "first text; restore it");
+    findings.add(
+        kFileBegin,
+        "the English table is missing, empty or unreadable, so the app stops at its first text; restore it");
   } else if (isMissing) {
     findings.add(kFileBegin, "{}", table.diagnostics.front().message);
   } else if (!subject.isDirectoryListable) {
     findings.add(kFileBegin,
-                 "the module skips this language: its directory cannot be listed; allow reading it");
+                 "the module skips this language: its directory cannot be listed; make it readable");
   }
 }
 
@@ -75,7 +75,7 @@ void findDuplicates(const CheckedTable& subject, Findings& findings) {
     const auto [first, isNew] = firsts.try_emplace(entry.key, &entry);
     if (isNew) continue;
     const bool isSame = first->second->text == entry.text;
-    findings.add(entry, entry.keyAt, "the key \"{}\" is already in line {}{}", escaped(entry.key),
+    findings.add(entry, entry.keyAt, "the key \"{}\" is already on line {}{}", escaped(entry.key),
                  first->second->keyAt.line,
                  isSame ? "; remove one of the two" : " with another text; keep the right one");
   }
@@ -84,8 +84,9 @@ void findDuplicates(const CheckedTable& subject, Findings& findings) {
 void findReplacementCharacter(const TableEntry& entry, Findings& findings) {
   const std::size_t offset = entry.text.find("\uFFFD");
   if (offset == std::string::npos) return;
-  findings.add(entry, offset,
-               "the text has U+FFFD, which replaces a character that a conversion lost; write the character");
+  findings.add(
+      entry, offset,
+      "the text has U+FFFD in place of a character that was lost in a conversion; write that character");
 }
 
 void findControlCharacterIn(const TableEntry& entry, Findings& findings) {
@@ -104,10 +105,10 @@ void findEmptyText(const TableEntry& entry, Findings& findings) {
 
 void findUnknownEscapes(const TableEntry& entry, Findings& findings) {
   for (const auto& [at, spelled] : entry.unknownEscapes) {
-    findings.add(entry, at,
-                 "unknown escape \"{}\", of which users do not see the backslash; remove it, or write "
-                 "\"\\\\\" to show one",
-                 spelled);
+    findings.add(
+        entry, at,
+        "unknown escape \"{}\"; remove the backslash, which users do not see, or write \"\\\\\" to show one",
+        spelled);
   }
 }
 
@@ -156,7 +157,7 @@ std::vector<std::string_view> missingKeys(const CheckedTable& subject) {
 void findMissingEnglish(const CheckedTable& subject, Findings& findings) {
   if (subject.language != kBase || !isWellFormed(subject) || subject.table.entries.empty()) return;
   for (const std::string_view key : missingKeys(subject)) {
-    findings.add(kFileBegin, "the English table lacks \"{}\"; run zkstrings generate", key);
+    findings.add(kFileBegin, "\"{}\" is missing from the English table; run zkstrings generate", key);
   }
 }
 
@@ -174,7 +175,7 @@ std::string fixForSuffix(std::string_view key, const CheckedTable& subject) {
     return fmt::format("its entry has plural forms; write \"{0}_zero\" to \"{0}_many\" instead", key);
   const std::string_view bare = withoutSuffix(key);
   if (bare == key || !subject.english->find(bare)) return "";
-  return fmt::format("\"{}\" has no plural forms; remove this one", bare);
+  return fmt::format("\"{}\" has no plural forms; remove this entry", bare);
 }
 
 void findUnknownKeys(const CheckedTable& subject, Findings& findings) {
@@ -189,7 +190,7 @@ void findUnknownKeys(const CheckedTable& subject, Findings& findings) {
       fix = didYouMean(searches > 0 ? nearest(key, known) : std::nullopt, "remove the entry");
       searches -= std::min<std::size_t>(searches, 1);
     }
-    findings.add(entry, entry.keyAt, "nothing looks up the key \"{}\"; {}", key, fix);
+    findings.add(entry, entry.keyAt, "unknown key \"{}\"; {}", key, fix);
   }
 }
 

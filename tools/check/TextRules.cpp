@@ -63,7 +63,7 @@ void findMisspelt(const Translation& translation, Findings& findings) {
     if (use.isRight || contains(inEnglish, use.spelled)) continue;
     // Braces have no other use. After a percent sign, only a word like a name counts.
     if (!use.hasBrace && !meantBy(use.name, allowed)) continue;
-    findings.add(translation.entry, use.offset, "\"{}\" is not a placeholder, so users see it as it is; {}",
+    findings.add(translation.entry, use.offset, "\"{}\" is not a placeholder, so users see it literally; {}",
                  escaped(use.spelled), fixFor(use.name, allowed));
   }
 }
@@ -101,8 +101,7 @@ void findRepeated(const Translation& translation, Findings& findings) {
     const auto most = allowed.find(name);
     if (most == allowed.end() || count <= most->second) continue;
     findings.add(translation.entry,
-                 "the placeholder \"%{{{}}}\" is in the text {} times and in the English one {}; write "
-                 "it as often",
+                 "the placeholder \"%{{{}}}\" occurs {} times, but {} in the English text; use it as often",
                  name, count, most->second == 1 ? "once" : fmt::format("{} times", most->second));
   }
 }
@@ -114,8 +113,8 @@ void findOtherEnglish(const Translation& translation, Findings& findings) {
   const EnglishText& english = translation.english;
   if (translation.language != kBase || translation.entry.text == english.text) return;
   findings.add(translation.entry,
-               "the catalogue has \"{}\" here; run zkstrings generate, or zkstrings change {} to change the "
-               "English text",
+               "the text in the catalogue is \"{}\"; run zkstrings generate, or change the text with "
+               "zkstrings change {}",
                escaped(english.text), english.entry->key);
 }
 
@@ -125,7 +124,7 @@ void findMarks(const Translation& translation, Findings& findings) {
     return piece.kind == TextPiece::Kind::placeholder && !piece.text.starts_with('%');
   });
   if (areUnpaired) {
-    findings.add(translation.entry, "the <b> tags or * marks are not in pairs; open and close each part");
+    findings.add(translation.entry, "unbalanced <b> tags or * marks; open and close each part");
     return;
   }
   for (const auto& [name, opening] : {std::pair("<b> tags", "<b>"), std::pair("* marks", "*")}) {
@@ -136,7 +135,7 @@ void findMarks(const Translation& translation, Findings& findings) {
                    name);
     } else if (here > 0 && english == 0) {
       findings.add(translation.entry,
-                   "the English text has no {}, and users may see them as they are; remove them", name);
+                   "the English text has no {}, so users may see them literally; remove them", name);
     }
   }
 }
@@ -146,7 +145,8 @@ void findLineBreaks(const Translation& translation, Findings& findings) {
   const std::size_t english = countOf(translation.english.text, "\n");
   if (here == english) return;
   findings.add(translation.entry,
-               "the number of line breaks (\\n) is {}, in the English text {}; write as many", here, english);
+               "the number of line breaks (\\n) is {}, but {} in the English text; use the same number", here,
+               english);
 }
 
 void findOuterSpace(const Translation& translation, Findings& findings) {
@@ -154,10 +154,10 @@ void findOuterSpace(const Translation& translation, Findings& findings) {
   const OuterSpace english = outerSpace(translation.english.text);
   if (here == english) return;
   const bool isLeading = here.leading != english.leading;
-  findings.add(
-      translation.entry, "the white space {} is \"{}\" but \"{}\" in the English text; write the same",
-      isLeading ? "before the text" : "after the text", escaped(isLeading ? here.leading : here.trailing),
-      escaped(isLeading ? english.leading : english.trailing));
+  findings.add(translation.entry,
+               "the {} white space is \"{}\", but \"{}\" in the English text; use the same",
+               isLeading ? "leading" : "trailing", escaped(isLeading ? here.leading : here.trailing),
+               escaped(isLeading ? english.leading : english.trailing));
 }
 
 void findEndPunctuation(const Translation& translation, Findings& findings) {
@@ -166,7 +166,7 @@ void findEndPunctuation(const Translation& translation, Findings& findings) {
   const bool isStop = english == Ending::stop || english == Ending::question;
   const bool mayBeBare = isStop && !translation.glossary.styleOf(translation.language).sentenceStops;
   if (here == english || (mayBeBare && here == Ending::none)) return;
-  findings.add(translation.entry, "the text ends with {}, the English text with {}; write the same",
+  findings.add(translation.entry, "the text ends with {}, the English text with {}; use the same",
                nameOf(here), nameOf(english));
 }
 
@@ -182,8 +182,7 @@ void findDigits(const Translation& translation, Findings& findings) {
                             ? std::includes(english.begin(), english.end(), here.begin(), here.end())
                             : here == english;
   if (areRight) return;
-  findings.add(translation.entry,
-               "the numbers in the text are \"{}\" but \"{}\" in the English one; write the same",
+  findings.add(translation.entry, "the numbers are \"{}\", but \"{}\" in the English text; use the same",
                fmt::join(here, " "), fmt::join(english, " "));
 }
 
@@ -198,7 +197,8 @@ void findSameText(const Translation& translation, Findings& findings) {
   if (text != translation.english.text || translation.english.settings->isSameEverywhere(text)) return;
   const TranslationState state = stateOf(translation.language, &translation.entry, translation.english);
   if (state == TranslationState::untranslated) return;
-  findings.add(translation.entry, "\"{}\" is the English text; translate it unless the word is the same",
+  findings.add(translation.entry,
+               "\"{}\" is the English text; translate it, unless the word is the same in both languages",
                escaped(text));
 }
 
@@ -208,7 +208,7 @@ void findLongText(const Translation& translation, Findings& findings) {
   const std::size_t times = english <= kLongestShort ? kTimesForShort : kTimesForLong;
   if (here <= english * times) return;
   findings.add(translation.entry,
-               "the text has {} characters, the English one {}; shorten it, or make sure that it fits", here,
+               "the text has {} characters, the English text {}; shorten it, or make sure that it fits", here,
                english);
 }
 
@@ -242,7 +242,7 @@ constexpr RuleFor<Translation> kRules[] = {
     {{"outer-space", Severity::warning, "leading or trailing white space that differs from the English text"},
      findOuterSpace},
     {{"end-punctuation", Severity::warning,
-      "final punctuation of a different kind from the English text's; its script does not matter"},
+      "final punctuation that differs from the English text, regardless of script"},
      findEndPunctuation},
     {{"digits", Severity::warning,
       "numbers that differ from the English text; _zero, _one and _two may spell them out"},

@@ -52,7 +52,7 @@ struct ExportArguments {
 
 void runExport(const std::string& root, const ExportArguments& arguments) {
   if (!arguments.xliff.empty() && !arguments.format.empty() && arguments.format != "xliff")
-    throw CLI::ValidationError("--xliff", fmt::format("not with --format {}", arguments.format));
+    throw CLI::ValidationError("--xliff", fmt::format("cannot be used with --format {}", arguments.format));
   const std::string language = existingLanguage(root, arguments.language);
   const Translations translations = translationsOf(root, language, arguments.onlyOpen, arguments.sources);
   const std::string bytes = written(translations, arguments.chosenFormat());
@@ -81,7 +81,7 @@ Translations readFor(const std::string& root, const ImportArguments& arguments) 
                      translations.language, arguments.language));
   if (!arguments.language.empty()) translations.language = arguments.language;
   if (translations.language.empty())
-    fail(arguments.file, "the file does not name its language; name it with --language");
+    fail(arguments.file, "the file does not name its language; set it with --language");
   translations.language =
       existingLanguage(root, translations.language, arguments.language.empty() ? arguments.file : "");
   return translations;
@@ -175,7 +175,7 @@ void addPseudoCommand(CLI::App& app, const RootFinder& inRoot) {
     const std::string root = inRoot();
     if (directory.empty()) directory = pathInProject(root, kPseudoResources);
     writePseudoLocales(root, absolutePath(directory));
-    say("Wrote xa, xb and xk into {}. An app that prefers one of them shows it.\n", directory);
+    say("Wrote xa, xb and xk to {}. To see one, make it the app's preferred language.\n", directory);
   });
 }
 

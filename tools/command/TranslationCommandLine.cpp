@@ -85,7 +85,7 @@ std::string summaryOf(const TableUpdate& update) {
   add("marked", update.marked, "text as untranslated", "texts as untranslated");
   add("unmarked", update.unmarked, "translated text", "translated texts");
   add("marked", update.reviews, "translation for review", "translations for review");
-  add("removed", update.removed, "entry that the app never looks up", "entries that the app never looks up");
+  add("removed", update.removed, "entry with an unknown key", "entries with unknown keys");
   return done.empty() ? "refreshed comments" : fmt::format("{}", fmt::join(done, ", "));
 }
 
@@ -179,7 +179,7 @@ void addUpdateCommand(CLI::App& app, const RootFinder& inRoot) {
     const TableUpdate update = updateTable(root, language, prunes);
     print(stdout, fromWorkingDirectory(update.notLookedUp, root));
     say("{}: {}\n", fromWorkingDirectory(tablePath(language), root),
-        update.isChange ? summaryOf(update) : "up to date, nothing changed");
+        update.isChange ? summaryOf(update) : "already up to date");
   });
 }
 

@@ -92,8 +92,9 @@ class CSVReader {
       if (row.empty()) continue;
       if (row.size() > titles_.size()) {
         fail(file_, at,
-             fmt::format("the line has more cells than the first line; put a text with \"{}\" in quotes",
-                         separator_));
+             fmt::format(
+                 "the line has more cells than the first line; put texts that contain \"{}\" in quotes",
+                 separator_));
       }
       // Rows may be shorter than the row of titles. Translators leave words such as "missing" in the column of states.
       const auto cellOf = [&](std::size_t column) { return column < row.size() ? row[column] : ""; };
@@ -118,7 +119,8 @@ class CSVReader {
     const std::size_t column = columnOf(title);
     if (column == titles_.size())
       fail(file_,
-           fmt::format("no column has the title \"{}\"; write one, as in key,en,de,state,notes", title));
+           fmt::format("the column \"{}\" is missing; the first line must be like key,en,de,state,notes",
+                       title));
     return column;
   }
 

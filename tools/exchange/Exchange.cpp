@@ -44,7 +44,7 @@ std::vector<std::string> notesOn(const EnglishText& english) {
   const std::vector<TextPiece> pieces = piecesOf(english.text);
   if (std::any_of(pieces.begin(), pieces.end(),
                   [](const TextPiece& piece) { return piece.kind == TextPiece::Kind::opening; }))
-    notes.emplace_back("Words between <b> and </b> are bold, words between * and * are emphasised.");
+    notes.emplace_back("Words between <b> and </b> are bold; words between two * are emphasised.");
   notes.push_back(fmt::format("The English text has {} characters.", lengthOf(english.text)));
   return notes;
 }
@@ -142,9 +142,9 @@ class Importer {
 
   void accept(const TranslationUnit& unit) {
     if (!english_.find(unit.key)) {
-      refuse(unit, fmt::format("nothing looks up the key \"{}\"; the text is left out", escaped(unit.key)));
+      refuse(unit, fmt::format("unknown key \"{}\"; the text is not imported", escaped(unit.key)));
     } else if (!units_.emplace(unit.key, &unit).second) {
-      refuse(unit, fmt::format("duplicate key \"{}\"; the first text counts", escaped(unit.key)));
+      refuse(unit, fmt::format("duplicate key \"{}\"; only the first text is imported", escaped(unit.key)));
     }
   }
 
@@ -154,7 +154,8 @@ class Importer {
     if (isBlank(unit.target)) {
       if (present == TranslationState::translated && !isBlank(entry->text))
         report(Severity::note, unit,
-               fmt::format("\"{}\" has no translation here; the table's is kept", escaped(unit.key)));
+               fmt::format("\"{}\" has no translation in this file; the table's translation is kept",
+                           escaped(unit.key)));
       return;
     }
     const bool isOutdated = unit.source != english.text;
@@ -188,10 +189,9 @@ class Importer {
                               const TableEntry* entry, TranslationState present) {
     if (unit.source != english.text)
       return fmt::format(
-          "the English text of \"{}\" is now \"{}\", no longer \"{}\"; check that the translation still "
-          "fits, then "
-          "import with --force",
-          escaped(unit.key), escaped(english.text), escaped(unit.source));
+          "the English text of \"{}\" has changed from \"{}\" to \"{}\"; check the translation, then import "
+          "it with --force",
+          escaped(unit.key), escaped(unit.source), escaped(english.text));
     const std::string_view translation = translationIn(entry, present);
     if (!hasOtherVersion(unit, versionNote(translation, present))) return "";
     return fmt::format(
@@ -226,8 +226,9 @@ class Importer {
     }
     const auto isError = [](const Diagnostic& diagnostic) { return diagnostic.severity == Severity::error; };
     if (std::none_of(result_.diagnostics.begin(), result_.diagnostics.end(), isError)) return;
-    result_.diagnostics.push_back({Severity::note, file_, 1, 1, "",
-                                   "nothing is imported because of the errors; fix them and import again"});
+    result_.diagnostics.push_back(
+        {Severity::note, file_, 1, 1, "",
+         "nothing was imported because of these errors; fix them and import the file again"});
     throw CommandFailed{std::move(result_.diagnostics)};
   }
 
@@ -248,7 +249,7 @@ class Importer {
 
 Import importTranslations(const std::string& root, const Translations& translations, const std::string& file,
                           bool force) {
-  if (translations.language == kBase) fail(file, "the English texts are not imported; use zkstrings change");
+  if (translations.language == kBase) fail(file, "English texts cannot be imported; use zkstrings change");
   return Importer(root, translations, file, force).run();
 }
 

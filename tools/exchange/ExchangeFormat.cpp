@@ -47,9 +47,9 @@ Translations readTranslations(const std::string& path) {
       !failure && size > kLargest)
     fail(path, "the file is larger than 32 MiB; no export is that large");
   if (path.ends_with(".strings"))
-    fail(path, "string tables are not imported; edit resources/xx.lproj/Localizable.strings in place");
+    fail(path, "string tables cannot be imported; edit resources/xx.lproj/Localizable.strings in place");
   const std::optional<std::string> text = decodedText(readFile("", path));
-  if (!text) fail(path, "the file is not text in UTF-8; save it as UTF-8");
+  if (!text) fail(path, "the file is not UTF-8 text; save it as UTF-8");
   const std::size_t start = text->find_first_not_of(" \t\r\n");
   if (start != std::string::npos && (*text)[start] == '<') return fromXLIFF(*text, path);
   const ExchangeFormat format = formatNamedBy(path);

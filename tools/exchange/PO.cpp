@@ -166,14 +166,14 @@ class POReader {
     if (entry_.texts[target]) endEntry();
     const bool isInOrder = part == target ? entry_.texts[source].has_value() : !entry_.texts[source];
     if (!isInOrder || entry_.texts[part])
-      fail(file_, at_, "an entry has msgctxt, msgid and msgstr in this order; the file may be damaged");
+      fail(file_, at_, "misplaced keyword; write msgctxt, msgid and msgstr in this order");
     if (part == context || (part == source && !entry_.texts[context])) entry_.unit.at = at_;
     text_ = &entry_.texts[part].emplace();
   }
 
   /// Adds the text in quotes, which goes up to the end of the line, to the current part.
   void readText(std::string_view rest) {
-    if (!text_) fail(file_, at_, "a text without a keyword before it; write msgctxt, msgid or msgstr");
+    if (!text_) fail(file_, at_, "quoted text without a keyword; write msgctxt, msgid or msgstr before it");
     bool isQuoted = rest.starts_with('"');
     for (rest = rest.substr(isQuoted); isQuoted && !rest.starts_with('"');) {
       const std::string_view plain = rest.substr(0, rest.find_first_of("\\\""));
@@ -183,12 +183,11 @@ class POReader {
       if (rest[0] == '"') break;
       rest.remove_prefix(1);
       const std::optional<char> character = takeEscape(rest);
-      if (!character)
-        fail(file_, at_, "a backslash before a character without a meaning; write \\\\ for a backslash");
+      if (!character) fail(file_, at_, "unknown escape sequence; write \\\\ for a backslash");
       *text_ += *character;
     }
     if (!isQuoted || !withoutLeadingBlanks(rest.substr(1)).empty())
-      fail(file_, at_, "write the text in quotes, and a backslash before each quote in it");
+      fail(file_, at_, "expected one text in quotes; write a backslash before each quote in it");
   }
 
   void endEntry() {

@@ -129,8 +129,7 @@ class XLIFFReader {
                          lowerCased(result.description())));
     // The parser leaves them as they are.
     if (const std::size_t entity = unknownEntity(text); entity != std::string::npos)
-      refuse(entity,
-             "\"&\" does not start an entity that XML defines; write \"&amp;\" for the character itself");
+      refuse(entity, "unknown XML entity; write \"&amp;\" for the character \"&\"");
   }
 
   Translations read() {
@@ -263,10 +262,9 @@ class XLIFFReader {
     if (text.empty()) text = repeated(codes.byId, id, code);
     if (text.empty()) text = code.attribute("equiv-text").value();
     if (text.empty())
-      refuse(
-          code,
-          fmt::format("the element <{} id=\"{}\"> does not match one in the English text; copy it from there",
-                      code.name(), id));
+      refuse(code,
+             fmt::format("<{} id=\"{}\"> does not match any element of the English text; copy it from there",
+                         code.name(), id));
     codes.byId[id] = limited(text, code);
     return text;
   }

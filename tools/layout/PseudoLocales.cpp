@@ -120,7 +120,7 @@ std::vector<FileChange> copiesOf(const fs::path& resources, const std::string& f
     const std::string path = file->path().lexically_relative(resources).generic_string();
     copies.push_back({pathBelow(folder, path), readFile(resources.generic_string(), path)});
   }
-  if (failure) fail(resources.generic_string(), "the folder cannot be listed; see that it may be read");
+  if (failure) fail(resources.generic_string(), "the folder cannot be listed; make it readable");
   return copies;
 }
 

@@ -65,7 +65,7 @@ class ShownTexts {
       : resources_(Bundle::initWithPath(root + "/resources")), english_(english) {
     const ResourcePath* const base = resources_ ? resources_->pathForResource(kBase, "lproj") : nullptr;
     if (!base || !Bundle::initWithPath(*base))
-      fail("resources/Base.lproj", "the folder of the English texts cannot be read; see that it exists");
+      fail("resources/Base.lproj", "the folder of the English texts cannot be read; check that it exists");
   }
 
   /// The text of the key of `english` in the language of the process. With `isMarked`, each value is U+FDD0, the

@@ -35,7 +35,8 @@ constexpr std::pair<Entry::Kept, const char*> kKeptNames[] = {{Entry::Kept::key,
 void storePlural(const JsonValue& value, Entry& entry) {
   entry.plural = true;
   if (value.isTrue()) return;
-  if (!value.isObject() || value.members().empty()) value.fail("write true, or forms: {\"one\": \"...\"}");
+  if (!value.isObject() || value.members().empty())
+    value.fail("expected true or plural forms; write {\"one\": \"...\"}");
   std::vector<KnownMember> known;
   known.reserve(entry.forms.size());
   for (std::size_t i = 0; i < entry.forms.size(); ++i)
@@ -52,7 +53,7 @@ void storeKept(const JsonValue& value, Entry& entry) {
 }
 
 void storeMax(const JsonValue& value, Entry& entry) {
-  if (value.integer() < 1) value.fail("write a number from 1");
+  if (value.integer() < 1) value.fail("the limit is below 1; write the maximum number of characters");
   entry.max = static_cast<std::size_t>(value.integer());
 }
 
@@ -110,15 +111,15 @@ void checkEntry(const Entry& entry, Diagnostics& diagnostics) {
   const std::string ruled = keyForText(entry.text);
   if (entry.kept == Entry::Kept::nothing && entry.key != ruled) {
     fail(fmt::format(
-        "the key \"{}\" does not follow from its text; if you changed the text, run zkstrings generate; "
+        "the key \"{}\" does not match its text; if you changed the text, run zkstrings generate; "
         "if the text is new, its key is \"{}\"",
         entry.key, ruled));
   }
   if (entry.kept == Entry::Kept::key && entry.key == ruled) {
-    fail(fmt::format("the key \"{}\" follows the rule; remove \"kept\"", entry.key));
+    fail(fmt::format("the key \"{}\" matches its text; remove \"kept\"", entry.key));
   }
   if (identifierFor(entry.key).empty()) {
-    fail(fmt::format("the key \"{}\" cannot name a function; give it a letter or digit", entry.key));
+    fail(fmt::format("the key \"{}\" is not a valid function name; add a letter or digit", entry.key));
   }
   if (hasCarriageReturnOrNul(entry.key) || hasCarriageReturnOrNul(entry.text)) fail(kNoCarriageReturn);
   // The comment is copied into comments of C++ and of tables.
@@ -130,11 +131,11 @@ void checkEntry(const Entry& entry, Diagnostics& diagnostics) {
   std::set<std::string_view> seen;
   for (const std::string_view name : placeholderNames(entry.text)) {
     if (keyForText(name) != name || name.find('_') != std::string_view::npos) {
-      fail(fmt::format("the placeholder \"%{{{}}}\" cannot name an argument; use letters and digits", name));
+      fail(fmt::format("the placeholder \"%{{{}}}\" is not a valid argument name; use letters and digits",
+                       name));
     }
     if (!seen.insert(name).second) {
-      fail(fmt::format("the placeholder \"%{{{}}}\" is twice in one text; give the second another name",
-                       name));
+      fail(fmt::format("the placeholder \"%{{{}}}\" occurs twice in one text; rename the second", name));
     }
   }
   for (const PlaceholderUse& use : placeholderUses(entry.text)) {
@@ -148,12 +149,12 @@ void checkEntry(const Entry& entry, Diagnostics& diagnostics) {
     if (hasCarriageReturnOrNul(form)) fail(kNoCarriageReturn);
     for (const std::string_view name : placeholderNames(form)) {
       if (seen.contains(name)) continue;
-      fail(fmt::format("the form \"{}\" has the placeholder \"%{{{}}}\", which the text lacks", escaped(form),
-                       name));
+      fail(fmt::format("the form \"{}\" has the placeholder \"%{{{}}}\", which is not in the text; remove it",
+                       escaped(form), name));
     }
   }
   if (entry.plural && seen.contains("count")) {
-    fail("a counted entry has the argument count already; name its placeholder otherwise");
+    fail("\"%{count}\" clashes with the argument for the count; rename the placeholder");
   }
 }
 
@@ -178,23 +179,22 @@ void checkEntries(const std::vector<Entry>& entries, Diagnostics diagnostics) {
     const auto [first, isFirst] = texts.try_emplace(entry.key, &entry);
     if (!isFirst && first->second->text != entry.text) {
       fail(fmt::format(
-          "the key \"{}\" has a different text in line {}; keep one of the two, or make them equal",
+          "the key \"{}\" has a different text on line {}; keep one of the two, or make them equal",
           entry.key, first->second->line));
     } else if (!isNew) {
-      fail(fmt::format("the accessor \"{}\" is already in line {}; keep one of the two",
+      fail(fmt::format("the accessor \"{}\" is already on line {}; keep one of the two",
                        identifierFor(entry.key), same->second->line));
     }
     for (const std::string& key : entry.lookedUpKeys()) {
       const Entry& other = *inTables.try_emplace(key, &entry).first->second;
       if (other.key == entry.key) continue;
-      fail(fmt::format(
-          "\"{}\" and \"{}\" in line {} have the same key \"{}\" in the tables; give one of them another key",
-          entry.key, other.key, other.line, key));
+      fail(fmt::format("\"{}\" and \"{}\" on line {} share the key \"{}\" in the tables; change one of them",
+                       entry.key, other.key, other.line, key));
     }
     if (entry.kept == Entry::Kept::place) continue;
     if (previous && lowerCased(entry.key) < lowerCased(previous->key)) {
-      fail(fmt::format("the key \"{}\" is out of place; it goes before \"{}\" (without regard to case)",
-                       entry.key, previous->key));
+      fail(fmt::format("the key \"{}\" is out of order; move it before \"{}\" (case is ignored)", entry.key,
+                       previous->key));
     } else {
       previous = &entry;
     }

@@ -95,13 +95,12 @@ std::string identifierFor(std::string_view name) {
 std::string CatalogueName::error() const {
   if (isModule()) return "";
   if (!isIdentifier(name))
-    return fmt::format("the name \"{}\" cannot name a class; use letters, digits and _, as in Texts", name);
+    return fmt::format("\"{}\" is not a valid class name; use letters, digits and _, as in Texts", name);
   if (!nameSpace.empty() && !isNamespace(nameSpace))
     return fmt::format(
-        "the namespace \"{}\" cannot name one; use letters, digits and _, as in myapp or myapp::texts",
-        nameSpace);
+        "\"{}\" is not a valid namespace; use letters, digits and _, as in myapp or myapp::texts", nameSpace);
   if (name == nameSpace)
-    return fmt::format("the namespace is called \"{}\" like the class; change one", name);
+    return fmt::format("the class and the namespace are both named \"{}\"; rename one", name);
   return "";
 }
 

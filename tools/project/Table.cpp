@@ -102,7 +102,7 @@ Table Table::read(const std::string& root, std::string_view language) {
     return {path,
             {},
             {{Severity::error, path, 1, 1, kMissing,
-              "the language has no table that can be read; begin one with zkstrings template"}},
+              "the language has no readable table; create one with zkstrings template"}},
             {}};
   }
 }

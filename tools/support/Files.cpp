@@ -186,7 +186,7 @@ std::string findRoot() {
 
 std::string rootAt(const std::string& directory) {
   if (pathExists(pathBelow(directory, kMark))) return directory;
-  fail(kMark, "no such file; --root needs the folder that has catalogue/");
+  fail(kMark, "no such file; --root needs the folder that contains catalogue/");
 }
 
 std::string pathInProject(const std::string& root, const std::string& path) {

@@ -71,8 +71,9 @@ class JsonBuilder : public nlohmann::json_sax<Json> {
     if (Diagnostics conflicts = mergeConflictsIn(text_, std::string(file_)); !conflicts.empty())
       throw CommandFailed{std::move(conflicts)};
     const bool isTooLarge = dynamic_cast<const Json::out_of_range*>(&error) != nullptr;
-    tools::fail(std::string(file_), positions_.at(std::max<std::size_t>(position, 1) - 1),
-                isTooLarge ? "the number is too large" : "not valid JSON here; correct the syntax");
+    tools::fail(
+        std::string(file_), positions_.at(std::max<std::size_t>(position, 1) - 1),
+        isTooLarge ? "the number is too large; write a smaller one" : "invalid JSON; correct the syntax");
   }
 
  private:
@@ -154,10 +155,10 @@ void storeMembers(const JsonValue& object, const std::vector<KnownMember>& known
       std::vector<std::string_view> names;
       for (const KnownMember& one : known) names.push_back(one.name);
       object.failAt(member.nameAt,
-                    fmt::format("unknown member \"{}\"; known are {}", member.name, fmt::join(names, ", ")));
+                    fmt::format("unknown member \"{}\"; use one of {}", member.name, fmt::join(names, ", ")));
     }
     if (!seen.insert(member.name).second)
-      object.failAt(member.nameAt, fmt::format("repeated member \"{}\"; remove one", member.name));
+      object.failAt(member.nameAt, fmt::format("duplicate member \"{}\"; remove one", member.name));
     found->store(member.value);
   }
 }

@@ -56,7 +56,7 @@ std::string adviceFor(std::string_view name, const std::vector<std::string>& lan
   std::vector<std::string> names = languages;
   for (const std::string& language : languages) names.push_back(lowerCased(languageName(language, "en")));
   const auto meant = nearest(name, {names.begin(), names.end()});
-  return didYouMean(meant, "zkstrings coverage lists the languages that have one");
+  return didYouMean(meant, "zkstrings coverage lists the languages");
 }
 
 /// The name without the folders before it and the extension: "de" for "resources/de.lproj/Localizable.strings".
@@ -115,7 +115,8 @@ std::string existingLanguage(const std::string& root, std::string_view word, con
 
   const std::string advice = code.empty() ? adviceFor(lowerCased(name), languages)
                                           : fmt::format("zkstrings template {} creates one", code);
-  const std::string message = fmt::format("no language has a table named \"{}\"; {}", word, advice);
+  const std::string message =
+      fmt::format("{} \"{}\"; {}", code.empty() ? "unknown language" : "no table for", word, advice);
   if (!file.empty()) fail(file, message);
   throw std::invalid_argument(message);
 }

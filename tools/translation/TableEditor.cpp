@@ -35,7 +35,7 @@ TableEditor TableEditor::open(const std::string& root, std::string_view language
 TableEditor::TableEditor(std::string bytes, const std::string& file) : text_(std::move(bytes)) {
   table_ = Table::parse(text_, file);
   if (!table_.diagnostics.empty()) throw CommandFailed{table_.diagnostics};
-  if (!isUtf8(text_)) fail(file, "only tables in UTF-8 are edited; save the file as UTF-8");
+  if (!isUtf8(text_)) fail(file, "the table is not in UTF-8; save it as UTF-8");
   if (!text_.starts_with(kByteOrderMark)) return;
   mark_ = kByteOrderMark;
   text_.erase(0, mark_.size());

@@ -46,18 +46,18 @@ void updateUnknown(const TableEntry& entry, bool prunes, TableEditor& editor, Ta
   }
   update.notLookedUp.push_back(
       {Severity::warning, editor.table().file, entry.keyAt.line, entry.keyAt.column, "",
-       fmt::format("nothing looks up the key \"{}\"; --prune removes the entry", escaped(entry.key))});
+       fmt::format("unknown key \"{}\"; --prune removes the entry", escaped(entry.key))});
 }
 
 }  // namespace
 
 std::size_t writeTemplate(const std::string& root, const std::string& language) {
-  if (language.empty()) throw std::invalid_argument("the language is empty; give its ISO 639-1 code");
+  if (language.empty()) throw std::invalid_argument("the language is empty; write its ISO 639-1 code");
   const std::string path = tablePath(language);
   if (const std::string reason = whyNeverChosen(language); !reason.empty())
     throw std::invalid_argument(reason);
   if (pathExists(pathBelow(root, path)))
-    fail(path, "the table exists already, and its texts would be lost; remove it first to start again");
+    fail(path, "the table already exists; to start over, remove it first");
   const Catalogue catalogue = Catalogue::read(root);
   const EnglishTexts english(catalogue);
   std::string table = fmt::format(
@@ -102,7 +102,7 @@ std::size_t markChanged(TableEditor& editor, const EnglishTexts& english, const 
 
 TableUpdate updateTable(const std::string& root, const std::string& language, bool prunes) {
   if (language == kBase)
-    throw std::invalid_argument("the English table is not translated; zkstrings add adds a text to it");
+    throw std::invalid_argument("the English table is not translated; to add a text, use zkstrings add");
   if (std::string reason = whyNeverChosen(language); !reason.empty())
     fail(tablePath(language), std::move(reason));
   const Catalogue catalogue = Catalogue::read(root);
