@@ -9,8 +9,8 @@
 
 namespace zk {
 
-/// Call `localizedString` for an accessor. The code of the accessors is most of the library, so it is kept small: they pass
-/// registers and own nothing that must be destroyed.
+/// Calls `localizedString` on behalf of an accessor. Most of the library's code is accessors, so each is kept small: it
+/// passes its arguments in registers, and owns nothing that must be destroyed.
 [[nodiscard]] std::string entryText(std::string_view key, std::string_view english);
 [[nodiscard]] std::string entryText(std::string_view key, std::string_view english, std::int64_t count);
 [[nodiscard]] std::string entryText(std::string_view key, std::string_view english,

@@ -23,7 +23,7 @@ TextLanguage languageOf(std::string_view name) {
 
 /// Whether a lookup can choose the directory `name`.lproj: some identifier has that code, and the directory opens.
 bool canBeChosen(const Bundle& resources, std::string_view name) {
-  if (name != "Base" && languageCode(name) != name) return false;
+  if (name != "Base" && languageDirectoryName(name) != name) return false;
   try {
     return Bundle::initWithPath(*resources.pathForResource(name, kType)) != nullptr;
   } catch (const std::system_error&) {

@@ -36,7 +36,7 @@ struct TextLanguage {
 ///     window.setMirrored(zk::chosenLanguage().direction == zk::TextDirection::rtl);
 ///
 /// Returns English while the resources temporarily cannot be opened. Thread-safe. Throws std::bad_alloc if memory runs
-/// out. Stops the process if `Current::language` was not assigned, and if Base.lproj is needed but missing.
+/// out. Stops the process if `Current::language` has not been assigned, or if Base.lproj is needed but missing.
 [[nodiscard]] ZK_EXPORT TextLanguage chosenLanguage();
 
 /// Returns the chosen language of a catalogue whose resources are in `resources`. Returns English if `resources` is

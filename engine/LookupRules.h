@@ -20,14 +20,14 @@ namespace zk {
     case 2:
       return "_two";
     default:
-      // 3, 4 and 5. As an unsigned number, every negative count is far above them.
+      // 3, 4 or 5. Converted to an unsigned number, a negative count is much larger.
       return static_cast<std::uint64_t>(count) - 3 <= 2 ? "_few" : "_many";
   }
 }
 
 /// Returns the name of the directory for a language identifier such as "pt-BR": its first two characters, or "Base" for
 /// English.
-[[nodiscard]] inline std::string_view languageCode(std::string_view identifier) {
+[[nodiscard]] inline std::string_view languageDirectoryName(std::string_view identifier) {
   const std::string_view code = firstTwoCharacters(identifier);
   return code.size() == 2 && code[0] == 'e' && code[1] == 'n' ? "Base" : code;
 }
@@ -40,12 +40,12 @@ namespace zk {
 /// Stops the process, because the directory of a language was removed between two steps of a lookup.
 [[noreturn, gnu::cold, gnu::noinline]] ZK_EXPORT void languageDirectoryHasVanished();
 
-/// Returns the bundle of the language directory that `preferredLanguages` chooses in `bundle`: the directory of the
-/// first entry that exists and opens, or else Base.lproj. Stops the process if Base.lproj is needed, but missing or
-/// not a directory, and if a directory vanishes between two steps.
+/// Returns the language directory of `bundle` to use: that of the first of `preferredLanguages` whose directory exists
+/// and opens, or else Base.lproj. Stops the process if Base.lproj is needed but missing or not a directory, or if a
+/// directory vanishes between two steps.
 ///
-/// `PlatformBundle` is `Bundle`, or a test class. An entry's directory is looked up once to see that it exists and once
-/// to open it, and for the winner both steps are repeated.
+/// `PlatformBundle` is `Bundle`, or a test class. Each directory is looked up once to see whether it exists. If so, it is
+/// looked up again and opened. For the chosen directory, this second step is repeated.
 template <class PlatformBundle>
 const PlatformBundle& chosenLanguageBundle(const PlatformBundle& bundle,
                                            const SharedArray<std::string>& preferredLanguages) {
@@ -55,7 +55,7 @@ const PlatformBundle& chosenLanguageBundle(const PlatformBundle& bundle,
     return PlatformBundle::initWithPath(*path);
   };
   for (const std::string& identifier : preferredLanguages) {
-    const std::string_view code = languageCode(identifier);
+    const std::string_view code = languageDirectoryName(identifier);
     if (!bundle.pathForResource(code, "lproj") || !open(code)) continue;
     const PlatformBundle* const winner = open(code);
     if (!winner) languageDirectoryHasVanished();

@@ -42,7 +42,7 @@ class LookupKey {
   std::string_view key_;
 };
 
-/// The bundle to look a text up in: one without resources while that temporarily cannot be found.
+/// The bundle to look up a text in. It has no resources if `resources` is null or temporarily cannot be read.
 const Bundle& chosenBundle(const Bundle* resources, const SharedArray<std::string>& preferredLanguages) {
   try {
     if (resources) return chosenLanguageBundle(*resources, preferredLanguages);

@@ -28,21 +28,21 @@ namespace zk {
 /// All texts are UTF-8. Bytes that are not UTF-8 stay as they are. Returns the English text while the table temporarily
 /// cannot be opened.
 ///
-/// Thread-safe. Throws std::bad_alloc if memory runs out. Stops the process if `Current::language` was not assigned
-/// (after one line on standard error), and if Base.lproj is needed but missing from the module's resources (in a
-/// function whose name says so).
+/// Thread-safe. Throws std::bad_alloc if memory runs out. Stops the process, after one line on standard error, if
+/// `Current::language` has not been assigned. Stops the process if Base.lproj is needed but missing, in a function whose
+/// name says so.
 [[nodiscard]] ZK_EXPORT std::string localizedString(std::string_view key, std::string_view defaultValue,
                                                     std::optional<std::int64_t> count,
                                                     const Substitutions& substitutions);
 
-/// Returns the finished text of one entry of a catalogue with its own resources, as `localizedString` does for the module's.
+/// Returns the finished text of one entry of your own catalogue, as the overload without `resources` does for the module's.
 /// `resources` contains language directories such as Base.lproj. If it is null, the English text is used.
 ///
 ///     const zk::Bundle& texts = zk::Bundle::bundleForClass(typeid(MyTexts), "MyTexts");
 ///     zk::localizedString(&texts, "Hello", "Hello", std::nullopt, {})
 ///
-/// Thread-safe. Throws std::bad_alloc if memory runs out. Stops the process if `Current::language` was not assigned
-/// and if Base.lproj is needed but missing.
+/// Thread-safe. Throws std::bad_alloc if memory runs out. Stops the process if `Current::language` has not been assigned,
+/// or if Base.lproj is needed but missing.
 [[nodiscard]] ZK_EXPORT std::string localizedString(const Bundle* resources, std::string_view key,
                                                     std::string_view defaultValue,
                                                     std::optional<std::int64_t> count,

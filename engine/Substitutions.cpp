@@ -31,8 +31,8 @@ const Substitutions::Pair* pairAt(std::string_view text, const Substitutions& su
 constexpr std::size_t kRoom = 512;
 
 /// Writes `text` with all placeholders filled in to `to`, which has room for `kRoom` bytes, and returns the end. Returns
-/// null if the result is too long, or may differ from replacing one pair after the other: if a placeholder has no
-/// pair, if an accent follows a placeholder, or if a value completes a new placeholder.
+/// null if the result is too long. Also returns null if replacing one pair after the other may have another result: if
+/// a placeholder has no pair, an accent follows a placeholder, or a value completes a new placeholder.
 char* fillInAtOnce(char* to, std::string_view text, const Substitutions& substitutions) {
   const char* const begin = to;
   std::size_t room = kRoom - kCopySlack;

@@ -24,23 +24,23 @@ namespace zk {
 ///     std::map<std::string, std::string> values = ...;
 ///     zk::localizedString(key, english, std::nullopt, values);
 ///
-/// It views its texts, which must outlive it. A temporary lives until the end of its statement, which is long enough for
-/// a call, but not for a variable:
+/// The object does not own its texts, which must outlive it. A temporary lives until the end of its statement, which is
+/// long enough for a call, but not for a variable:
 ///
 ///     zk::localizedString(key, english, 5, {{"seconds", std::to_string(5)}});        // right
 ///     const zk::Substitutions substitutions = {{"seconds", std::to_string(5)}};      // wrong: the text is destroyed
 ///
-/// Up to five pairs rarely need memory from the heap. Different objects may be used on different threads.
+/// Up to five pairs rarely need memory from the heap. Different objects may be used on different threads at the same time.
 ///
-/// Stops the process if a name occurs twice. Canonically equivalent names, such as é and e + U+0301, are the same.
+/// Stops the process if a name occurs twice. Canonically equivalent names, such as é and e + U+0301, count as the same.
 class ZK_EXPORT Substitutions {
  public:
-  /// A placeholder's name and the text that fills it. It views both.
+  /// A placeholder's name and the text that fills it. The pair owns neither.
   struct Pair {
     /// Constructs a pair of two texts, which must outlive it.
     constexpr Pair(Text placeholder ZK_REFERRED_TO, Text replacement ZK_REFERRED_TO)
         : name(placeholder), text(replacement) {}
-    /// Constructs a pair from a `std::pair` of texts, as maps contain them.
+    /// Constructs a pair from a `std::pair` of texts, such as an element of a map.
     template <std::convertible_to<Text> Name, std::convertible_to<Text> Replacement>
     constexpr Pair(const std::pair<Name, Replacement>& pair ZK_REFERRED_TO) : Pair(pair.first, pair.second) {}
 
@@ -93,7 +93,7 @@ class ZK_EXPORT Substitutions {
     if (many_.empty()) many_.assign(few_, few_ + std::exchange(size_, 0));
     many_.push_back(pair);
   }
-  // Inline, because names that were just stored are slow to read again.
+  // Inline, so the compiler can compare the names without reading back what it has just stored.
   void stopAtRepetition() const {
     if (!many_.empty()) return stopIfRepeated();
     for (std::size_t i = 1; i < size_; ++i) {
@@ -102,7 +102,7 @@ class ZK_EXPORT Substitutions {
       }
     }
   }
-  /// False for nearly all different names: canonically equivalent texts have the same ASCII characters at their ends.
+  /// False for nearly all different names: canonically equivalent names begin and end with the same ASCII characters, if any.
   static bool mayBeSame(std::string_view one, std::string_view other) {
     const auto mayAgree = [](char a, char b) {
       return a == b || (static_cast<unsigned char>(a | b) & 0x80U) != 0;
@@ -122,8 +122,8 @@ class ZK_EXPORT Substitutions {
 namespace internal {
 
 /// Returns `text` with each placeholder "%{name}" replaced with the text for its name in `substitutions`. The pairs
-/// are applied one after the other, in order. A value that contains the placeholder of a later pair is filled in as
-/// well. Other placeholders stay as they are. A placeholder cannot be escaped.
+/// are applied one after the other, in order. If a pair's text contains the placeholder of a later pair, that one is
+/// replaced as well. Other placeholders stay as they are. A placeholder cannot be escaped.
 [[nodiscard]] std::string applySubstitutions(std::string_view text, const Substitutions& substitutions);
 
 }  // namespace internal

@@ -9,7 +9,7 @@
 namespace zk {
 
 /// A parameter for a text in UTF-8: a literal, a `std::string`, or anything else that converts to `std::string_view`. It
-/// views the text, which must outlive it.
+/// does not own the text, which must outlive it.
 ///
 /// A number is not a text: `badgeCount_Badges(0, 0)` does not compile. With `std::string_view`, it would compile, and
 /// the first 0 would be a null pointer.
