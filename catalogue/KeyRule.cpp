@@ -31,7 +31,7 @@ std::string keyForText(std::string_view text) {
     text.remove_prefix(next.bytes.size());
     const char escape = escapeLetter(next.bytes);
     const bool isKept = next.value && isLetterMarkOrDigit(*next.value);
-    if (!isKept) isAfterGap = true;  // even before the letter of an escape, because of its backslash
+    if (!isKept) isAfterGap = true;  // also for an escape, because the backslash before its letter is a gap
     if (!isKept && escape == 0) continue;
 
     const bool beginsWithDigit = key.empty() && isKept && isDecimalDigit(*next.value);

@@ -14,7 +14,7 @@ inline constexpr std::size_t kLongestKey = 100;
 /// Cashout" becomes "Can_t_Cashout", "1st" becomes "_1st". A line break counts as it is written in source code,
 /// so its "n" stays: "Daily\nChallenge" becomes "Daily_nChallenge".
 ///
-/// The keys of existing entries are data, not recomputed: translations are found by them.
+/// Translations are found by their keys, so the keys of existing entries are stored and never recomputed.
 [[nodiscard]] std::string keyForText(std::string_view text);
 
 }  // namespace zk

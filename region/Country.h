@@ -18,12 +18,12 @@ class Dictionary;
 ///     country->displayName();  // "🇦🇹 Austria +43"
 class ZK_EXPORT Country {
  public:
-  /// Returns the country that `dictionary` describes with "name" (a text), "phoneCode" (a 64-bit integer, not 44.0 or a
-  /// boolean) and "iso" (a text). The values are used unchanged; other members are ignored. Returns nothing if one is
-  /// missing or of another type. Requires: the caller includes <ZKStrings/platform/Dictionary.h>.
+  /// Returns the country that `dictionary` describes with the texts "name" and "iso" and the 64-bit integer "phoneCode"
+  /// (not 44.0), all used unchanged. Ignores other members. Returns nothing if one of the three is missing or of another type.
+  /// Requires: the caller includes <ZKStrings/platform/Dictionary.h>.
   [[nodiscard]] static std::optional<Country> fromDictionary(const Dictionary& dictionary);
 
-  // No moves, which would leave a country without its name.
+  // There are no move operations, because a moved-from country would have no name.
   Country(const Country&) = default;
   Country& operator=(const Country&) = default;
 
@@ -34,8 +34,8 @@ class ZK_EXPORT Country {
   /// The ISO 3166-1 code, in upper or lower case, as in the country list.
   [[nodiscard]] const std::string& ISO() const { return ISO_; }
 
-  /// The flag: the letters of `ISO`, in upper case, as regional indicators. Other characters are shifted by the same
-  /// distance, and left out if the result is not a Unicode character.
+  /// The flag: the letters of `ISO`, in upper case, as regional indicators. The offset from "A" to the regional indicator
+  /// A is added to other characters too. A character is left out if the result is not a Unicode scalar value.
   [[nodiscard]] std::string emoji() const;
   /// The flag and the name, such as "🇬🇧 United Kingdom".
   [[nodiscard]] std::string titleFormatted() const;

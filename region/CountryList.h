@@ -8,9 +8,8 @@
 namespace zk {
 
 /// Returns the countries that the app offers, from the module's resource countries.json, in file order. The file is
-/// a JSON array of objects as `Country::fromDictionary` reads them. Objects that do not describe a country are left
-/// out. Returns an empty list if the file is missing, cannot be read or is not JSON, and if the array contains anything
-/// but objects.
+/// a JSON array of objects in the form that `Country::fromDictionary` reads. Other objects are left out. Returns an empty
+/// list if the file is missing, cannot be read or is not JSON, or if the array contains anything but objects.
 ///
 ///     for (const zk::Country& country : zk::loadCountries()) std::cout << country.displayName() << "\n";
 ///

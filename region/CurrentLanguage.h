@@ -33,7 +33,7 @@ class ZK_EXPORT LanguageAccess {
   Language language_;
   bool isAlwaysWrittenBack_ = false;
   std::shared_ptr<zk::internal::Registration> writeBack_{};  // registered when the copy is written back
-  Language* captured_ = nullptr;                             // in `writeBack_`: the resolved language
+  Language* captured_ = nullptr;                             // the language that `writeBack_` owns
 };
 
 /// The type of `Current::language`.

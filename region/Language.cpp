@@ -13,7 +13,7 @@ namespace zk {
 
 namespace {
 
-/// The parts of the first identifier between hyphens, without empty ones. None if there is no identifier.
+/// The non-empty parts of the first identifier, which hyphens separate; none if there is no identifier.
 std::vector<std::string_view> componentsOfFirst(const SharedArray<std::string>& identifiers) {
   std::vector<std::string_view> components;
   if (identifiers.empty()) return components;

@@ -29,7 +29,7 @@ struct ZK_EXPORT Language {
   /// Language identifiers such as "de-DE", most preferred first, as they were in the settings at construction.
   SharedArray<std::string> preferredLanguages;
 
-  /// Returns the user's country: the one that the app's reachability service reports, even if that is empty, or else
+  /// Returns the user's country code: the one that the app's reachability service reports, which may be empty, or else
   /// `preferredLanguageCountry`. Asks the service on every call.
   ///
   ///     zk::Current::language->country().value_or("US")   // "AT" on a phone in Austria
@@ -40,7 +40,7 @@ struct ZK_EXPORT Language {
   [[nodiscard]] std::optional<std::string> preferredLanguageCountry() const;
 
   /// Returns the first preferred language without its last hyphen-separated part: "zh-Hans" for "zh-Hans-CN", "en"
-  /// for "en-US". Returns nothing unless it has exactly two or three parts: "en" has no code.
+  /// for "en-US". Returns nothing if the language does not have two or three parts, as "en" does not.
   [[nodiscard]] std::optional<std::string> preferredLanguageCode() const;
 };
 
