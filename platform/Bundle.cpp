@@ -104,7 +104,7 @@ struct Bundle::Listing {
   }
   [[nodiscard]] std::size_t placeAfter(std::size_t place) const { return (place + 1) & last; }
 
-  std::vector<Slot> slots;  // a power of two
+  std::vector<Slot> slots;  // their number is a power of two
   std::size_t last = slots.size() - 1;
 };
 

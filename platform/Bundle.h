@@ -121,8 +121,8 @@ class ZK_EXPORT alignas(kCacheLine) ResourcePath {
   [[nodiscard]] const StringTable* openTable() const;
 
   const std::string path_;
-  std::string_view name_{};  // of the file name: the part before the last dot, or empty
-  std::string_view type_{};  // of the file name: the part after the last dot, or empty
+  std::string_view name_{};  // the file name before its last dot, or empty
+  std::string_view type_{};  // the file name after its last dot, or empty
   const bool isDirectory_;
   // The bundle and the table that were opened at this path. Opening them again needs no search.
   mutable std::atomic<const Bundle*> bundle_{nullptr};

@@ -33,8 +33,8 @@ class Dictionary {
   template <class Content>
   Value& append(std::string_view name, Content&& content);
 
-  /// Returns the value of the member `name`, compared byte for byte; null if there is none. If a name occurs several
-  /// times, the last member counts.
+  /// Returns the value of the member `name`; null if there is none. Names are compared byte for byte. If a name occurs
+  /// several times, the last member counts.
   [[nodiscard]] const Value* find(std::string_view name) const;
   /// Returns the value of the member `name` as `Type`; null if there is none or if it is of another type.
   template <class Type>

@@ -25,16 +25,15 @@
 #endif
 
 /// Marks a function whose result refers to its object, or a parameter that the result refers to. Clang then warns if
-/// the result is kept for longer.
+/// the result outlives them.
 #if __has_cpp_attribute(clang::lifetimebound)
 #define ZK_REFERRED_TO [[clang::lifetimebound]]
 #else
 #define ZK_REFERRED_TO
 #endif
 
-// The layout of public types depends on the standard library and its mode. A program that is built in another mode
-// than the module must not link: it needs a function that the module does not have. The name of that function
-// explains why.
+// The layout of public types depends on the standard library and its mode. If a program is built in a different mode
+// from the module, it does not link: it needs a function that the module does not define. The function's name says why.
 #if defined(_LIBCPP_VERSION)
 #define ZK_STANDARD_LIBRARY ZKStringsMustBeBuiltWithLibcxxLikeThisProgram
 #elif defined(_GLIBCXX_DEBUG)

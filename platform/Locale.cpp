@@ -27,7 +27,7 @@ std::string_view environment(const char* name) {
   return value ? value : "";
 }
 
-/// A POSIX locale name, language[_region][.encoding][@modifier], without encoding and modifier.
+/// A POSIX locale name, language[_region][.encoding][@modifier], without its encoding and modifier.
 std::string_view languageAndRegion(std::string_view posixName) {
   return posixName.substr(0, posixName.find_first_of(".@"));
 }
@@ -37,7 +37,7 @@ bool isCOrPosix(std::string_view posixName) {
   return name == "C" || name == "POSIX";
 }
 
-/// The identifier of a POSIX locale name; nothing for C, POSIX and a name without language.
+/// The identifier of a POSIX locale name; nothing for C, POSIX and a name without a language.
 std::optional<std::string> identifierOf(std::string_view posixName) {
   if (isCOrPosix(posixName)) return std::nullopt;
   std::string identifier(languageAndRegion(posixName));

@@ -35,7 +35,7 @@ struct alignas(kCacheLine) Entry {
   const std::type_info& type;
   const std::optional<std::string> name;
 
-  /// Different for all entries, and different after each change of the registration.
+  /// Differs between entries, and changes whenever the registration changes.
   std::atomic<std::uint64_t> generation = nextGeneration();
   std::mutex mutex{};
   std::shared_ptr<Registration> registration{};  // guarded by `mutex`
@@ -153,7 +153,7 @@ ResolverOptions::ResolverOptions(internal::Entry& entry,
                                  std::shared_ptr<internal::Registration> registration) noexcept
     : entry_(entry), registration_(registration) {
   const std::lock_guard lock(entry.mutex);
-  entry.registration.swap(registration);  // releases the replaced one after the lock
+  entry.registration.swap(registration);  // so the replaced one is destroyed after the unlock
   entry.generation.store(internal::Entry::nextGeneration(), std::memory_order_release);
 }
 

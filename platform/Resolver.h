@@ -39,7 +39,7 @@ class ZK_EXPORT Registration {
   std::atomic<ResolverScope> scope{ResolverScope::everyResolve};
 
  private:
-  /// Calls the factory; null if it returned nothing.
+  /// Calls the factory. Returns null if the factory returned nothing.
   [[nodiscard]] virtual Service make() = 0;
 
   // Guarded by the entry's lock `making`.
@@ -59,7 +59,7 @@ struct RegistrationOf final : Registration {
   Make factory;
 };
 
-/// The entry for a type and a name, which lives until the process ends.
+/// Returns the entry for a type and a name. Entries live until the process ends.
 [[nodiscard]] ZK_EXPORT Entry& entryFor(const std::type_info& type, std::optional<std::string_view> name);
 
 [[nodiscard]] ZK_EXPORT Service resolveFrom(Entry& entry);
@@ -88,8 +88,8 @@ class ZK_EXPORT ResolverOptions {
 /// Thread-safe. A new registration replaces the earlier one of its type and name for all later resolves. A factory may
 /// register and resolve other services. Several threads may call a factory of the scope `everyResolve` at the same time.
 ///
-/// Stops the process, after one line on standard error, if a service is resolved that is not registered, if a factory
-/// returns nothing, and if a factory of the application scope needs its own service, directly or through other factories.
+/// Stops the process, after one line on standard error, if the resolved service is not registered, if a factory returns
+/// nothing, or if a factory of the application scope needs its own service, directly or through other factories.
 /// If several threads enter such a cycle at the same time, they may wait for each other forever.
 ///
 /// A plug-in that registered a factory must stay loaded. After a `fork`, the child may use the registry only if no other

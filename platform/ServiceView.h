@@ -10,8 +10,8 @@ namespace zk {
 
 namespace internal {
 
-/// The service that one thread keeps, so viewing it again counts no reference. Only its thread writes to it, so it has
-/// cache lines of its own.
+/// The service that one thread keeps, so viewing it again changes no reference count. Has cache lines of its own, because
+/// its thread writes to it.
 struct alignas(128) Kept {
   Service service{};
   std::uint64_t generation = 0;  // of the service's entry, when the service was resolved

@@ -12,8 +12,7 @@
 
 namespace zk {
 
-/// A list whose copies share their elements. Copying costs one reference count, and a change of one copy never changes
-/// another.
+/// A list whose copies share their elements. Copying only increments a reference count. Copies never change each other.
 ///
 ///     zk::SharedArray<std::string> languages = {"de-DE", "fr-FR"};
 ///     zk::SharedArray<std::string> copy = languages;   // shares the elements
@@ -38,7 +37,8 @@ class SharedArray {
   /// Whether there are no elements.
   [[nodiscard]] bool empty() const { return size() == 0; }
 
-  /// The element at `index`. Requires: `index` is less than `size()`.
+  /// The element at `index`.
+  /// Requires: `index` is less than `size()`.
   [[nodiscard]] const Element& operator[](std::size_t index) const ZK_REFERRED_TO {
     return (*elements_)[index];
   }
@@ -81,8 +81,8 @@ class SharedArray {
     return std::allocate_shared<Elements>(CacheLineAllocator<Elements>(), begin, end);
   }
 
-  /// Destroying the copy orders what other threads read through theirs before the changes that follow. Reading the count
-  /// alone does not.
+  /// Destroying the temporary copy is an acquire operation: reads through copies that other threads have destroyed happen
+  /// before the changes that follow. Reading the count alone does not ensure this.
   [[nodiscard]] bool isOnlyOwner() const {
     return std::shared_ptr<const Elements>(elements_).use_count() == 2;
   }

@@ -8,8 +8,7 @@
 #include <utility>
 #include <vector>
 
-// Some locales have a decimal sign of several bytes, which contradicts an assertion of the library. Without the
-// assertion, a fraction is lost.
+// If the locale's decimal separator has several bytes, an assertion fails. Without it, only a number's fraction is lost.
 #define JSON_ASSERT(condition) static_cast<void>(0)
 #include <nlohmann/json.hpp>
 
@@ -20,7 +19,7 @@ namespace {
 /// Limits the recursion of destructors.
 constexpr std::size_t kDeepestKept = 100;
 
-/// Builds a value in its place from the events of the library's parser.
+/// Builds a value in place from the events of the library's parser.
 class Builder final : public nlohmann::json_sax<nlohmann::json> {
  public:
   bool null() override { return add(nullptr); }
@@ -76,7 +75,7 @@ class Builder final : public nlohmann::json_sax<nlohmann::json> {
   }
 
   Value root_{};
-  /// From the outermost on; null for levels that are not kept. An element is closed before the next one is added.
+  /// Outermost first; null for levels that are not kept. Adding an element may move only elements that are closed.
   std::vector<Value*> open_{};
   std::string name_{};  // of the member whose value comes next
 };

@@ -18,7 +18,7 @@ class alignas(kCacheLine) StringTable {
  public:
   /// Reads the table in the file at `path`, in an encoding that `decodedText` reads. Returns a table without texts if the
   /// file cannot be read, or is not well-formed from its first byte to its last. `failure` is the reason why the file
-  /// could not be read, and is cleared if it could.
+  /// could not be read, and is cleared otherwise.
   [[nodiscard]] static StringTable inFile(const std::string& path, std::error_code& failure);
 
   /// Returns the text of `key`, which lives as long as the table; nothing if there is none. If a key occurs several
@@ -37,7 +37,7 @@ class alignas(kCacheLine) StringTable {
   [[nodiscard]] std::size_t slotFor(std::uint32_t hash, std::string_view key) const;
 
   std::string text_;
-  /// Open addressing: an entry is in the first slot that was free from its hash's slot on.
+  /// Open addressing: an entry is in the first slot that was free, searched from the slot of its hash.
   std::vector<Slot> slots_;
 };
 

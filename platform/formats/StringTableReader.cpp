@@ -35,7 +35,7 @@ std::size_t StringTableReader::lineAfter(std::size_t place) const {
   return std::min(text_.find('\n', place), text_.size() - 1) + 1;
 }
 
-/// Records an error. `at_` is after what cannot be read.
+/// Records an error. The caller has moved `at_` past what cannot be read.
 bool StringTableReader::fail(std::size_t offset, std::string expected) {
   error_ = Error{offset, std::move(expected)};
   return false;
@@ -85,14 +85,13 @@ inline bool StringTableReader::readQuoted(Token& token) {
 inline bool StringTableReader::readToken(Token& token, const char* expected) {
   if (at_ < text_.size() && text_[at_] == '"') return readQuoted(token);
   token = {at_, at_};
-  // A slash belongs to the token, but an asterisk never does: a comment may follow directly.
+  // A token may contain a slash, but "/*" begins a comment.
   while (at_ < text_.size() && isUnquoted(text_[at_]) && text_.substr(at_, 2) != "/*") ++at_;
   token.end = at_;
   return token.begin < token.end || fail(at_, expected);
 }
 
-/// Reads "=" or ";" after the token `after`. If there is another character and the token runs over
-/// lines, the token's quote was never closed.
+/// Reads "=" or ";" after the token `after`. If the mark is missing after a token of several lines, that token was never closed.
 inline bool StringTableReader::readMark(char mark, const Token& after) {
   const std::size_t tokenEnd = at_;
   if (!skipBlanks()) return false;

@@ -14,7 +14,8 @@ namespace zk {
 ///     "About" = "Über uns";     // quoted, with the escapes of `unescape`
 ///     Cancel = Abbrechen;       // unquoted: letters, digits and _ $ / : . -
 ///
-/// A token is a range of the text, which is neither copied nor changed. Requires: one thread uses a reader at a time.
+/// A token is a range of the text, which is neither copied nor changed.
+/// Requires: one thread uses a reader at a time.
 class StringTableReader {
  public:
   /// A key, a value or a comment: the bytes [begin, end) of the text, without quotes and comment marks.
@@ -33,7 +34,7 @@ class StringTableReader {
   /// Reads `text`, UTF-8 without a byte-order mark, which must outlive the reader.
   explicit StringTableReader(std::string_view text) : text_(text) {}
 
-  /// Reads the next entry. False at the end of the text and at an error.
+  /// Reads the next entry. Returns false at the end of the text and on an error.
   [[nodiscard]] bool next();
 
   /// After `next` returned true: the entry's parts, and the comments before it.

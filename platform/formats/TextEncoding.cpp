@@ -20,7 +20,7 @@ struct Encoding {
   bool bigEndian;
 };
 
-// The mark of UTF-32 begins with that of UTF-16, so it comes first.
+// The mark of UTF-32 begins with that of UTF-16, so UTF-32 comes first.
 constexpr Encoding kMarked[] = {
     {kByteOrderMark, 1, false}, {"\xFF\xFE\0\0"sv, 4, false}, {"\0\0\xFE\xFF"sv, 4, true},
     {"\xFF\xFE"sv, 2, false},   {"\xFE\xFF"sv, 2, true},

@@ -20,10 +20,10 @@ namespace zk {
 /// Whether `name` is a single file name: it cannot lead to another directory.
 [[nodiscard]] bool isFileName(std::string_view name);
 
-/// Converts `path` from UTF-8 for the standard library, which takes other strings for UTF-8 only on some systems.
+/// Converts `path` from UTF-8 for the standard library, which by default assumes UTF-8 only on some systems.
 [[nodiscard]] std::filesystem::path nativePath(const std::string& path);
 
-/// Returns `path` without "." and "..", which are not looked up, so a link before ".." is removed with it.
+/// Returns `path` without "." and "..". Looks nothing up on the disk, so a link before ".." is removed with it.
 [[nodiscard]] std::string normalPath(const std::string& path);
 
 /// Whether a file or directory is at `path`.
@@ -32,8 +32,9 @@ namespace zk {
 /// Whether a directory or a link to one is at `path`. If not, `failure` is the reason; it is cleared otherwise.
 [[nodiscard]] bool directoryExists(const std::string& path, std::error_code& failure);
 
-/// Reads all bytes of the regular file at `path`, which has no NUL. Returns an error if there is none, if it cannot be
-/// read, and if it is larger than 256 MiB. Never waits for a FIFO or device.
+/// Reads all bytes of the regular file at `path`. Returns an error if there is none, if it cannot be read, or if it is
+/// larger than 256 MiB. Never waits for a FIFO or device.
+/// Requires: `path` contains no NUL.
 [[nodiscard]] std::error_code readRegularFile(const std::string& path, std::string& bytes);
 
 /// Returns all bytes of the file at `path`. If `readRegularFile` fails, returns nothing, and `failure` is the reason.

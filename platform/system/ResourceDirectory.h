@@ -8,7 +8,7 @@ namespace zk::internal {
 /// Where the resources of some code may be, relative to the directory of the library or executable that holds it.
 struct ResourcePlaces {
   std::string above;      ///< in that directory or up to two levels above it: "share/ZKStrings"
-  std::string installed;  ///< if they are not above: an absolute or relative path, or empty
+  std::string installed;  ///< tried after `above`: an absolute or relative path, or empty
 };
 
 /// Returns the directory with the resources of the code in `codeFile`, an absolute path: the nearest of `places`. The

@@ -6,8 +6,8 @@
 
 namespace zk {
 
-/// The locale and languages in the system's settings for the user. Nothing if the system has none but the
-/// environment, or if they cannot be read.
+/// Returns the locale and languages in the system's settings for the user. Returns nothing if the system has only the
+/// environment, or if the settings cannot be read.
 [[nodiscard]] std::optional<LocaleSettings> systemSettings();
 
 }  // namespace zk

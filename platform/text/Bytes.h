@@ -6,8 +6,7 @@
 #include <cstring>
 #include <string_view>
 
-/// Hashing, searching and copying of short texts, inline and by whole words. For such texts, calling the library's
-/// functions costs more than their work.
+/// Inline hashing, searching and copying of short texts by whole words. A library call would take longer than the work.
 
 namespace zk {
 
@@ -39,7 +38,7 @@ inline std::uint64_t marksOf(char character, std::uint64_t word) {
   return (differences - kOnes) & ~differences & kHighBits;
 }
 
-/// The bytes of a text that has at most eight. Such texts of one size have different words.
+/// A text of at most eight bytes as one word. Different texts of the same size have different words.
 inline std::uint64_t wordOf(const char* bytes, std::size_t size) {
   const char* const last = bytes + size;
   if (size >= 4) return load<std::uint32_t>(bytes) | std::uint64_t{load<std::uint32_t>(last - 4)} << 32;
@@ -54,9 +53,8 @@ constexpr std::uint64_t hashOfWords(std::uint64_t one, std::uint64_t other) {
   return (one ^ one >> 32) * 0x9E3779B97F4A7C15 + (other ^ other >> 32) * 0xD1B54A32D192ED03;
 }
 
-/// A hash of `bytes`. Only its upper half depends on all of them. Hashes differ between machines and are never
-/// stored. Not inlined, because its callers need it only for long texts and are then small enough to be inlined
-/// themselves.
+/// A hash of `bytes`. Only its upper half depends on all of them. Hashes differ between machines and are never stored. Not
+/// inlined: callers need it only for long texts, and without it they are small enough to be inlined themselves.
 [[gnu::noinline]] inline std::uint64_t hashOf(std::string_view bytes) {
   using internal::load;
   const char* at = bytes.data();
@@ -121,8 +119,8 @@ inline char* copyBytes(char* to, const char* from, std::size_t size) {
 /// The number of bytes that `copyUntil` may write after the end of its copy.
 inline constexpr std::size_t kCopySlack = 8;
 
-/// Copies `text` from `from` on to `to`, up to the first ASCII character `mark` or to the end, and returns that
-/// place. Requires: `to` has room for the rest of `text` and `kCopySlack` bytes more.
+/// Copies `text` from `from` on to `to`, up to the first ASCII character `mark` or the end. Returns where it stopped.
+/// Requires: `to` has room for the rest of `text` and `kCopySlack` bytes more.
 inline std::size_t copyUntil(char mark, char* to, std::string_view text, std::size_t from) {
   using internal::load;
   if (std::endian::native != std::endian::little || text.size() < 8) {

@@ -38,7 +38,7 @@ bool isBorderBefore(const CodePoint& codePoint) {
 
 /// A code point of a canonically decomposed text.
 struct Unit {
-  char32_t value;  // kFirstByteValue and more for a byte that is not UTF-8
+  char32_t value;  // `kFirstByteValue` or more for a byte that is not UTF-8
   std::uint8_t combiningClass;
   std::size_t segment;  // the place in the text of the last border at or before the unit
 };

@@ -8,8 +8,8 @@
 
 namespace zk {
 
-/// Replaces every occurrence of `target` in `text` with `replacement`, from the beginning on, without overlaps.
-/// Inserted text is not searched again. Requires: `replacement` is not a part of `text`.
+/// Replaces each `target` in `text` with `replacement`, left to right, without overlap. Inserted text is not searched again.
+/// Requires: `replacement` is not a part of `text`.
 ///
 /// Canonically equivalent sequences are equal, such as é and e + U+0301, or K and the Kelvin sign. Letters that
 /// differ in case or accents, or only by compatibility, are not. A letter is never found without the accents that

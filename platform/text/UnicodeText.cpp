@@ -20,7 +20,7 @@ namespace zk {
 
 namespace {
 
-// Within the library's macros.
+// These warnings are about ICU's macros.
 #pragma GCC diagnostic ignored "-Wconversion"
 #pragma GCC diagnostic ignored "-Wsign-conversion"
 
@@ -42,14 +42,13 @@ UBreakIterator* characterIterator() {
   throw std::bad_alloc();
 }
 
-/// Whether the first byte of `text` is a user-perceived character by itself, as all ASCII before ASCII is. Only CR and LF
-/// are one character together.
+/// Whether the first byte of `text` is certainly a user-perceived character: ASCII before ASCII or at the end, but not CR.
 bool beginsWithPlainAscii(std::string_view text) {
   const auto isAscii = [](char byte) { return static_cast<signed char>(byte) >= 0; };
   return isAscii(text[0]) && text[0] != '\r' && (text.size() == 1 || isAscii(text[1]));
 }
 
-// The iterator reads UTF-16, so the beginning of the text is converted: more of it if the character is that long.
+// The iterator reads UTF-16, so this converts the beginning of the text, or more of it if the character is longer.
 std::size_t clusterSizeByICU(std::string_view text) {
   UBreakIterator* const iterator = characterIterator();
   for (std::size_t most = 32;; most *= 4) {
@@ -152,7 +151,7 @@ bool isRightToLeft(std::string_view code) {
 
 std::string upperCased(std::string_view text) {
   if (text.size() > INT32_MAX / 3) throw std::bad_alloc();
-  std::string capitals(text.size() * 3, '\0');  // the longest, of U+0390 and others
+  std::string capitals(text.size() * 3, '\0');  // the longest result, that of U+0390 and others
   UErrorCode status = U_ZERO_ERROR;
   const std::int32_t size =
       icu::CaseMap::utf8ToUpper("", 0, text.data(), static_cast<std::int32_t>(text.size()), capitals.data(),

@@ -15,10 +15,11 @@ struct CodePoint {
   std::string_view bytes;         ///< the bytes of the text that encode it
 };
 
-/// Returns the code point at the beginning of `text`. Requires: `text` is not empty.
+/// Returns the code point at the beginning of `text`.
+/// Requires: `text` is not empty.
 [[nodiscard]] CodePoint firstCodePoint(std::string_view text);
 
-/// Appends `codePoint` to `text`, unless it is not a Unicode scalar value.
+/// Appends `codePoint` to `text` if it is a Unicode scalar value.
 void appendCodePoint(std::string& text, char32_t codePoint);
 
 /// Whether the general category is letter, mark or decimal digit.
@@ -27,23 +28,23 @@ void appendCodePoint(std::string& text, char32_t codePoint);
 
 [[nodiscard]] bool isUtf8(std::string_view bytes);
 
-/// Returns the first two user-perceived characters (extended grapheme clusters) of `text`, or all of it if it has
-/// fewer.
+/// Returns the first two user-perceived characters (extended grapheme clusters) of `text`, or as many as it has.
 [[nodiscard]] std::string_view firstTwoCharacters(std::string_view text);
 
-/// Returns the place of the first `wanted`, an ASCII character, that is a user-perceived character by itself and not
-/// the base of one with accents or joiners; `npos` if there is none.
+/// Returns the place of the first `wanted`, an ASCII character, in `text`; `npos` if there is none. Ignores places where
+/// `wanted` is only a part of a user-perceived character, for example because an accent follows.
 [[nodiscard]] std::size_t findCharacter(std::string_view text, char wanted);
 
 /// Whether the language with the code `code`, such as "ar", is written from right to left.
 [[nodiscard]] bool isRightToLeft(std::string_view code);
 
-/// Returns `text` in upper case by Unicode's full default mapping, in every locale: "straße" becomes "STRASSE".
+/// Returns `text` in upper case by Unicode's full default mapping, whatever the locale: "straße" becomes "STRASSE".
 [[nodiscard]] std::string upperCased(std::string_view text);
 
 namespace internal {
 
-/// The size in bytes of the first user-perceived character of `text`, which is not empty.
+/// Returns the size in bytes of the first user-perceived character of `text`.
+/// Requires: `text` is not empty.
 [[nodiscard]] std::size_t firstClusterSize(std::string_view text);
 
 /// Throws std::bad_alloc if memory is short. Called before a step for which ICU allocates once: if memory runs out

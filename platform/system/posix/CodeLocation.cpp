@@ -45,7 +45,7 @@ std::string mappedFile(const void* address, std::error_code& failure) {
   while (std::fgets(line, sizeof(line), maps.get())) {
     std::uintptr_t begin = 0;
     std::uintptr_t end = 0;
-    // NOLINTNEXTLINE(cert-err34-c): the kernel writes no number that does not fit
+    // NOLINTNEXTLINE(cert-err34-c): the kernel writes only numbers that fit
     if (std::sscanf(line, "%" SCNxPTR "-%" SCNxPTR, &begin, &end) != 2) continue;
     if (wanted < begin || wanted >= end) continue;
     const char* const path = std::strchr(line, '/');
@@ -55,7 +55,7 @@ std::string mappedFile(const void* address, std::error_code& failure) {
   return {};
 }
 
-/// `path`, relative to the working directory; empty if no file is there.
+/// The absolute form of `path`, which may be relative to the working directory; empty if no file is there.
 std::string existingFile(const std::string& path, std::error_code& failure) {
   const fs::path absolute = fs::absolute(path, failure);
   return !failure && fs::exists(absolute, failure) ? absolute.string() : std::string();
@@ -73,8 +73,7 @@ std::string fileHolding(const void* address, std::error_code& failure) {
   failure.clear();
   std::string loaded = loadedName(address);
   if (loaded.starts_with('/')) return loaded;
-  // For the executable too: /proc/self/exe is the dynamic loader if that was started with the program as its
-  // argument.
+  // For the executable too: /proc/self/exe is the dynamic loader if that was started with the program as its argument.
   std::string mapped = mappedFile(address, failure);
   if (!mapped.empty() || isTemporary(failure)) return mapped;
   return loaded.empty() ? executablePath(failure) : existingFile(loaded, failure);

@@ -6,10 +6,10 @@
 
 namespace zk {
 
-/// Converts the system's UTF-16 to UTF-8. What is not UTF-16 becomes U+FFFD.
+/// Converts the system's UTF-16 to UTF-8. Invalid UTF-16 becomes U+FFFD.
 [[nodiscard]] std::string toUTF8(std::wstring_view text);
 
-/// Converts UTF-8 to the system's UTF-16. What is not UTF-8 becomes U+FFFD.
+/// Converts UTF-8 to the system's UTF-16. Invalid UTF-8 becomes U+FFFD.
 [[nodiscard]] std::wstring toUTF16(std::string_view text);
 
 /// Returns `path`, in UTF-8, as an absolute path for system calls. Its prefix \\?\ permits more than 260 characters,

@@ -10,7 +10,7 @@ namespace zk {
 
 namespace {
 
-/// A name such as "de-DE_phoneb" without its order of sorting.
+/// A name such as "de-DE_phoneb" without its sort order.
 std::string identifierOf(std::wstring_view name) {
   return toUTF8(name.substr(0, name.find(L'_')));
 }
