@@ -46,7 +46,7 @@ void openTable(benchmark::State& state, const std::string& table) {
   std::size_t held = 0;
   for (auto _ : state) {
     const std::string path = freshDirectory(table);
-    // Both then read from the system's cache.
+    // After this, both read from the system's cache.
     benchmark::DoNotOptimize(contents(path + "/Localizable.strings"));
     const Bundle& bundle = *Bundle::initWithPath(path);
     const std::size_t before = bytesHeldByThread();

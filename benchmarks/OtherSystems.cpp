@@ -68,7 +68,7 @@ std::string doubled(std::string text, char character) {
 }
 
 /// Creates and sets a locale for messages. glibc ignores LANGUAGE in the C locale, and newer releases also in
-/// C.UTF-8. A machine need not have another locale.
+/// C.UTF-8. A machine may have no other locale.
 void useOwnLocale() {
   const std::string directory = workDirectory() + "/locales";
   std::filesystem::create_directories(directory);
@@ -77,7 +77,7 @@ void useOwnLocale() {
   execute("cd '" + directory + "' && { localedef --no-archive -ci source ./own >log 2>&1 || test -d own; }");
   setenv("LOCPATH", directory.c_str(), 1);
   std::setlocale(LC_ALL, "C.UTF-8");
-  if (!std::setlocale(LC_MESSAGES, "own")) throw std::runtime_error("localedef has made no locale");
+  if (!std::setlocale(LC_MESSAGES, "own")) throw std::runtime_error("localedef did not create the locale");
 }
 
 void makeGettextCatalogue() {

@@ -79,29 +79,29 @@ void Report::printRatios() {
     double most;
   };
   constexpr Ratio kRatios[] = {
-      {"plain: module to yardstick", "plain/module", "plain/yardstick", 2.5},
-      {"plain: module to gettext", "plain/module", "plain/gettext", 0.6},
-      {"plain: module to ICU", "plain/module", "plain/ICU", 0.6},
-      {"counted: module to yardstick", "counted/module", "counted/yardstick", 2.5},
-      {"counted: module to gettext", "counted/module", "counted/gettext", 0.6},
-      {"counted: module to ICU", "counted/module", "counted/ICU", 0.6},
-      {"1 substitution: module to yardstick", "1 substitution/module", "1 substitution/yardstick", 1.75},
-      {"1 substitution: module to gettext", "1 substitution/module", "1 substitution/gettext", 0.6},
-      {"1 substitution: module to ICU", "1 substitution/module", "1 substitution/ICU", 0.3},
-      {"3 substitutions: module to yardstick", "3 substitutions/module", "3 substitutions/yardstick", 1.3},
-      {"3 substitutions: module to gettext", "3 substitutions/module", "3 substitutions/gettext", 0.6},
-      {"3 substitutions: module to ICU", "3 substitutions/module", "3 substitutions/ICU", 0.3},
-      {"plain: de to de-DE", "plain/module, de", "plain/module", 1.1},
-      {"plain: en to de-DE", "plain/module, en", "plain/module", 1.1},
-      {"plain: en-US to de-DE", "plain/module, en-US", "plain/module", 1.1},
-      {"plain: zh-Hans-CN to de-DE", "plain/module, zh-Hans-CN", "plain/module", 1.1},
-      {"plain: not ASCII to de-DE", "plain/module, not ASCII", "plain/module", 8},
-      {"plain: winner third to winner first", "plain/module, winner third", "plain/module", 1.3},
-      {"Language{} to the JSON library's document", "Language/module",
+      {"plain: module / yardstick", "plain/module", "plain/yardstick", 2.5},
+      {"plain: module / gettext", "plain/module", "plain/gettext", 0.6},
+      {"plain: module / ICU", "plain/module", "plain/ICU", 0.6},
+      {"counted: module / yardstick", "counted/module", "counted/yardstick", 2.5},
+      {"counted: module / gettext", "counted/module", "counted/gettext", 0.6},
+      {"counted: module / ICU", "counted/module", "counted/ICU", 0.6},
+      {"1 substitution: module / yardstick", "1 substitution/module", "1 substitution/yardstick", 1.75},
+      {"1 substitution: module / gettext", "1 substitution/module", "1 substitution/gettext", 0.6},
+      {"1 substitution: module / ICU", "1 substitution/module", "1 substitution/ICU", 0.3},
+      {"3 substitutions: module / yardstick", "3 substitutions/module", "3 substitutions/yardstick", 1.3},
+      {"3 substitutions: module / gettext", "3 substitutions/module", "3 substitutions/gettext", 0.6},
+      {"3 substitutions: module / ICU", "3 substitutions/module", "3 substitutions/ICU", 0.3},
+      {"plain: de / de-DE", "plain/module, de", "plain/module", 1.1},
+      {"plain: en / de-DE", "plain/module, en", "plain/module", 1.1},
+      {"plain: en-US / de-DE", "plain/module, en-US", "plain/module", 1.1},
+      {"plain: zh-Hans-CN / de-DE", "plain/module, zh-Hans-CN", "plain/module", 1.1},
+      {"plain: not ASCII / de-DE", "plain/module, not ASCII", "plain/module", 8},
+      {"plain: winner third / winner first", "plain/module, winner third", "plain/module", 1.3},
+      {"Language{} / parsing with the JSON library", "Language/module",
        "Language/document of the JSON library", 0.75},
-      {"opening a table to reading its file", "opening/German table", "opening/reading the file", 10},
-      {"a process with a text to an empty one", "process/first text", "process/empty main", 2},
-      {"lookup in 100,000 keys to one in 1,000", "growth/lookup, 100000 keys", "growth/lookup, 1000 keys", 2},
+      {"opening a table / reading its file", "opening/German table", "opening/reading the file", 10},
+      {"process with one text / empty process", "process/first text", "process/empty main", 2},
+      {"lookup in 100,000 keys / in 1,000 keys", "growth/lookup, 100000 keys", "growth/lookup, 1000 keys", 2},
   };
   std::printf("\nratios\n");
   for (const auto& [what, a, b, most] : kRatios) {
@@ -110,12 +110,12 @@ void Report::printRatios() {
   printGains();
   constexpr const char* kGrown = "growth/opening, 100000 keys";
   if (rows_.contains(kGrown)) {
-    printRatio("opening: MB of table text a second", counter(kGrown, kBytes) / time(kGrown) * 1e3,
+    printRatio("opening: MB of table text per second", counter(kGrown, kBytes) / time(kGrown) * 1e3,
                Limit::atLeast, 300);
   }
   constexpr const char* kGerman = "opening/German table";
   if (rows_.contains(kGerman)) {
-    printRatio("an opened table's bytes to its file's",
+    printRatio("memory of an opened table / size of its file",
                counter(kGerman, kHeldBytes) / counter(kGerman, kBytes), Limit::atMost, 1.6);
   }
 }
@@ -126,8 +126,8 @@ void Report::printGains() {
     if (!rows_.contains("threads/arithmetic:2") || !rows_.contains(lookups + ":2")) return;
     printRatio(what, gain(lookups) / gain("threads/arithmetic"), Limit::atLeast, 0.95);
   };
-  print("gain of two threads to arithmetic's", "threads/module");
-  print("the same while another assigns", "threads/module, while another assigns");
+  print("speed-up by 2 threads: lookups / arithmetic", "threads/module");
+  print("the same, while another thread assigns", "threads/module, while another assigns");
 }
 
 }  // namespace zk::benchmarks

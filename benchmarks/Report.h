@@ -8,7 +8,7 @@
 
 namespace zk::benchmarks {
 
-/// Collects the medians of all benchmarks and prints them as tables of 80 columns, with the ratios that matter
+/// Collects the medians of all benchmarks and prints them as tables of 80 columns, with the important ratios
 /// and their limits at the end.
 class Report : public benchmark::BenchmarkReporter {
  public:
@@ -21,7 +21,7 @@ class Report : public benchmark::BenchmarkReporter {
 
  private:
   struct Row {
-    double nanoseconds = 0;  // each time
+    double nanoseconds = 0;  // per operation
     std::map<std::string, double> counters;
   };
   enum class Limit { atMost, atLeast };

@@ -41,7 +41,7 @@ bool isOfKind(const Request& request, bool plural, Kind kind) {
   return !plural && request.names.size() == wanted;
 }
 
-/// All requests of a kind that differ. The key that is not ASCII is left out: resource bundles cannot hold
+/// All different requests of a kind. The key that is not ASCII is left out: resource bundles cannot hold
 /// it.
 std::vector<Request> choices(Kind kind) {
   const char* const values[] = {"kim", "1,250", "Sports & Music"};

@@ -9,18 +9,18 @@ namespace {
 
 void printHelp() {
   std::puts(
-      "Measures the module against other ways to do the same. Prints the medians and,\n"
-      "at the end, the ratios that matter, each with its limit. The status is 1 when\n"
-      "one of them misses its limit.\n"
+      "Compares the speed of the module with other systems. Prints the medians and,\n"
+      "at the end, the important ratios, each with its limit. Exits with status 1 if\n"
+      "a ratio misses its limit.\n"
       "\n"
       "  --benchmark_filter=REGEX       only the rows that match, and their ratios\n"
       "  --benchmark_repetitions=N      medians of N rounds\n"
       "  --benchmark_min_time=SECONDS   for each row in each round\n"
       "  --benchmark_enable_random_interleaving=true\n"
-      "                                 the rows take turns in random order\n"
-      "  --benchmark_list_tests         only names the rows\n"
+      "                                 measures the rows in random order\n"
+      "  --benchmark_list_tests         only lists the names of the rows\n"
       "  --benchmark_out=FILE --benchmark_out_format=json|csv\n"
-      "                                 keeps all measurements as well");
+      "                                 also writes all measurements to FILE");
 }
 
 }  // namespace
