@@ -5,8 +5,8 @@ set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib)
 set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib)
 set(CMAKE_BUILD_RPATH_USE_ORIGIN ON)  # a copy of bin/ and lib/ uses its own library
 
-# The path of the resources, relative to a directory at or above that of the module's file, and their configured
-# installation path, relative to the library's directory.
+# resources_above is relative to a directory at or above that of the module's file. resources_installed, the configured
+# path, is relative to the library's directory.
 if(IS_ABSOLUTE "${CMAKE_INSTALL_DATADIR}")
   set(resources_above share/ZKStrings)
   set(resources_installed ${CMAKE_INSTALL_DATADIR}/ZKStrings)

@@ -24,7 +24,7 @@ set(public_headers
   region/CurrentLanguage.h
   region/Language.h)
 
-# The part of the platform with a form for each system.
+# The part of the platform that has a version for each system.
 if(WIN32)
   set(system_sources CodeLocation.cpp File.cpp Text.cpp UserSettings.cpp)
   list(TRANSFORM system_sources PREPEND platform/system/windows/)
@@ -82,7 +82,7 @@ if(BUILD_SHARED_LIBS AND WIN32)
   set_target_properties(ZKStrings PROPERTIES PREFIX "")
   target_compile_definitions(ZKStrings INTERFACE ZK_IMPORTS)
 elseif(BUILD_SHARED_LIBS)
-  # Hidden visibility does not reach the instances of the standard library's templates.
+  # Hidden visibility does not apply to the instances of the standard library's templates.
   target_link_options(ZKStrings PRIVATE -Wl,--version-script=${PROJECT_SOURCE_DIR}/cmake/ExportedNames.map -Wl,--no-undefined
     -Wl,-Bsymbolic-functions)
   # The library frees each thread's memory when the thread ends, so it must stay loaded.

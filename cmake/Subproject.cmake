@@ -1,4 +1,4 @@
-# Defines for a project that includes this one what find_package defines.
+# Gives a project that includes this one the same properties and functions as find_package.
 set_property(GLOBAL PROPERTY ZKSTRINGS_RESOURCES ${PROJECT_SOURCE_DIR}/resources)
 set_property(GLOBAL PROPERTY ZKSTRINGS_RESOURCES_PLACE ${resources_above})
 include(cmake/ZKStringsResources.cmake)

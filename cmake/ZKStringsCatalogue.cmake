@@ -7,8 +7,8 @@
 # The accessors are regenerated whenever the catalogue or its English table changes; an error in them fails the build, with
 # file, line and column. They find their tables in share/<project>-<name>, in the directory of the program or shared
 # library that contains them or at most two levels above it. <project> is the name of the top-level project, so two
-# products can be installed under one prefix. In the build folder, the tables are links, at its top and in the current
-# directory. An installation copies the tables to its root, for code in bin/, lib/ or lib/<architecture>/, or to DESTINATION,
+# products can be installed under one prefix. Links to the tables are at the top of the build folder and in the current
+# binary directory. An installation copies the tables to its root, for code in bin/, lib/ or lib/<architecture>/, or to DESTINATION,
 # which should be the directory that the code itself is installed in.
 function(zk_add_catalogue)
   cmake_parse_arguments(PARSE_ARGV 0 arg "" "TARGET;ROOT;NAME;NAMESPACE;DESTINATION" "")

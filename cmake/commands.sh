@@ -1,4 +1,4 @@
-# Functions that the commands in the project's folder share. They source this file there.
+# Functions that the commands in the project's folder share.
 # shellcheck shell=bash
 
 # Prints the comment at the top of the command as its help.

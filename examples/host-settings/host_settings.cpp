@@ -1,5 +1,5 @@
-// An app with its own settings, as on a phone. It passes the user's languages and the network's country to the module,
-// which does not read the environment then. The app follows changes while it runs.
+// An app with its own settings, as on a phone. It passes the user's languages and the network's country to the module.
+// The module then does not read the environment. The app follows changes while it runs.
 
 #include <ZKStrings/ZKStrings.h>
 

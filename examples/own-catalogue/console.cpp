@@ -1,5 +1,5 @@
-// The console of a show's host. Its texts come from its own catalogue, the word for the players' badges from the module's
-// catalogue, both in the same language.
+// The console of a show's host. Its texts come from its own catalogue. The word for the players' badges comes from the
+// module's catalogue. Both are in the same language.
 //   own_catalogue            in the languages of the user's settings
 //   own_catalogue de-DE      in the given language
 #include <ZKStrings/ZKStrings.h>
