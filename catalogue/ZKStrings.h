@@ -18,7 +18,8 @@ namespace zk {
 ///
 ///     std::string title = zk::ZKStrings::badgeCount_Badges("4", 4);
 ///
-/// Thread-safe. Requires: `zk::Current::language` has been assigned.
+/// Thread-safe.
+/// Requires: `zk::Current::language` has been assigned.
 struct ZK_EXPORT ZKStrings {
   ZKStrings() = delete;
 
@@ -55,7 +56,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Accept();
 
   /// "Accept friend"
-  /// Treat it as a button; "friend" is a player, and a friend request is meant.
+  /// Treat it as a button; "friend" is a player, and the button accepts a friend request.
   [[nodiscard]] static std::string Accept_friend();
 
   /// "Account"
@@ -71,7 +72,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Add();
 
   /// "Add friend"
-  /// Treat it as a button; "friend" is a player, and a friend request is meant.
+  /// Treat it as a button; "friend" is a player, and the button sends a friend request.
   [[nodiscard]] static std::string Add_friend();
 
   /// "Add Friends on ZK"
@@ -435,7 +436,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string coinsPurchased_coins(Text coinsPurchased);
 
   /// "Cold"
-  /// Where this appears is not recorded; treat it as a call in a hiding game: Hot is near to what you look for, Cold is far from it. Weather is not meant.
+  /// Where this appears is not recorded; treat it as a hint in a hiding game: Hot means near the hidden thing, Cold means far from it. It is not about the weather.
   [[nodiscard]] static std::string Cold();
 
   /// "Collect"
@@ -550,7 +551,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Create_profile();
 
   /// "Crop avatar"
-  /// An avatar is the picture of the player's profile.
+  /// An avatar is the player's profile picture.
   [[nodiscard]] static std::string Crop_avatar();
 
   /// "Daily\nChallenge"
@@ -583,7 +584,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Decide_Later();
 
   /// "Delete Avatar"
-  /// An avatar is the picture of the player's profile.
+  /// An avatar is the player's profile picture.
   [[nodiscard]] static std::string Delete_Avatar();
 
   /// "Disconnect %{account}"
@@ -898,7 +899,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Found_name_nearby(Text name);
 
   /// "Found *%{username}* nearby, looking for %{remaining} more players"
-  /// The count is %{remaining}, the number of players still missing. At 0 nobody is missing.
+  /// The count is %{remaining}, the number of players still needed. At 0 nobody else is needed.
   /// - 0: "Found *%{username}* nearby, no more players needed"
   /// - 1: "Found *%{username}* nearby, looking for %{remaining} more player"
   /// - 2: "Found *%{username}* nearby, looking for %{remaining} more players"
@@ -911,7 +912,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string four();
 
   /// "Free Pass"
-  /// A thing that skips questions up to a certain one.
+  /// An item that lets the player skip questions up to a certain one.
   [[nodiscard]] static std::string Free_Pass();
 
   /// "Free Pass through Q%{level}"
@@ -1083,7 +1084,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Hit_us_up_on_Twitter_zktrivia();
 
   /// "Hot"
-  /// Where this appears is not recorded; treat it as a call in a hiding game: Hot is near to what you look for, Cold is far from it. Weather is not meant.
+  /// Where this appears is not recorded; treat it as a hint in a hiding game: Hot means near the hidden thing, Cold means far from it. It is not about the weather.
   [[nodiscard]] static std::string Hot();
 
   /// "How it works"
@@ -1189,7 +1190,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string In_order_to_donate_your_winnings_please_fill_out_all_fields_below();
 
   /// "In Review"
-  /// A state: ZK checks something, such as a balance. What it checks is not recorded. Reviews in a store are not meant.
+  /// A state: ZK checks something, such as a balance. What it checks is not recorded. It is not about reviews in a store.
   [[nodiscard]] static std::string In_Review();
 
   /// "In the meantime, warm up\nand win coins!"
@@ -1291,11 +1292,11 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Level_levelNumber(Text levelNumber);
 
   /// "Level Unlock"
-  /// A thing that a player owns and uses up: it opens a level.
+  /// An item that the player uses up to open a level.
   [[nodiscard]] static std::string Level_Unlock();
 
   /// "Level Unlocks"
-  /// A thing that a player owns and uses up: it opens a level.
+  /// An item that the player uses up to open a level.
   [[nodiscard]] static std::string Level_Unlocks();
 
   /// "Levels"
@@ -1633,7 +1634,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Play_again_now_for();
 
   /// "Play %{days} more days in a row"
-  /// The count is the number of days still missing. For 1, omit "in a row". At 0, the player has played enough days.
+  /// The count is the number of days left. For 1, omit "in a row". At 0, the player has played enough days.
   /// - 0: "You've played enough days in a row"
   /// - 1: "Play %{days} more day"
   /// - 2: "Play %{days} more days in a row"
@@ -1642,7 +1643,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Play_days_more_days_in_a_row(Text days, std::int64_t count);
 
   /// "Play %{days} more days in a row to earn an Extra Life!"
-  /// The count is the number of days still missing. For 1, omit "in a row". At 0, the player has played enough days.
+  /// The count is the number of days left. For 1, omit "in a row". At 0, the player has played enough days.
   /// - 0: "You've played enough days in a row to earn an Extra Life!"
   /// - 1: "Play %{days} more day to earn an Extra Life!"
   /// - 2: "Play %{days} more days in a row to earn an Extra Life!"
@@ -1773,7 +1774,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Point_Multipliers(std::int64_t count);
 
   /// "%{pointCount} pts away from Level %{level}"
-  /// The count is %{pointCount}, the points still missing for a level. "pts" means points. At 0 the level is reached.
+  /// The count is %{pointCount}, the points still needed for a level. "pts" means points. At 0 the level is reached.
   /// - 0: "Level %{level} reached"
   /// - 1: "%{pointCount} pt away from Level %{level}"
   /// - 2: "%{pointCount} pts away from Level %{level}"
@@ -1939,7 +1940,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Remove_request();
 
   /// "Report"
-  /// Where this appears is not recorded; treat it as a button: a verb. It reports a player or a problem; the noun (an account of something) is not meant.
+  /// Where this appears is not recorded; treat it as a button: a verb. It reports a player or a problem. It is not the noun (an account of something).
   [[nodiscard]] static std::string Report();
 
   /// "Report issue"
@@ -2061,7 +2062,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string See_all_Badges();
 
   /// "Select an avatar"
-  /// An avatar is the picture of the player's profile.
+  /// An avatar is the player's profile picture.
   [[nodiscard]] static std::string Select_an_avatar();
 
   /// "Send feedback"
@@ -2345,7 +2346,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Tell_us_about_your_n_experience();
 
   /// "Terms"
-  /// Where this appears is not recorded; treat it as a title of a document: terms of use. Words and periods of time are not meant.
+  /// Where this appears is not recorded; treat it as a title of a document: terms of use. It is not about words or periods of time.
   [[nodiscard]] static std::string Terms();
 
   /// "Terms of Service"
@@ -2518,11 +2519,11 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Unable_to_load_your_preferences();
 
   /// "Under Review"
-  /// A state: ZK checks something, such as a balance. What it checks is not recorded. Reviews in a store are not meant.
+  /// A state: ZK checks something, such as a balance. What it checks is not recorded. It is not about reviews in a store.
   [[nodiscard]] static std::string Under_Review();
 
   /// "Unknown period"
-  /// Where this appears is not recorded. A period is a span of time, such as a week; the punctuation mark is not meant.
+  /// Where this appears is not recorded. A period is a span of time, such as a week, not the punctuation mark.
   [[nodiscard]] static std::string Unknown_period();
 
   /// "Unlock"
@@ -2537,7 +2538,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Unlock_Next_Game();
 
   /// "Unlocks"
-  /// The app knows a count, but the text does not show it. The number probably appears next to it, so use the noun form that goes with that number, or one label for all. An Unlock is a thing that a player owns and uses up: it opens a game or a level.
+  /// The app knows a count, but the text does not show it. The number probably appears next to it, so use the noun form that goes with that number, or one label for all. An Unlock is an item that the player uses up to open a game or a level.
   /// - 0: "Unlocks"
   /// - 1: "Unlock"
   /// - 2: "Unlocks"
@@ -2852,7 +2853,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Winners();
 
   /// "Wins"
-  /// Where this appears is not recorded; treat it as a noun: how many games were won, or the list of them. The verb is not meant.
+  /// Where this appears is not recorded; treat it as a noun: how many games were won, or the list of them. It is not a verb.
   [[nodiscard]] static std::string Wins();
 
   /// "Withdrawn"
@@ -2910,7 +2911,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string You_are_unauthorized_to_cashout();
 
   /// "You can't win the cash prize, but get %{pointsToGo} more points to earn an Extra Life!"
-  /// The count is %{pointsToGo}, the points still missing for an Extra Life. At 0 nothing is missing.
+  /// The count is %{pointsToGo}, the points still needed for an Extra Life. At 0 no more are needed.
   /// - 0: "You can't win the cash prize, but you have enough points to earn an Extra Life!"
   /// - 1: "You can't win the cash prize, but get %{pointsToGo} more point to earn an Extra Life!"
   /// - 2: "You can't win the cash prize, but get %{pointsToGo} more points to earn an Extra Life!"
@@ -3257,7 +3258,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Your_money_will_be_there_in_just_a_bit();
 
   /// "Your phone"
-  /// Whether the device or the number is meant is not recorded.
+  /// Whether this is the device or the phone number is not recorded.
   [[nodiscard]] static std::string Your_phone();
 
   /// "Your phone number"

@@ -34,7 +34,8 @@ constexpr const char* kHeaderBegin = R"(#pragma once
 /// name. `count`, the last argument of counted entries, selects the plural form and is not filled in anywhere. The
 /// comment of each accessor shows the English text.
 ///
-{example}/// Thread-safe. Requires: `zk::Current::language` has been assigned.
+{example}/// Thread-safe.
+/// Requires: `zk::Current::language` has been assigned.
 struct {export} {name} {{
   {name}() = delete;
 )";
