@@ -16,8 +16,7 @@ namespace zk::tools {
 inline constexpr std::string_view kGeneratedNotice =
     "// Generated from catalogue/entries.json by `zkstrings generate`.";
 
-/// The name of the accessor of `entry`. If it would be the name of the class, and so of the constructor, an
-/// underscore is appended.
+/// The name of the accessor of `entry`. It gets an underscore if it would be the name of the class.
 [[nodiscard]] std::string accessorOf(const Entry& entry, const CatalogueName& name);
 
 /// The call of the accessor of `entry`: "zk::ZKStrings::badgeCount_Badges(badgeCount, count)".

@@ -139,8 +139,7 @@ std::size_t writeCatalogue(const std::string& root, const Catalogue& catalogue, 
   }
   if (!undecided.empty()) throw CommandFailed{std::move(undecided)};
 
-  // If the command is interrupted, the next call finishes its work, because translations change before the English
-  // texts.
+  // If the command is interrupted, the next call finishes its work, because translations change before the English texts.
   files.push_back({tablePath(kBase), syncedBase(base, english)});
   const CatalogueName& name = catalogue.settings().name;
   // Another catalogue than the module's may leave its accessors to the build.

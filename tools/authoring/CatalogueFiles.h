@@ -27,24 +27,23 @@ struct TableChange {
   bool generates = false;
 };
 
-/// Writes the catalogue of the project at `root` and all files that depend on it, or none of them: updates the
-/// English table, marks translations of changed texts for review, and generates the accessors if the project keeps
-/// them. Returns the number of translations that need review now. Throws `CommandFailed` if one of the files breaks a
-/// rule or cannot be written.
+/// Writes the catalogue of the project at `root` and all files that depend on it, or none of them: updates the English table,
+/// marks translations of changed texts for review, and generates the accessors if the project keeps them. Returns the number of
+/// translations that need review now. Throws `CommandFailed` if one of the files breaks a rule or cannot be written.
 std::size_t writeCatalogue(const std::string& root, const Catalogue& catalogue,
                            const TableChange& change = {});
 
-/// Does the same after somebody has edited or merged the catalogue, and sorts the catalogue and all tables. Throws
-/// `CommandFailed` with the conflicts that it cannot resolve, such as one key with two texts.
+/// Like `writeCatalogue`, but for a catalogue that was edited or merged by hand: also sorts it and all tables. Throws
+/// `CommandFailed` with the conflicts that remain, such as a key with two texts.
 std::size_t generate(const std::string& root);
 
 /// Writes only the accessors, into the directory `output`, for a build that keeps them there. Throws `CommandFailed`,
 /// with files named from `root`, if the catalogue is wrong or the English table differs from it.
 void generateInto(const std::string& output, const std::string& root);
 
-/// Writes a new catalogue to `directory`, which is created if needed: two texts, one of them counted, their English
-/// table, the settings, and a README that explains the next steps. Throws `CommandFailed`, and writes nothing, if there is
-/// a catalogue already or a file cannot be written; `std::invalid_argument` if `name` cannot name a catalogue.
+/// Writes a new catalogue of two texts to `directory`, which is created if needed, with the English table, the settings
+/// and a README. Throws `CommandFailed`, and writes nothing, if there is a catalogue already or a file cannot be
+/// written; `std::invalid_argument` if `name` is not valid.
 void initCatalogue(const std::string& directory, const CatalogueName& name);
 
 }  // namespace zk::tools

@@ -31,7 +31,7 @@ constexpr std::size_t kFormForOne = 1;
   throw std::invalid_argument(reason);
 }
 
-/// Completes `entry` after a change of its text or key, and refuses what cannot be right.
+/// Completes `entry` after a change of its text or key, and throws if it is not valid.
 void finish(Entry& entry) {
   keepKeyIfNeeded(entry);
   if (const std::string error = Catalogue::errorIn(entry); !error.empty()) refuse(error);
@@ -89,7 +89,7 @@ std::vector<Entry*> entriesOf(Catalogue& catalogue, const std::string& key) {
                      didYouMean(meant, fmt::format("{} lists all keys", Catalogue::kFile))));
 }
 
-/// The keys of `entry` in the tables, and those that they become if its key becomes `newKey`; empty ones if that is empty.
+/// The keys of `entry` in the tables, each with its new key if the entry gets the key `newKey`; empty if that is empty.
 std::map<std::string, std::string> renamedKeys(const Entry& entry, const std::string& newKey) {
   std::map<std::string, std::string> keys;
   for (const std::string& key : entry.lookedUpKeys())

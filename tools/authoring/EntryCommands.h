@@ -23,18 +23,16 @@ struct EntryChange {
 /// Returns the key derived from `text`. Throws `std::invalid_argument`, with what is wrong, if there is none.
 std::string keyOf(const std::string& text);
 
-// Each of these functions changes all files that contain the text, or none. They throw `CommandFailed` if a file is
-// wrong or cannot be written, and `std::invalid_argument`, with what is wrong and what to do, if the text or the key
-// is not valid.
+// These functions change all files that contain the text, or none. They throw `CommandFailed` if a file is wrong or
+// cannot be written, and `std::invalid_argument` if the text or the key is not valid.
 
-/// Adds the text to the project at `root`: to the catalogue, to the English table, and to the accessors. Returns its
-/// key: that of `added`, or the one derived from the text. A counted text needs at least the form for one; the other
-/// forms may be the same as the text. With `isPlain`, placeholders of other systems, such as "%s", are taken as text.
+/// Adds a text to the catalogue, the English table and the accessors. Returns its key: that of `added`, or the one
+/// derived from the text. A counted text needs at least the form for one. With `isPlain`, placeholders of other
+/// systems, such as "%s", are plain text.
 std::string addEntry(const std::string& root, const Entry& added, bool isPlain);
 
-/// Changes the text of `key`. A plural form that was the old text becomes the new one. Translations of what has changed
-/// are marked for review, unless the meaning is the same; returns their number. If a text gets a count, its translations
-/// become the form for many.
+/// Changes the text of `key`, and its plural forms that were the same. Marks translations of changed texts for review, unless the
+/// meaning is the same, and returns their number. If a text gets a count, its translations become the form for many.
 std::size_t changeEntry(const std::string& root, const std::string& key, const EntryChange& change);
 
 /// Changes the key of the text `key`, counted and plain, to `newKey` in all tables.

@@ -11,10 +11,9 @@ namespace zk::tools {
 /// The places where a program calls the accessors of a catalogue.
 class Uses {
  public:
-  /// Searches the source files (C++, Objective-C++) of the folders `directories` for calls of the accessors of
-  /// `catalogue`: their names after the name of the class, or after an alias that one of the files declares with
-  /// `using Alias = ...;`. Comments, strings and generated accessors do not count. Throws `std::invalid_argument` if
-  /// the folders have no source file; no folders have no uses.
+  /// Searches the C++ and Objective-C++ files in `directories` for calls of the accessors of `catalogue` that are
+  /// qualified with the class, or with an alias that a file declares by `using Alias = ...;`. Ignores comments, strings
+  /// and generated accessors. Throws `std::invalid_argument` if there are directories but no source files.
   Uses(const std::vector<std::string>& directories, const Catalogue& catalogue);
 
   /// The places that call the accessor of `entry`, with or without a count: "src/menu.cpp:12".

@@ -131,8 +131,7 @@ std::size_t reportedCount(std::string_view language) {
   return count > 0 && U_SUCCESS(status) && scripts[0] != USCRIPT_LATIN ? 1 : kAmongLatinLetters;
 }
 
-/// Returns the runs of `count` words in `text`, without names and loan words. Single words have more than three
-/// letters.
+/// Returns the runs of `count` words in `text`, without names and loan words. Single words have more than three letters.
 std::vector<std::string> runsIn(std::string_view text, const CatalogueSettings& settings,
                                 const Phrases& loanWords, std::size_t count) {
   constexpr std::size_t kLongestAbbreviation = 3;

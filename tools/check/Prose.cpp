@@ -28,8 +28,7 @@ void blankOutAll(std::string& text, std::string_view part) {
   }
 }
 
-/// Whether `run`, ASCII without white space, is a handle or an address: "@zk", "help@zk.example",
-/// "zk.example/x".
+/// Whether `run`, ASCII without white space, is a handle or an address: "@zk", "help@zk.example", "zk.example/x".
 bool isAddress(std::string_view run) {
   if (run.find('@') != std::string_view::npos || run.find("://") != std::string_view::npos) return true;
   for (std::size_t dot = run.find('.'); dot != std::string_view::npos; dot = run.find('.', dot + 1)) {

@@ -25,8 +25,7 @@ using Words = std::vector<Word>;
 /// The words of the prose of `text`.
 [[nodiscard]] Words proseWords(std::string_view text);
 
-/// One or several words in a row to find in texts. A star at the beginning or end of a word matches any letters. A word
-/// with capitals matches only the same capitals, other words match any case.
+/// One or more words to find in texts. A star at either end of a word matches any letters. Capitals make a word case-sensitive.
 class Phrase {
  public:
   explicit Phrase(std::string_view spelled);

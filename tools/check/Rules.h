@@ -26,12 +26,10 @@ struct CheckedTable {
 /// The rules for a table as a whole: its directory, its file, its keys and what is not translated yet.
 [[nodiscard]] std::span<const RuleFor<CheckedTable>> tableRules();
 
-/// The rules for nouns after numbers. They take from the table itself which nouns fit which numbers, and need the
-/// catalogue.
+/// The rules for nouns after numbers. They learn from the table itself which nouns fit which numbers.
 [[nodiscard]] std::span<const RuleFor<CheckedTable>> pluralRules();
 
-/// A text of a table that is not blank, and the English text of the same key. For an entry of the English table, that
-/// is the text of the catalogue.
+/// A text of a table that is not blank, and the text of the same key in the catalogue.
 struct Translation {
   std::string_view language;
   const TableEntry& entry;
@@ -56,7 +54,7 @@ struct CountryFile {
   std::vector<Element> elements;
   std::optional<Finding> error;  ///< why the file is not an array of countries
 
-  /// Returns whether the project at `root` must have a list: the module's own catalogue must, others may.
+  /// Returns whether the project at `root` should have a list: the module must, other catalogues may.
   [[nodiscard]] static bool isExpected(const std::string& root, bool isModule);
   /// Reads the list of the project at `root`.
   [[nodiscard]] static CountryFile read(const std::string& root);

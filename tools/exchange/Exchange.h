@@ -11,14 +11,14 @@
 
 namespace zk::tools {
 
-/// The texts that the app looks up, each with its English text, its translation in the table of `language` ("de") of
-/// the project at `root`, and notes for translators, in catalogue order. A text that is not translated has no target.
-/// With `onlyOpen`, texts that are translated and need no review are left out. Notes name the places of use in
-/// the folders `sources`. Throws `CommandFailed` for a language without a table, and if the table or the catalogue is wrong.
+/// Returns the texts that the app looks up, in catalogue order, with their translations in the table of `language`
+/// ("de") and notes for translators. A text that is not translated has no target. With `onlyOpen`, texts that are
+/// translated and need no review are left out. Notes name the places of use in the folders `sources`. Throws
+/// `CommandFailed` if the language has no table, or if the table or the catalogue is wrong.
 [[nodiscard]] Translations translationsOf(const std::string& root, const std::string& language, bool onlyOpen,
                                           const std::vector<std::string>& sources = {});
 
-/// The translation in `entry` (null if the table has none), which has that state; empty if it is not translated.
+/// Returns the translation in `entry`, which has that state and may be null; empty if it is not translated.
 [[nodiscard]] std::string_view translationIn(const TableEntry* entry, TranslationState state);
 
 /// How the note starts that `versionNote` returns.
@@ -38,12 +38,11 @@ struct Import {
   Diagnostics diagnostics;       ///< at places in the imported file: warnings, and a note on each change
 };
 
-/// Imports `translations`, which were read from `file`, into the table of their language of the project at `root`.
-/// Refuses a text if nothing looks up its key, if the file has the key twice, or if the English text or the table's
-/// translation has changed since the export. With `force`, the latter two are imported, and a translation of an older
-/// English text is marked for review. A text without a translation changes nothing. Throws `CommandFailed`, having
-/// changed nothing, if `check` finds an error in an imported text, for a language without a table, if the table or the
-/// catalogue is wrong, and if the table cannot be written.
+/// Imports `translations`, which were read from `file`, into the table of their language. Refuses a text if its key is
+/// unknown or occurs twice, or if the English text or the table's translation has changed since the export. With
+/// `force`, changed texts are imported, and translations of an older English text are marked for review. A text without
+/// a translation changes nothing. Throws `CommandFailed`, and changes nothing, if `check` finds an error in an imported
+/// text, if the language has no table, if the table or the catalogue is wrong, or if the table cannot be written.
 Import importTranslations(const std::string& root, const Translations& translations, const std::string& file,
                           bool force);
 

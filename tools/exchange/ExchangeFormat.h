@@ -38,9 +38,8 @@ enum class ExchangeFormat { xliff12, xliff20, po, csv };
 /// The bytes of a file in that format. Throws `CommandFailed` for XLIFF if XML cannot hold a text.
 [[nodiscard]] std::string written(const Translations& translations, ExchangeFormat format);
 
-/// Reads the file at `path`, relative to the working directory. A file that starts with "<" is XLIFF; the extension
-/// names the format of all others. Throws `CommandFailed` if the file cannot be read, is larger than 32 MiB or is not
-/// well-formed.
+/// Reads the file at `path`, relative to the working directory. A file that starts with "<" is XLIFF; the extension names the
+/// format of all others. Throws `CommandFailed` if the file cannot be read, is larger than 32 MiB or is not well-formed.
 [[nodiscard]] Translations readTranslations(const std::string& path);
 
 // The single formats. The functions that read one take the UTF-8 text of a file without a byte-order mark. They throw

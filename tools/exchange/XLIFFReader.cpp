@@ -33,8 +33,7 @@ pugi::xml_node childNamed(pugi::xml_node element, std::string_view name) {
   return element.find_child([&](pugi::xml_node child) { return localName(child.name()) == name; });
 }
 
-/// The offset of the first reference in the well-formed `xml` to an entity that XML does not define; `npos` if there is
-/// none.
+/// The offset of the first reference in the well-formed `xml` to an entity that XML does not define; `npos` if there is none.
 std::size_t unknownEntity(std::string_view xml) {
   constexpr std::string_view kKnown[] = {"&#", "&amp;", "&lt;", "&gt;", "&quot;", "&apos;"};
   for (std::size_t at = xml.find_first_of("<&"); at != xml.npos; at = xml.find_first_of("<&", at + 1)) {

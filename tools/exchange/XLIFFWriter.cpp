@@ -32,8 +32,7 @@ pugi::xml_node addElement(pugi::xml_node parent, const char* name,
   return element;
 }
 
-/// Adds a text node, which may be empty. An element whose neighbours are text nodes is written without line breaks
-/// around it.
+/// Adds a text node, which may be empty. An element whose neighbours are text nodes is written without line breaks around it.
 void addText(pugi::xml_node element, std::string_view text) {
   element.append_child(pugi::node_pcdata).set_value(std::string(text).c_str());
 }

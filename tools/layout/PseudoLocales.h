@@ -6,19 +6,17 @@
 
 namespace zk::tools {
 
-/// `english` in the pseudo-locale "xa": accented and at least a third longer, to find layouts that break.
-/// "Kick %{username}?" becomes "⟦ĶĶîççķ %{username}?⟧". A text that is cut off lacks a bracket, one that is
-/// joined from parts has brackets within, and one that is not translatable has no accents. A plural form is
-/// followed by its name.
+/// `english` in the pseudo-locale "xa": accented and at least a third longer, to find layouts that break. "Kick %{username}?"
+/// becomes "⟦ĶĶîççķ %{username}?⟧". A text that is cut off lacks a bracket, one that is joined from parts has brackets within,
+/// and one that is not translatable has no accents. A plural form is followed by its name.
 [[nodiscard]] std::string accentedText(const EnglishText& english);
 
 /// `english` in the pseudo-locale "xb": marks of direction make lines and words run from right to left.
 [[nodiscard]] std::string mirroredText(const EnglishText& english);
 
-/// Copies the resources of the project at `root` into the folder `directory` and adds three pseudo-locales:
-/// "xa" and "xb", and "xk", in which every text is its key. Throws `CommandFailed`, having written nothing, if
-/// `directory` is in the project's own resources, which are shipped, if the catalogue is wrong, or if a file cannot
-/// be written.
+/// Copies the resources of the project to `directory` and adds the pseudo-locales "xa", "xb", and "xk", in which every
+/// text is its key. Throws `CommandFailed`, and writes nothing, if `directory` is in the project's own resources, if the catalogue
+/// is wrong, or if a file cannot be written.
 void writePseudoLocales(const std::string& root, const std::string& directory);
 
 }  // namespace zk::tools

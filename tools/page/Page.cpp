@@ -227,7 +227,7 @@ class DataMaker {
 std::string pageOf(const std::string& root, const std::vector<std::string>& sources) {
   const std::string data =
       DataMaker(root, sources).all().dump(-1, ' ', false, Json::error_handler_t::replace);
-  // Without this sign, which JSON has in strings only, no text can end the data or begin a comment in it.
+  // JSON has this sign only in strings. The escape keeps texts from ending the data or starting a comment in it.
   return std::string(kPageBeforeData).append(replaceAll(data, "<", "\\u003c")).append(kPageAfterData);
 }
 

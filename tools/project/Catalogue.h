@@ -31,7 +31,7 @@ using PluralForms = std::array<std::optional<std::string>, std::size(kPluralForm
 
 /// One entry of the catalogue, as catalogue/entries.json holds it.
 struct Entry {
-  /// What an entry keeps although a rule asks for something else: its key, or its key and its place.
+  /// What an entry keeps although it breaks a rule: its key, or its key and its place in the file.
   enum class Kept { nothing, key, place };
 
   std::string key;
@@ -57,9 +57,8 @@ class Catalogue {
   [[nodiscard]] static Catalogue read(const std::string& root);
   /// Reads and checks the contents of an entries.json.
   [[nodiscard]] static Catalogue parse(std::string_view json);
-  /// Reads entries.json as a person or a merge of two versions left it: sorts the entries, drops repeated ones
-  /// and ignores missing commas. An entry that `isKnown` accepts keeps its key although its text has changed. Throws
-  /// `CommandFailed` if something else is wrong.
+  /// Reads entries.json after manual edits or a merge: sorts the entries, drops repeated ones and ignores missing commas. An
+  /// entry that `isKnown` accepts keeps its key although its text has changed. Throws `CommandFailed` if something else is wrong.
   [[nodiscard]] static Catalogue readEdited(const std::string& root,
                                             const std::function<bool(const Entry&)>& isKnown);
 
@@ -83,7 +82,7 @@ class Catalogue {
   CatalogueSettings settings_;
 };
 
-/// Lets `entry` keep its key if the key is not the one that its text gets, and only then.
+/// Marks the key of `entry` as kept if it is not the key derived from the text, and removes the mark otherwise.
 void keepKeyIfNeeded(Entry& entry);
 
 /// A key that the module looks up, and its English text.
@@ -94,14 +93,13 @@ struct EnglishText {
   std::string text;
   const CatalogueSettings* settings;
 
-  /// The names of the placeholders that a translation may use: those of the text and, for a plural form, those of its
-  /// entry.
+  /// The names of the placeholders that a translation may use: those of the text and, for a plural form, those of its entry.
   [[nodiscard]] std::vector<std::string_view> placeholders() const;
   /// The placeholder for the count: the first one for a number, or else the entry's only one if it has no example
   /// value. Empty if there is none, or if the text is not a plural form.
   [[nodiscard]] std::string_view countPlaceholder() const;
-  /// The placeholder that a translation may leave out in `_zero` and `_one`, which may spell the number: the
-  /// entry's only one, or that for the count. Empty in all other texts.
+  /// The placeholder that a translation may omit in `_zero` and `_one`, because it may spell the number: the only one
+  /// of the entry, or the one for the count. Empty in all other texts.
   [[nodiscard]] std::string_view dispensable() const;
 };
 

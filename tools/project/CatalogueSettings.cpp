@@ -19,8 +19,7 @@ namespace zk::tools {
 
 namespace {
 
-/// The words that cannot be the name of an accessor: reserved words, and two names that the module's class itself
-/// needs.
+/// The words that cannot be the name of an accessor: reserved words, and two names that the module's class itself needs.
 constexpr std::string_view kReserved[] = {
     "Text",     "ZKStrings", "alignas",  "alignof",   "and",     "and_eq",    "asm",      "auto",
     "bitand",   "bitor",     "bool",     "break",     "case",    "catch",     "char",     "class",

@@ -60,10 +60,11 @@ struct CatalogueSettings {
   };
 
   CatalogueName name;
-  std::string appName;                          ///< shown to people; by default the name of the class
-  std::vector<std::string> names;               ///< names that stay as they are in all languages
-  std::vector<RuleOff> rulesOff;                ///< rules of `check` that do not apply to this catalogue
-  std::vector<std::string> numberPlaceholders;  ///< placeholders for a number, other than those in "…Count"
+  std::string appName;             ///< shown to people; by default the name of the class
+  std::vector<std::string> names;  ///< names that stay as they are in all languages
+  std::vector<RuleOff> rulesOff;   ///< rules of `check` that do not apply to this catalogue
+  std::vector<std::string>
+      numberPlaceholders;  ///< placeholders for a number, other than those that end in "Count"
   std::map<std::string, Example, std::less<>>
       examples;  ///< by placeholder, or by "KEY.placeholder" for one entry
 

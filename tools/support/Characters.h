@@ -54,8 +54,8 @@ class CodePoints {
 /// `text` with each control character as an escape, such as \U000d for a carriage return. If `keepsLines`, line feeds stay.
 [[nodiscard]] std::string withoutControls(std::string_view text, bool keepsLines = false);
 
-/// The one of `candidates` that `word` most likely misspells, the first of several that are equally near, or nothing if
-/// none is near enough. Distance is the number of bytes to insert, remove or replace, whatever the case of ASCII letters.
+/// Returns the candidate that `word` most likely misspells, the first one of several; nothing if none is near enough.
+/// Distance is the number of bytes to insert, remove or replace, without regard to the case of ASCII letters.
 [[nodiscard]] std::optional<std::string_view> nearest(std::string_view word,
                                                       const std::vector<std::string_view>& candidates);
 

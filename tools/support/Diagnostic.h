@@ -13,7 +13,7 @@ struct Position {
   std::size_t column;
 };
 
-/// Finds the positions of byte offsets. The offsets must be in rising order, so the text is read only once.
+/// Finds the positions of byte offsets, and reads the text only once. Requires: the offsets are in rising order.
 class PositionFinder {
  public:
   /// `text` is UTF-8, begins at the position `begin`, and must outlive the finder.
@@ -50,8 +50,7 @@ struct Diagnostic {
 
 using Diagnostics = std::vector<Diagnostic>;
 
-/// Returns the name of a file of the project at `root`, relative to the working directory, as terminals, editors and CI
-/// expect it.
+/// Returns the name of `file` of the project at `root`, relative to the working directory, as editors and CI expect it.
 [[nodiscard]] std::string fromWorkingDirectory(const std::string& file, const std::string& root);
 
 /// Returns the diagnostics of the project at `root` with such names.
@@ -66,8 +65,7 @@ using Diagnostics = std::vector<Diagnostic>;
 /// Returns an error for each merge conflict that Git has left in `text`, the content of `file`.
 [[nodiscard]] Diagnostics mergeConflictsIn(std::string_view text, const std::string& file);
 
-/// Thrown by a command that fails because of its files. The program prints the diagnostics and ends with status 1. There
-/// are none if the command has printed them already.
+/// Thrown if a command fails because of its files. The program prints the diagnostics, if any, and exits with status 1.
 struct CommandFailed {
   Diagnostics diagnostics;
 };

@@ -12,8 +12,7 @@ namespace zk::tools {
 /// `path` as seen from the working directory.
 [[nodiscard]] std::string absolutePath(const std::string& path);
 
-/// The root of the project that the working directory is in: the nearest directory upward with
-/// catalogue/entries.json. Throws `CommandFailed` if there is none.
+/// The nearest directory at or above the working directory with catalogue/entries.json. Throws `CommandFailed` if there is none.
 [[nodiscard]] std::string findRoot();
 
 /// `directory`, if it is the root of a project. Throws `CommandFailed` if it has no catalogue.
@@ -36,13 +35,12 @@ struct FileChange {
   std::string bytes;
 };
 
-/// Replaces all of the files or none, even if a signal interrupts the command: the new contents are written to temporary
-/// files, which are then renamed, in the order of `changes`. A process that is killed (SIGKILL) in between leaves
-/// the last files unchanged, so put the file last that shows a repeated command that it has not finished.
+/// Replaces all of the files or none, even if a signal interrupts the command: writes temporary files, and then renames
+/// them in the order of `changes`. If the process is killed between two renames, the last files are unchanged, so the
+/// last file must be the one that shows the next command that work is left.
 ///
-/// A file keeps its permissions and, as far as the system allows it, its owner and group. A symbolic link
-/// stays, and the file it points to is replaced, as far as `pathInProject` allows it.
-/// Throws `CommandFailed`, with the file's name, if a file cannot be written.
+/// A file keeps its permissions and, as far as the system allows it, its owner and group. A symbolic link stays; the file
+/// that it points to is replaced, if `pathInProject` allows it. Throws `CommandFailed` if a file cannot be written.
 void writeFiles(const std::string& root, const std::vector<FileChange>& changes);
 
 /// Replaces one file in the same way.

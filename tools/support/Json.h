@@ -16,8 +16,7 @@ struct JsonMember;
 
 /// A value of a JSON file, with its place in the file.
 ///
-/// The functions that return the content throw `CommandFailed`, which names the place and what to write there, if
-/// the value is of another type.
+/// The functions that return the content throw `CommandFailed` if the value has another type.
 class JsonValue {
  public:
   using Elements = std::vector<JsonValue>;

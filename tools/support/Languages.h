@@ -16,14 +16,13 @@ inline constexpr std::string_view kBase = "Base";
 /// The name of `language` in the language `in`. Both are codes.
 [[nodiscard]] std::string languageName(const std::string& language, const std::string& in);
 
-/// The two-letter code of the language that `word` means: a code of two or three letters ("sv", "swe"), an identifier
-/// ("sv-SE", "sv_SE.UTF-8"), the path of its table or directory, or its name in English or in the language
-/// itself, whatever the case of ASCII letters. Empty if the word means no language, or one without a two-letter code.
+/// Returns the two-letter code of the language `word`, which is a code ("sv", "swe"), an identifier ("sv-SE",
+/// "sv_SE.UTF-8"), the path of its table or directory, or its name in English or in the language itself. Ignores the
+/// case of ASCII letters. Empty if there is no such code.
 [[nodiscard]] std::string languageCodeOf(std::string_view word);
 
-/// The directory name, among those of `languagesIn`, of the language that `word` means: "Base" or a code. If there is none,
-/// the message suggests the nearest. It is thrown as `std::invalid_argument` for a word of the command line, and
-/// as `CommandFailed` for one from `file`.
+/// Returns the element of `languagesIn` for the language `word`. If there is none, throws a message with the nearest
+/// one, as `std::invalid_argument` for a word of the command line, and as `CommandFailed` for one from `file`.
 [[nodiscard]] std::string existingLanguage(const std::string& root, std::string_view word,
                                            const std::string& file = "");
 

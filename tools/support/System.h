@@ -14,8 +14,7 @@ namespace zk::tools {
 /// Keeps users and the system from ending the process until the result is destroyed, unless they kill it.
 [[nodiscard]] std::shared_ptr<void> holdBackSignals();
 
-/// Locks `folder` until the process ends. If another process holds the lock, calls `beforeWaiting` and waits. Returns false
-/// if the folder cannot be locked.
+/// Locks `folder` until the process ends. Calls `beforeWaiting` before it waits for another process. Returns false if it cannot.
 [[nodiscard]] bool lockFolder(const std::filesystem::path& folder, void (*beforeWaiting)());
 
 /// Creates an empty file, which only its owner may read if `isPrivate`. Returns false if it cannot, or if there is one.

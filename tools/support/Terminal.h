@@ -12,11 +12,10 @@
 
 namespace zk::tools {
 
-/// The columns within which the command lays out what it prints about itself.
+/// The width of the help and other texts that the command wraps, in columns.
 inline constexpr std::size_t kTerminalWidth = 80;
 
-/// `text` with line breaks in place of spaces, so that only a longer word takes more than `width` code points in a line.
-/// Each line but the first is indented by `indent` spaces.
+/// Wraps `text` at `width` code points, but not within words. Indents each line but the first by `indent` spaces.
 [[nodiscard]] std::string wrapped(std::string_view text, std::size_t width, std::size_t indent = 0);
 
 /// Prints `text`. Control characters other than line feeds become escapes, so no file or argument steers the terminal.

@@ -14,7 +14,7 @@ namespace zk::tools {
 
 namespace {
 
-/// Of any script; what else is not ASCII passes as well, and is then the name of no argument.
+/// Whether `c` is a letter or digit of any script. All bytes outside ASCII pass; no argument has a name with one.
 bool isLetterOrDigit(char c) {
   return isAsciiLetterOrDigit(c) || static_cast<unsigned char>(c) >= 0x80;
 }
@@ -31,7 +31,7 @@ struct Sign {
   std::string_view plain;
   std::string_view lookAlikes[2];
 
-  /// The size of the sign or of one like it at the beginning of `text`; 0 when there is none.
+  /// The size of the sign or of one like it at the beginning of `text`; 0 if there is none.
   [[nodiscard]] std::size_t sizeAt(std::string_view text) const {
     if (text.starts_with(plain)) return plain.size();
     const auto* const found =

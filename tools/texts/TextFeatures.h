@@ -20,8 +20,7 @@ inline constexpr const char* kNoCarriageReturn =
 /// Whether `text` is empty or has only white space.
 [[nodiscard]] bool isBlank(std::string_view text);
 
-/// The white space at both ends of a text, with a blank for each kind of space (no-break, narrow, wide). A blank text has
-/// all of it at the beginning.
+/// The white space at both ends of a text, with every kind of space as " ". In a blank text, all of it is leading.
 struct OuterSpace {
   std::string leading;
   std::string trailing;

@@ -27,7 +27,7 @@ bool isForTools(const TableEntry::Comment& comment) {
 }  // namespace
 
 TableEditor TableEditor::open(const std::string& root, std::string_view language) {
-  static_cast<void>(Table::readWellFormed(root, language));  // throws when there is none
+  static_cast<void>(Table::readWellFormed(root, language));  // throws if there is none
   const std::string file = tablePath(language);
   return {readFile(root, file), file};
 }
@@ -185,7 +185,7 @@ std::string TableEditor::sorted(const EnglishTexts& order) const {
   std::ptrdiff_t rank = 0;
   for (const TableEntry& entry : table_.entries) {
     const EnglishText* const text = order.find(entry.key);
-    if (text) rank = text - order.all().data();  // an entry that nothing looks up follows the one before it
+    if (text) rank = text - order.all().data();  // an unknown key stays after the entry before it
     const std::size_t end = endOfLine(text_, entry);
     if (table_.find(entry.key) == &entry) blocks.push_back({rank, text_.substr(begin, end - begin)});
     begin = end;

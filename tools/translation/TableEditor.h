@@ -13,8 +13,7 @@
 
 namespace zk::tools {
 
-/// Edits the text of a string table and leaves everything else as it is, byte for byte. Edits are collected and made
-/// at once:
+/// Edits the text of a string table and leaves everything else as it is, byte for byte. Edits are collected and made at once:
 ///
 ///     TableEditor editor = TableEditor::open(root, "de");
 ///     if (const TableEntry* const about = editor.table().find("About")) editor.replaceText(*about, "Info");
@@ -23,10 +22,9 @@ namespace zk::tools {
 /// Entries are those of `table()`. An edit within a range that another edit removes has no effect.
 class TableEditor {
  public:
-  /// For the table of `language` of the project at `root`. Throws `CommandFailed` when it cannot be read, is
-  /// not well formed, or is not UTF-8.
+  /// Edits the table of `language`. Throws `CommandFailed` if it cannot be read, has a syntax error, or is not UTF-8.
   [[nodiscard]] static TableEditor open(const std::string& root, std::string_view language);
-  /// Edits the bytes of such a file.
+  /// Edits the bytes of a table.
   TableEditor(std::string bytes, const std::string& file);
   TableEditor(const TableEditor&) = delete;
   TableEditor& operator=(const TableEditor&) = delete;
@@ -54,8 +52,8 @@ class TableEditor {
   [[nodiscard]] bool hasEdits() const { return !edits_.empty(); }
   /// The bytes of the file after the edits.
   [[nodiscard]] std::string edited() const;
-  /// The bytes of the file before the edits, with its entries in the order of `order`, each with its comments, and
-  /// without all but the last entry of a repeated key.
+  /// The bytes of the file before the edits, with its entries and their comments in the order of `order`. Of the
+  /// entries of a repeated key, only the last one is kept.
   [[nodiscard]] std::string sorted(const EnglishTexts& order) const;
 
  private:

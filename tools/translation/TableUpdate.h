@@ -11,17 +11,15 @@
 
 namespace zk::tools {
 
-/// Writes the table for a new language into the project at `root`, and returns the number of its texts: it has every key
-/// that the module looks up, in catalogue order, with the English text. Throws `CommandFailed`, and writes nothing, if the
-/// language has a table already, or if the catalogue is wrong; `std::invalid_argument` if the module would never choose the
-/// language, or if `language` is empty.
+/// Writes the table for a new language, with the English text of every key in catalogue order. Returns the number of
+/// texts. Throws `CommandFailed`, and writes nothing, if the table already exists or the catalogue is wrong;
+/// `std::invalid_argument` if the module would never choose the language, or if `language` is empty.
 std::size_t writeTemplate(const std::string& root, const std::string& language);
 
-/// Marks the entries of a translation for review whose English text is not the one that they were made from: the one
-/// recorded before the entry, or else the one of `base`, the English table as it was until now. Entries that are still
-/// in English get the new text, and comments with the English text and the context are kept up to date. Nothing is
-/// marked if the change `keepsMeaning`; the keys `reviewed` are marked in any case. Returns the number of
-/// entries that it has marked.
+/// Marks translations for review if their English text has changed: it differs from the one recorded before the entry,
+/// or else from the one in `base`, the previous English table. Entries that are still in English get the new text, and
+/// comments with the English text and the context are updated. If the change `keepsMeaning`, only the keys `reviewed`
+/// are marked. Returns the number of marked entries.
 std::size_t markChanged(TableEditor& editor, const EnglishTexts& english, const Table& base,
                         bool keepsMeaning = false, const std::set<std::string, std::less<>>& reviewed = {});
 
@@ -31,16 +29,15 @@ struct TableUpdate {
   std::size_t marked = 0;    ///< entries, as untranslated
   std::size_t unmarked = 0;  ///< entries that are translated now
   std::size_t reviews = 0;   ///< entries marked for review, as their English text has changed
-  std::size_t removed = 0;   ///< entries that nothing looks up
+  std::size_t removed = 0;   ///< entries with unknown keys
   bool isChange = false;     ///< whether anything has changed, even if only comments
-  Diagnostics notLookedUp;   ///< the entries that nothing looks up and that are still there
+  Diagnostics notLookedUp;   ///< one for each entry with an unknown key that was not removed
 };
 
-/// Updates the table of `language` in the project at `root`: adds the missing texts in the catalogue's order,
-/// marks texts that are still in English as untranslated and those whose English has changed for review, and refreshes
-/// the comments with the English text and the context. Removes the entries that nothing looks up if `prunes`. Everything
-/// else stays as it is. Throws `CommandFailed`, and changes nothing, if the language has no table, if the table, the
-/// English table or the catalogue is wrong, or if the file cannot be written.
+/// Updates the table of `language`: adds the missing texts in catalogue order, marks texts that are still in English as
+/// untranslated and those whose English text has changed for review, and updates the comments with the English text and
+/// the context. If `prunes`, removes entries with unknown keys. Throws `CommandFailed`, and changes nothing, if the
+/// language has no table, if a table or the catalogue is wrong, or if the file cannot be written.
 TableUpdate updateTable(const std::string& root, const std::string& language, bool prunes);
 
 }  // namespace zk::tools

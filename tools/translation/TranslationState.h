@@ -25,7 +25,7 @@ enum class TranslationState {
 ///
 /// It is `needsReview` if a comment before the entry says so, or records another English text. It is `untranslated` if
 /// the text equals the English one, and either a comment says so or the text has two words or more that are not all
-/// names, unless a comment switches the rule `kUntranslatedRule` off. English texts are missing or translated.
+/// names, unless a comment turns the rule `kUntranslatedRule` off. English texts are missing or translated.
 [[nodiscard]] TranslationState stateOf(std::string_view language, const TableEntry* entry,
                                        const EnglishText& english);
 
@@ -44,16 +44,15 @@ inline constexpr std::string_view kContext = "context:";
 inline constexpr std::string_view kState = "state:";
 inline constexpr std::string_view kCheck = "check:";
 
-/// Returns the words of `comment` after `name`, one of those above, without spaces, commas and semicolons; nothing if it
-/// is another comment.
+/// Returns the words after `name` in `comment`, split at spaces, commas and semicolons; nothing if it begins differently.
 [[nodiscard]] std::optional<std::vector<std::string_view>> wordsTold(const TableEntry::Comment& comment,
                                                                      std::string_view name);
 
-/// The text that the comment before `entry` that begins with `name` has in quotes: after `kExplanation` the English
-/// text that the translation was made from, after `kState` the previous one. Nothing if no comment has one.
+/// Returns the quoted text in the comment before `entry` that begins with `name`: for `kExplanation`, the English text
+/// that the translation was made from; for `kState`, the previous English text. Nothing if there is none.
 [[nodiscard]] std::optional<std::string> quotedIn(const TableEntry& entry, std::string_view name);
 
-/// Whether the comments before `entry` switch `rule` off.
+/// Whether the comments before `entry` turn `rule` off.
 [[nodiscard]] bool isSwitchedOff(const TableEntry& entry, std::string_view rule);
 
 /// Whether a comment before the entry marks it as `state`.
