@@ -133,7 +133,7 @@ class Checker {
       const TableEntry* last = nullptr;  // one entry may have many findings and many comments
       bool isOff = false;
       for (Finding& finding : findings.all()) {
-        if (finding.entry != last) isOff = finding.entry && isSwitchedOff(*finding.entry, rule.name);
+        if (finding.entry != last) isOff = finding.entry && isTurnedOff(*finding.entry, rule.name);
         last = finding.entry;
         if (isOff) continue;
         result_.diagnostics.push_back({rule.severity, file, finding.at.line, finding.at.column,

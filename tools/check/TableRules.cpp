@@ -136,8 +136,8 @@ std::string errorInSwitch(const std::vector<std::string_view>& words) {
 
 void findUnknownComments(const TableEntry& entry, Findings& findings) {
   for (const TableEntry::Comment& comment : entry.comments) {
-    const auto state = wordsTold(comment, kState);
-    const auto off = wordsTold(comment, kCheck);
+    const auto state = wordsAfter(comment, kState);
+    const auto off = wordsAfter(comment, kCheck);
     const std::string error = state ? errorInState(*state) : off ? errorInSwitch(*off) : "";
     if (!error.empty()) findings.add(entry, comment.at, "{}", error);
   }

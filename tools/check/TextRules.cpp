@@ -71,7 +71,7 @@ void findMisspelt(const Translation& translation, Findings& findings) {
 void findUnused(const Translation& translation, Findings& findings) {
   const EnglishText& english = translation.english;
   const Names allowed = english.placeholders();
-  std::set<std::string_view> used = {english.dispensable()};
+  std::set<std::string_view> used = {english.optionalPlaceholder()};
   // Another rule reports the misspelt ones.
   for (const PlaceholderUse& use : placeholderUses(translation.entry.text))
     used.insert(meantBy(use.name, allowed).value_or(""));

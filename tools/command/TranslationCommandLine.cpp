@@ -177,7 +177,7 @@ void addUpdateCommand(CLI::App& app, const RootFinder& inRoot) {
     const std::string root = inRoot();
     const std::string language = existingLanguage(root, word);
     const TableUpdate update = updateTable(root, language, prunes);
-    print(stdout, fromWorkingDirectory(update.notLookedUp, root));
+    print(stdout, fromWorkingDirectory(update.unknownKeys, root));
     say("{}: {}\n", fromWorkingDirectory(tablePath(language), root),
         update.isChange ? summaryOf(update) : "already up to date");
   });

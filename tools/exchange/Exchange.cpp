@@ -39,7 +39,7 @@ std::vector<std::string> notesOn(const EnglishText& english) {
   if (const std::vector<std::string_view> names = english.placeholders(); !names.empty())
     notes.push_back(
         fmt::format("The app fills in %{{{}}}. Copy placeholders exactly.", fmt::join(names, "}, %{")));
-  if (const std::string_view name = english.dispensable(); !name.empty())
+  if (const std::string_view name = english.optionalPlaceholder(); !name.empty())
     notes.back() += fmt::format(" %{{{}}} may be omitted if the text spells the number out.", name);
   const std::vector<TextPiece> pieces = piecesOf(english.text);
   if (std::any_of(pieces.begin(), pieces.end(),

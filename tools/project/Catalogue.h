@@ -100,7 +100,7 @@ struct EnglishText {
   [[nodiscard]] std::string_view countPlaceholder() const;
   /// The placeholder that a translation may omit in `_zero` and `_one`, because it may spell the number: the only one
   /// of the entry, or the one for the count. Empty in all other texts.
-  [[nodiscard]] std::string_view dispensable() const;
+  [[nodiscard]] std::string_view optionalPlaceholder() const;
 };
 
 /// The English texts of all keys that the module looks up, in catalogue order.

@@ -27,7 +27,7 @@ std::string_view EnglishText::countPlaceholder() const {
   return names.size() == 1 && !settings->examples.contains(names.front()) ? names.front() : "";
 }
 
-std::string_view EnglishText::dispensable() const {
+std::string_view EnglishText::optionalPlaceholder() const {
   if (!form || (form->suffix != "_zero" && form->suffix != "_one")) return "";
   const std::vector<std::string_view> names = placeholderNames(entry->text);
   return names.size() == 1 ? names.front() : countPlaceholder();

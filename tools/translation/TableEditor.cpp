@@ -20,7 +20,7 @@ namespace {
 constexpr std::string_view kBlanks = " \t";
 
 bool isForTools(const TableEntry::Comment& comment) {
-  const auto begins = [&](std::string_view name) { return wordsTold(comment, name).has_value(); };
+  const auto begins = [&](std::string_view name) { return wordsAfter(comment, name).has_value(); };
   return begins(kExplanation) || begins(kContext) || begins(kState) || begins(kCheck);
 }
 
@@ -123,7 +123,7 @@ void TableEditor::replacePlaceholder(const TableEntry& entry, std::string_view f
 
 void TableEditor::setComment(const TableEntry& entry, std::string_view name, std::string comment) {
   for (const TableEntry::Comment& present : entry.comments) {
-    if (!wordsTold(present, name)) continue;
+    if (!wordsAfter(present, name)) continue;
     if (text_.compare(present.span.begin, present.span.end - present.span.begin, comment) == 0) return;
     const Span span = comment.empty() ? withLines(present.span) : present.span;
     replace(span, std::exchange(comment, ""));

@@ -44,7 +44,7 @@ void updateUnknown(const TableEntry& entry, bool prunes, TableEditor& editor, Ta
     ++update.removed;
     return;
   }
-  update.notLookedUp.push_back(
+  update.unknownKeys.push_back(
       {Severity::warning, editor.table().file, entry.keyAt.line, entry.keyAt.column, "",
        fmt::format("unknown key \"{}\"; --prune removes the entry", escaped(entry.key))});
 }

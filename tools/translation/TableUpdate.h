@@ -31,7 +31,7 @@ struct TableUpdate {
   std::size_t reviews = 0;   ///< entries marked for review, as their English text has changed
   std::size_t removed = 0;   ///< entries with unknown keys
   bool isChange = false;     ///< whether anything has changed, even if only comments
-  Diagnostics notLookedUp;   ///< one for each entry with an unknown key that was not removed
+  Diagnostics unknownKeys;   ///< one for each entry with an unknown key that was not removed
 };
 
 /// Updates the table of `language`: adds the missing texts in catalogue order, marks texts that are still in English as

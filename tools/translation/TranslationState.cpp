@@ -21,7 +21,7 @@ namespace {
 /// Whether an entry with the English text is probably not translated yet.
 bool looksUntranslated(const TableEntry& entry, const CatalogueSettings& settings) {
   return wordsToRead(withoutPlaceholders(entry.text)).size() > 1 && !settings.isSameEverywhere(entry.text) &&
-         !isSwitchedOff(entry, kUntranslatedRule);
+         !isTurnedOff(entry, kUntranslatedRule);
 }
 
 /// `text` in quotes, for a comment of a table.
@@ -51,8 +51,8 @@ TranslationState stateOf(std::string_view language, const TableEntry* entry, con
              : TranslationState::translated;
 }
 
-std::optional<std::vector<std::string_view>> wordsTold(const TableEntry::Comment& comment,
-                                                       std::string_view name) {
+std::optional<std::vector<std::string_view>> wordsAfter(const TableEntry::Comment& comment,
+                                                        std::string_view name) {
   constexpr std::string_view kSeparators = " ,;\t\r\n";
   std::string_view rest = comment.text;
   const auto skipSeparators = [&] {
@@ -71,7 +71,7 @@ std::optional<std::vector<std::string_view>> wordsTold(const TableEntry::Comment
 
 std::optional<std::string> quotedIn(const TableEntry& entry, std::string_view name) {
   for (const TableEntry::Comment& comment : entry.comments) {
-    if (!wordsTold(comment, name)) continue;
+    if (!wordsAfter(comment, name)) continue;
     const std::size_t begin = comment.text.find('"') + 1;
     std::size_t end = begin;
     while (begin > 0 && end < comment.text.size() && comment.text[end] != '"')
@@ -84,9 +84,9 @@ std::optional<std::string> quotedIn(const TableEntry& entry, std::string_view na
   return std::nullopt;
 }
 
-bool isSwitchedOff(const TableEntry& entry, std::string_view rule) {
+bool isTurnedOff(const TableEntry& entry, std::string_view rule) {
   return std::ranges::any_of(entry.comments, [&](const TableEntry::Comment& comment) {
-    const auto words = wordsTold(comment, kCheck);
+    const auto words = wordsAfter(comment, kCheck);
     return words && !words->empty() && words->front() == "off" &&
            std::ranges::find(words->begin() + 1, words->end(), rule) != words->end();
   });
@@ -94,7 +94,7 @@ bool isSwitchedOff(const TableEntry& entry, std::string_view rule) {
 
 bool isMarked(const TableEntry& entry, TranslationState state) {
   return std::ranges::any_of(entry.comments, [&](const TableEntry::Comment& comment) {
-    const auto words = wordsTold(comment, kState);
+    const auto words = wordsAfter(comment, kState);
     return words && !words->empty() && words->front() == nameOf(state);
   });
 }

@@ -45,15 +45,15 @@ inline constexpr std::string_view kState = "state:";
 inline constexpr std::string_view kCheck = "check:";
 
 /// Returns the words after `name` in `comment`, split at spaces, commas and semicolons; nothing if it begins differently.
-[[nodiscard]] std::optional<std::vector<std::string_view>> wordsTold(const TableEntry::Comment& comment,
-                                                                     std::string_view name);
+[[nodiscard]] std::optional<std::vector<std::string_view>> wordsAfter(const TableEntry::Comment& comment,
+                                                                      std::string_view name);
 
 /// Returns the quoted text in the comment before `entry` that begins with `name`: for `kExplanation`, the English text
 /// that the translation was made from; for `kState`, the previous English text. Nothing if there is none.
 [[nodiscard]] std::optional<std::string> quotedIn(const TableEntry& entry, std::string_view name);
 
 /// Whether the comments before `entry` turn `rule` off.
-[[nodiscard]] bool isSwitchedOff(const TableEntry& entry, std::string_view rule);
+[[nodiscard]] bool isTurnedOff(const TableEntry& entry, std::string_view rule);
 
 /// Whether a comment before the entry marks it as `state`.
 [[nodiscard]] bool isMarked(const TableEntry& entry, TranslationState state);
