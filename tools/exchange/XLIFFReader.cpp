@@ -38,8 +38,9 @@ std::size_t unknownEntity(std::string_view xml) {
   constexpr std::string_view kKnown[] = {"&#", "&amp;", "&lt;", "&gt;", "&quot;", "&apos;"};
   for (std::size_t at = xml.find_first_of("<&"); at != xml.npos; at = xml.find_first_of("<&", at + 1)) {
     const std::string_view rest = xml.substr(at);
-    if (rest.starts_with("<!--")) at = xml.find("-->", at);
-    if (rest.starts_with("<![CDATA[")) at = xml.find("]]>", at);
+    // Within quotes, these begin nothing and may have no end.
+    if (rest.starts_with("<!--")) at = std::min(xml.find("-->", at), xml.size());
+    if (rest.starts_with("<![CDATA[")) at = std::min(xml.find("]]>", at), xml.size());
     const auto isHere = [&](std::string_view reference) { return rest.starts_with(reference); };
     if (rest[0] == '&' && std::none_of(std::begin(kKnown), std::end(kKnown), isHere)) return at;
   }
