@@ -153,6 +153,7 @@ void storeMembers(const JsonValue& object, const std::vector<KnownMember>& known
     const auto found = std::find_if(known.begin(), known.end(), isIt);
     if (found == known.end()) {
       std::vector<std::string_view> names;
+      names.reserve(known.size());
       for (const KnownMember& one : known) names.push_back(one.name);
       object.failAt(member.nameAt,
                     fmt::format("unknown member \"{}\"; use one of {}", member.name, fmt::join(names, ", ")));

@@ -2,6 +2,9 @@
 
 #include <cerrno>
 #include <csignal>
+#include <cstdio>
+#include <filesystem>
+#include <memory>
 
 #include <fcntl.h>
 #include <sys/file.h>
