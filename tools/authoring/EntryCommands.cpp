@@ -42,8 +42,7 @@ void refuseWrongBytes(const std::string& text) {
   if (hasCarriageReturnOrNul(text)) refuse(kNoCarriageReturn);
 }
 
-/// Refuses wrong bytes and, unless it is plain, what other systems take for a placeholder: "%s", "%1", "%@", "{name}",
-/// "{count, plural, ...}".
+/// Throws if `text` is not UTF-8 or, unless it is plain, has a placeholder of another system: "%s", "%1", "%@", "{name}".
 void refuseWrongText(const std::string& text, bool isPlain) {
   refuseWrongBytes(text);
   std::string_view foreign = text.find("%@") == std::string::npos ? "" : "%@";

@@ -26,9 +26,8 @@ std::string keyOf(const std::string& text);
 // These functions change all files that contain the text, or none. They throw `CommandFailed` if a file is wrong or
 // cannot be written, and `std::invalid_argument` if the text or the key is not valid.
 
-/// Adds a text to the catalogue, the English table and the accessors. Returns its key: that of `added`, or the one
-/// derived from the text. A counted text needs at least the form for one. With `isPlain`, placeholders of other
-/// systems, such as "%s", are plain text.
+/// Adds a text to the catalogue, the English table and the accessors. Returns its key, which is derived from the text if `added`
+/// has none. A counted text needs at least the form for one. With `isPlain`, "%s" and the like are plain text.
 std::string addEntry(const std::string& root, const Entry& added, bool isPlain);
 
 /// Changes the text of `key`, and its plural forms that were the same. Marks translations of changed texts for review, unless the

@@ -26,8 +26,7 @@ constexpr Punctuation kPunctuation[] = {
     {Ending::colon, ":：፡"},           {Ending::semicolon, ";；؛"},
     {Ending::comma, ",，、､،"}};
 
-/// Closing quotes, brackets and marks. German and Polish close with quotes that open in other languages. A brace closes
-/// a placeholder.
+/// Closing quotes and brackets, including quotes that open in other languages. A brace is excluded: it closes a placeholder.
 bool isClosingMark(UChar32 character) {
   constexpr std::string_view kAscii = "\"'*";
   if (character < 0x80 && kAscii.find(static_cast<char>(character)) != std::string_view::npos) return true;

@@ -42,8 +42,7 @@ struct Glossary {
   std::vector<Term> terms;
   ByName<LanguageStyle> styles;  ///< by language
 
-  /// Reads the glossary of the project at `root`; without a file, it is empty. Throws `CommandFailed` with the place of
-  /// the first error.
+  /// Reads the glossary of the project at `root`; empty without a file. Throws `CommandFailed` with the first error.
   [[nodiscard]] static Glossary read(const std::string& root);
 
   /// Returns how `language` is written; the defaults if the glossary does not have it.

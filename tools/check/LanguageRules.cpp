@@ -28,8 +28,6 @@ namespace {
 
 constexpr std::string_view kNoBreakSpace = "\u00A0";
 
-// The glossary
-
 /// Whether the English text has one of the phrases of `term`.
 bool means(const Words& english, const Term& term) {
   for (std::size_t at = 0; at < english.size();) {
@@ -75,8 +73,6 @@ void findWrongAddress(const Translation& translation, Findings& findings) {
                  words[at].spelled);
   }
 }
-
-// Words
 
 /// Whether `text` has nothing but white space between the word `first` and the next one.
 bool areNeighbours(std::string_view text, const Words& words, std::size_t first) {
@@ -159,8 +155,6 @@ void findEnglishWords(const Translation& translation, Findings& findings) {
     return;
   }
 }
-
-// Typography
 
 /// The quotation marks of all languages, except for the one that is also an apostrophe.
 constexpr std::string_view kQuotationMarks[] = {"\"", "„", "“",  "”",  "‟",  "‚",  "‘",  "‛",  "«",  "»",

@@ -10,8 +10,7 @@ namespace zk::tools {
 /// `text` with Unicode's full case folding.
 [[nodiscard]] std::string caseFolded(std::string_view text);
 
-/// Returns `text` with each placeholder, `<b>` tag, handle and address replaced by blanks of the same size, so offsets
-/// stay the same.
+/// Returns `text` with blanks in place of placeholders, `<b>` tags, handles and addresses, so offsets stay the same.
 [[nodiscard]] std::string proseOf(std::string_view text);
 
 /// A word of a text.

@@ -29,8 +29,6 @@ bool isWellFormed(const CheckedTable& subject) {
   return subject.table.diagnostics.empty();
 }
 
-// The directory and the file
-
 void findDirectory(const CheckedTable& subject, Findings& findings) {
   const std::string reason = whyNeverChosen(subject.language);
   if (!reason.empty()) findings.add(kFileBegin, "{}", reason);
@@ -60,8 +58,6 @@ void findWhileReading(const CheckedTable& subject, Findings& findings) {
       findings.add(Position{diagnostic.line, diagnostic.column}, "{}", diagnostic.message);
   }
 }
-
-// The entries
 
 /// A rule for each entry by itself.
 template <void (*find)(const TableEntry&, Findings&)>
@@ -143,8 +139,6 @@ void findUnknownComments(const TableEntry& entry, Findings& findings) {
   }
 }
 
-// The keys
-
 /// Returns the keys that the module looks up and the table lacks.
 std::vector<std::string_view> missingKeys(const CheckedTable& subject) {
   std::vector<std::string_view> missing;
@@ -193,8 +187,6 @@ void findUnknownKeys(const CheckedTable& subject, Findings& findings) {
     findings.add(entry, entry.keyAt, "unknown key \"{}\"; {}", key, fix);
   }
 }
-
-// What is not translated yet
 
 bool isTranslation(const CheckedTable& subject) {
   return subject.language != kBase && isWellFormed(subject);

@@ -24,8 +24,6 @@ namespace zk::tools {
 
 namespace {
 
-// Placeholders
-
 using Names = std::vector<std::string_view>;
 
 bool contains(const Names& names, std::string_view name) {
@@ -37,7 +35,6 @@ std::optional<std::string_view> meantBy(std::string_view name, const Names& allo
   return contains(allowed, name) ? name : nearest(name, allowed);
 }
 
-/// Returns what to do about a wrong placeholder.
 std::string fixFor(std::string_view name, const Names& allowed) {
   if (const auto meant = meantBy(name, allowed)) return fmt::format("write \"%{{{}}}\"", *meant);
   if (allowed.empty()) return "remove it, because the English text has no placeholders";
@@ -105,8 +102,6 @@ void findRepeated(const Translation& translation, Findings& findings) {
                  name, count, most->second == 1 ? "once" : fmt::format("{} times", most->second));
   }
 }
-
-// Marks, white space, punctuation and numbers
 
 /// The English table must equal the catalogue.
 void findOtherEnglish(const Translation& translation, Findings& findings) {
@@ -186,8 +181,6 @@ void findDigits(const Translation& translation, Findings& findings) {
                fmt::join(here, " "), fmt::join(english, " "));
 }
 
-// Length
-
 constexpr std::size_t kLongestShort = 20;
 constexpr std::size_t kTimesForShort = 3;
 constexpr std::size_t kTimesForLong = 2;
@@ -219,7 +212,6 @@ void findTooLong(const Translation& translation, Findings& findings) {
   findings.add(translation.entry, "the text has {} characters, but only {} fit; shorten it", here, max);
 }
 
-/// `find` for translations, not for the English table.
 template <void (*find)(const Translation&, Findings&)>
 void exceptInEnglish(const Translation& translation, Findings& findings) {
   if (translation.language != kBase) find(translation, findings);

@@ -25,8 +25,7 @@ inline CLI::App& addCommand(CLI::App& app, const std::string& name, const std::s
   return *command;
 }
 
-/// These functions add the subcommands. Those that change the project find its root with `aloneInRoot`, which keeps
-/// other processes from changing it at the same time.
+/// These functions add the subcommands. Those that change the project find its root with `aloneInRoot`, which locks it.
 
 /// init, generate, key, add, change, rename, remove and unused.
 void addCatalogueCommands(CLI::App& app, const RootFinder& inRoot, const RootFinder& aloneInRoot);

@@ -24,8 +24,7 @@ namespace zk::tools {
 /// How the note starts that `versionNote` returns.
 inline constexpr std::string_view kVersionNote = "Version in the table: ";
 
-/// The note with a fingerprint of a translation and its state in the table. Exports have it, so that `import` finds
-/// the texts that have changed in the table since.
+/// The note with a fingerprint of a translation and its state. Imports use it to find texts that have changed in the table.
 [[nodiscard]] std::string versionNote(std::string_view translation, TranslationState state);
 
 /// The result of an import into a table.

@@ -48,8 +48,7 @@ enum class ExchangeFormat { xliff12, xliff20, po, csv };
 /// The unit's notes, with the previous English text if there is one. For formats that have no other place for it.
 [[nodiscard]] std::string notesWithPrevious(const TranslationUnit& unit);
 
-/// XLIFF 1.2, which nearly all translation programs read. Codes are <ph> elements around the code's text, so that
-/// programs without support for codes keep it.
+/// XLIFF 1.2, which nearly all translation programs read. Codes are <ph> elements around the text of the code.
 [[nodiscard]] std::string toXLIFF12(const Translations& translations);
 /// XLIFF 2.0. Codes are <ph> and <pc> elements that refer to the unit's original data.
 [[nodiscard]] std::string toXLIFF20(const Translations& translations);

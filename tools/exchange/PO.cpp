@@ -66,8 +66,7 @@ std::string entryOf(const TranslationUnit& unit) {
                              literal(unit.source), literal(unit.target));
 }
 
-/// Removes an escape, of which the backslash is already removed, from the beginning of `text` and returns its
-/// meaning. Returns nothing if it is unknown.
+/// Removes an escape without its backslash from the beginning of `text`. Returns its meaning, or nothing if it is unknown.
 std::optional<char> takeEscape(std::string_view& text) {
   constexpr std::string_view kNames = "abfnrtv\\\"";
   constexpr std::string_view kCharacters = "\a\b\f\n\r\t\v\\\"";

@@ -14,9 +14,8 @@ namespace zk::tools {
 /// `english` in the pseudo-locale "xb": marks of direction make lines and words run from right to left.
 [[nodiscard]] std::string mirroredText(const EnglishText& english);
 
-/// Copies the resources of the project to `directory` and adds the pseudo-locales "xa", "xb", and "xk", in which every
-/// text is its key. Throws `CommandFailed`, and writes nothing, if `directory` is in the project's own resources, if the catalogue
-/// is wrong, or if a file cannot be written.
+/// Copies the project's resources to `directory` and adds "xa", "xb", and "xk", in which every text is its key. Throws
+/// `CommandFailed`, and writes nothing, if `directory` is in the project's resources, or if a file is wrong or not writable.
 void writePseudoLocales(const std::string& root, const std::string& directory);
 
 }  // namespace zk::tools

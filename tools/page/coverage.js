@@ -1,5 +1,3 @@
-// The progress of each language, as bars at the top.
-
 function coverageButton(language) {
   const counts = { t: 0, n: 0, u: 0, m: 0 };
   for (const state of language.states) ++counts[state];

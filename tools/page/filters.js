@@ -1,4 +1,3 @@
-// The filters above the list.
 const controls = document.getElementById("filters").elements;
 
 for (const [index, { native, english: name }] of translations.entries()) {

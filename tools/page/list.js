@@ -1,4 +1,3 @@
-// The list of texts.
 const list = document.getElementById("list");
 
 let shownEntries = [];

@@ -1,4 +1,3 @@
-// Handles addresses, keys and filters.
 const pageTitle = `${app} texts`;
 let openEntry;
 

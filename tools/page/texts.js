@@ -1,5 +1,3 @@
-// Elements, and texts as users see them, with their values and marks in colours.
-
 const MARKS = /(<\/?b>|\*|\n|%\{[^{}]*\})/;
 
 /** Makes an element with properties and children. A string becomes text, never markup. */

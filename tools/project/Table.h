@@ -53,8 +53,7 @@ struct Table {
   Diagnostics diagnostics;
   std::map<std::string, std::size_t, std::less<>> places;  ///< by key, of the entry that counts
 
-  /// Reads the table of `language` ("Base", "de") of the project at `root`. If the file cannot be read, that is one of
-  /// the diagnostics.
+  /// Reads the table of `language` ("Base", "de") of the project at `root`. An unreadable file is one of the diagnostics.
   [[nodiscard]] static Table read(const std::string& root, std::string_view language);
   /// Reads the table and throws `CommandFailed` if it has diagnostics.
   [[nodiscard]] static Table readWellFormed(const std::string& root, std::string_view language);
@@ -63,8 +62,7 @@ struct Table {
 
   /// Returns the last entry of `key`, which is the one that counts; null if there is none.
   [[nodiscard]] const TableEntry* find(std::string_view key) const;
-  /// Returns the entry at `position`, or the next one if `position` is between entries, such as in the comments before
-  /// an entry; null after the last entry.
+  /// Returns the entry at `position`, or the next one if there is none, such as in the comments before it; null at the end.
   [[nodiscard]] const TableEntry* entryAt(Position position) const;
 };
 

@@ -31,8 +31,7 @@ namespace {
 
 constexpr const char* kMark = "catalogue/entries.json";
 
-/// The name of a temporary file is that of its file, this text, and six random letters. .gitignore and the rules
-/// for installations (cmake/) name it too.
+/// Temporary files are named after their file, this text and six random letters. .gitignore and cmake/ contain it too.
 constexpr std::string_view kTemporary = ".zkstrings-";
 constexpr std::size_t kRandomLetters = 6;
 

@@ -18,8 +18,7 @@ namespace zk::tools {
 /// `directory`, if it is the root of a project. Throws `CommandFailed` if it has no catalogue.
 [[nodiscard]] std::string rootAt(const std::string& directory);
 
-/// The file or directory that `path` below `root` leads to, without symbolic links. Throws `CommandFailed` if a link leads
-/// out of `root`, unless `root` is empty.
+/// Resolves the links in `path` below `root`. Throws `CommandFailed` if a link leads out of `root`, unless `root` is empty.
 [[nodiscard]] std::string pathInProject(const std::string& root, const std::string& path);
 
 /// Keeps other commands from changing the project at `root` until this process ends, and removes the temporary files

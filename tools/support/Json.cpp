@@ -37,8 +37,7 @@ std::size_t endOfToken(std::string_view text, std::size_t begin) {
 
 }  // namespace
 
-/// Builds values from the parser's events. The parser does not report where a token begins, so the builder follows it
-/// through the text, token by token.
+/// Builds values from the parser's events. Reads the text along with the parser, which does not report where tokens begin.
 class JsonBuilder : public nlohmann::json_sax<Json> {
  public:
   JsonBuilder(std::string_view text, std::string_view file, Position begin)

@@ -36,8 +36,8 @@ bool isLanguageCode(std::string_view code) {
   return *known != nullptr;
 }
 
-/// The code of the language with the name `name`, in lower case, in English or in the language itself; else empty. ICU is
-/// slow to find the names, so they are kept.
+/// The code of the language with the name `name`, in lower case; empty if there is none. ICU finds names slowly, so
+/// they are kept.
 std::string codeOfName(std::string_view name) {
   static const auto codes = [] {
     std::map<std::string, std::string, std::less<>> found;

@@ -9,16 +9,14 @@ namespace zk::tools {
 /// The name of the directory with the English texts.
 inline constexpr std::string_view kBase = "Base";
 
-/// The languages that have a directory in resources/ of the project at `root`, sorted: "Base", "de". Throws
-/// `CommandFailed` if resources/ cannot be listed.
+/// The sorted languages of the project at `root`: "Base", "de". Throws `CommandFailed` if resources/ cannot be listed.
 [[nodiscard]] std::vector<std::string> languagesIn(const std::string& root);
 
 /// The name of `language` in the language `in`. Both are codes.
 [[nodiscard]] std::string languageName(const std::string& language, const std::string& in);
 
-/// Returns the two-letter code of the language `word`, which is a code ("sv", "swe"), an identifier ("sv-SE",
-/// "sv_SE.UTF-8"), the path of its table or directory, or its name in English or in the language itself. Ignores the
-/// case of ASCII letters. Empty if there is no such code.
+/// Returns the two-letter code of a language from its code ("sv", "swe"), an identifier ("sv-SE", "sv_SE.UTF-8"), the path of its
+/// table or directory, or its name in English or in the language itself. Ignores ASCII case. Empty if there is none.
 [[nodiscard]] std::string languageCodeOf(std::string_view word);
 
 /// Returns the element of `languagesIn` for the language `word`. If there is none, throws a message with the nearest

@@ -24,8 +24,7 @@ struct Coverage {
 /// A heading and one line for each language, aligned, with a bar, within 80 columns.
 [[nodiscard]] std::string formatted(const std::vector<Coverage>& languages);
 
-/// A JSON array of objects with the members language, translated, needsReview, untranslated, missing, percent
-/// and wellFormed, one object a line.
+/// A JSON array of objects: language, translated, needsReview, untranslated, missing, percent, wellFormed.
 [[nodiscard]] std::string toJson(const std::vector<Coverage>& languages);
 
 }  // namespace zk::tools

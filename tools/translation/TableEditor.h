@@ -39,21 +39,18 @@ class TableEditor {
   void replaceText(const TableEntry& entry, std::string_view text);
   /// Replaces `from`, such as "%{value}", with `to` in the text of the entry and in the comments before it.
   void replacePlaceholder(const TableEntry& entry, std::string_view from, std::string_view to);
-  /// Replaces the comment before the entry that begins with `name` ("context:") by `comment`, or adds it on a line of
-  /// its own. Removes it if `comment` is empty.
+  /// Replaces the comment before the entry that begins with `name` ("context:"), or adds one; removes it if `comment` is empty.
   void setComment(const TableEntry& entry, std::string_view name, std::string comment);
   /// Sets the comment that marks the entry; a translated one has none. `previousEnglish` is the text that a translation
   /// to be reviewed was made from; if it is empty, the mark keeps the one that it has.
   void setState(const TableEntry& entry, TranslationState state, std::string_view previousEnglish = "");
-  /// Removes the entry with the comments right before it, on its line, and those for the tools. A comment at the
-  /// beginning of the file remains.
+  /// Removes the entry with the comments that belong to it. A comment at the beginning of the file remains.
   void remove(const TableEntry& entry);
 
   [[nodiscard]] bool hasEdits() const { return !edits_.empty(); }
   /// The bytes of the file after the edits.
   [[nodiscard]] std::string edited() const;
-  /// The bytes of the file before the edits, with its entries and their comments in the order of `order`. Of the
-  /// entries of a repeated key, only the last one is kept.
+  /// The bytes of the file before the edits, sorted by `order`, without all but the last entry of a repeated key.
   [[nodiscard]] std::string sorted(const EnglishTexts& order) const;
 
  private:

@@ -18,8 +18,7 @@ namespace zk::tools {
 
 namespace {
 
-/// The entry of a text to be translated: the English text after the comments that explain it, marked as untranslated if
-/// it has words to translate.
+/// The lines for a new entry: its comments, the mark `untranslated` if it has words to translate, and the English text.
 std::string untranslatedEntry(const EnglishText& english) {
   const std::string mark =
       english.settings->isSameEverywhere(english.text) ? "" : markFor(TranslationState::untranslated) + "\n";
