@@ -8,7 +8,7 @@
 
 namespace zk::testing {
 
-/// Texts put together from some pieces at random, the same ones in every run.
+/// Random texts made of given pieces, the same in every run.
 class RandomTexts {
  public:
   explicit RandomTexts(std::vector<std::string> pieces) : pieces_(std::move(pieces)) {}

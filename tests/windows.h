@@ -1,6 +1,6 @@
 #pragma once
 
-// Functions of POSIX that the tests use and Windows names differently. Included before each test for Windows.
+// POSIX functions that the tests use and that have other names on Windows. Included before each test for Windows.
 
 #include <cstddef>
 #include <cstdlib>

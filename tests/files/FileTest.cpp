@@ -62,7 +62,7 @@ void makeEnormous(const std::string& path) {
 
 constexpr const char* kStops = "the process stops";
 
-/// A way in which a resource can be damaged, and the documented result for each resource damaged so.
+/// A kind of damage, and the documented result for each resource that has it.
 struct Shape {
   const char* name;
   void (*change)(const std::string& path);
@@ -163,7 +163,7 @@ std::ptrdiff_t openDescriptors() {
   return std::distance(fs::directory_iterator("/proc/self/fd"), {});
 }
 
-/// Takes the permissions of root from the process during its lifetime. False if that is not possible.
+/// Removes root's permissions from the process while this object exists. False if that is impossible.
 class OrdinaryUser {
  public:
   OrdinaryUser() : was_(geteuid()) {

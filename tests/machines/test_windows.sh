@@ -6,7 +6,7 @@ build=$(realpath "$1") native=$(realpath "$2")
 shift 2
 compiler=x86_64-w64-mingw32-g++-posix
 export WINEPREFIX=$PWD/build/machines/wine WINEDEBUG=-all
-# No debugger, which would print each crash that a test expects.
+# Without a debugger, which would print each crash that a test expects.
 export WINEDLLOVERRIDES="winedbg.exe,mscoree,mshtml=d"
 WINEPATH=$(dirname "$("$compiler" -print-file-name=libstdc++-6.dll)")
 WINEPATH="Z:$WINEPATH;Z:$(dirname "$("$compiler" -print-file-name=libwinpthread-1.dll)")"
@@ -23,7 +23,7 @@ for tests in module tools; do wine "$build/bin/zk_${tests}_tests.exe" --gtest_br
 tests/threads/first_uses.sh /usr/lib/wine/wine64 "$build/bin/zk_soak.exe"
 wine "$build/bin/zk_soak.exe" 10
 
-# The command, which is run by the same transcripts as on this system.
+# The command, with the same transcripts as on this system.
 command=$build/zkstrings
 cat >"$command" <<END
 #!/bin/sh

@@ -1,5 +1,5 @@
-# Compiles for another machine: ZK_TARGET is what compilers call it, ZK_ROOT the folder with its libraries. What is
-# built runs here, under emulation where this machine's processor does not know the other's instructions.
+# Compiles for another machine: ZK_TARGET is its name for compilers, ZK_ROOT the folder with its libraries. The
+# programs run here, in an emulator if this machine's processor is different.
 list(APPEND CMAKE_TRY_COMPILE_PLATFORM_VARIABLES ZK_TARGET ZK_ROOT)
 string(REGEX MATCH "^[^-]+" CMAKE_SYSTEM_PROCESSOR ${ZK_TARGET})
 set(CMAKE_SYSTEM_NAME Linux)
@@ -35,7 +35,7 @@ if(CMAKE_SYSTEM_PROCESSOR STREQUAL i686)
   set(CMAKE_LIBRARY_ARCHITECTURE i386-linux-gnu)
 endif()
 
-# The root's libraries may need newer C and C++ libraries than the compiler's own, and find them there.
+# The root's libraries may need newer C and C++ libraries than the compiler's. The root has those, too.
 set(libraries ${ZK_ROOT}/usr/lib/${CMAKE_LIBRARY_ARCHITECTURE}:${ZK_ROOT}/lib/${CMAKE_LIBRARY_ARCHITECTURE})
 set(CMAKE_EXE_LINKER_FLAGS_INIT "-Wl,-rpath-link,${libraries} -Wl,--allow-shlib-undefined")
 if(CMAKE_SYSTEM_PROCESSOR STREQUAL i686)

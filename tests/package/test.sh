@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
-# Installs the module, moves the installation, and uses it from another project in every way in which a program may come
-# by it: found by CMake or pkg-config, shared or static, built as a subdirectory or fetched; by GCC and Clang, as C++20
-# and C++23, with either standard library. Also looks at what the shared library exports, needs and runs when it is
-# loaded, and at how it is linked.
+# Installs the module, moves the installation, and uses it from another project in every way:
+# found by CMake or pkg-config, shared or static, built as a subdirectory or fetched; by GCC and Clang, as C++20
+# and C++23, with either standard library. Also checks what the shared library exports, needs and runs when it is
+# loaded, and how it is linked.
 #   test.sh CMAKE SOURCE_DIRECTORY BUILD_DIRECTORY CXX_COMPILER
 set -euo pipefail
 cmake=$1 source=$2 build=$3 compiler=$4
@@ -119,7 +119,7 @@ expect "without /proc, started by a relative path" "$text" relative
 nowhere() { env LD_PRELOAD="$work/without_proc.so" WITHOUT_NAMES=1 "$work/static/bin/consumer" || echo "stopped"; }
 expect "without any names" "stopped" nowhere
 
-# Installed to other places than the usual ones.
+# Installed to unusual places.
 elsewhere() {  # elsewhere NAME DATADIR LIBDIR
   part "$work/$1" -DBUILD_SHARED_LIBS=ON -DCMAKE_INSTALL_DATADIR="$2" -DCMAKE_INSTALL_LIBDIR="$3"
   expect "$1" "$text" loaded_from "$work/$1/$3"
@@ -130,7 +130,7 @@ with_pkgconfig multi-arch-pkg-config "$work/multi-arch" lib/some-linux-gnu "$com
 elsewhere deep-libraries share lib/of/many/different/kinds
 elsewhere absolute-data "$work/data" lib
 
-# Fetched; where libc++ is, made of nothing that GCC has.
+# Fetched. If libc++ is installed, built without any library of GCC.
 made_of=(-DCMAKE_CXX_COMPILER="$compiler")
 if clang++ -stdlib=libc++ -x c++ -include string -fsyntax-only /dev/null 2>/dev/null; then
   made_of=(-DCMAKE_CXX_COMPILER=clang++ -DCMAKE_CXX_FLAGS=-stdlib=libc++)

@@ -18,7 +18,7 @@ namespace {
 
 using namespace std::literals;
 
-/// What a value holds: numbers with a fraction in thousandths, and of objects only the member "n".
+/// The content of a value: fractions in thousandths; of objects, only the member "n".
 std::string shown(const Value* value) {
   if (!value) return "nothing";
   if (const auto* const number = value->as<std::int64_t>()) return std::to_string(*number);
@@ -102,7 +102,7 @@ TEST(Json, LongNumbersAreReadOnce) {
   EXPECT_FALSE(parseJson("[" + std::string(1000000, '0') + "]"));
 }
 
-/// Sets a locale with a decimal comma. It is created here, because a machine need not have one.
+/// Sets a locale with a decimal comma, which it creates, because the machine may not have one.
 TEST(Json, NumbersHaveAPointInEveryLocale) {
   const testing::TemporaryDirectory directory;
   directory.write("source", "LC_NUMERIC\ndecimal_point \",\"\nthousands_sep \"\"\nEND LC_NUMERIC\n");

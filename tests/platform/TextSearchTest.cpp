@@ -98,7 +98,7 @@ TEST(TextSearch, SearchesLongRepetitiveTexts) {
   EXPECT_EQ(canonicalForm("\xFF\u0301é\xC3"), "\xFF\u0301e\u0301\xC3");
 }
 
-/// Replaces ASCII texts: whether a mark follows is asked of Unicode's properties, one code point at a time.
+/// Replaces ASCII texts. Looks up in Unicode's properties whether a mark follows, one code point at a time.
 std::string replacedAscii(std::string_view text, std::string_view target) {
   std::string result;
   while (!text.empty()) {

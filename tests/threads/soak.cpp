@@ -196,7 +196,7 @@ bool areFirstUsesTheSame() {
          ZKStrings::About() == "Über uns";
 }
 
-/// The bytes that are allocated. Sanitizers have an allocator of their own, which reports none.
+/// The bytes that are allocated. Sanitizers have their own allocator, which reports none.
 std::size_t allocatedBytes() {
   const auto info = mallinfo2();
   return info.uordblks + info.hblkhd;

@@ -92,7 +92,7 @@ TEST(System, AReservedNameIsAName) {
   EXPECT_EQ(opened->localizedStringForKey("a", ""), "b");
 }
 
-// Listed names are compared by bytes. For a name that is asked of the system, the system decides.
+// Listed names are compared by bytes. For other names, the file system decides.
 TEST(System, ComparesListedNamesWithCase) {
   const TemporaryDirectory directory;
   const TableDirectory german(directory.path() + "/De.lproj");
