@@ -24,7 +24,6 @@ namespace zk::tools {
 
 namespace {
 
-/// The index of the form for one in `kPluralForms`.
 constexpr std::size_t kFormForOne = 1;
 
 [[noreturn]] void refuse(const std::string& reason) {
@@ -68,7 +67,6 @@ void setForms(Entry& entry, const PluralForms& forms) {
   entry.forms = forms;
 }
 
-/// Refuses a key that cannot name a function.
 void refuseWrongKey(const std::string& key) {
   if (keyForText(key) != key)
     refuse(fmt::format("the key \"{}\" is not a valid function name; use \"{}\"", key, keyForText(key)));

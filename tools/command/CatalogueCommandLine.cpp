@@ -28,7 +28,6 @@ std::string withLineBreaks(std::string_view text) {
   return replaceAll(text, "\\n", "\n");
 }
 
-/// "Marked 2 translations for review".
 std::string markedForReview(std::size_t count) {
   return fmt::format("Marked {} translation{} for review", count, count == 1 ? "" : "s");
 }

@@ -103,7 +103,6 @@ std::vector<Entry> readEntries(std::string_view json, bool toleratesCommas, Diag
   return entries;
 }
 
-/// Reports the errors in an entry by itself.
 void checkEntry(const Entry& entry, Diagnostics& diagnostics) {
   const auto fail = [&](std::string message) {
     diagnostics.push_back({Severity::error, kFile, entry.line, 1, "", std::move(message)});

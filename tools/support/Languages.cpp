@@ -28,7 +28,6 @@ namespace {
 constexpr const char* kResources = "resources";
 constexpr const char* kExtension = ".lproj";
 
-/// Whether ISO 639-1 has the code.
 bool isLanguageCode(std::string_view code) {
   if (code.size() != 2) return false;
   const char* const* known = uloc_getISOLanguages();

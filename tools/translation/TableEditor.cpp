@@ -41,7 +41,6 @@ TableEditor::TableEditor(std::string bytes, const std::string& file) : text_(std
   text_.erase(0, mark_.size());
 }
 
-/// Where the blanks before `offset` begin.
 std::size_t TableEditor::blanksBegin(std::size_t offset) const {
   return offset == 0 ? 0 : text_.find_last_not_of(kBlanks, offset - 1) + 1;
 }
