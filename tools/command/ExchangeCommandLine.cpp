@@ -138,8 +138,8 @@ void addImportCommand(CLI::App& app, const RootFinder& inRoot) {
       ->type_name("LANGUAGE");
   command.add_flag(
       "--force", arguments.force,
-      "Import texts even if they have changed in the project since the export; mark those whose English "
-      "text has changed for review");
+      "Import texts even if they have changed in the project since the export; if the English text has "
+      "changed, mark the translation for review");
   command.add_flag("--quiet", arguments.quiet, "Print only warnings and counts");
   command.callback([inRoot] {
     arguments.file = absolutePath(arguments.file);
