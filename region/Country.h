@@ -23,8 +23,9 @@ class ZK_EXPORT Country {
   /// Requires: the caller includes <ZKStrings/platform/Dictionary.h>.
   [[nodiscard]] static std::optional<Country> fromDictionary(const Dictionary& dictionary);
 
-  // There are no move operations, because a moved-from country would have no name.
+  /// Copies a country. There are no move operations, because a moved-from country would have no name.
   Country(const Country&) = default;
+  /// Copies a country.
   Country& operator=(const Country&) = default;
 
   /// The name, as in the country list.
