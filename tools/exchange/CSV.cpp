@@ -124,11 +124,11 @@ class CSVReader {
     return column;
   }
 
-  /// Takes the next row, including its line end.
+  /// Takes the next row, including its line ending.
   Row takeRow() {
     Row row;
     for (;;) {
-      // Some programs change all line ends when they save.
+      // Some programs change all line endings when they save.
       row.push_back(changeGuards(replaceAll(takeCell(), "\r\n", "\n"), Guards::remove));
       if (text_.substr(at_, 1) != std::string_view(&separator_, 1)) break;
       ++at_;

@@ -55,7 +55,7 @@ TEST(ExchangeFormat, ReadsWhatItWrites) {
   for (const auto& [format, name] : kForms) expectSame(sent, readBack(written(sent, format), name), name);
   sent.units = {{"k", "a\rb", "\r\na\r\n", TranslationState::translated, {}}};
   expectSame(sent, readBack(written(sent, ExchangeFormat::po), "a.po"), "a.po");
-  // Programs that save CSV choose the line ends within cells.
+  // Programs that save CSV choose the line endings within cells.
   const Translations csv = readBack(written(sent, ExchangeFormat::csv), "a.csv");
   EXPECT_EQ(csv.units[0].target, "\na\n");
 }
