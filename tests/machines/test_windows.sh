@@ -17,6 +17,12 @@ export LC_ALL=C.UTF-8 LANGUAGE=  # Wine names files in it, and it means English
 wine() { /usr/lib/wine/wine64 "$@"; }
 fail() { echo "$*" >&2; exit 1; }
 
+# Keeps Wine's services running until the end. Otherwise, they start again and again, and what they print could become
+# part of a program's output.
+/usr/lib/wine/wineserver64 -p
+work=$(mktemp -d)
+trap '/usr/lib/wine/wineserver64 -k || true; rm -rf "$work"' EXIT
+
 for tests in module tools; do wine "$build/bin/zk_${tests}_tests.exe" --gtest_brief=1 "$@"; done
 [ $# -eq 0 ] || exit 0
 
@@ -33,8 +39,6 @@ chmod +x "$command"
 wine "$build/bin/zkstrings.exe" --root . check --strict
 GTEST_FILTER='*Transcript*:-*/posix_*' ZK_COMMAND=$command "$native/bin/zk_tools_tests" --gtest_brief=1
 
-work=$(mktemp -d)
-trap 'rm -rf "$work"' EXIT
 cp -r tests/tools/small-project "$work/project"
 mkdir "$work/project/resources/de.lproj"
 echo '"About" = "";' >"$work/project/resources/de.lproj/Localizable.strings"
