@@ -237,7 +237,7 @@ void findWithoutSpace(const std::vector<std::string>& marks, std::string_view si
   for (const std::string& mark : marks) {
     for (std::size_t at = text.find(mark); at != text.npos; at = text.find(mark, at + mark.size())) {
       if (!isMissing(text, at, mark)) continue;
-      findings.add(translation.entry, at, "\"{}\" has no no-break space (U+00A0) {} it; write one", mark,
+      findings.add(translation.entry, at, "missing no-break space (U+00A0) {1} \"{0}\"; write one", mark,
                    side);
     }
   }

@@ -234,7 +234,7 @@ class XLIFFReader {
 
   // NOLINTNEXTLINE(misc-no-recursion): codes may contain codes, up to a depth
   std::string textOf(pugi::xml_node element, Codes& codes, std::size_t depth) {
-    if (depth > kDeepestCode) refuse(element, "elements are nested too deeply");
+    if (depth > kDeepestCode) refuse(element, "nested too deeply; export the texts again");
     std::string text;
     for (const pugi::xml_node child : element.children())
       text += child.type() == pugi::node_element ? textOfCode(child, codes, depth + 1) : child.value();

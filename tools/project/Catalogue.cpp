@@ -49,7 +49,7 @@ void storeKept(const JsonValue& value, Entry& entry) {
   for (const auto& [kept, name] : kKeptNames) {
     if (value.text() == name) entry.kept = kept;
   }
-  if (entry.kept == Entry::Kept::nothing) value.fail("write \"key\" or \"place\"");
+  if (entry.kept == Entry::Kept::nothing) value.fail("unknown value; write \"key\" or \"place\"");
 }
 
 void storeMax(const JsonValue& value, Entry& entry) {
