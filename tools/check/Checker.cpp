@@ -52,6 +52,7 @@ class Checker {
   }
 
   Diagnostics errorsIn(const std::string& language, const Table& table, const EnglishTexts& english) {
+    glossary_ = Glossary::read(root_);
     checkTable(language, table, true, &english);
     return std::move(result_.diagnostics);
   }
@@ -182,8 +183,11 @@ CheckResult check(const std::string& root, const CheckOptions& options) {
   return Checker(root, options).run();
 }
 
-Diagnostics checkTable(const std::string& language, const Table& table, const EnglishTexts& english) {
-  return Checker("", CheckOptions{}).errorsIn(language, table, english);
+Diagnostics checkTable(const std::string& root, const std::string& language, const Table& table,
+                       const Catalogue& catalogue) {
+  CheckOptions options;
+  for (const auto& [rule, at] : catalogue.settings().rulesOff) options.off.push_back(rule);
+  return Checker(root, options).errorsIn(language, table, EnglishTexts(catalogue));
 }
 
 }  // namespace zk::tools

@@ -34,8 +34,9 @@ struct CheckResult {
 /// with it do not apply. Throws `CommandFailed` if resources/ cannot be listed.
 [[nodiscard]] CheckResult check(const std::string& root, const CheckOptions& options);
 
-/// Checks `table`, of `language`, which need not be in a file yet.
-[[nodiscard]] Diagnostics checkTable(const std::string& language, const Table& table,
-                                     const EnglishTexts& english);
+/// Checks `table`, of `language`, which need not be in a file yet, with the settings and glossary of the project at
+/// `root`. Throws `CommandFailed` if the glossary is wrong.
+[[nodiscard]] Diagnostics checkTable(const std::string& root, const std::string& language, const Table& table,
+                                     const Catalogue& catalogue);
 
 }  // namespace zk::tools

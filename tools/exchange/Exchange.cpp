@@ -216,7 +216,7 @@ class Importer {
 
   /// Throws the errors that `check` finds in imported texts, and reports its warnings.
   void refuseErrors(const Table& table) {
-    for (const Diagnostic& diagnostic : checkTable(language_, table, english_)) {
+    for (const Diagnostic& diagnostic : checkTable(root_, language_, table, catalogue_)) {
       if (diagnostic.severity > Severity::warning) continue;
       const TableEntry* const entry = table.entryAt({diagnostic.line, diagnostic.column});
       const auto unit = entry ? imported_.find(entry->key) : imported_.end();

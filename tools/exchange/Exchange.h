@@ -41,7 +41,8 @@ struct Import {
 /// unknown or occurs twice, or if the English text or the table's translation has changed since the export. With
 /// `force`, changed texts are imported, and translations of an older English text are marked for review. A text without
 /// a translation changes nothing. Throws `CommandFailed`, and changes nothing, if `check` finds an error in an imported
-/// text, if the language has no table, if the table or the catalogue is wrong, or if the table cannot be written.
+/// text, if the language has no table, if the table, the catalogue or the glossary is wrong, or if the table cannot be
+/// written.
 Import importTranslations(const std::string& root, const Translations& translations, const std::string& file,
                           bool force);
 
