@@ -121,7 +121,9 @@ Table Table::parse(std::string bytes, std::string file) {
   std::optional<std::string> text = decodedText(bytes);
   if (!text) {
     if (bytes.starts_with(kByteOrderMark)) bytes.erase(0, kByteOrderMark.size());
-    for (const Position at : illFormedPlaces(bytes))
+    std::vector<Position> places = illFormedPlaces(bytes);
+    if (places.empty()) places.push_back({1, 1});  // UTF-16 or UTF-32 without its last bytes
+    for (const Position at : places)
       fail(at, kEncoding, "the bytes here are not UTF-8; save the file as UTF-8");
     text = std::move(bytes);  // to report other errors, too
   }
