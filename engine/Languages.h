@@ -31,7 +31,7 @@ struct TextLanguage {
 /// null. Thread-safe.
 [[nodiscard]] ZK_EXPORT std::vector<TextLanguage> availableLanguages(const Bundle* resources);
 
-/// Returns the language of the texts: the first available one that `Current::language` prefers, or else English.
+/// Returns the language of the texts: the first preferred language of `Current::language` that is available, or English.
 ///
 ///     window.setMirrored(zk::chosenLanguage().direction == zk::TextDirection::rtl);
 ///

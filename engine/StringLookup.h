@@ -29,14 +29,14 @@ namespace zk {
 /// cannot be opened.
 ///
 /// Thread-safe. Throws std::bad_alloc if memory runs out. Stops the process, after one line on standard error, if
-/// `Current::language` has not been assigned. Stops the process if Base.lproj is needed but missing, in a function whose
+/// `Current::language` has not been assigned. If Base.lproj is needed but missing, stops the process in a function whose
 /// name says so.
 [[nodiscard]] ZK_EXPORT std::string localizedString(std::string_view key, std::string_view defaultValue,
                                                     std::optional<std::int64_t> count,
                                                     const Substitutions& substitutions);
 
-/// Returns the finished text of one entry of your own catalogue, as the overload without `resources` does for the module's.
-/// `resources` contains language directories such as Base.lproj. If it is null, the English text is used.
+/// Returns the finished text of one entry of your own catalogue, whose language directories, such as Base.lproj, are in
+/// `resources`. Otherwise works like the overload without `resources`. If `resources` is null, the English text is used.
 ///
 ///     const zk::Bundle& texts = zk::Bundle::bundleForClass(typeid(MyTexts), "MyTexts");
 ///     zk::localizedString(&texts, "Hello", "Hello", std::nullopt, {})

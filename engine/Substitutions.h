@@ -30,7 +30,7 @@ namespace zk {
 ///     zk::localizedString(key, english, 5, {{"seconds", std::to_string(5)}});        // right
 ///     const zk::Substitutions substitutions = {{"seconds", std::to_string(5)}};      // wrong: the text is destroyed
 ///
-/// Up to five pairs rarely need memory from the heap. Different objects may be used on different threads at the same time.
+/// Up to five pairs rarely allocate on the heap. Different objects may be used on different threads at the same time.
 ///
 /// Stops the process if a name occurs twice. Canonically equivalent names, such as é and e + U+0301, count as the same.
 class ZK_EXPORT Substitutions {
@@ -57,7 +57,7 @@ class ZK_EXPORT Substitutions {
 
   /// Constructs an empty dictionary: every placeholder stays as it is.
   Substitutions() : size_(0) {}
-  /// Constructs a dictionary of up to five pairs in braces, in their order. The pairs are parameters, not a
+  /// Constructs a dictionary from up to five pairs in braces, in the given order. The pairs are parameters, not a
   /// `std::initializer_list`, so the compiler can warn about texts that are destroyed too early.
   Substitutions(Pair first ZK_REFERRED_TO, Pair second ZK_REFERRED_TO = {}, Pair third ZK_REFERRED_TO = {},
                 Pair fourth ZK_REFERRED_TO = {}, Pair fifth ZK_REFERRED_TO = {})
@@ -102,7 +102,7 @@ class ZK_EXPORT Substitutions {
       }
     }
   }
-  /// False for nearly all different names: canonically equivalent names begin and end with the same ASCII characters, if any.
+  /// False for nearly all different names: canonically equivalent ones never begin or end with different ASCII characters.
   static bool mayBeSame(std::string_view one, std::string_view other) {
     const auto mayAgree = [](char a, char b) {
       return a == b || (static_cast<unsigned char>(a | b) & 0x80U) != 0;

@@ -34,13 +34,15 @@ struct ResourcePlaces;
 /// until the process ends.
 ///
 /// Thread-safe. Only the first opening of a directory or table takes a lock. Throws std::bad_alloc if memory runs out, and
-/// std::system_error where a function says so. After either, the same call succeeds once the shortage is over.
+/// std::system_error where a function says so. A call that threw an exception succeeds once the cause is gone.
 class ZK_EXPORT alignas(kCacheLine) Bundle {
  public:
   /// Returns the bundle of the module that defines the type `type`: the nearest directory `share/ZKStrings` at or above
-  /// the directory of the module's shared library or executable, at most two levels up, or else the configured place of
-  /// installation. Returns a bundle without resources, whose path is empty, if there is no such directory. Throws
-  /// std::system_error if the directory temporarily cannot be found or listed.
+  /// the directory of the module's shared library or executable, at most two levels up, or else the configured
+  /// installation directory. Returns a bundle without resources, whose path is empty, if there is no such directory.
+  /// Throws std::system_error if the directory temporarily cannot be found or listed.
+  ///
+  ///     const zk::Bundle& resources = zk::Bundle::bundleForClass(typeid(MyClass));
   [[nodiscard]] static const Bundle& bundleForClass(const std::type_info& type);
 
   /// Returns the bundle of other code with its own resources: the nearest directory `share/NAME` at or above the
@@ -106,7 +108,7 @@ class ZK_EXPORT alignas(kCacheLine) Bundle {
   const ResourcePath* const defaultTable_;
 };
 
-/// The place of one resource in the listing of a bundle. Lives until the process ends.
+/// The path of one resource that a bundle lists. Lives until the process ends.
 class ZK_EXPORT alignas(kCacheLine) ResourcePath {
  public:
   /// The full path of the file or directory.

@@ -26,7 +26,7 @@ class Dictionary {
 
   /// Constructs an empty dictionary.
   Dictionary();
-  /// Constructs a dictionary of `members`, in their order. A name may occur twice.
+  /// Constructs a dictionary from `members`, in the given order. A name may occur twice.
   Dictionary(std::initializer_list<Member> members);
 
   /// Adds a member with a value made from `content`, and returns the value.

@@ -21,10 +21,10 @@ struct LocaleSettings {
 /// Both the locale and the preferred languages come from the environment. On Windows, they come from the user's settings
 /// if LC_ALL, LC_MESSAGES and LANG are unset or empty.
 ///
-/// - The locale is the first of LC_ALL, LC_MESSAGES and LANG that is set and not empty. If none is set, or if the variable
-///   is C, POSIX or does not name a language, the locale is "en", and LANGUAGE is ignored.
-/// - The preferred languages are those in LANGUAGE, a list separated by colons, and then the locale, without
-///   repetitions. C and POSIX in LANGUAGE mean "en".
+/// - The locale is the first of LC_ALL, LC_MESSAGES and LANG that is set and not empty. If none is set, or if its value
+///   is C or POSIX or does not name a language, the locale is "en", and LANGUAGE is ignored.
+/// - The preferred languages are those in LANGUAGE, a colon-separated list, and then the locale, without
+///   duplicates. C and POSIX in LANGUAGE mean "en".
 ///
 /// Thread-safe, except that a program must not change its environment (`setenv`) during a query on another thread. An
 /// app whose settings change at run time uses `readSettingsFrom`.

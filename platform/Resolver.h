@@ -85,7 +85,7 @@ class ZK_EXPORT ResolverOptions {
 ///     zk::Resolver::register_<Theme>([] { return Theme::dark(); }).scope(zk::ResolverScope::application);
 ///     Theme theme = zk::Resolver::resolve<Theme>();
 ///
-/// Thread-safe. A new registration replaces the earlier one of its type and name for all later resolves. A factory may
+/// Thread-safe. A new registration replaces the earlier one for the same type and name. A factory may
 /// register and resolve other services. Several threads may call a factory of the scope `everyResolve` at the same time.
 ///
 /// Stops the process, after one line on standard error, if the resolved service is not registered, if a factory returns
@@ -96,8 +96,8 @@ class ZK_EXPORT ResolverOptions {
 /// thread of the parent was using it at that moment.
 class ZK_EXPORT Resolver {
  public:
-  /// Registers `factory`, a function without arguments that returns a `Service` or an optional one, for the type
-  /// `Service` and `name`. Never copies the factory. Omitting the name is not the same as passing an empty one.
+  /// Registers `factory`, a function without arguments that returns a `Service` or a `std::optional<Service>`, for the
+  /// type `Service` and `name`. Never copies the factory. Omitting the name is not the same as passing an empty one.
   template <class Service, class Make>
   static ResolverOptions register_(Make factory, std::optional<std::string_view> name = std::nullopt) {
     using Registration = internal::RegistrationOf<Service, Make>;

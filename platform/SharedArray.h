@@ -12,7 +12,7 @@
 
 namespace zk {
 
-/// A list whose copies share their elements. Copying only increments a reference count. Copies never change each other.
+/// A list. Copies share their elements until one of them changes, so copying only increments a reference count.
 ///
 ///     zk::SharedArray<std::string> languages = {"de-DE", "fr-FR"};
 ///     zk::SharedArray<std::string> copy = languages;   // shares the elements
@@ -73,7 +73,7 @@ class SharedArray {
   }
 
  private:
-  // On cache lines of their own, because all threads read the lists of the settings.
+  // On their own cache lines, because all threads read the lists in the current language.
   using Elements = std::vector<Element, CacheLineAllocator<Element>>;
 
   template <class Iterator>

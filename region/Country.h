@@ -19,7 +19,8 @@ class Dictionary;
 class ZK_EXPORT Country {
  public:
   /// Returns the country that `dictionary` describes with the texts "name" and "iso" and the 64-bit integer "phoneCode"
-  /// (not 44.0), all used unchanged. Ignores other members. Returns nothing if one of the three is missing or of another type.
+  /// (44, not 44.0). Uses these values unchanged and ignores other members. Returns nothing if one of the three is
+  /// missing or of the wrong type.
   /// Requires: the caller includes <ZKStrings/platform/Dictionary.h>.
   [[nodiscard]] static std::optional<Country> fromDictionary(const Dictionary& dictionary);
 

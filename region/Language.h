@@ -40,7 +40,7 @@ struct ZK_EXPORT Language {
   [[nodiscard]] std::optional<std::string> preferredLanguageCountry() const;
 
   /// Returns the first preferred language without its last hyphen-separated part: "zh-Hans" for "zh-Hans-CN", "en"
-  /// for "en-US". Returns nothing if the language does not have two or three parts, as "en" does not.
+  /// for "en-US". Returns nothing unless the language has two or three parts: "en" has only one.
   [[nodiscard]] std::optional<std::string> preferredLanguageCode() const;
 };
 

@@ -86,7 +86,7 @@ bool isAsciiWithout(std::string_view text) {
   return found == 0;
 }
 
-/// Returns the place of the first of two ASCII characters from `from` on; the size of `text`, or more, if there is none.
+/// Returns the position of the first of two ASCII characters from `from` on; the size of `text`, or more, if there is none.
 inline std::size_t findEither(char one, char other, std::string_view text, std::size_t from) {
   for (; from + 8 <= text.size(); from += 8) {
     const auto eight = internal::load<std::uint64_t>(text.data() + from);

@@ -31,8 +31,8 @@ void appendCodePoint(std::string& text, char32_t codePoint);
 /// Returns the first two user-perceived characters (extended grapheme clusters) of `text`, or as many as it has.
 [[nodiscard]] std::string_view firstTwoCharacters(std::string_view text);
 
-/// Returns the place of the first `wanted`, an ASCII character, in `text`; `npos` if there is none. Ignores places where
-/// `wanted` is only a part of a user-perceived character, for example because an accent follows.
+/// Returns the position of the first `wanted`, an ASCII character, in `text`; `npos` if there is none. Skips a `wanted`
+/// that is only a part of a user-perceived character, for example because an accent follows.
 [[nodiscard]] std::size_t findCharacter(std::string_view text, char wanted);
 
 /// Whether the language with the code `code`, such as "ar", is written from right to left.
@@ -47,8 +47,8 @@ namespace internal {
 /// Requires: `text` is not empty.
 [[nodiscard]] std::size_t firstClusterSize(std::string_view text);
 
-/// Throws std::bad_alloc if memory is short. Called before a step for which ICU allocates once: if memory runs out
-/// during such a step, ICU never tries it again.
+/// Throws std::bad_alloc if memory is short. Called before steps in which ICU may initialize one of its tables: if
+/// memory runs out in such a step, ICU never tries again.
 void requireMemoryForICU();
 
 }  // namespace internal
