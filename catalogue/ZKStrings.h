@@ -127,7 +127,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string An_update_to_the_latest_version_of_the_app_is_required();
 
   /// "and <b>Rules</b>"
-  /// Part of a sentence that starts "By signing up you agree to the" and ends "and Rules". Put the article and case that the sentence needs here.
+  /// Part of a sentence that starts "By signing up you agree to the" and ends "and Rules". Use the article and case that this part of the sentence needs.
   [[nodiscard]] static std::string and_b_Rules_b();
 
   /// "Answer questions, think fast"
@@ -186,15 +186,15 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string b_No_games_scheduled_b();
 
   /// "<b>Privacy Policy</b>,"
-  /// Part of a sentence that starts "By signing up you agree to the" and ends "and Rules". Put the article and case that the sentence needs here.
+  /// Part of a sentence that starts "By signing up you agree to the" and ends "and Rules". Use the article and case that this part of the sentence needs.
   [[nodiscard]] static std::string b_Privacy_Policy_b();
 
   /// "<b>Terms of Service</b>,"
-  /// Part of a sentence that starts "By signing up you agree to the" and ends "and Rules". Put the article and case that the sentence needs here.
+  /// Part of a sentence that starts "By signing up you agree to the" and ends "and Rules". Use the article and case that this part of the sentence needs.
   [[nodiscard]] static std::string b_Terms_of_Service_b();
 
   /// "<b>Terms of Use</b>,"
-  /// Part of a sentence that starts "By signing up you agree to the" and ends "and Rules". Put the article and case that the sentence needs here.
+  /// Part of a sentence that starts "By signing up you agree to the" and ends "and Rules". Use the article and case that this part of the sentence needs.
   [[nodiscard]] static std::string b_Terms_of_Use_b();
 
   /// "Back in the game!"
@@ -1577,7 +1577,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string or_sign_in_via_via(Text via);
 
   /// "Order It"
-  /// Where this appears is not recorded. "Drag into order" makes putting things in order more likely than buying; the name of a kind of question is possible.
+  /// Where this appears is not recorded. The text "Drag into order" suggests putting things in order rather than buying them. It may also be the name of a question type.
   [[nodiscard]] static std::string Order_It();
 
   /// "Out of time!"
@@ -2169,7 +2169,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Sorry_that_didn_t_work();
 
   /// "Sorry, the box is empty."
-  /// The box is something to open that may hold a gift.
+  /// The player can open the box, and it may contain a gift.
   [[nodiscard]] static std::string Sorry_the_box_is_empty();
 
   /// "Sorry, we couldn't sign you in right now. Try again in a few?"
@@ -2957,7 +2957,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string You_found_an_Extra_Life();
 
   /// "You got a box!"
-  /// The box is something to open that may hold a gift.
+  /// The player can open the box, and it may contain a gift.
   [[nodiscard]] static std::string You_got_a_box();
 
   /// "You got a %{product}!"
