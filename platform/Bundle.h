@@ -35,7 +35,7 @@ struct ResourcePlaces;
 ///
 /// Thread-safe. Only the first opening of a directory or table takes a lock. Throws std::bad_alloc if memory runs out, and
 /// std::system_error where a function says so. A call that threw an exception succeeds once the cause is gone.
-class ZK_EXPORT alignas(kCacheLine) Bundle {
+class ZK_EXPORT alignas(internal::kCacheLine) Bundle {
  public:
   /// Returns the bundle of the module that defines the type `type`: the nearest directory `share/ZKStrings` at or above
   /// the directory of the module's shared library or executable, at most two levels up, or else the configured
@@ -109,7 +109,7 @@ class ZK_EXPORT alignas(kCacheLine) Bundle {
 };
 
 /// The path of one resource that a bundle lists. Lives until the process ends.
-class ZK_EXPORT alignas(kCacheLine) ResourcePath {
+class ZK_EXPORT alignas(internal::kCacheLine) ResourcePath {
  public:
   /// The full path of the file or directory.
   [[nodiscard]] const std::string& string() const { return path_; }

@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <new>
 
-namespace zk {
+namespace zk::internal {
 
 /// The unit in which processors move memory between their caches, in bytes.
 inline constexpr std::size_t kCacheLine = 64;
@@ -30,4 +30,4 @@ struct CacheLineAllocator {
   static constexpr std::align_val_t kAlignment{alignof(Object) > kCacheLine ? alignof(Object) : kCacheLine};
 };
 
-}  // namespace zk
+}  // namespace zk::internal

@@ -74,11 +74,11 @@ class SharedArray {
 
  private:
   // On their own cache lines, because all threads read the lists in the current language.
-  using Elements = std::vector<Element, CacheLineAllocator<Element>>;
+  using Elements = std::vector<Element, internal::CacheLineAllocator<Element>>;
 
   template <class Iterator>
   static std::shared_ptr<Elements> shared(Iterator begin, Iterator end) {
-    return std::allocate_shared<Elements>(CacheLineAllocator<Elements>(), begin, end);
+    return std::allocate_shared<Elements>(internal::CacheLineAllocator<Elements>(), begin, end);
   }
 
   /// Destroying the temporary copy is an acquire operation: reads through copies that other threads have destroyed happen

@@ -14,7 +14,7 @@ namespace zk {
 
 /// An opened string table: the text of a table file in one buffer, and a hash index of places in it. Immutable and
 /// thread-safe.
-class alignas(kCacheLine) StringTable {
+class alignas(internal::kCacheLine) StringTable {
  public:
   /// Reads the table in the file at `path`, in an encoding that `decodedText` reads. Returns a table without texts if the
   /// file cannot be read, or is not well-formed from its first byte to its last. `failure` is the reason why the file
