@@ -29,8 +29,7 @@ namespace zk {
 /// cannot be opened.
 ///
 /// Thread-safe. Throws std::bad_alloc if memory runs out. Stops the process, after one line on standard error, if
-/// `Current::language` has not been assigned. If Base.lproj is needed but missing, stops the process in a function whose
-/// name says so.
+/// `Current::language` has not been assigned. Stops the process silently if Base.lproj is needed but missing.
 [[nodiscard]] ZK_EXPORT std::string localizedString(std::string_view key, std::string_view defaultValue,
                                                     std::optional<std::int64_t> count,
                                                     const Substitutions& substitutions);

@@ -19,8 +19,7 @@ class Dictionary;
 class ZK_EXPORT Country {
  public:
   /// Returns the country that `dictionary` describes with the texts "name" and "iso" and the 64-bit integer "phoneCode"
-  /// (44, not 44.0). Uses these values unchanged and ignores other members. Returns nothing if one of the three is
-  /// missing or of the wrong type.
+  /// (44, not 44.0). Keeps all three unchanged. Returns nothing if one is missing or of the wrong type. Ignores the rest.
   /// Requires: the caller includes <ZKStrings/platform/Dictionary.h>.
   [[nodiscard]] static std::optional<Country> fromDictionary(const Dictionary& dictionary);
 
