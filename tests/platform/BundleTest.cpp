@@ -1,8 +1,10 @@
 #include <ZKStrings/engine/BundleGlobals.h>
 #include <ZKStrings/platform/Bundle.h>
 #include <ZKStrings/platform/system/CodeLocation.h>
+#include <ZKStrings/platform/text/Bytes.h>
 #include <ZKStrings/tests/TemporaryDirectory.h>
 
+#include <bit>
 #include <filesystem>
 #include <future>
 #include <optional>
@@ -37,6 +39,21 @@ TEST(Bundle, ListsItsDirectoryByExactNames) {
         Name("de.lproj", ""), Name("a", "b.lproj"), Name("../x", "lproj"),
         Name("de.lproj/Localizable", "strings"), Name("de\0"sv, "lproj"), Name(".", ".")})
     EXPECT_EQ(bundle->pathForResource(name, type), nullptr) << name << " " << type;
+}
+
+TEST(Bundle, TellsNamesWithTheSameHashApart) {
+  const std::string name = "Badges_and_coins", other = "AtGzMlWNnFiLNmWI";
+  if constexpr (std::endian::native == std::endian::little) {
+    ASSERT_EQ(wordOf(name), wordOf(other));
+  }
+  const TemporaryDirectory directory;
+  directory.write(name + ".lproj/x", "");
+  directory.write("a." + name + "/x", "");
+  const Bundle& bundle = *Bundle::initWithPath(directory.path());
+  EXPECT_NE(bundle.pathForResource(name, "lproj"), nullptr);
+  EXPECT_NE(bundle.pathForResource("a", name), nullptr);
+  EXPECT_EQ(bundle.pathForResource(other, "lproj"), nullptr);
+  EXPECT_EQ(bundle.pathForResource("a", other), nullptr);
 }
 
 TEST(Bundle, LooksForAFileOnEveryCall) {

@@ -122,24 +122,37 @@ TEST(Resolver, AThreadReleasesItsServicesWhenItEnds) {
 
 /// Resolves its own type in its destructor, as a service that logs might.
 struct ReadsItself {
-  explicit ReadsItself(int shown) : value(shown) {}
+  explicit ReadsItself(int shown) : value(shown) { ++alive; }
   ReadsItself(const ReadsItself&) = delete;
   ReadsItself& operator=(const ReadsItself&) = delete;
-  ~ReadsItself() { readAtTheEnd = (*ServiceView<std::shared_ptr<ReadsItself>>())->value; }
+  ~ReadsItself() {
+    readAtTheEnd = (*ServiceView<std::shared_ptr<ReadsItself>>())->value;
+    --alive;
+  }
   int value;
-  static inline int readAtTheEnd = 0;
+  static inline int readAtTheEnd = 0, alive = 0;
 };
 
 TEST(Resolver, AServiceMayReadItsOwnTypeInItsDestructor) {
   using Shared = std::shared_ptr<ReadsItself>;
-  for (int value = 1; value <= 3; ++value) {
+  const auto registerAndView = [](int value) {
     Resolver::register_<Shared>([value] {
       return std::make_shared<ReadsItself>(value);
     }).scope(ResolverScope::application);
     EXPECT_EQ((*ServiceView<Shared>())->value, value);
+  };
+  for (int value = 1; value <= 3; ++value) {
+    registerAndView(value);
     EXPECT_EQ(ReadsItself::readAtTheEnd, value == 1 ? 0 : value);
   }
-  std::thread([] { EXPECT_EQ((*ServiceView<Shared>())->value, 3); }).join();
+  // When a thread ends, too.
+  std::thread([&] {
+    registerAndView(4);
+    std::thread(registerAndView, 5).join();
+  }).join();
+  EXPECT_EQ((*ServiceView<Shared>())->value, 5);
+  registerAndView(6);
+  EXPECT_EQ(ReadsItself::alive, 1);
 }
 
 struct alignas(512) Wide {

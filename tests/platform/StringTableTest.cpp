@@ -47,8 +47,8 @@ TEST(StringTable, FindsTheTextsOfTheFile) {
 TEST(StringTable, ResolvesEscapes) {
   const std::pair<std::string, std::string> cases[] = {
       {R"(\"\\\n\t\r\a\b\f\v)", "\"\\\n\t\r\a\b\f\v"},
-      {R"(\101\7x\0)", "A\ax\0"s},
-      {R"(\U00e9\Ud83c\Udf89\Ud83c!)", "é🎉\uFFFD!"},
+      {R"(\1014\7x\0)", "A4\ax\0"s},
+      {R"(\U00e9\Ud83c\Udf89a\Ud83c!)", "é🎉a\uFFFD!"},
       {R"(\U00e9a)", "éa"},
       {R"(\U41,\U41g\Ue9\U7ff\U1234)", "A,Agé\u07FF\u1234"},
       {R"(\Ud83c\Udf8 \Ud83c\U9)", "\uFFFD\u0DF8 \uFFFD\t"},
