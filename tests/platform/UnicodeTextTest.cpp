@@ -23,6 +23,8 @@ TEST(UnicodeText, FirstTwoCharactersAreUserPerceivedAndBytesThatAreNotUtf8Charac
       {"", 0},          {"pt-BR", 2}, {"\xFFzx", 2}, {"z\xFF", 2}, {"a\xA0\u200D", 2}, {"\xFF\u0301x", 3},
       {"\xE2\x80zx", 2}};
   for (const auto& [text, size] : cases) EXPECT_EQ(firstTwoCharacters(text), text.substr(0, size)) << text;
+  for (std::string letter = "e"; letter.size() < 300; letter += "\u0301")
+    EXPECT_EQ(firstTwoCharacters("z" + letter + "z"), "z" + letter) << letter.size();
 }
 
 /// Returns the text with a | after each cluster.
