@@ -32,9 +32,8 @@ Encoding encodingOf(std::string_view bytes) {
     if (bytes.starts_with(encoding.mark)) return encoding;
   }
   const auto isZero = [&](std::size_t at) { return at < bytes.size() && bytes[at] == '\0'; };
-  const bool longEnough = bytes.size() >= 4;
-  if (longEnough && isZero(0) && isZero(1) && isZero(2)) return {"", 4, true};
-  if (longEnough && isZero(1) && isZero(2) && isZero(3)) return {"", 4, false};
+  if (isZero(0) && isZero(1) && isZero(2)) return {"", 4, true};
+  if (isZero(1) && isZero(2) && isZero(3)) return {"", 4, false};
   if (isZero(0)) return {"", 2, true};
   return {"", isZero(1) ? std::size_t{2} : 1, false};
 }
