@@ -46,7 +46,7 @@ class Hold {
 ///     const ServiceView<Language> language;
 ///     read(language->preferredLanguages);
 ///
-/// Requires: the view is used only on the thread that created it.
+/// The service lives as long as the view. Requires: the view is used only on the thread that created it.
 template <class Service>
 class ServiceView {
  public:
