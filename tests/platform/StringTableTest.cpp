@@ -13,7 +13,6 @@
 #include <string>
 #include <string_view>
 #include <system_error>
-#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -42,23 +41,6 @@ TEST(StringTable, FindsTheTextsOfTheFile) {
   EXPECT_EQ(textIn(directory.write("utf16", "\xFF\xFE\"\0a\0\"\0=\0\"\0\x16\x30\"\0;\0"s)), "〖");
   EXPECT_EQ(textIn(directory.write("unmarked", "\"\0a\0\"\0=\0\"\0b\0\"\0;\0"s)), "b");
   EXPECT_EQ(textIn(directory.write("bytes", "\"a\" = \"b\"; \"c\" = \"\xFF\";")), std::nullopt);
-}
-
-TEST(StringTable, ResolvesEscapes) {
-  const std::pair<std::string, std::string> cases[] = {
-      {R"(\"\\\n\t\r\a\b\f\v)", "\"\\\n\t\r\a\b\f\v"},
-      {R"(\1014\7x\0)", "A4\ax\0"s},
-      {R"(\U00e9\Ud83c\Udf89a\Ud83c!)", "é🎉a\uFFFD!"},
-      {R"(\U00e9a)", "éa"},
-      {R"(\U41,\U41g\Ue9\U7ff\U1234)", "A,Agé\u07FF\u1234"},
-      {R"(\Ud83c\Udf8 \Ud83c\U9)", "\uFFFD\u0DF8 \uFFFD\t"},
-      {R"(\Ud7ff\Udc00\Udbff\Udfff)", "\uD7FF\uFFFD\U0010FFFF"},
-      {R"(\q\Ug\é\U)", "qUgéU"},
-      {R"(\777\8\U00FC)", "ÿ8ü"},
-  };
-  const TemporaryDirectory directory;
-  for (const auto& [spelled, text] : cases)
-    EXPECT_EQ(textIn(directory.write("t.strings", "\"a\" = \"" + spelled + "\";")), text) << spelled;
 }
 
 TEST(StringTable, FindsEveryKeyOfALargeTable) {
