@@ -6,7 +6,6 @@
 #include <ZKStrings/region/CurrentLanguage.h>
 #include <ZKStrings/tests/TemporaryDirectory.h>
 
-#include <algorithm>
 #include <atomic>
 #include <cstddef>
 #include <cstdlib>
@@ -19,7 +18,6 @@
 #include <string_view>
 #include <system_error>
 #include <thread>
-#include <utility>
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -62,74 +60,68 @@ void makeEnormous(const std::string& path) {
 
 constexpr const char* kStops = "the process stops";
 
+/// What the module returns with one damaged resource.
+struct Result {
+  const char* table;      // the text if the table of the first language is damaged
+  const char* language;   // the text if the directory of the first language is damaged
+  const char* base;       // the text in an unknown language if Base.lproj is damaged
+  std::size_t countries;  // if their file is damaged
+};
+constexpr Result kUndamaged = {"deutsch", "deutsch", "base", 2};
+constexpr Result kUnreadable = {"value", "français", kStops, 0};
+constexpr Result kWithoutTable = {"value", "value", "value", 0};
+
+void moveBehindLink(const std::string& path) {
+  fs::rename(path, path + ".real");
+  makeLink(path, path + ".real");
+}
+
+void makeZeros(const std::string& path) {
+  makeFile(path, "");
+  fs::resize_file(path, kMany);
+}
+
+void cutShort(const std::string& path) {
+  const std::string whole = fs::is_directory(path) ? "" : contents(path);
+  makeFile(path, whole.substr(0, whole.size() / 2));
+}
+
+void makeEmptyDirectory(const std::string& path) {
+  fs::remove_all(path);
+  fs::create_directory(path);
+}
+
+using Path = const std::string&;
+
 /// A kind of damage, and the documented result for each resource that has it.
 struct Shape {
   const char* name;
-  void (*change)(const std::string& path);
-  const char* table = "value";        // the text if the table of the first language is damaged
-  const char* language = "français";  // the text if the directory of the first language is damaged
-  const char* base = kStops;          // the text in an unknown language if Base.lproj is damaged
-  std::size_t countries = 0;
+  void (*change)(Path path);
+  const Result& result = kUnreadable;
 };
 
 const Shape kShapes[] = {
-    {.name = "what it should be",
-     .change = [](const std::string&) {},
-     .table = "deutsch",
-     .language = "deutsch",
-     .base = "base",
-     .countries = 2},
-    {.name = "a link to what it should be",
-     .change =
-         [](const std::string& path) {
-           fs::rename(path, path + ".real");
-           makeLink(path, path + ".real");
-         },
-     .table = "deutsch",
-     .language = "deutsch",
-     .base = "base",
-     .countries = 2},
-    {.name = "enormous",
-     .change = makeEnormous,
-     .table = "deutsch",
-     .language = "deutsch",
-     .base = "base",
-     .countries = 2},
-    {.name = "missing", .change = [](const std::string& path) { fs::remove_all(path); }},
-    {.name = "an empty file", .change = [](const std::string& path) { makeFile(path, ""); }},
-    {.name = "one byte", .change = [](const std::string& path) { makeFile(path, "\""); }},
-    {.name = "64 MB of zeros",
-     .change =
-         [](const std::string& path) {
-           makeFile(path, "");
-           fs::resize_file(path, kMany);
-         }},
-    {.name = "a file cut short",
-     .change =
-         [](const std::string& path) {
-           const std::string whole = fs::is_directory(path) ? "" : contents(path);
-           makeFile(path, whole.substr(0, whole.size() / 2));
-         }},
-    {.name = "an empty directory",
-     .change =
-         [](const std::string& path) {
-           fs::remove_all(path);
-           fs::create_directory(path);
-         },
-     .language = "value",
-     .base = "value"},
-    {.name = "a FIFO", .change = [](const std::string& path) { makeNode(path, S_IFIFO); }},
-    {.name = "a socket", .change = [](const std::string& path) { makeNode(path, S_IFSOCK); }},
-    {.name = "a dangling link", .change = [](const std::string& path) { makeLink(path, "nothing"); }},
-    {.name = "a link to itself", .change = [](const std::string& path) { makeLink(path, path); }},
-    {.name = "unreadable", .change = [](const std::string& path) { chmod(path.c_str(), 0); }},
+    {.name = "AsItShouldBe", .change = [](Path) {}, .result = kUndamaged},
+    {.name = "LinkToWhatItShouldBe", .change = moveBehindLink, .result = kUndamaged},
+    {.name = "Enormous", .change = makeEnormous, .result = kUndamaged},
+    {.name = "Missing", .change = [](Path path) { fs::remove_all(path); }},
+    {.name = "EmptyFile", .change = [](Path path) { makeFile(path, ""); }},
+    {.name = "OneByte", .change = [](Path path) { makeFile(path, "\""); }},
+    {.name = "Zeros", .change = makeZeros},
+    {.name = "CutShort", .change = cutShort},
+    {.name = "EmptyDirectory", .change = makeEmptyDirectory, .result = kWithoutTable},
+    {.name = "Fifo", .change = [](Path path) { makeNode(path, S_IFIFO); }},
+    {.name = "Socket", .change = [](Path path) { makeNode(path, S_IFSOCK); }},
+    {.name = "DanglingLink", .change = [](Path path) { makeLink(path, "nothing"); }},
+    {.name = "LinkToItself", .change = [](Path path) { makeLink(path, path); }},
+    {.name = "WithoutPermission", .change = [](Path path) { chmod(path.c_str(), 0); }},
 };
 
 /// A correct resource directory, except for one path in it. Everybody may read it.
 class Resources {
  public:
-  Resources() : Resources("", [](const std::string&) {}) {}
-  Resources(const std::string& name, void (*change)(const std::string&)) : shaped_(path() + "/" + name) {
+  Resources() : Resources("", [](Path) {}) {}
+  Resources(Path name, void (*change)(Path)) : shaped_(path() + "/" + name) {
     directory_.write("Base.lproj/Localizable.strings", "\"a\" = \"base\";");
     directory_.write("de.lproj/Localizable.strings", "/* a */ \"a\" = \"deutsch\"; \"b\" = \"b\";");
     directory_.write("fr.lproj/Localizable.strings", "\"a\" = \"français\";");
@@ -144,13 +136,8 @@ class Resources {
 
   [[nodiscard]] const std::string& path() const { return directory_.path(); }
 
-  [[nodiscard]] std::string text(const char* identifier) const {
-    Current::language->preferredLanguages = {identifier, "fr-FR"};
-    return localizedString(Bundle::initWithPath(path()), "a", "value", std::nullopt, {});
-  }
-
-  [[nodiscard]] std::string english() const {
-    Current::language->preferredLanguages = {"xx"};
+  [[nodiscard]] std::string text(const SharedArray<std::string>& languages) const {
+    Current::language->preferredLanguages = languages;
     return localizedString(Bundle::initWithPath(path()), "a", "value", std::nullopt, {});
   }
 
@@ -166,18 +153,15 @@ std::ptrdiff_t openDescriptors() {
 /// Removes root's permissions from the process while this object exists. False if that is impossible.
 class OrdinaryUser {
  public:
-  OrdinaryUser() : was_(geteuid()) {
-    constexpr uid_t kNobody = 65534;
-    isOne_ = was_ != 0 || seteuid(kNobody) == 0;
-  }
+  OrdinaryUser() = default;
   OrdinaryUser(const OrdinaryUser&) = delete;
   OrdinaryUser& operator=(const OrdinaryUser&) = delete;
-  ~OrdinaryUser() { isOne_ = seteuid(was_) == 0; }
+  ~OrdinaryUser() { isOne_ = seteuid(getuid()) == 0; }
   explicit operator bool() const { return isOne_; }
 
  private:
-  uid_t was_;
-  bool isOne_;
+  static constexpr uid_t kNobody = 65534;
+  bool isOne_ = getuid() != 0 || seteuid(kNobody) == 0;
 };
 
 class FilesDeathTest : public ::testing::TestWithParam<Shape> {
@@ -190,70 +174,55 @@ class FilesDeathTest : public ::testing::TestWithParam<Shape> {
 };
 
 TEST_P(FilesDeathTest, HaveTheDocumentedResult) {
-  const Shape& shape = GetParam();
-  const Resources ofTable("de.lproj/Localizable.strings", shape.change);
-  const Resources ofLanguage("de.lproj", shape.change);
-  const Resources ofBase("Base.lproj", shape.change);
-  const Resources ofCountries("countries.json", shape.change);
+  const auto& [name, change, result] = GetParam();
+  const Resources ofTable("de.lproj/Localizable.strings", change);
+  const Resources ofLanguage("de.lproj", change);
+  const Resources ofBase("Base.lproj", change);
+  const Resources ofCountries("countries.json", change);
   const OrdinaryUser user;
   std::error_code unreachable;
   if (!user || !fs::exists(ofTable.path() + "/de.lproj", unreachable))
     GTEST_SKIP() << "needs to be an ordinary user here";
   const std::ptrdiff_t before = openDescriptors();
   for (int i = 0; i < 2; ++i) {
-    EXPECT_EQ(ofTable.text("de-DE"), shape.table);
-    EXPECT_EQ(ofLanguage.text("de-DE"), shape.language);
-    EXPECT_EQ(countriesIn(*Bundle::initWithPath(ofCountries.path())).size(), shape.countries);
-    if (shape.base == kStops) {
-      EXPECT_DEATH(static_cast<void>(ofBase.english()), "^$");
+    EXPECT_EQ(ofTable.text({"de-DE", "fr-FR"}), result.table);
+    EXPECT_EQ(ofLanguage.text({"de-DE", "fr-FR"}), result.language);
+    EXPECT_EQ(countriesIn(*Bundle::initWithPath(ofCountries.path())).size(), result.countries);
+    if (result.base == kStops) {
+      EXPECT_DEATH(static_cast<void>(ofBase.text({"xx"})), "^$");
     } else {
-      EXPECT_EQ(ofBase.english(), shape.base);
+      EXPECT_EQ(ofBase.text({"xx"}), result.base);
     }
   }
   const bool isOpened = Bundle::initWithPath(ofLanguage.path() + "/de.lproj") != nullptr;
-  EXPECT_EQ(isOpened, std::string_view(shape.language) != "français");
+  EXPECT_EQ(isOpened, std::string_view(result.language) != "français");
   EXPECT_EQ(openDescriptors(), before);
 }
 
-std::string nameOf(const ::testing::TestParamInfo<Shape>& info) {
-  std::string name = info.param.name;
-  std::replace(name.begin(), name.end(), ' ', '_');
-  return name;
-}
-
-INSTANTIATE_TEST_SUITE_P(Resource, FilesDeathTest, ::testing::ValuesIn(kShapes), nameOf);
-
-/// Replaces the contents of the file with `bytes`.
-using Replace = void (*)(const std::string& path, const std::string& bytes);
+INSTANTIATE_TEST_SUITE_P(Resource, FilesDeathTest, ::testing::ValuesIn(kShapes),
+                         [](const auto& shape) { return shape.param.name; });
 
 // A file that is read while it is written has its old contents, its new contents or none. If it is replaced as a
 // whole, it always has contents.
 TEST(Files, MayChangeWhileTheyAreRead) {
-  const std::pair<Replace, bool> ways[] = {
-      {[](const std::string& path, const std::string& bytes) {
-         std::ofstream(path, std::ios::binary) << bytes;
-       },
-       true},
-      {[](const std::string& path, const std::string& bytes) {
-         makeFile(path + ".new", bytes);
-         fs::rename(path + ".new", path);
-       },
-       false},
-  };
   alarm(kSecondsForAll);
   Current::language = Language{};
-  for (const auto& [replace, mayBeNothing] : ways) {
+  for (const bool isReplaced : {false, true}) {
     const Resources resources;
-    const std::string table = resources.path() + "/de.lproj/Localizable.strings";
-    const std::string countries = resources.path() + "/countries.json";
-    const std::string more = "\"a\" = \"long\";" + std::string(100000, '\n') + "\"b\" = \"b\";";
-    const std::string fewer = "\"a\" = \"short\"; \"b\" = \"b\";";
+    const auto writeOne = [&](const std::string& name, const std::string& bytes) {
+      const std::string path = resources.path() + "/" + name;
+      std::ofstream(isReplaced ? path + ".new" : path, std::ios::binary) << bytes;
+      if (isReplaced) fs::rename(path + ".new", path);
+    };
     const std::string one = R"({"name": "Austria", "phoneCode": 43, "iso": "AT"})";
     std::string many = one;
     for (int i = 1; i < 1000; ++i) many += "," + one;
-    const auto write = [&, &write = replace](int round) {
-      write(table, round % 2 == 0 ? more : fewer);
-      write(countries, "[" + (round % 2 == 0 ? many : one) + "]");
+    const auto write = [&](int round) {
+      const bool isLong = round % 2 == 0;
+      writeOne("de.lproj/Localizable.strings",
+               isLong ? "\"a\" = \"long\";" + std::string(100000, '\n') + "\"b\" = \"b\";"
+                      : "\"a\" = \"short\"; \"b\" = \"b\";");
+      writeOne("countries.json", "[" + (isLong ? many : one) + "]");
     };
     write(0);
     std::atomic<bool> done = false;
@@ -265,9 +234,9 @@ TEST(Files, MayChangeWhileTheyAreRead) {
       const std::string name = resources.path() + "/" + std::to_string(round);
       fs::create_directory_symlink(resources.path() + "/de.lproj", name);
       const std::string text(Bundle::initWithPath(name)->localizedStringForKey("a", "nothing"));
-      EXPECT_TRUE(text == "long" || text == "short" || (mayBeNothing && text == "nothing")) << text;
+      EXPECT_TRUE(text == "long" || text == "short" || (!isReplaced && text == "nothing")) << text;
       const std::size_t found = countriesIn(*Bundle::initWithPath(resources.path())).size();
-      EXPECT_TRUE(found == 1 || found == 1000 || (mayBeNothing && found == 0)) << found;
+      EXPECT_TRUE(found == 1 || found == 1000 || (!isReplaced && found == 0)) << found;
     }
     done = true;
     writer.join();

@@ -2,12 +2,11 @@
 // files each step opens. A step begins when the program opens the file "step:" with the step's name.
 
 #include <ZKStrings/ZKStrings.h>
+#include <ZKStrings/tests/RandomTexts.h>
 
 #include <cstddef>
 #include <iostream>
-#include <random>
 #include <string>
-#include <string_view>
 #include <thread>
 #include <vector>
 
@@ -15,42 +14,37 @@
 
 namespace {
 
-using namespace std::string_view_literals;
+using namespace std::string_literals;
 
 void beginStep(const std::string& name) {
   static_cast<void>(access(("step:" + name).c_str(), F_OK));
 }
 
-constexpr std::string_view kParts[] = {"..",
-                                       "/",
-                                       "../",
-                                       "/etc/passwd",
-                                       "\0"sv,
-                                       ".",
-                                       "~",
-                                       "%2e%2e%2f",
-                                       "\\",
-                                       "de",
-                                       "Base",
-                                       ".lproj",
-                                       "\xFF",
-                                       "\xC0\xAF",
-                                       "e\u0301",
-                                       "/\u0338",
-                                       "👨‍👩‍👧",
-                                       "countries.json"};
-
 std::vector<std::string> identifiers() {
   constexpr int kCount = 5000;
   constexpr std::size_t kMegabyte = 1 << 20;
+  const std::vector<std::string> parts = {"..",
+                                          "/",
+                                          "../",
+                                          "/etc/passwd",
+                                          "\0"s,
+                                          ".",
+                                          "~",
+                                          "%2e%2e%2f",
+                                          "\\",
+                                          "de",
+                                          "Base",
+                                          ".lproj",
+                                          "\xFF",
+                                          "\xC0\xAF",
+                                          "e\u0301",
+                                          "/\u0338",
+                                          "👨‍👩‍👧",
+                                          "countries.json"};
+  zk::testing::RandomTexts texts(parts);
   std::vector<std::string> all;
-  std::mt19937 random;  // the same in each run
-  const auto part = [&] { return kParts[random() % std::size(kParts)]; };
-  for (int i = 0; i < kCount; ++i) {
-    std::string& identifier = all.emplace_back();
-    for (std::size_t parts = 1 + random() % 5; parts > 0; --parts) identifier += part();
-  }
-  for (const std::string_view repeated : kParts) {
+  for (int i = 0; i < kCount; ++i) all.push_back(texts.next(5));
+  for (const std::string& repeated : parts) {
     std::string& identifier = all.emplace_back("d");
     while (identifier.size() < kMegabyte) identifier += repeated;
     all.push_back(identifier.substr(1));
