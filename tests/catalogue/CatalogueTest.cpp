@@ -2,7 +2,6 @@
 #include <ZKStrings/tests/Rows.h>
 #include <ZKStrings/tools/authoring/AccessorGenerator.h>
 #include <ZKStrings/tools/project/Catalogue.h>
-#include <ZKStrings/tools/project/Table.h>
 #include <ZKStrings/tools/support/Diagnostic.h>
 #include <ZKStrings/tools/support/Files.h>
 
@@ -19,17 +18,9 @@ constexpr const char* kRoot = ZK_PROJECT_ROOT;
 
 TEST(Catalogue, ItsFilesAreUpToDate) {
   const Catalogue catalogue = Catalogue::read(kRoot);
-  const Table base = Table::read(kRoot, "Base");
   for (const auto& [path, bytes] : generateAccessors(catalogue))
     EXPECT_TRUE(readFile(kRoot, path) == bytes) << path << ": run zkstrings generate";
   EXPECT_EQ(readFile(kRoot, Catalogue::kFile), catalogue.toJson());
-  const EnglishTexts english(catalogue);
-  ASSERT_EQ(base.entries.size(), english.all().size()) << "run zkstrings check";
-  for (std::size_t i = 0; i < base.entries.size(); ++i) {
-    EXPECT_EQ(base.entries[i].key, english.all()[i].key);
-    EXPECT_EQ(base.entries[i].text, english.all()[i].text)
-        << base.entries[i].key << ": run zkstrings generate";
-  }
 }
 
 TEST(Catalogue, RefusesAWrongEntryNamingItsLine) {

@@ -28,12 +28,5 @@ TEST(Value, TakesEveryKindOfNumberAndText) {
   EXPECT_FALSE(Value(true).as<std::int64_t>() || Value(1).as<bool>());
 }
 
-TEST(Dictionary, TheLastOfSeveralMembersCounts) {
-  const Dictionary dictionary = {{"a", 1}, {"A", 2}, {"a", 3}};
-  EXPECT_EQ(*dictionary.find<std::int64_t>("a"), 3);
-  EXPECT_EQ(dictionary.find<std::string>("a"), nullptr);
-  EXPECT_EQ(dictionary.find("b"), nullptr);
-}
-
 }  // namespace
 }  // namespace zk

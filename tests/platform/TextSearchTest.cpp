@@ -3,16 +3,13 @@
 #include <ZKStrings/tests/RandomTexts.h>
 #include <ZKStrings/tests/Rows.h>
 
-#include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <string_view>
 
 #include <gtest/gtest.h>
 #include <unicode/normalizer2.h>
-#include <unicode/uchar.h>
 #include <unicode/unistr.h>
 
 namespace zk {
@@ -96,31 +93,6 @@ TEST(TextSearch, SearchesLongRepetitiveTexts) {
   EXPECT_EQ(replaced(repeated("%{é}"), "%{é}", "%{é}%{é}"), repeated("%{é}%{é}"));
   EXPECT_EQ(canonicalForm("à" + marks), "a" + repeated("\u0316") + "\u0300" + repeated("\u0301"));
   EXPECT_EQ(canonicalForm("\xFF\u0301é\xC3"), "\xFF\u0301e\u0301\xC3");
-}
-
-/// Replaces ASCII texts. Looks up in Unicode's properties whether a mark follows, one code point at a time.
-std::string replacedAscii(std::string_view text, std::string_view target) {
-  std::string result;
-  while (!text.empty()) {
-    const std::string_view rest = text.substr(std::min(target.size(), text.size()));
-    const std::optional<char32_t> next = rest.empty() ? U'x' : firstCodePoint(rest).value;
-    const bool isMarked =
-        next && u_getIntPropertyValue(static_cast<UChar32>(*next), UCHAR_LEAD_CANONICAL_COMBINING_CLASS) != 0;
-    const bool isFound = text.starts_with(target) && !isMarked;
-    result += isFound ? '#' : text[0];
-    text.remove_prefix(isFound ? target.size() : 1);
-  }
-  return result;
-}
-
-TEST(TextSearch, AsciiIsFoundUnlessAMarkFollows) {
-  RandomTexts texts({"%{a}", "%", "{", "a", "}", "\u0301", "é", "e", "K", "\u212A", "🎉", "\u200D", "\xFF",
-                     "\xE2\x84", "\uFE0F", "\u1161", " "});
-  for (int round = 0; round < 20000; ++round) {
-    const std::string text = texts.next(11);
-    for (const std::string target : {"%{a}", "a", "}", "e", "{a"})
-      ASSERT_EQ(replaced(text, target), replacedAscii(text, target)) << text << " " << target;
-  }
 }
 
 }  // namespace

@@ -6,7 +6,6 @@
 
 #include <atomic>
 #include <cstdlib>
-#include <future>
 #include <memory>
 #include <optional>
 #include <stdexcept>
@@ -45,18 +44,6 @@ TEST(Language, TakesASnapshotOfTheLanguagesButNotOfTheLocale) {
   EXPECT_FALSE(before.countries.empty());
 }
 
-TEST(Language, CopiesAreIndependent) {
-  Language original = speaking("a");
-  Language copy = original;
-  copy.preferredLanguages.append("b");
-  copy.countries = {};
-  original.preferredLanguages.edit([](auto& list) { list.insert(list.begin(), "0"); });
-  EXPECT_EQ(joined(original), "0 a");
-  EXPECT_EQ(joined(copy), "a b");
-  EXPECT_FALSE(original.countries.empty());
-  EXPECT_TRUE(copy.countries.empty());
-}
-
 TEST(SharedArray, GrowsInPlaceOnlyWithoutAnotherCopy) {
   SharedArray<std::string> list = {"a", "b"};
   std::atomic<bool> isDropped = false;
@@ -74,8 +61,10 @@ TEST(SharedArray, GrowsInPlaceOnlyWithoutAnotherCopy) {
   EXPECT_EQ(list.begin(), place);
   const SharedArray<std::string> copy = list;
   list.append("e");
-  EXPECT_EQ(copy.size(), 4u);
   EXPECT_EQ(list.size(), 5u);
+  list = copy;
+  list.edit([](auto& elements) { elements.clear(); });
+  EXPECT_EQ(copy.size(), 4u);
 }
 
 TEST(Language, DerivesCountryAndCodeFromTheFirstIdentifier) {
@@ -121,39 +110,14 @@ TEST(CurrentLanguage, IsTheLastAssignedOne) {
   EXPECT_EQ(Current::language->preferredLanguages[0], "c");
 }
 
-TEST(CurrentLanguage, ReadingWritesNothing) {
+TEST(CurrentLanguage, ReadingWritesNothingAndChangingAlwaysWrites) {
   int calls = 0;
   Resolver::register_<Language>([&] { return speaking(std::to_string(++calls)); });
-  EXPECT_EQ(Current::language->preferredLanguages[0], "1");
-  EXPECT_FALSE(Current::language->countries.empty());
-}
-
-TEST(CurrentLanguage, AChangeByAFunctionIsAlwaysWrittenBack) {
-  int calls = 0;
-  Resolver::register_<Language>([&] { return speaking(std::to_string(++calls)); });
+  for (const char* number : {"1", "2"}) EXPECT_EQ(Current::language->preferredLanguages[0], number);
   Current::language.change([](const Language&) {});
-  EXPECT_EQ(joined(Current::language), "1");
-  EXPECT_EQ(joined(Current::language), "1");
-  EXPECT_EQ(calls, 1);
+  for (int i = 0; i < 2; ++i) EXPECT_EQ(joined(Current::language), "3");
   Current::language.change([](const Language&) { Current::language = speaking("lost"); });
-  EXPECT_EQ(joined(Current::language), "1");
-}
-
-TEST(CurrentLanguage, ReadingUndoesNoOtherThreadsAssignment) {
-  Language language;
-  Current::language = language;
-  std::atomic<bool> done = false;
-  const auto read = [&] {
-    while (!done) EXPECT_FALSE(Current::language->countries.empty());
-  };
-  const std::future<void> readers[] = {std::async(std::launch::async, read),
-                                       std::async(std::launch::async, read)};
-  for (int round = 0; round < 2000; ++round) {
-    language.preferredLanguages = {std::to_string(round)};
-    Current::language = language;
-    EXPECT_TRUE(Current::language.get().preferredLanguages.sharesElementsWith(language.preferredLanguages));
-  }
-  done = true;
+  EXPECT_EQ(joined(Current::language), "3");
 }
 
 TEST(CurrentLanguage, CanBeReadInTheExpressionThatChangesIt) {
@@ -194,11 +158,6 @@ TEST(CurrentLanguage, AChangeIsWrittenBackEvenIfItThrows) {
   const auto changeAll = [&](Language& language) { changeAndThrow(language.preferredLanguages); };
   EXPECT_THROW(Current::language.change(changeAll), std::runtime_error);
   EXPECT_TRUE(Current::language->countries.empty() && Current::language->preferredLanguages.empty());
-}
-
-TEST(CurrentLanguageDeathTest, MustBeAssignedFirst) {
-  GTEST_FLAG_SET(death_test_style, "threadsafe");
-  EXPECT_DEATH(static_cast<void>(joined(Current::language)), "assign Current::language");
 }
 
 }  // namespace

@@ -149,7 +149,7 @@ class Soak {
     if (!anySince(done, [&](std::size_t language) { return kLanguages[language] == first; }))
       fail(first + " was not set at that time");
     if (read.country() != first) fail("a country is not that of its language");
-    if (read.countries.empty() || Locale::preferredLanguages().empty()) fail("a list is empty");
+    if (Current::language->countries.empty() || Locale::preferredLanguages().empty()) fail("a list is empty");
   }
 
   void useServices() {

@@ -12,9 +12,6 @@ namespace zk::testing {
 /// A copy of small-project/ in a temporary directory, which is removed with the object.
 class TemporaryProject {
  public:
-  static constexpr const char* kCatalogue = "catalogue/entries.json";
-  static constexpr const char* kCountries = "resources/countries.json";
-
   TemporaryProject() {
     std::filesystem::copy(ZK_PROJECT_ROOT "/tests/tools/small-project", root(),
                           std::filesystem::copy_options::recursive);
