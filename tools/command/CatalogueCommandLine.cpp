@@ -54,8 +54,7 @@ void addInitCommand(CLI::App& app) {
   command.add_option("--namespace", name.nameSpace, "The namespace of that class (default: none)");
   command.callback([] {
     initCatalogue(directory, name);
-    const std::string readme = pathBelow(directory, "README.md");
-    say("Wrote {}; {} explains the next steps.\n", directory, readme);
+    say("Wrote {}; {} explains the next steps.\n", directory, pathBelow(directory, "README.md"));
   });
 }
 

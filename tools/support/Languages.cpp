@@ -35,8 +35,7 @@ bool isLanguageCode(std::string_view code) {
   return *known != nullptr;
 }
 
-/// The code of the language with the name `name`, in lower case; empty if there is none. ICU finds names slowly, so
-/// they are kept.
+/// The code of the language with the name `name`, in lower case; empty if there is none. Keeps what ICU finds slowly.
 std::string codeOfName(std::string_view name) {
   static const auto codes = [] {
     std::map<std::string, std::string, std::less<>> found;
@@ -54,8 +53,7 @@ std::string codeOfName(std::string_view name) {
 std::string adviceFor(std::string_view name, const std::vector<std::string>& languages) {
   std::vector<std::string> names = languages;
   for (const std::string& language : languages) names.push_back(lowerCased(languageName(language, "en")));
-  const auto meant = nearest(name, {names.begin(), names.end()});
-  return didYouMean(meant, "zkstrings coverage lists the languages");
+  return didYouMean(nearest(name, {names.begin(), names.end()}), "zkstrings coverage lists the languages");
 }
 
 /// The name without the folders before it and the extension: "de" for "resources/de.lproj/Localizable.strings".
@@ -121,17 +119,12 @@ std::string existingLanguage(const std::string& root, std::string_view word, con
 }
 
 std::string whyNeverChosen(std::string_view language) {
-  if (language == kBase) return "";
-  if (language == "en") {
-    return "the module never uses en.lproj, since English is in Base.lproj; write the texts there";
-  }
-  if (isLanguageCode(language)) return "";
+  if (language == kBase || (isLanguageCode(language) && language != "en")) return "";
   const std::string code = languageCodeOf(language);
-  return fmt::format(
-      "the module never uses \"{}.lproj\", since its name is not a two-letter language code; {}", language,
-      code == "en"   ? "write the English texts in Base.lproj"
-      : code.empty() ? "only languages with an ISO 639-1 code can have a table"
-                     : fmt::format("use {}.lproj", code));
+  return fmt::format("the module never uses {}.lproj; {}", language,
+                     code == "en"   ? "write the English texts in Base.lproj"
+                     : code.empty() ? "only languages with an ISO 639-1 code can have a table"
+                                    : fmt::format("use {}.lproj, named by the two-letter code", code));
 }
 
 }  // namespace zk::tools
