@@ -24,7 +24,7 @@ namespace {
 
 /// The escape that begins at the byte `offset` of `spelled`, with the whole of its character.
 std::string escapeAt(std::string_view spelled, std::size_t offset) {
-  return "\\" + std::string(firstCodePoint(spelled.substr(offset + 1)).bytes);
+  return '\\' + std::string(firstCodePoint(spelled.substr(offset + 1)).bytes);
 }
 
 /// The entry that `reader` has read. Comments before `commentsBegin` belong to the one before.

@@ -28,7 +28,7 @@ std::string wrapped(std::string_view text, std::size_t width, std::size_t indent
     const std::size_t length = lengthOf(word);
     const bool isFirst = result.empty();
     const bool fits = column + 1 + length <= width;
-    if (!isFirst) result += fits ? " " : "\n" + std::string(indent, ' ');
+    if (!isFirst) result += fits ? " " : '\n' + std::string(indent, ' ');
     column = isFirst || !fits ? length : column + 1 + length;
     result += word;
   }

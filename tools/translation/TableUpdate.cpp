@@ -62,7 +62,7 @@ std::size_t writeTemplate(const std::string& root, const std::string& language) 
   std::string table = fmt::format(
       "/* Language {}. Translate the texts after the equals signs; keep keys and placeholders. */\n",
       language);
-  for (const EnglishText& text : english.all()) table += "\n" + untranslatedEntry(text);
+  for (const EnglishText& text : english.all()) table += '\n' + untranslatedEntry(text);
   writeFile(root, path, table);
   return english.all().size();
 }
