@@ -351,7 +351,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Cashout();
 
   /// "Cashout %{amount}"
-  /// %{amount} is money with its currency. Treat it as a button.
+  /// %{amount} is an amount of money with its currency. Treat it as a button.
   [[nodiscard]] static std::string Cashout_amount(Text amount);
 
   /// "Cashout Complete"
@@ -619,7 +619,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Donate();
 
   /// "Donate %{amount}"
-  /// %{amount} is money with its currency. Treat it as a button.
+  /// %{amount} is an amount of money with its currency. Treat it as a button.
   [[nodiscard]] static std::string Donate_amount(Text amount);
 
   /// "Donate Winnings"
@@ -716,7 +716,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Enter_a_Referral_Code();
 
   /// "Enter for %{prize}"
-  /// %{prize} is probably money with its currency. To enter is to take part in order to win it.
+  /// %{prize} is probably an amount of money with its currency. To enter is to take part in order to win it.
   [[nodiscard]] static std::string Enter_for_prize(Text prize);
 
   /// "Enter Referral Code"
@@ -887,15 +887,15 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Found_an_ZK_Words_player_nearby_You_ve_unlocked_the_game();
 
   /// "Found *%{name1}* and *%{name2}*"
-  /// The names are of people whom the feature Nearby has found; their genders are unknown.
+  /// The names belong to people whom the Nearby feature has found; their genders are unknown.
   [[nodiscard]] static std::string Found_name1_and_name2(Text name1, Text name2);
 
   /// "Found *%{name1}* and *%{name2}* nearby"
-  /// The names are of people whom the feature Nearby has found; their genders are unknown.
+  /// The names belong to people whom the Nearby feature has found; their genders are unknown.
   [[nodiscard]] static std::string Found_name1_and_name2_nearby(Text name1, Text name2);
 
   /// "Found *%{name}* nearby"
-  /// The names are of people whom the feature Nearby has found; their genders are unknown.
+  /// %{name} is a person whom the Nearby feature has found; the gender is unknown.
   [[nodiscard]] static std::string Found_name_nearby(Text name);
 
   /// "Found *%{username}* nearby, looking for %{remaining} more players"
@@ -1072,7 +1072,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Hide_details();
 
   /// "High Score"
-  /// A score is a number of points; the highest one so far.
+  /// A score is a number of points; a high score is the highest one so far.
   [[nodiscard]] static std::string High_Score();
 
   /// "History"
@@ -1142,19 +1142,19 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string I_just_won_prize_on_twitterHandle_You_should_play_too_Use_my_code_username(Text prize, Text twitterHandle, Text username);
 
   /// "I just won %{prize} playing %{gameName}! Sign up at https://zktrivia.example with my code \"%{username}\" and play for the next prize."
-  /// A message that the player shares. %{prize} is a prize, such as money with its currency; the player's name is also the referral code.
+  /// A message that the player shares. %{prize} is a prize, such as an amount of money with its currency; the player's name is also the referral code.
   [[nodiscard]] static std::string I_just_won_prize_playing_gameName_Sign_up_at_https_zktrivia_example_with_my_code_username_and_play_f(Text prize, Text gameName, Text username);
 
   /// "I just won %{prize} playing ZK Trivia! Play the next game with me: https://zktrivia.example"
-  /// A message that the player shares. %{prize} is a prize, such as money with its currency; the player's name is also the referral code.
+  /// A message that the player shares. %{prize} is a prize, such as an amount of money with its currency; the player's name is also the referral code.
   [[nodiscard]] static std::string I_just_won_prize_playing_ZK_Trivia_Play_the_next_game_with_me_https_zktrivia_example(Text prize);
 
   /// "I just won %{prize} playing ZK Trivia! Sign up at https://zktrivia.example with my code \"%{username}\" and play for the next prize."
-  /// A message that the player shares. %{prize} is a prize, such as money with its currency; the player's name is also the referral code.
+  /// A message that the player shares. %{prize} is a prize, such as an amount of money with its currency; the player's name is also the referral code.
   [[nodiscard]] static std::string I_just_won_prize_playing_ZK_Trivia_Sign_up_at_https_zktrivia_example_with_my_code_username_and_play_(Text prize, Text username);
 
   /// "I just won %{prize} playing @zktrivia! Sign up at https://zktrivia.example with my code \"%{username}\" and play for the next prize."
-  /// A message that the player shares. %{prize} is a prize, such as money with its currency; the player's name is also the referral code.
+  /// A message that the player shares. %{prize} is a prize, such as an amount of money with its currency; the player's name is also the referral code.
   [[nodiscard]] static std::string I_just_won_prize_playing_zktrivia_Sign_up_at_https_zktrivia_example_with_my_code_username_and_play_f(Text prize, Text username);
 
   /// "I'm playing a game called %{appName}! You should play too."
@@ -1162,7 +1162,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string I_m_playing_a_game_called_appName_You_should_play_too(Text appName);
 
   /// "I won %{prize} playing\n%{zkNameVariant}"
-  /// The player says this to friends. %{prize} is probably money with its currency, and %{zkNameVariant} the name of a product.
+  /// The player says this to friends. %{prize} is probably an amount of money with its currency, and %{zkNameVariant} the name of a product.
   [[nodiscard]] static std::string I_won_prize_playing_n_zkNameVariant(Text prize, Text zkNameVariant);
 
   /// "If everyone gets eliminated, the\nprize rolls over to the next day."
@@ -1238,7 +1238,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Keep_playing();
 
   /// "Keep playing for *%{amount}*!"
-  /// %{amount} is money with its currency. Whether the player can win it or must pay it is not recorded; use a word that fits both if your language has one.
+  /// %{amount} is an amount of money with its currency. Whether the player can win it or must pay it is not recorded; use a word that fits both if your language has one.
   [[nodiscard]] static std::string Keep_playing_for_amount(Text amount);
 
   /// "Keep tapping!"
@@ -1422,7 +1422,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Nature();
 
   /// "%{nearbyCount} people nearby"
-  /// How many people the feature Nearby has found around the player.
+  /// How many people the Nearby feature has found around the player.
   /// - 0: "No one nearby"
   /// - 1: "%{nearbyCount} person nearby"
   /// - 2: "%{nearbyCount} people nearby"
@@ -1434,7 +1434,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string New_Feature_n_Find_Friends_on_ZK();
 
   /// "New high score!"
-  /// A score is a number of points; the highest one so far.
+  /// A score is a number of points; a high score is the highest one so far.
   [[nodiscard]] static std::string New_high_score();
 
   /// "New Show"
@@ -1822,7 +1822,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Prize();
 
   /// "%{prizeAmount} prize"
-  /// %{prizeAmount} is money with its currency: a prize of that amount.
+  /// %{prizeAmount} is a prize: an amount of money with its currency.
   [[nodiscard]] static std::string prizeAmount_prize(Text prizeAmount);
 
   /// "Profile"
@@ -2828,7 +2828,7 @@ struct ZK_EXPORT ZKStrings {
   [[nodiscard]] static std::string Welcome_back_You_ve_been_eliminated_but_can_still_watch();
 
   /// "Win *%{amount}* now"
-  /// %{amount} is money with its currency.
+  /// %{amount} is an amount of money with its currency.
   [[nodiscard]] static std::string Win_amount_now(Text amount);
 
   /// "Winner"

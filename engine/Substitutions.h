@@ -30,7 +30,7 @@ namespace zk {
 ///     zk::localizedString(key, english, 5, {{"seconds", std::to_string(5)}});        // right
 ///     const zk::Substitutions substitutions = {{"seconds", std::to_string(5)}};      // wrong: the text is destroyed
 ///
-/// Up to five pairs rarely allocate on the heap. Different objects may be used on different threads at the same time.
+/// Up to five pairs rarely need heap memory. Different objects may be used on different threads at the same time.
 ///
 /// Stops the process if a name occurs twice. Canonically equivalent names, such as é and e + U+0301, count as the same.
 class ZK_EXPORT Substitutions {
@@ -102,7 +102,7 @@ class ZK_EXPORT Substitutions {
       }
     }
   }
-  /// False for nearly all different names: canonically equivalent ones never begin or end with different ASCII characters.
+  /// Whether two names may be equivalent. Equivalent names never begin or end with different ASCII characters.
   static bool mayBeSame(std::string_view one, std::string_view other) {
     const auto mayAgree = [](char a, char b) {
       return a == b || (static_cast<unsigned char>(a | b) & 0x80U) != 0;

@@ -45,10 +45,10 @@ class ZK_EXPORT alignas(internal::kCacheLine) Bundle {
   ///     const zk::Bundle& resources = zk::Bundle::bundleForClass(typeid(MyClass));
   [[nodiscard]] static const Bundle& bundleForClass(const std::type_info& type);
 
-  /// Returns the bundle of other code with its own resources: the nearest directory `share/NAME` at or above the
-  /// directory of the file that defines the type `type`, at most two levels up. Returns a bundle without resources if
-  /// there is none, or if `name` is not the name of one directory, such as "" or "a/b". Throws std::system_error if the
-  /// directory temporarily cannot be found or listed.
+  /// Returns the bundle `name` of a program or library that has its own resources: the nearest directory `share/NAME` at
+  /// or above the directory of the file that defines the type `type`, at most two levels up. Returns a bundle without
+  /// resources if there is none, or if `name` is not the name of one directory, such as "" or "a/b". Throws
+  /// std::system_error if the directory temporarily cannot be found or listed.
   ///
   ///     const zk::Bundle& texts = zk::Bundle::bundleForClass(typeid(MyTexts), "MyTexts");
   [[nodiscard]] static const Bundle& bundleForClass(const std::type_info& type, std::string_view name);
@@ -57,7 +57,7 @@ class ZK_EXPORT alignas(internal::kCacheLine) Bundle {
   /// be listed. Throws std::system_error if the directory temporarily cannot be found or listed.
   [[nodiscard]] static const Bundle& mainBundle();
 
-  /// Returns a bundle without resources at `path`. The same path returns the same bundle.
+  /// Returns a bundle that has the path `path` and no resources. The same path returns the same bundle.
   [[nodiscard]] static const Bundle& withoutResources(const std::string& path);
 
   /// Opens the directory at `path`. Returns null if it is not a directory or cannot be listed. The same path returns the

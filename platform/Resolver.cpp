@@ -39,7 +39,7 @@ struct alignas(kCacheLine) Entry {
   std::atomic<std::uint64_t> generation = nextGeneration();
   std::mutex mutex{};
   std::shared_ptr<Registration> registration{};  // guarded by `mutex`
-  /// Held while a factory of the application scope runs. Recursive, because the factory may resolve again.
+  /// Held while a factory with application scope runs. Recursive, because the factory may resolve again.
   std::recursive_mutex making{};
 };
 

@@ -86,10 +86,10 @@ class ZK_EXPORT ResolverOptions {
 ///     Theme theme = zk::Resolver::resolve<Theme>();
 ///
 /// Thread-safe. A new registration replaces the earlier one for the same type and name. A factory may
-/// register and resolve other services. Several threads may call a factory of the scope `everyResolve` at the same time.
+/// register and resolve other services. A factory with the scope `everyResolve` may run on several threads at once.
 ///
 /// Stops the process, after one line on standard error, if the resolved service is not registered, if a factory returns
-/// nothing, or if a factory of the application scope needs its own service, directly or through other factories.
+/// nothing, or if a factory with application scope needs its own service, directly or through other factories.
 /// If several threads enter such a cycle at the same time, they may wait for each other forever.
 ///
 /// A plug-in that registered a factory must stay loaded. After a `fork`, the child may use the registry only if no other

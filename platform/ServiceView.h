@@ -41,7 +41,7 @@ class Hold {
 
 /// Resolves the unnamed service of the type `Service` without copying it. While nothing new is registered, it takes no
 /// lock and writes to no memory that threads share. In return, each thread keeps the last service that it viewed, until
-/// its next view or its end.
+/// it views another one or ends.
 ///
 ///     const ServiceView<Language> language;
 ///     read(language->preferredLanguages);

@@ -73,7 +73,7 @@ class SharedArray {
   }
 
  private:
-  // On their own cache lines, because all threads read the lists in the current language.
+  // On their own cache lines, because all threads read the lists of `Current::language`.
   using Elements = std::vector<Element, internal::CacheLineAllocator<Element>>;
 
   template <class Iterator>

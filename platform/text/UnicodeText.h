@@ -47,7 +47,7 @@ namespace internal {
 /// Requires: `text` is not empty.
 [[nodiscard]] std::size_t firstClusterSize(std::string_view text);
 
-/// Throws std::bad_alloc if memory is short. Called before steps in which ICU may initialize one of its tables: if
+/// Throws std::bad_alloc if memory is low. Called before steps in which ICU may initialize one of its tables: if
 /// memory runs out in such a step, ICU never tries again.
 void requireMemoryForICU();
 

@@ -146,7 +146,7 @@ void addRemoveCommand(CLI::App& app, const RootFinder& inRoot) {
 void addUnusedCommand(CLI::App& app, const RootFinder& inRoot) {
   static std::vector<std::string> directories;
   CLI::App& command = addCommand(app, "unused", "List the texts that no source file uses", "unused src");
-  command.add_option("directories", directories, "The folders of the program's sources")
+  command.add_option("directories", directories, "The program's source folders")
       ->required()
       ->type_name("DIR");
   command.callback([inRoot] {
