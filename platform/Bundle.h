@@ -69,8 +69,8 @@ class ZK_EXPORT alignas(internal::kCacheLine) Bundle {
   [[nodiscard]] static const Bundle* initWithPath(const ResourcePath& path);
 
   /// Returns the directory `name`.`type` among the bundle's resources, for example "de" and "lproj"; null if there
-  /// is none. Names are compared byte for byte and never become a path. An empty name, a name with a slash and a
-  /// type with a dot are never found.
+  /// is none. Names are compared byte for byte and are never used to build a path. An empty name, a name with a slash
+  /// and a type with a dot are never found.
   [[nodiscard]] const ResourcePath* pathForResource(std::string_view name, std::string_view type) const;
 
   /// Returns the names of the directories of the type `type` among the bundle's resources, in no particular order: "Base"

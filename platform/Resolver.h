@@ -72,7 +72,7 @@ class ZK_EXPORT ResolverOptions {
   /// Sets how long the factory's result is kept. Until this call, the scope is `everyResolve`.
   ResolverOptions& scope(ResolverScope scope);
 
-  /// For `Resolver::register_`: makes `registration` the current one of `entry`. Allocates nothing.
+  /// For `Resolver::register_`: makes `registration` the current registration of `entry`. Allocates nothing.
   ResolverOptions(internal::Entry& entry, std::shared_ptr<internal::Registration> registration) noexcept;
 
  private:

@@ -35,8 +35,8 @@ class ZK_EXPORT Country {
   /// The ISO 3166-1 code, in upper or lower case, as in the country list.
   [[nodiscard]] const std::string& ISO() const { return ISO_; }
 
-  /// The flag: the letters of `ISO`, in upper case, as regional indicators. The offset from "A" to the regional indicator
-  /// A is added to other characters too. A character is left out if the result is not a Unicode scalar value.
+  /// The flag: `ISO` in upper case, with each letter from A to Z replaced with its regional indicator. Other characters
+  /// are shifted by the same offset. A character is left out if the result is not a Unicode scalar value.
   [[nodiscard]] std::string emoji() const;
   /// The flag and the name, such as "🇬🇧 United Kingdom".
   [[nodiscard]] std::string titleFormatted() const;

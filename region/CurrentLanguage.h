@@ -14,7 +14,7 @@ class Registration;
 namespace zk::Current {
 
 /// Temporary access to a copy of the current language, returned by `Current::language->`. When the access ends, even
-/// by an exception, the copy is written back if it was changed. A copy that was only read is not written back.
+/// because of an exception, the copy is written back if it was changed. A copy that was only read is not written back.
 class ZK_EXPORT LanguageAccess {
  public:
   /// Allocates all the memory that writing back needs. Only this constructor may throw std::bad_alloc.
@@ -50,7 +50,7 @@ class ZK_EXPORT LanguageProperty {
   /// Returns a copy of the current language.
   [[nodiscard]] operator Language() const { return get(); }
 
-  /// Returns access to the fields until the end of the full expression.
+  /// Provides access to the fields until the end of the full expression.
   [[nodiscard]] LanguageAccess operator->() const { return {}; }
 
   /// Calls `change(Language&)` on a copy of the current language, and writes the copy back, even if `change` did not

@@ -29,8 +29,8 @@ struct ZK_EXPORT Language {
   /// Language identifiers such as "de-DE", most preferred first, as they were in the settings at construction.
   SharedArray<std::string> preferredLanguages;
 
-  /// Returns the user's country code: the one that the app's reachability service reports, which may be empty, or else
-  /// `preferredLanguageCountry`. Asks the service on every call.
+  /// Returns the user's country code: the one that the app's reachability service reports, even if it is empty, or
+  /// `preferredLanguageCountry` if the service reports none. Asks the service on every call.
   ///
   ///     zk::Current::language->country().value_or("US")   // "AT" on a phone in Austria
   [[nodiscard]] std::optional<std::string> country() const;
