@@ -5,6 +5,7 @@
 #   traced_files.sh PROGRAM RESOURCES
 set -euo pipefail
 program=$1 resources=$2
+export LC_ALL=C  # in UTF-8, grep would skip paths that are not UTF-8
 
 if ! strace -o /dev/null true 2>/dev/null; then
   printf '%s: Skipped\nstrace is missing, or may not trace programs here\n' "$0"
