@@ -10,8 +10,8 @@ namespace zk {
 
 class Dictionary;
 
-/// One country that the app offers, with texts for country pickers and telephone-number fields. An immutable value.
-/// Thread-safe.
+/// One country that the app offers, with texts for country pickers and telephone-number fields. Different objects
+/// may be used on different threads at the same time.
 ///
 ///     const zk::Dictionary austria = {{"name", "Austria"}, {"phoneCode", 43}, {"iso", "AT"}};
 ///     const std::optional<zk::Country> country = zk::Country::fromDictionary(austria);
