@@ -6,7 +6,6 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 namespace zk {
@@ -64,11 +63,6 @@ char* fillInAtOnce(char* to, std::string_view text, const Substitutions& substit
 }
 
 }  // namespace
-
-void Substitutions::addToMany(const Pair& pair) {
-  if (many_.empty()) many_.assign(few_, few_ + std::exchange(size_, 0));
-  many_.push_back(pair);
-}
 
 void Substitutions::stopIfRepeated() const {
   std::vector<std::string> names;

@@ -86,10 +86,13 @@ class ZK_EXPORT Substitutions {
   static constexpr std::size_t kFew = 5;
 
   void add(const Pair& pair) {
-    if (size_ == kFew || !many_.empty()) return addToMany(pair);
-    std::construct_at(few_ + size_++, pair);
+    if (many_.empty() && size_ < kFew) {
+      std::construct_at(few_ + size_++, pair);
+      return;
+    }
+    if (many_.empty()) many_.assign(few_, few_ + std::exchange(size_, 0));
+    many_.push_back(pair);
   }
-  void addToMany(const Pair& pair);
   // Inline, so the compiler can compare the names without reading back what it has just stored.
   void stopAtRepetition() const {
     if (!many_.empty()) return stopIfRepeated();
