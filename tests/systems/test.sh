@@ -1,13 +1,12 @@
 #!/usr/bin/env bash
-# Runs the README's commands in a bare system of another release, as root and as an ordinary user. Then builds a
-# program with the Debian packages that were made there. The bare system is created once, in build/systems/RELEASE.
-# Each run uses a copy of it and of the committed files. Needs root, debootstrap and the network.
+# Runs the README's commands in a bare system of another release, as root and then as an ordinary user. Each user starts
+# with a new clone of the committed files. Then builds a program with the Debian packages that were made there. The bare
+# system is created once, in build/systems/RELEASE, and each run uses a copy. Needs root, debootstrap and the network.
 #   test.sh RELEASE
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/../.."
 release=$1
 bare=$PWD/build/systems/$release root=$PWD/build/systems/$release.root log=$PWD/build/systems/$release.log
-project=home/tester/zkstrings
 
 fail() { echo "$release: $*" >&2; exit 1; }
 
@@ -38,7 +37,7 @@ inside() {
     mount -t proc proc "$root/proc"
     mount -t devpts -o newinstance,ptmxmode=0666 devpts "$root/dev/pts"
     mount -t tmpfs tmpfs "$root/dev/shm"
-    exec chroot --userspec="$user" "$root" env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME="/home/tester" LANG=C.UTF-8 \
+    exec chroot --userspec="$user" "$root" env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME="/home/$user" LANG=C.UTF-8 \
       DEBIAN_FRONTEND=noninteractive DEBFULLNAME=Tester DEBEMAIL=tester@example.org sh -c "cd $folder && $*"' \
     inside "$root" "$@" </dev/null
 }
@@ -46,31 +45,33 @@ inside() {
 # Runs a command as `inside` does, and prints how long it took. Fails on warnings, too.
 step() {
   local start=$SECONDS
-  inside "$@" >"$log" 2>&1 || { tail -n 40 "$log" >&2; fail "\"${*:3}\" failed as ${1%:*}; the system is in $root"; }
-  if grep -rns 'warning: ' "$log" "$root/$project"/build/*.log >&2; then fail "\"${*:3}\" warns as ${1%:*}"; fi
-  printf '%-10s %-8s %-60s %4d s\n' "$release" "${1%:*}" "${*:3}" "$((SECONDS - start))"
+  inside "$@" >"$log" 2>&1 || { tail -n 40 "$log" >&2; fail "\"${*:3}\" failed as $1; the system is in $root"; }
+  if grep -rnsE 'warning: |CMake.* Warning' "$log" "$root$2"/build/*.log >&2; then fail "\"${*:3}\" warns as $1"; fi
+  printf '%-10s %-8s %-60s %4d s\n' "$release" "$1" "${*:3}" "$((SECONDS - start))"
 }
 
 mkdir -p build/systems
 [ -d "$bare" ] || make_bare_system
 copy_bare_system
-git clone --quiet --no-hardlinks . "$root/$project"
-chroot "$root" useradd --home-dir /home/tester tester
-for command in ./run "./run page" ./test ./package; do
-  step root:root "/$project" "$command"
+chroot "$root" useradd tester
+for user in root tester; do
+  git clone --quiet --no-hardlinks . "$root/home/$user/zkstrings"
+  chroot "$root" chown -R "$user:" "/home/$user"
 done
-chroot "$root" chown -R tester:tester /home/tester
+for command in ./run "./run page" ./test ./package; do
+  step root /home/root/zkstrings "$command"
+done
 for command in ./run ./test; do
-  step tester:tester "/$project" "$command"
+  step tester /home/tester/zkstrings "$command"
 done
 
 rm -rf "$bare.packages"
-mv "$root/$project/build/package" "$bare.packages"
+mv "$root/home/root/zkstrings/build/package" "$bare.packages"
 copy_bare_system
 mv "$bare.packages" "$root/packages"
 cp -r tests/package "$root/consumer"
-step root:root / "apt-get -q update && apt-get -q -y --no-install-recommends install /packages/*.deb g++ cmake make pkg-config"
-step root:root / "cmake -S consumer -B build && cmake --build build && build/consumer | grep -x 'Über uns, 246 countries'"
-step root:root / "g++ -std=c++20 consumer/consumer.cpp -o with-pkg-config \$(pkg-config --cflags --libs zkstrings) && ./with-pkg-config"
-step root:root / "zkstrings --version"
+step root / "apt-get -q update && apt-get -q -y --no-install-recommends install /packages/*.deb g++ cmake make pkg-config"
+step root / "cmake -S consumer -B build && cmake --build build && build/consumer | grep -x 'Über uns, 246 countries'"
+step root / "g++ -std=c++20 consumer/consumer.cpp -o with-pkg-config \$(pkg-config --cflags --libs zkstrings) && ./with-pkg-config"
+step root / "zkstrings --version"
 rm -rf --one-file-system "$root"
