@@ -61,8 +61,9 @@ class ZK_EXPORT Substitutions {
   /// `std::initializer_list`, so the compiler can warn about texts that are destroyed too early.
   Substitutions(Pair first ZK_REFERRED_TO, Pair second ZK_REFERRED_TO = {}, Pair third ZK_REFERRED_TO = {},
                 Pair fourth ZK_REFERRED_TO = {}, Pair fifth ZK_REFERRED_TO = {})
-      : size_(1), few_{first, second, third, fourth, fifth} {
-    while (size_ < kFew && !few_[size_].isAbsent()) ++size_;
+      : size_(0) {
+    const auto addPresent = [this](const Pair& pair) { pair.isAbsent() ? void() : add(pair); };
+    (addPresent(first), addPresent(second), addPresent(third), addPresent(fourth), addPresent(fifth));
     stopAtRepetition();
   }
   /// Constructs a dictionary of the pairs in a `std::map`, a vector or any other range that stores its pairs. A range

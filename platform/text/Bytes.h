@@ -81,8 +81,10 @@ bool isAsciiWithout(std::string_view text) {
   const auto look = [&](std::uint64_t eight) {
     found |= ((eight & internal::kHighBits) | ... | internal::marksOf(excluded, eight));
   };
-  for (; text.size() >= 8; text.remove_prefix(8)) look(internal::load<std::uint64_t>(text.data()));
-  look(internal::wordOf(text.data(), text.size()));
+  const char* const end = text.data() + text.size();
+  const bool isLong = text.size() >= 8;
+  for (; text.size() > 8; text.remove_prefix(8)) look(internal::load<std::uint64_t>(text.data()));
+  look(isLong ? internal::load<std::uint64_t>(end - 8) : internal::wordOf(text.data(), text.size()));
   return found == 0;
 }
 
@@ -122,7 +124,6 @@ inline constexpr std::size_t kCopySlack = 8;
 /// Copies `text` from `from` on to `to`, up to the first ASCII character `mark` or the end. Returns where it stopped.
 /// Requires: `to` has room for the rest of `text` and `kCopySlack` bytes more.
 inline std::size_t copyUntil(char mark, char* to, std::string_view text, std::size_t from) {
-  using internal::load;
   if (std::endian::native != std::endian::little || text.size() < 8) {
     while (from < text.size() && text[from] != mark) *to++ = text[from++];
     return from;
@@ -133,13 +134,13 @@ inline std::size_t copyUntil(char mark, char* to, std::string_view text, std::si
     return internal::marksOf(mark, word);
   };
   for (; from + 8 <= text.size(); from += 8) {
-    const std::uint64_t marks = copyWord(load<std::uint64_t>(text.data() + from));
+    const std::uint64_t marks = copyWord(internal::load<std::uint64_t>(text.data() + from));
     if (marks != 0) return from + static_cast<std::size_t>(std::countr_zero(marks)) / 8;
   }
   const std::size_t left = text.size() - from;
   if (left == 0) return from;
   // The last word of the text, without what was copied before.
-  const std::uint64_t last = load<std::uint64_t>(text.data() + text.size() - 8) >> (64 - 8 * left);
+  const std::uint64_t last = internal::load<std::uint64_t>(text.data() + text.size() - 8) >> (64 - 8 * left);
   const std::uint64_t marks = copyWord(last);
   return marks == 0 ? text.size() : from + static_cast<std::size_t>(std::countr_zero(marks)) / 8;
 }

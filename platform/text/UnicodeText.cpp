@@ -136,8 +136,7 @@ bool isUtf8(std::string_view bytes) {
 
 std::size_t findCharacter(std::string_view text, char wanted) {
   for (std::size_t at = 0; at < text.size();) {
-    const std::string_view rest = text.substr(at);
-    const std::size_t size = internal::firstClusterSize(rest);
+    const std::size_t size = internal::firstClusterSize(text.substr(at));
     if (size == 1 && text[at] == wanted) return at;
     at += size;
   }
