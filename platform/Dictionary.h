@@ -72,7 +72,7 @@ class Value {
   Value(std::floating_point auto value) : value_(static_cast<double>(value)) {}
   /// Constructs a text, in UTF-8.
   Value(std::convertible_to<std::string_view> auto const& value)
-      : value_(std::string(std::string_view(value))) {}
+      : value_(std::in_place_type<std::string>, std::string_view(value)) {}
   /// Constructs a text, in UTF-8.
   Value(std::string&& value) : value_(std::move(value)) {}
   /// Constructs a list.

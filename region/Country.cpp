@@ -9,7 +9,7 @@
 
 namespace zk {
 
-Country::Country(const std::string& name, std::int64_t phoneCode, const std::string& ISO)
+Country::Country(Key, const std::string& name, std::int64_t phoneCode, const std::string& ISO)
     : name_(name), phoneCode_(phoneCode), ISO_(ISO) {
 }
 
@@ -18,7 +18,7 @@ std::optional<Country> Country::fromDictionary(const Dictionary& dictionary) {
   const auto* const phoneCode = dictionary.find<std::int64_t>("phoneCode");
   const auto* const ISO = dictionary.find<std::string>("iso");
   if (!name || !phoneCode || !ISO) return std::nullopt;
-  return Country(*name, *phoneCode, *ISO);
+  return std::make_optional<Country>(Key(), *name, *phoneCode, *ISO);
 }
 
 std::string Country::emoji() const {

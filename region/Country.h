@@ -17,6 +17,8 @@ class Dictionary;
 ///     const std::optional<zk::Country> country = zk::Country::fromDictionary(austria);
 ///     country->displayName();  // "🇦🇹 Austria +43"
 class ZK_EXPORT Country {
+  struct Key {};  // has no name outside, so only `fromDictionary` constructs a country from its members
+
  public:
   /// Returns the country that `dictionary` describes with the texts "name" and "iso" and the 64-bit integer "phoneCode"
   /// (44, not 44.0). Keeps all three unchanged. Returns nothing if one is missing or of the wrong type. Ignores the rest.
@@ -27,6 +29,9 @@ class ZK_EXPORT Country {
   Country(const Country&) = default;
   /// Copies a country.
   Country& operator=(const Country&) = default;
+
+  /// Constructs a country in place. Only for `fromDictionary`.
+  Country(Key, const std::string& name, std::int64_t phoneCode, const std::string& ISO);
 
   /// The name, as in the country list.
   [[nodiscard]] const std::string& name() const { return name_; }
@@ -46,8 +51,6 @@ class ZK_EXPORT Country {
   [[nodiscard]] std::string displayName() const;
 
  private:
-  Country(const std::string& name, std::int64_t phoneCode, const std::string& ISO);
-
   std::string name_;
   std::int64_t phoneCode_;
   std::string ISO_;

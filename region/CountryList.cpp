@@ -23,8 +23,7 @@ SharedArray<Country> countriesIn(const Bundle& bundle) {
   for (const Value& element : *elements) {
     const auto* const object = element.as<Dictionary>();
     if (!object) return {};
-    std::optional<Country> country = Country::fromDictionary(*object);
-    if (country) countries.push_back(*std::move(country));
+    if (const auto country = Country::fromDictionary(*object)) countries.push_back(*country);
   }
   return countries;
 }
