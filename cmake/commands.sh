@@ -119,11 +119,11 @@ need_packages() {
     sudo true || exit 1
     as_root=(sudo)
   fi
-  echo "Installing ${missing[*]}" >&2
   local apt=("${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -q -o Acquire::Retries=0
     -o Acquire::http::Timeout=10 -o Acquire::https::Timeout=10 -o DPkg::Lock::Timeout=120)
   quietly_matching '^E: [^F]' "Reading the list of packages" build/packages.log "${apt[@]}" update
   need_cmake
+  echo "Installing ${missing[*]}" >&2
   quietly_matching '^E: [^F]' "Installing packages" build/packages.log "${apt[@]}" install -y --no-install-recommends "${missing[@]}"
 }
 
