@@ -78,6 +78,8 @@ if(NOT BUILD_SHARED_LIBS)
   target_link_libraries(ZKStrings PRIVATE ICU::data)  # needed by programs without shared libraries
 endif()
 set_target_properties(ZKStrings PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR} LINKER_LANGUAGE CXX)
+# A program that builds the module as a part of it gets no warnings for the module's headers.
+set_target_properties(ZKStrings PROPERTIES SYSTEM ON)
 if(BUILD_SHARED_LIBS AND WIN32)
   set_target_properties(ZKStrings PROPERTIES PREFIX "")
   target_compile_definitions(ZKStrings INTERFACE ZK_IMPORTS)

@@ -9,6 +9,8 @@ endif()
 if(PROJECT_IS_TOP_LEVEL)
   target_compile_options(zk_compile_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow)
 endif()
+# If the folder of the sources is named zkstrings, Clang takes <ZKStrings/...> for a path in the wrong case.
+target_compile_options(zk_compile_options INTERFACE $<$<CXX_COMPILER_ID:Clang>:-Wno-nonportable-include-path>)
 if(ZK_WERROR)
   target_compile_options(zk_compile_options INTERFACE -Werror)
 endif()

@@ -26,8 +26,8 @@ TEST(Substitution, TheCompilerWarnsOfTextsThatAreDestroyedTooEarly) {
         "code.cpp", "#include <ZKStrings/engine/StringLookup.h>\n#include <map>\nstd::string f() { " + code +
                         " return {}; }");
     const testing::Answer answer = testing::outputOf(
-        "clang++ -std=c++20 -Wall -Wno-unused -Werror -fsyntax-only -I" ZK_INCLUDE_DIRECTORY " " + file +
-        " 2>&1");
+        "clang++ -std=c++20 -Wall -Wno-unused -Werror -fsyntax-only -isystem" ZK_INCLUDE_DIRECTORY " " +
+        file + " 2>&1");
     EXPECT_EQ(answer.status != 0, isWarning) << code << "\n" << answer.output;
     EXPECT_EQ(answer.output.find("[-Werror,-Wdangling]") != std::string::npos, isWarning) << answer.output;
   }
