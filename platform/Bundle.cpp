@@ -73,7 +73,7 @@ struct Bundle::Listing {
   };
 
   Listing(const std::string& path, const std::vector<DirectoryEntry>& entries)
-      : slots(std::bit_ceil(std::max<std::size_t>(entries.size() * 4, 64))) {
+      : slots(std::bit_ceil(std::max<std::size_t>(entries.size() * 8, 64))) {
     for (const DirectoryEntry& entry : entries) {
       std::unique_ptr<const ResourcePath> resource(
           new ResourcePath(path + "/" + entry.name, entry.isDirectory));

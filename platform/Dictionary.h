@@ -96,8 +96,7 @@ class Value {
   std::variant<std::nullptr_t, bool, std::int64_t, double, std::string, List, Dictionary> value_ = nullptr;
 };
 
-inline Dictionary::Dictionary() : members_() {
-}
+inline Dictionary::Dictionary() = default;
 
 inline Dictionary::Dictionary(std::initializer_list<Member> members) : members_(members) {
 }
