@@ -14,8 +14,10 @@ namespace {
 
 /// Whether all names are ASCII and cannot contain the beginning or the end of a placeholder.
 bool haveSimpleNames(const Substitutions& substitutions) {
-  const auto isSimple = [](const auto& pair) { return isAsciiWithout<'%', '}'>(pair.name); };
-  return std::all_of(substitutions.begin(), substitutions.end(), isSimple);
+  for (const Substitutions::Pair& pair : substitutions) {
+    if (!isAsciiWithout<'%', '}'>(pair.name)) return false;
+  }
+  return true;
 }
 
 /// The pair whose placeholder is at the beginning of `text`, which begins with "%{"; null if there is none.

@@ -56,16 +56,15 @@ constexpr std::uint64_t hashOfWords(std::uint64_t one, std::uint64_t other) {
 /// A hash of `bytes`. Only its upper half depends on all of them. Hashes differ between machines and are never stored. Not
 /// inlined: callers need it only for long texts, and without it they are small enough to be inlined themselves.
 [[gnu::noinline]] inline std::uint64_t hashOf(std::string_view bytes) {
-  using internal::load;
   const char* at = bytes.data();
   std::size_t left = bytes.size();
   std::uint64_t hash = hashOfWords(0, left);
   for (; left > 16; at += 16, left -= 16) {
-    hash = hashOfWords(load<std::uint64_t>(at) ^ hash, load<std::uint64_t>(at + 8));
+    hash = hashOfWords(internal::load<std::uint64_t>(at) ^ hash, internal::load<std::uint64_t>(at + 8));
   }
   const bool isOneWord = left <= 8;
-  const std::uint64_t first = isOneWord ? internal::wordOf(at, left) : load<std::uint64_t>(at);
-  const std::uint64_t last = isOneWord ? 0 : load<std::uint64_t>(at + left - 8);
+  const std::uint64_t first = isOneWord ? internal::wordOf(at, left) : internal::load<std::uint64_t>(at);
+  const std::uint64_t last = isOneWord ? 0 : internal::load<std::uint64_t>(at + left - 8);
   return hashOfWords(first ^ hash, last);
 }
 
@@ -103,15 +102,14 @@ inline std::size_t findEither(char one, char other, std::string_view text, std::
 
 /// Copies `size` bytes to `to`, which must not overlap them, and returns the place after the copy.
 inline char* copyBytes(char* to, const char* from, std::size_t size) {
-  using internal::copyEnds;
   if (size > 16) {
     std::memcpy(to, from, size);
   } else if (size >= 8) {
-    copyEnds<std::uint64_t>(to, from, size);
+    internal::copyEnds<std::uint64_t>(to, from, size);
   } else if (size >= 4) {
-    copyEnds<std::uint32_t>(to, from, size);
+    internal::copyEnds<std::uint32_t>(to, from, size);
   } else if (size >= 2) {
-    copyEnds<std::uint16_t>(to, from, size);
+    internal::copyEnds<std::uint16_t>(to, from, size);
   } else if (size == 1) {
     *to = *from;
   }
