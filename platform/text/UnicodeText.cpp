@@ -43,7 +43,7 @@ UBreakIterator* characterIterator() {
 }
 
 /// Whether the first byte of `text` is certainly a user-perceived character: ASCII before ASCII or at the end, but not CR.
-bool beginsPlain(std::string_view text) {
+bool beginsWithPlainAscii(std::string_view text) {
   const auto isAscii = [](char byte) { return static_cast<signed char>(byte) >= 0; };
   return isAscii(text[0]) && text[0] != '\r' && (text.size() == 1 || isAscii(text[1]));
 }
@@ -87,11 +87,10 @@ void internal::requireMemoryForICU() {
 }
 
 std::size_t internal::firstClusterSize(std::string_view text) {
-  return beginsPlain(text) ? 1 : clusterSizeByICU(text);
+  return beginsWithPlainAscii(text) ? 1 : clusterSizeByICU(text);
 }
 
 std::string_view firstTwoCharacters(std::string_view text) {
-  if (text.size() > 2 && beginsPlain(text) && beginsPlain(text.substr(1))) return text.substr(0, 2);
   std::size_t size = 0;
   for (int i = 0; i < 2 && size < text.size(); ++i) size += internal::firstClusterSize(text.substr(size));
   return text.substr(0, size);
