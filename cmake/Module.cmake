@@ -1,5 +1,8 @@
 # The module: its object files, and the library made of them. Tests link the object files, because the shared library
 # hides most functions.
+if("${CMAKE_EXE_LINKER_FLAGS}" MATCHES "-static( |$)")
+  set(CMAKE_FIND_LIBRARY_SUFFIXES .a)  # CMake finds the shared library first
+endif()
 find_package(ICU REQUIRED COMPONENTS uc data)
 find_package(nlohmann_json 3.11 REQUIRED)
 

@@ -107,6 +107,8 @@ part() {  # part PREFIX OPTION...: builds the consumer with the module as a part
 part "$work/static" -DBUILD_SHARED_LIBS=OFF
 expect "static, in the build folder" "$text" "$work/part/consumer"
 expect "static, installed deeply" "$text" "$work/static/programs/of/many/kinds/consumer"
+configure -S "$source/tests/package" -B "$work/no-shared" -DZKSTRINGS_SOURCE="$source" -DBUILD_SHARED_LIBS=OFF -DCMAKE_EXE_LINKER_FLAGS=-static
+! grep 'libicu.*\.so' "$work/no-shared/build.ninja" || fail "a program without shared libraries links a shared ICU"
 
 consumer static-found "$work/static"
 expect "static, found, in the build folder" "$text" "$work/static-found/consumer"
