@@ -37,7 +37,7 @@ inside() {
     mount -t proc proc "$root/proc"
     mount -t devpts -o newinstance,ptmxmode=0666 devpts "$root/dev/pts"
     mount -t tmpfs tmpfs "$root/dev/shm"
-    exec chroot --userspec="$user" "$root" env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME="/home/$user" LANG=C.UTF-8 \
+    exec chroot --userspec="$user" "$root" env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME="/home/of-$user" LANG=C.UTF-8 \
       DEBIAN_FRONTEND=noninteractive DEBFULLNAME=Tester DEBEMAIL=tester@example.org sh -c "cd $folder && $*"' \
     inside "$root" "$@" </dev/null
 }
@@ -55,18 +55,18 @@ mkdir -p build/systems
 copy_bare_system
 chroot "$root" useradd tester
 for user in root tester; do
-  git clone --quiet --no-hardlinks . "$root/home/$user/zkstrings"
-  chroot "$root" chown -R "$user:" "/home/$user"
+  git clone --quiet --no-hardlinks . "$root/home/of-$user/zkstrings"
+  chroot "$root" chown -R "$user:" "/home/of-$user"
 done
 for command in ./run "./run page" ./test ./package; do
-  step root /home/root/zkstrings "$command"
+  step root /home/of-root/zkstrings "$command"
 done
 for command in ./run ./test; do
-  step tester /home/tester/zkstrings "$command"
+  step tester /home/of-tester/zkstrings "$command"
 done
 
 rm -rf "$bare.packages"
-mv "$root/home/root/zkstrings/build/package" "$bare.packages"
+mv "$root/home/of-root/zkstrings/build/package" "$bare.packages"
 copy_bare_system
 mv "$bare.packages" "$root/packages"
 cp -r tests/package "$root/consumer"
