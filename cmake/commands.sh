@@ -63,8 +63,8 @@ show_progress() {
 begin() {
   mkdir -p build 2>/dev/null || true
   need_writable build/.lock
-  need_packages "$@"
   need_cmake
+  need_packages "$@"
   take_lock
 }
 
