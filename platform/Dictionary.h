@@ -60,7 +60,7 @@ class Value {
   Value(std::nullptr_t = nullptr) {}
   /// Constructs a boolean. A pointer or a number does not become one.
   Value(std::same_as<bool> auto value) : value_(value) {}
-  /// Constructs an integer. An integer outside the range of `std::int64_t` becomes the nearest `double`, as in JSON.
+  /// Constructs an integer. An integer outside the range of `std::int64_t` becomes the nearest `double`, as in `parseJson`.
   Value(IntegerNumber auto value) {
     if (std::in_range<std::int64_t>(value)) {
       value_ = static_cast<std::int64_t>(value);

@@ -9,10 +9,6 @@
 
 namespace zk {
 
-Country::Country(Key, const std::string& name, std::int64_t phoneCode, const std::string& ISO)
-    : name_(name), phoneCode_(phoneCode), ISO_(ISO) {
-}
-
 std::optional<Country> Country::fromDictionary(const Dictionary& dictionary) {
   const auto* const name = dictionary.find<std::string>("name");
   const auto* const phoneCode = dictionary.find<std::int64_t>("phoneCode");

@@ -17,7 +17,10 @@ class Dictionary;
 ///     const std::optional<zk::Country> country = zk::Country::fromDictionary(austria);
 ///     country->displayName();  // "🇦🇹 Austria +43"
 class ZK_EXPORT Country {
-  struct Key {};  // has no name outside, so only `fromDictionary` constructs a country from its members
+  // Private, so only `fromDictionary` can call the constructor that takes it.
+  struct Key {
+    explicit Key() = default;
+  };
 
  public:
   /// Returns the country that `dictionary` describes with the texts "name" and "iso" and the 64-bit integer "phoneCode"
@@ -31,7 +34,8 @@ class ZK_EXPORT Country {
   Country& operator=(const Country&) = default;
 
   /// Constructs a country in place. Only for `fromDictionary`.
-  Country(Key, const std::string& name, std::int64_t phoneCode, const std::string& ISO);
+  Country(Key, const std::string& name, std::int64_t phoneCode, const std::string& ISO)
+      : name_(name), phoneCode_(phoneCode), ISO_(ISO) {}
 
   /// The name, as in the country list.
   [[nodiscard]] const std::string& name() const { return name_; }
