@@ -45,8 +45,8 @@ class ZK_EXPORT alignas(internal::kCacheLine) Bundle {
   ///     const zk::Bundle& resources = zk::Bundle::bundleForClass(typeid(MyClass));
   [[nodiscard]] static const Bundle& bundleForClass(const std::type_info& type);
 
-  /// Returns the bundle `name` of a program or library that has its own resources: the nearest directory `share/NAME` at
-  /// or above the directory of the file that defines the type `type`, at most two levels up. Returns a bundle without
+  /// Returns the bundle `name` of a program or library that has its own resources: the directory `share/NAME` next to the
+  /// executable or shared library that contains the type `type`, or else one or two levels up. Returns a bundle without
   /// resources if there is none, or if `name` is not the name of one directory, such as "" or "a/b". Throws
   /// std::system_error if the directory temporarily cannot be found or listed.
   ///

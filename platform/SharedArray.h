@@ -81,8 +81,8 @@ class SharedArray {
     return std::allocate_shared<Elements>(internal::CacheLineAllocator<Elements>(), begin, end);
   }
 
-  /// Destroying the temporary copy is an acquire operation: the reads that other threads made, before they
-  /// destroyed their copies, happen before the changes that follow. Reading the count alone does not ensure this.
+  /// Destroying the temporary copy is an acquire operation, so the reads of threads that have destroyed their copies
+  /// happen before the changes that follow. Reading the count alone does not ensure this.
   [[nodiscard]] bool isOnlyOwner() const {
     return std::shared_ptr<const Elements>(elements_).use_count() == 2;
   }

@@ -6,7 +6,7 @@
 #include <optional>
 #include <string>
 
-// The part of the app's shared module that ZKStrings needs: the namespace `Current` of app-wide services.
+// The part of ZKCommon, the app's common module, that ZKStrings needs: app-wide services in the namespace `Current`.
 
 namespace zk {
 
