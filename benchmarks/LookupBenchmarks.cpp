@@ -102,7 +102,7 @@ std::vector<System> comparableSystems() {
 /// The given number of languages without table, and then German.
 SharedArray<std::string> germanAfter(std::size_t others) {
   constexpr const char* kWithoutTable[] = {"el-GR", "fi-FI", "hu-HU", "is-IS", "lt-LT",
-                                           "lv-LV", "ro-RO", "sk-SK", "uk-UA"};
+                                           "lv-LV", "ro-RO", "sk-SK", "hr-HR"};
   std::vector<std::string> preferred(kWithoutTable, kWithoutTable + others);
   preferred.emplace_back("de-DE");
   return preferred;
