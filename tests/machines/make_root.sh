@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # Unpacks Debian's libraries for another machine into a folder. Installs nothing on this machine.
 #   make_root.sh ARCH FOLDER PACKAGE...
-# They are of this machine's release, or of trixie, the first with riscv64. A source package, as in src:icu, is
-# unpacked to usr/src without Debian's changes.
+# They are of this machine's release if its archive has ARCH, and otherwise of Debian's trixie. A source package, as in
+# src:icu, is unpacked to usr/src without Debian's changes.
 set -euo pipefail
 arch=$1 root=$(realpath -m "$2")
 shift 2
@@ -10,9 +10,17 @@ shift 2
 wanted=$(sort -u <<<"$*")
 [ "$(cat "$root/.packages" 2>/dev/null)" != "$wanted" ] || exit 0
 
-release=$(. /etc/os-release && echo "$VERSION_CODENAME")
-[ "$arch" != riscv64 ] || [ "$release" != bookworm ] || release=trixie
+own=$(. /etc/os-release && echo "$ID:$VERSION_CODENAME")
+release=${own#*:}
+case $own:$arch in
+  ubuntu:*:amd64) ;;
+  ubuntu:* | debian:bookworm:riscv64) release=trixie ;;
+esac
 mirror=$("$(dirname "${BASH_SOURCE[0]}")/../systems/mirror.sh" "$release")
+case $mirror in
+  */ubuntu) keyring=ubuntu-archive-keyring.gpg components="main universe" ;;
+  *) keyring=debian-archive-keyring.gpg components=main ;;
+esac
 
 rm -rf "$root"
 work=$root/.apt
@@ -25,8 +33,9 @@ for package in "$@"; do
     *) binaries+=("$package") ;;
   esac
 done
-echo "deb $mirror $release main" >"$work/sources.list"
-[ ${#sources[@]} -eq 0 ] || echo "deb-src $mirror $release main" >>"$work/sources.list"
+archive="[signed-by=/usr/share/keyrings/$keyring] $mirror $release $components"
+echo "deb $archive" >"$work/sources.list"
+[ ${#sources[@]} -eq 0 ] || echo "deb-src $archive" >>"$work/sources.list"
 # A separate apt configuration, in which no package is installed.
 options=(-q -o "APT::Architecture=$arch" -o "APT::Architectures::=$arch" -o APT::Install-Recommends=false
   -o "Dir::State::Lists=$work/lists" -o "Dir::State::status=$work/status" -o "Dir::Cache=$work"
