@@ -42,7 +42,8 @@ options=(-q -o "APT::Architecture=$arch" -o "APT::Architectures::=$arch" -o APT:
   -o "Dir::Cache::archives=$work/archives" -o "Dir::Etc::SourceList=$work/sources.list" -o Dir::Etc::SourceParts=-
   -o Acquire::Languages=none -o Debug::NoLocking=true)
 [ "$(id -u)" -ne 0 ] || options+=(-o APT::Sandbox::User=root)
-apt-get "${options[@]}" update
+apt-get "${options[@]}" update ||
+  { echo "$mirror does not have $release for $arch; set ZK_MIRROR to an archive that does"; exit 1; }
 apt-get "${options[@]}" --yes --download-only install "${binaries[@]}"
 for package in "$work"/archives/*.deb; do
   case $package in
@@ -52,7 +53,7 @@ for package in "$work"/archives/*.deb; do
   esac
 done
 for source in "${sources[@]}"; do
-  (cd "$work" && apt-get "${options[@]}" --download-only source "$source")
+  (cd "$work" && apt-get "${options[@]}" --download-only --tar-only source "$source")
   mkdir -p "$root/usr/src/$source"
   tar -x -C "$root/usr/src/$source" --strip-components=1 -f "$work/${source}_"*.orig.tar.*z
 done
