@@ -136,6 +136,21 @@ const Operation kAll[] = {
      .act = [] { return textIn(ownDirectory + "/gone"); },
      .right = "base",
      .quiet = "value"},
+    {.name = "the chosen language",
+     .prepare = assignGerman,
+     .act = [] { return chosenLanguage().code; },
+     .right = "de",
+     .quiet = "en",
+     .refused = "en"},
+    {.name = "the languages of a bundle",
+     .prepare = [] { static_cast<void>(Bundle::initWithPath(ownDirectory)); },
+     .act =
+         [] {
+           const bool both = availableLanguages(Bundle::initWithPath(ownDirectory)).size() == 2;
+           return std::string(both ? "both" : "fewer");
+         },
+     .right = "both",
+     .refused = "fewer"},
     {.name = "a change of the language",
      .use = Use::later,
      .prepare = assignGerman,
