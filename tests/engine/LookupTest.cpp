@@ -111,8 +111,8 @@ TEST(Lookup, MakesExactlyThePlatformCallsThatItMust) {
   }
 }
 
-TEST(LookupDeathTest, StopsIfADirectoryVanishes) {
-  const std::pair<int, int> availabilities[] = {{1, 9}, {2, 9}, {9, 1}};
+TEST(LookupDeathTest, StopsIfADirectoryVanishesOrBaseIsMissing) {
+  const std::pair<int, int> availabilities[] = {{0, 9}, {1, 9}, {2, 9}, {9, 0}, {9, 1}};
   for (const auto& [paths, openings] : availabilities) {
     FakeBundle::paths = paths;
     FakeBundle::openings = openings;
