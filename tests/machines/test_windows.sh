@@ -19,6 +19,7 @@ fail() { echo "$*" >&2; exit 1; }
 
 # Keeps Wine's services running until the end. Otherwise, they start again and again, and what they print could become
 # part of a program's output.
+mkdir -p "$WINEPREFIX"
 /usr/lib/wine/wineserver64 -p
 work=$(mktemp -d)
 trap '/usr/lib/wine/wineserver64 -k || true; rm -rf "$work"' EXIT
