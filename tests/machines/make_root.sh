@@ -1,26 +1,18 @@
 #!/usr/bin/env bash
 # Unpacks Debian's libraries for another machine into a folder. Installs nothing on this machine.
 #   make_root.sh ARCH FOLDER PACKAGE...
-# They are of this machine's release if its archive has ARCH, and otherwise of Debian's trixie. A source package, as in
-# src:icu, is unpacked to usr/src without Debian's changes.
+# On Debian, they are of this machine's release. On Ubuntu, and for riscv64 on Debian 12, they are of Debian 13. A source
+# package, as in src:icu, is unpacked to usr/src without Debian's changes.
 set -euo pipefail
 arch=$1 root=$(realpath -m "$2")
 shift 2
 
-wanted=$(sort -u <<<"$*")
+system=$(. /etc/os-release && echo "$ID:$VERSION_CODENAME")
+release=${system#*:}
+case $system:$arch in ubuntu:* | debian:bookworm:riscv64) release=trixie ;; esac
+wanted="$release $*"
 [ "$(cat "$root/.packages" 2>/dev/null)" != "$wanted" ] || exit 0
-
-own=$(. /etc/os-release && echo "$ID:$VERSION_CODENAME")
-release=${own#*:}
-case $own:$arch in
-  ubuntu:*:amd64) ;;
-  ubuntu:* | debian:bookworm:riscv64) release=trixie ;;
-esac
 mirror=$("$(dirname "${BASH_SOURCE[0]}")/../systems/mirror.sh" "$release")
-case $mirror in
-  */ubuntu) keyring=ubuntu-archive-keyring.gpg components="main universe" ;;
-  *) keyring=debian-archive-keyring.gpg components=main ;;
-esac
 
 rm -rf "$root"
 work=$root/.apt
@@ -33,7 +25,7 @@ for package in "$@"; do
     *) binaries+=("$package") ;;
   esac
 done
-archive="[signed-by=/usr/share/keyrings/$keyring] $mirror $release $components"
+archive="[signed-by=/usr/share/keyrings/debian-archive-keyring.gpg] $mirror $release main"
 echo "deb $archive" >"$work/sources.list"
 [ ${#sources[@]} -eq 0 ] || echo "deb-src $archive" >>"$work/sources.list"
 # A separate apt configuration, in which no package is installed.
@@ -42,8 +34,8 @@ options=(-q -o "APT::Architecture=$arch" -o "APT::Architectures::=$arch" -o APT:
   -o "Dir::Cache::archives=$work/archives" -o "Dir::Etc::SourceList=$work/sources.list" -o Dir::Etc::SourceParts=-
   -o Acquire::Languages=none -o Debug::NoLocking=true)
 [ "$(id -u)" -ne 0 ] || options+=(-o APT::Sandbox::User=root)
-apt-get "${options[@]}" update ||
-  { echo "$mirror does not have $release for $arch; set ZK_MIRROR to an archive that does"; exit 1; }
+apt-get "${options[@]}" --error-on=any update ||
+  { echo "apt cannot read $release from $mirror; set ZK_MIRROR to an archive that has it" >&2; exit 1; }
 apt-get "${options[@]}" --yes --download-only install "${binaries[@]}"
 for package in "$work"/archives/*.deb; do
   case $package in

@@ -26,7 +26,7 @@ case $arch in
     architecture=amd64 examples=ON targets+=(ZKStrings tour zk_tools_tests zkstrings zk_soak)
     packages=(nlohmann-json3-dev libcli11-dev src:icu src:fmtlib src:pugixml)
     ;;
-  # This release's linker crashes at trixie's archives.
+  # Debian 12's linker crashes at Debian 13's static libraries.
   riscv64) packages+=(libc6-dev libstdc++6 libicu-dev) ;;
   *) build_gtest=OFF; packages+=(libc6-dev libstdc++6 libicu-dev libgtest-dev) ;;
 esac

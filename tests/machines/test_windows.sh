@@ -17,9 +17,9 @@ export LC_ALL=C.UTF-8 LANGUAGE=  # Wine names files in it, and it means English
 wine() { /usr/lib/wine/wine64 "$@"; }
 fail() { echo "$*" >&2; exit 1; }
 
+mkdir -p "$WINEPREFIX"  # newer releases of wineserver do not create it
 # Keeps Wine's services running until the end. Otherwise, they start again and again, and what they print could become
 # part of a program's output.
-mkdir -p "$WINEPREFIX"
 /usr/lib/wine/wineserver64 -p
 work=$(mktemp -d)
 trap '/usr/lib/wine/wineserver64 -k || true; rm -rf "$work"' EXIT

@@ -205,7 +205,11 @@ std::size_t allocatedBytes() {
 void run(int seconds) {
   constexpr int kRounds = 10;
   constexpr int kWarmUps = 3;
+#ifdef _WIN32
   constexpr std::size_t kTolerance = 256 * 1024;  // Wine counts blocks that it keeps for later
+#else
+  constexpr std::size_t kTolerance = 16 * 1024;
+#endif
   if (!areFirstUsesTheSame()) fail("first uses on several threads disagree");
   if (seconds == 0) return;
   Soak soak;
